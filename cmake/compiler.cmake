@@ -1,0 +1,25 @@
+# One set of warnings and of arithmetic rules for every target of the project.
+
+add_library(kelvor_options INTERFACE)
+target_compile_options(
+  kelvor_options
+  INTERFACE -Wall
+            -Wextra
+            -Wpedantic
+            -Wshadow
+            -Wconversion
+            -Wsign-conversion
+            -Wold-style-cast
+            -Wnon-virtual-dtor
+            -Woverloaded-virtual
+            -Wundef
+            -Werror
+            # The same digits on every machine: no fused multiply-add, no reordering.
+            -ffp-contract=off)
+
+if(KELVOR_SANITIZE)
+  target_compile_options(
+    kelvor_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+                             -fno-omit-frame-pointer)
+  target_link_options(kelvor_options INTERFACE -fsanitize=address,undefined)
+endif()

@@ -1,0 +1,7 @@
+#include "platform/component_probe.h"
+
+namespace kelvor {
+
+bool LinkedComponents::Prove(Component /*component*/) { return true; }
+
+}  // namespace kelvor

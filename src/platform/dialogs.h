@@ -1,0 +1,103 @@
+#pragma once
+
+#include <deque>
+#include <optional>
+#include <string>
+
+#include "platform/file_system.h"
+
+namespace kelvor {
+
+enum class MessageStyle { Ok, OkCancel, YesNo, YesNoCancel };
+enum class MessageIcon { None, Critical, Question, Warning, Information };
+enum class Answer { Ok, Cancel, Yes, No };
+
+/// The title of every message box that names none of its own.
+inline constexpr const char* kApplicationTitle = "Kelvor";
+
+struct Message {
+    std::string text;
+    std::string title = kApplicationTitle;
+    MessageStyle style = MessageStyle::Ok;
+    MessageIcon icon = MessageIcon::None;
+};
+
+struct InputRequest {
+    std::string text;
+    std::string title = kApplicationTitle;
+};
+
+struct FileRequest {
+    enum class Kind { Open, Save };
+    Kind kind = Kind::Open;
+    Path folder;
+    std::string filter;
+};
+
+/// Everything that asks the user something. Each call returns when the user has answered.
+class Dialogs {
+  public:
+    Dialogs() = default;
+    Dialogs(const Dialogs&) = delete;
+    Dialogs& operator=(const Dialogs&) = delete;
+    virtual ~Dialogs() = default;
+
+    virtual Answer ShowMessage(const Message& message) = 0;
+
+    /// The text entered, or nothing if the user cancelled.
+    virtual std::optional<std::string> AskText(const InputRequest& request) = 0;
+
+    /// The path chosen, or nothing if the user cancelled.
+    virtual std::optional<Path> AskFile(const FileRequest& request) = 0;
+
+    virtual void SetWaitCursor(bool on) = 0;
+};
+
+/// The answer of a box whose default button is pressed.
+Answer DefaultAnswer(MessageStyle style);
+
+/// True if a box of this style has the button.
+bool HasAnswer(MessageStyle style, Answer answer);
+
+const char* NameOf(MessageStyle style);
+const char* NameOf(MessageIcon icon);
+const char* NameOf(Answer answer);
+std::optional<Answer> AnswerNamed(const std::string& name);
+
+/// Told of every question that ScriptedDialogs answers, with its answer.
+class DialogObserver {
+  public:
+    DialogObserver() = default;
+    DialogObserver(const DialogObserver&) = delete;
+    DialogObserver& operator=(const DialogObserver&) = delete;
+    virtual ~DialogObserver() = default;
+
+    virtual void OnMessage(const Message& message, Answer answer) = 0;
+    virtual void OnInput(const InputRequest& request, const std::optional<std::string>& answer) = 0;
+    virtual void OnFile(const FileRequest& request, const std::optional<Path>& answer) = 0;
+};
+
+/// Dialogs answered from a queue. With nothing queued, or with an answer for which the box has no
+/// button, the default button answers; an input box and a file dialog are then cancelled.
+class ScriptedDialogs : public Dialogs {
+  public:
+    explicit ScriptedDialogs(DialogObserver* observer = nullptr) : observer_(observer) {}
+
+    void QueueAnswer(std::string answer) { answers_.push_back(std::move(answer)); }
+
+    Answer ShowMessage(const Message& message) override;
+    std::optional<std::string> AskText(const InputRequest& request) override;
+    std::optional<Path> AskFile(const FileRequest& request) override;
+    void SetWaitCursor(bool on) override { waiting_ = on; }
+
+    [[nodiscard]] bool waiting() const { return waiting_; }
+
+  private:
+    std::optional<std::string> NextAnswer();
+
+    DialogObserver* observer_;
+    std::deque<std::string> answers_;
+    bool waiting_ = false;
+};
+
+}  // namespace kelvor

@@ -1,0 +1,168 @@
+#include "platform/file_system.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <system_error>
+
+namespace kelvor {
+
+namespace {
+
+[[noreturn]] void ThrowErrno() { throw FileError(std::strerror(errno)); }
+
+void ThrowIf(const std::error_code& error) {
+    if (error) throw FileError(error.message());
+}
+
+/// An open file that closes itself.
+class Descriptor {
+  public:
+    Descriptor(const Path& path, int flags) : fd_(::open(path.c_str(), flags | O_CLOEXEC, 0666)) {
+        if (fd_ < 0) ThrowErrno();
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor() {
+        if (fd_ >= 0) ::close(fd_);
+    }
+
+    [[nodiscard]] int get() const { return fd_; }
+
+    /// Some file systems report a failed write only here.
+    void Close() {
+        const int fd = fd_;
+        fd_ = -1;
+        if (::close(fd) != 0) ThrowErrno();
+    }
+
+  private:
+    int fd_;
+};
+
+/// A path beside the target under a name that no other process uses.
+Path TemporaryBeside(const Path& target) {
+    return target.parent_path() / ("." + target.filename().string() + "." + std::to_string(::getpid()) + ".new");
+}
+
+/// Removes a half-made file without hiding the failure that made it one.
+void RemoveQuietly(FileSystem& files, const Path& path) {
+    try {
+        files.Remove(path);
+    } catch (const FileError&) {  // NOLINT(bugprone-empty-catch): nothing was made, or it cannot be removed
+    }
+}
+
+}  // namespace
+
+FileKind NativeFileSystem::Kind(const Path& path) const {
+    std::error_code error;
+    switch (std::filesystem::status(path, error).type()) {
+        case std::filesystem::file_type::regular:
+            return FileKind::Regular;
+        case std::filesystem::file_type::directory:
+            return FileKind::Directory;
+        case std::filesystem::file_type::none:
+        case std::filesystem::file_type::not_found:
+            return FileKind::Missing;
+        default:
+            return FileKind::Other;
+    }
+}
+
+std::string NativeFileSystem::Read(const Path& path, std::size_t limit) const {
+    // Without O_NONBLOCK the opening of a pipe would wait for a writer.
+    const Descriptor file(path, O_RDONLY | O_NONBLOCK);
+    struct stat status {};
+    if (::fstat(file.get(), &status) != 0) ThrowErrno();
+    if (S_ISDIR(status.st_mode)) throw FileError(std::strerror(EISDIR));
+    if (!S_ISREG(status.st_mode)) throw FileError("Not a regular file");
+    const auto size = static_cast<std::size_t>(status.st_size);
+    if (size > limit) throw FileError(std::strerror(EFBIG));
+    std::string content(size, '\0');
+    std::size_t done = 0;
+    while (done < size) {
+        const ssize_t count = ::read(file.get(), content.data() + done, size - done);
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0) ThrowErrno();
+        if (count == 0) break;
+        done += static_cast<std::size_t>(count);
+    }
+    content.resize(done);
+    return content;
+}
+
+void NativeFileSystem::Write(const Path& path, std::string_view content) {
+    Descriptor file(path, O_WRONLY | O_CREAT | O_TRUNC);
+    while (!content.empty()) {
+        const ssize_t count = ::write(file.get(), content.data(), content.size());
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0) ThrowErrno();
+        content.remove_prefix(static_cast<std::size_t>(count));
+    }
+    file.Close();
+}
+
+void NativeFileSystem::Flush(const Path& path) {
+    const Descriptor file(path, O_RDONLY);
+    // Some file systems cannot flush a folder; there is nothing more to be done for them.
+    if (::fsync(file.get()) != 0 && errno != EINVAL) ThrowErrno();
+}
+
+void NativeFileSystem::Rename(const Path& from, const Path& to) {
+    std::error_code error;
+    std::filesystem::rename(from, to, error);
+    ThrowIf(error);
+}
+
+void NativeFileSystem::Remove(const Path& path) {
+    std::error_code error;
+    std::filesystem::remove(path, error);
+    ThrowIf(error);
+}
+
+void NativeFileSystem::MakeDirectory(const Path& path) {
+    std::error_code error;
+    std::filesystem::create_directory(path, error);
+    ThrowIf(error);
+}
+
+void NativeFileSystem::CopyPermissions(const Path& from, const Path& to) {
+    std::error_code error;
+    const auto permissions = std::filesystem::status(from, error).permissions();
+    ThrowIf(error);
+    std::filesystem::permissions(to, permissions, error);
+    ThrowIf(error);
+}
+
+Path NativeFileSystem::Resolve(const Path& path) const {
+    std::error_code error;
+    const Path resolved = std::filesystem::weakly_canonical(std::filesystem::absolute(path, error), error);
+    ThrowIf(error);
+    return resolved;
+}
+
+void ReplaceFile(FileSystem& files, const Path& target, std::string_view content) {
+    const Path resolved = files.Resolve(target);
+    const FileKind kind = files.Kind(resolved);
+    if (kind == FileKind::Directory) throw FileError(std::strerror(EISDIR));
+    if (kind == FileKind::Other) throw FileError("Not a regular file");
+    const Path temporary = TemporaryBeside(resolved);
+    try {
+        files.Write(temporary, content);
+        if (kind == FileKind::Regular) files.CopyPermissions(resolved, temporary);
+        files.Flush(temporary);
+        files.Rename(temporary, resolved);
+    } catch (const FileError&) {
+        RemoveQuietly(files, temporary);
+        throw;
+    }
+    // From here on the new file is in place, whole; only its survival of a power cut is still open.
+    files.Flush(resolved.parent_path());
+}
+
+}  // namespace kelvor

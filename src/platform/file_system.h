@@ -1,0 +1,73 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace kelvor {
+
+using Path = std::filesystem::path;
+
+/// A file operation that failed; what() is the platform's reason, such as "Permission denied".
+class FileError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+enum class FileKind { Missing, Regular, Directory, Other };
+
+/// The file operations that Kelvor needs. Each throws FileError on failure, but for Kind.
+class FileSystem {
+  public:
+    FileSystem() = default;
+    FileSystem(const FileSystem&) = delete;
+    FileSystem& operator=(const FileSystem&) = delete;
+    virtual ~FileSystem() = default;
+
+    /// What stands at a path, links followed. A path that cannot be looked at counts as missing.
+    [[nodiscard]] virtual FileKind Kind(const Path& path) const = 0;
+
+    /// The content of a regular file of at most `limit` bytes.
+    [[nodiscard]] virtual std::string Read(const Path& path, std::size_t limit) const = 0;
+
+    /// Creates the file, or empties it if it is there, and writes the content.
+    virtual void Write(const Path& path, std::string_view content) = 0;
+
+    /// Brings a file's content, or a folder's entries, to the disk.
+    virtual void Flush(const Path& path) = 0;
+
+    /// Renames, replacing `to` at one stroke.
+    virtual void Rename(const Path& from, const Path& to) = 0;
+
+    virtual void Remove(const Path& path) = 0;
+    virtual void MakeDirectory(const Path& path) = 0;
+
+    /// Gives `to` the permissions of `from`.
+    virtual void CopyPermissions(const Path& from, const Path& to) = 0;
+
+    /// The path with links followed, also where its last part is missing.
+    [[nodiscard]] virtual Path Resolve(const Path& path) const = 0;
+};
+
+/// The file system of the machine.
+class NativeFileSystem : public FileSystem {
+  public:
+    [[nodiscard]] FileKind Kind(const Path& path) const override;
+    [[nodiscard]] std::string Read(const Path& path, std::size_t limit) const override;
+    void Write(const Path& path, std::string_view content) override;
+    void Flush(const Path& path) override;
+    void Rename(const Path& from, const Path& to) override;
+    void Remove(const Path& path) override;
+    void MakeDirectory(const Path& path) override;
+    void CopyPermissions(const Path& from, const Path& to) override;
+    [[nodiscard]] Path Resolve(const Path& path) const override;
+};
+
+/// Replaces a file's content so that a crash or a full disk at any moment leaves the old file or the
+/// new one, whole: written beside the target, flushed, renamed. A link keeps pointing at its file, and
+/// a file keeps its permissions. Throws FileError and leaves the target as it was.
+void ReplaceFile(FileSystem& files, const Path& target, std::string_view content);
+
+}  // namespace kelvor
