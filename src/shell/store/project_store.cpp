@@ -1,0 +1,253 @@
+#include "shell/store/project_store.h"
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
+#include "platform/real.h"
+#include "platform/sqlite.h"
+
+namespace kelvor {
+
+std::string CellText(std::string_view name, int dim1, int dim2) {
+    return std::string(name) + "(" + std::to_string(dim1) + "," + std::to_string(dim2) + ")";
+}
+
+ProjectStore::~ProjectStore() { Abandon(); }
+
+// --- Opening and closing -----------------------------------------------------------------------
+
+void ProjectStore::Open(const Path& workCopy, const std::vector<CellBounds>& bounds, bool checkPages) {
+    Abandon();
+    workCopy_ = std::make_unique<WorkCopy>(workCopy, checkPages);
+    try {
+        Load(bounds);
+    } catch (...) {
+        Abandon();
+        throw;
+    }
+}
+
+void ProjectStore::Load(const std::vector<CellBounds>& bounds) {
+    std::size_t expected = 0;
+    for (const CellBounds& variable : bounds) expected += static_cast<std::size_t>(variable.dim1 * variable.dim2);
+    cells_.reserve(expected);
+    variables_.reserve(bounds.size());
+    byName_.reserve(bounds.size());
+    workCopy_->ReadRows([this](CellKey key, CellValue value) { AddCell(std::move(key), std::move(value)); });
+    MarkBlocks();
+    for (const CellBounds& variable : bounds) CheckBounds(variable);
+}
+
+void ProjectStore::AddCell(CellKey key, CellValue value) {
+    // The rows come in key order, so a variable's cells follow each other.
+    if (variables_.empty() || !EqualNoCase(variables_.back().name, key.name)) {
+        const auto number = static_cast<std::uint32_t>(variables_.size());
+        if (!byName_.emplace(key.name, number).second) throw DatabaseError("rows out of order", false);
+        variables_.push_back({std::move(key.name), static_cast<std::uint32_t>(cells_.size()), 0, 0});
+    }
+    ++variables_.back().count;
+    cells_.push_back({static_cast<std::uint32_t>(variables_.size() - 1), key.dim1, key.dim2, std::move(value), false});
+}
+
+void ProjectStore::MarkBlocks() {
+    for (Variable& variable : variables_) {
+        const int width = cells_[variable.first + variable.count - 1].dim2;
+        bool full = true;
+        for (std::uint32_t i = 0; full && i < variable.count; ++i) {
+            const Cell& cell = cells_[variable.first + i];
+            const int place = static_cast<int>(i);
+            full = cell.dim1 == place / width + 1 && cell.dim2 == place % width + 1;
+        }
+        variable.width = full ? width : 0;
+    }
+}
+
+void ProjectStore::CheckBounds(const CellBounds& bounds) const {
+    for (int dim1 = 1; dim1 <= bounds.dim1; ++dim1) {
+        for (int dim2 = 1; dim2 <= bounds.dim2; ++dim2) {
+            if (!Index(bounds.name, dim1, dim2)) {
+                throw DatabaseError("cell " + CellText(bounds.name, dim1, dim2) + " is missing", false);
+            }
+        }
+    }
+}
+
+void ProjectStore::Close() {
+    if (!IsOpen()) return;
+    EndEvent();
+    WriteUnwritten();
+    Forget();
+}
+
+void ProjectStore::Abandon() noexcept {
+    if (inTransaction_) workCopy_->Rollback();
+    Forget();
+}
+
+void ProjectStore::Forget() noexcept {
+    workCopy_.reset();
+    cells_.clear();
+    variables_.clear();
+    byName_.clear();
+    touched_.clear();
+    inEvent_ = false;
+    inTransaction_ = false;
+}
+
+// --- Finding -------------------------------------------------------------------------------------
+
+const ProjectStore::Variable* ProjectStore::FindVariable(std::string_view name) const {
+    ++readCount_;
+    const auto found = byName_.find(name);
+    return found == byName_.end() ? nullptr : &variables_[found->second];
+}
+
+std::optional<std::uint32_t> ProjectStore::Index(std::string_view name, int dim1, int dim2) const {
+    const Variable* variable = FindVariable(name);
+    if (variable == nullptr || dim1 < 1 || dim2 < 1) return std::nullopt;
+    if (variable->width > 0) {
+        const std::int64_t place = std::int64_t{dim1 - 1} * variable->width + dim2 - 1;
+        if (dim2 > variable->width || place >= variable->count) return std::nullopt;
+        return variable->first + static_cast<std::uint32_t>(place);
+    }
+    const auto begin = cells_.begin() + variable->first;
+    const auto end = begin + variable->count;
+    const auto cell = std::lower_bound(begin, end, std::pair(dim1, dim2), [](const Cell& c, const std::pair<int, int>& key) {
+        return std::pair(c.dim1, c.dim2) < key;
+    });
+    if (cell == end || cell->dim1 != dim1 || cell->dim2 != dim2) return std::nullopt;
+    return static_cast<std::uint32_t>(cell - cells_.begin());
+}
+
+std::uint32_t ProjectStore::RequireIndex(std::string_view name, int dim1, int dim2) const {
+    const auto index = Index(name, dim1, dim2);
+    if (!index) throw ProgramStop("no cell " + CellText(name, dim1, dim2));
+    return *index;
+}
+
+const CellValue* ProjectStore::FindCell(std::string_view name, int dim1, int dim2) const {
+    const auto index = Index(name, dim1, dim2);
+    return index ? &cells_[*index].value : nullptr;
+}
+
+std::string_view ProjectStore::CanonicalName(std::string_view name) const {
+    const Variable* variable = FindVariable(name);
+    return variable == nullptr ? std::string_view{} : std::string_view(variable->name);
+}
+
+CellHandle ProjectStore::Resolve(std::string_view name, int dim1, int dim2) const {
+    return CellHandle(RequireIndex(name, dim1, dim2));
+}
+
+double ProjectStore::GetVarDim(std::string_view name, int dim1, int dim2) const {
+    return cells_[RequireIndex(name, dim1, dim2)].value.number.value_or(0.0);
+}
+
+// --- Writing -------------------------------------------------------------------------------------
+
+void ProjectStore::SetVar(std::string_view name, double value) {
+    if (const auto index = Index(name, 1, 1)) Store(*index, {value, cells_[*index].value.text});
+}
+
+void ProjectStore::SetVarDim(std::string_view name, int dim1, int dim2, double value) {
+    const std::uint32_t index = RequireIndex(name, dim1, dim2);
+    Store(index, {value, cells_[index].value.text});
+}
+
+void ProjectStore::SetVarText(std::string_view name, std::string_view text) {
+    SetCell(name, 1, 1, {std::nullopt, text.empty() ? std::nullopt : std::optional(std::string(text))});
+}
+
+void ProjectStore::SetCell(std::string_view name, int dim1, int dim2, CellValue value) {
+    if (const auto index = Index(name, dim1, dim2)) Store(*index, std::move(value));
+}
+
+void ProjectStore::SetNumber(CellHandle cell, double value) {
+    Store(cell.index_, {value, cells_[cell.index_].value.text});
+}
+
+void ProjectStore::Store(std::uint32_t index, CellValue value) {
+    if (cells_[index].value == value) return;
+    cells_[index].value = std::move(value);
+    WriteThrough(index);
+}
+
+void ProjectStore::WriteThrough(std::uint32_t index) {
+    Cell& cell = cells_[index];
+    try {
+        if (inEvent_ && !inTransaction_) {
+            workCopy_->Begin();
+            inTransaction_ = true;
+        }
+        workCopy_->Update(variables_[cell.variable].name, cell.dim1, cell.dim2, cell.value);
+        cell.unwritten = false;
+        if (inTransaction_) touched_.push_back(index);
+    } catch (const DatabaseError&) {
+        cell.unwritten = true;  // kept in memory; Close writes it or reports
+    }
+}
+
+void ProjectStore::EndEvent() {
+    inEvent_ = false;
+    if (!inTransaction_) return;
+    inTransaction_ = false;
+    try {
+        workCopy_->Commit();
+    } catch (const DatabaseError&) {
+        workCopy_->Rollback();
+        for (const std::uint32_t index : touched_) cells_[index].unwritten = true;
+    }
+    touched_.clear();
+}
+
+void ProjectStore::WriteUnwritten() {
+    for (Cell& cell : cells_) {
+        if (!cell.unwritten) continue;
+        workCopy_->Update(variables_[cell.variable].name, cell.dim1, cell.dim2, cell.value);
+        cell.unwritten = false;
+    }
+}
+
+// --- Aggregates ----------------------------------------------------------------------------------
+
+std::optional<double> ProjectStore::SQLSum(std::string_view name, std::optional<int> dim2) const {
+    const Variable* variable = FindVariable(name);
+    if (variable == nullptr) return std::nullopt;
+    std::optional<Real> sum;
+    for (std::uint32_t i = variable->first; i < variable->first + variable->count; ++i) {
+        const Cell& cell = cells_[i];
+        if (!cell.value.number || (dim2 && cell.dim2 != *dim2)) continue;
+        sum = sum.value_or(0.0) + *cell.value.number;
+    }
+    return sum ? std::optional(sum->value()) : std::nullopt;
+}
+
+int ProjectStore::SQLCount(std::string_view name, std::optional<int> dim2) const {
+    const Variable* variable = FindVariable(name);
+    if (variable == nullptr) return 0;
+    const auto begin = cells_.begin() + variable->first;
+    return static_cast<int>(std::count_if(begin, begin + variable->count, [&](const Cell& cell) {
+        return cell.value.number.has_value() && (!dim2 || cell.dim2 == *dim2);
+    }));
+}
+
+void ProjectStore::ForEachFilled(const std::function<void(const CellKey&, const CellValue&)>& visit) const {
+    for (const Cell& cell : cells_) {
+        if (cell.value.IsFilled()) visit({variables_[cell.variable].name, cell.dim1, cell.dim2}, cell.value);
+    }
+}
+
+std::vector<std::string> ProjectStore::CompareWithWorkCopy() {
+    std::vector<std::string> differences;
+    std::size_t rows = 0;
+    workCopy_->ReadRows([&](const CellKey& key, const CellValue& value) {
+        ++rows;
+        const CellValue* cell = FindCell(key.name, key.dim1, key.dim2);
+        if (cell == nullptr || !(*cell == value)) differences.push_back(CellText(key.name, key.dim1, key.dim2));
+    });
+    if (rows != cells_.size()) differences.emplace_back("number of rows");
+    return differences;
+}
+
+}  // namespace kelvor

@@ -1,0 +1,113 @@
+#include "shell/store/work_copy.h"
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <utility>
+
+#include "platform/sqlite.h"
+
+namespace kelvor {
+
+// The name is kept without regard to case, as the catalogue writes and the code asks with any case.
+const char* const kProjectTable =
+    "CREATE TABLE Project (Name TEXT NOT NULL COLLATE NOCASE, Dim1 INTEGER NOT NULL, Dim2 INTEGER NOT NULL, "
+    "RValue REAL, SValue TEXT, PRIMARY KEY (Name, Dim1, Dim2)) WITHOUT ROWID";
+
+namespace {
+
+const char* const kUpdate = "UPDATE Project SET RValue = ?1, SValue = ?2 WHERE Name = ?3 AND Dim1 = ?4 AND Dim2 = ?5";
+
+/// A table of the same name but another make would answer our statements in other ways.
+void CheckProject(SQLite::Database& database, bool checkPages) {
+    CheckShape(database, {{"Project", {"Name", "Dim1", "Dim2", "RValue", "SValue"}}}, true);
+    const std::string made = database.execAndGet("SELECT sql FROM sqlite_schema WHERE type = 'table'").getString();
+    if (made != kProjectTable) throw DatabaseError("table Project is not made as a project's", false);
+    if (!checkPages) return;
+    const std::string verdict = database.execAndGet("PRAGMA quick_check(1)").getString();
+    if (verdict != "ok") throw DatabaseError(verdict, false);
+}
+
+SQLite::Database OpenProject(const Path& path, bool checkPages) {
+    SQLite::Database database = OpenDatabase(path, DatabaseAccess::ReadWrite);
+    try {
+        database.exec("PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = DELETE; PRAGMA synchronous = OFF");
+        CheckProject(database, checkPages);
+    } catch (const SQLite::Exception& failure) {
+        throw ToDatabaseError(failure);
+    }
+    return database;
+}
+
+int Subscript(const SQLite::Column& column) {
+    const std::int64_t value = column.getInt64();
+    if (!column.isInteger() || value < 1 || value > std::numeric_limits<std::int16_t>::max()) {
+        throw DatabaseError("a cell has a subscript out of range", false);
+    }
+    return static_cast<int>(value);
+}
+
+std::optional<double> Number(const SQLite::Column& column) {
+    if (!column.isFloat() && !column.isInteger()) return std::nullopt;
+    const double value = column.getDouble();
+    return std::isfinite(value) ? std::optional(value) : std::nullopt;
+}
+
+std::optional<std::string> Text(const SQLite::Column& column) {
+    return column.isText() ? std::optional(column.getString()) : std::nullopt;
+}
+
+void Run(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const SQLite::Exception& failure) {
+        throw ToDatabaseError(failure);
+    }
+}
+
+}  // namespace
+
+WorkCopy::WorkCopy(const Path& path, bool checkPages)
+    : database_(OpenProject(path, checkPages)), update_(database_, kUpdate) {}
+
+void WorkCopy::ReadRows(const std::function<void(CellKey, CellValue)>& visit) {
+    Run([&] {
+        SQLite::Statement rows(database_, "SELECT Name, Dim1, Dim2, RValue, SValue FROM Project ORDER BY Name, Dim1, Dim2");
+        while (rows.executeStep()) {
+            CellKey key{rows.getColumn(0).getString(), Subscript(rows.getColumn(1)), Subscript(rows.getColumn(2))};
+            visit(std::move(key), {Number(rows.getColumn(3)), Text(rows.getColumn(4))});
+        }
+    });
+}
+
+void WorkCopy::Update(std::string_view name, int dim1, int dim2, const CellValue& value) {
+    Run([&] {
+        update_.reset();
+        update_.clearBindings();
+        if (value.number) update_.bind(1, *value.number);
+        if (value.text) update_.bind(2, *value.text);
+        update_.bind(3, std::string(name));
+        update_.bind(4, dim1);
+        update_.bind(5, dim2);
+        update_.exec();
+        update_.reset();
+    });
+}
+
+void WorkCopy::Begin() {
+    Run([&] { database_.exec("BEGIN IMMEDIATE"); });
+}
+
+void WorkCopy::Commit() {
+    Run([&] { database_.exec("COMMIT"); });
+}
+
+void WorkCopy::Rollback() noexcept {
+    try {
+        update_.reset();
+        database_.exec("ROLLBACK");
+    } catch (const SQLite::Exception&) {  // NOLINT(bugprone-empty-catch): no transaction was left open
+    }
+}
+
+}  // namespace kelvor
