@@ -1,0 +1,27 @@
+#pragma once
+
+#include "design/calc/reliability.h"
+#include "platform/clock.h"
+#include "platform/dialogs.h"
+#include "screens/units/units.h"
+#include "shell/store/project_store.h"
+
+namespace kelvor {
+
+/// Plain values that screens leave for the calculations which ask for them.
+struct FormValues {
+    int gridRow = 1;  // the row under the cursor of the grid in which the user works
+    int dim2 = 1;     // the second subscript that the current screen shows
+};
+
+/// All that a calculation may see and touch.
+struct CalcContext {
+    ProjectStore& store;
+    const Units& units;
+    Dialogs& dialogs;
+    Clock& clock;
+    ReliabilityState& reliability;
+    const FormValues& forms;
+};
+
+}  // namespace kelvor

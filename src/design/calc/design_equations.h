@@ -1,0 +1,52 @@
+#pragma once
+
+#include <array>
+#include <numbers>
+#include <string_view>
+
+#include "design/calc/calc_context.h"
+#include "platform/real.h"
+
+namespace kelvor {
+
+/// The natural logarithm of 10. Every common logarithm is a natural one divided by it.
+inline constexpr double Ln10 = std::numbers::ln10;
+
+/// The cells from which the flexible design equation reads its inputs.
+struct FlexibleInputs {
+    CellHandle S0;  // overall standard deviation
+    CellHandle MR;  // effective roadbed resilient modulus, psi
+    CellHandle P0;  // initial serviceability
+    CellHandle Pt;  // terminal serviceability
+};
+
+/// The cells from which the rigid design equation reads its inputs.
+struct RigidInputs {
+    CellHandle S0;  // overall standard deviation
+    CellHandle MR;  // modulus of rupture of the concrete, psi
+    CellHandle Ec;  // modulus of elasticity of the concrete, psi
+    CellHandle J;   // load transfer coefficient
+    CellHandle k;   // effective modulus of subgrade reaction, pci
+    CellHandle Cd;  // drainage coefficient
+    CellHandle P0;  // initial serviceability
+    CellHandle Pt;  // terminal serviceability
+};
+
+/// The traffic, in 18-kip ESALs, that a structural number carries (1993 AASHTO Guide, Part II, Figure
+/// 3.1), at the deviate ZR that was looked up last. Rounded to a multiple of 100 if it is above 100. A
+/// fault shows the overflow message and leaves `w18` as it was.
+void EvaluateFlexible(CalcContext& context, const FlexibleInputs& inputs, Real SN, Real& w18);
+
+/// The same for a slab thickness D in inches (1993 AASHTO Guide, Part II, Figure 3.7).
+void EvaluateRigid(CalcContext& context, const RigidInputs& inputs, Real D, Real& w18);
+
+/// The equation of a pavement type, "Flexible" (or "Flex") or "Rigid" in any case, with the names of its
+/// inputs: S0, MR, P0, Pt, and four empty ones; or S0, MR, Ec, J, k, Cd, P0, Pt. Another type leaves
+/// `w18` untouched.
+void EvaluateE18(CalcContext& context, std::string_view pavementType, Real x, Real& w18,
+                 const std::array<std::string_view, 8>& names);
+
+/// Design traffic as the equations state it: a multiple of 100 where it is above 100.
+Real RoundTraffic(Real w18);
+
+}  // namespace kelvor

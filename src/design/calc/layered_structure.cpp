@@ -1,0 +1,46 @@
+#include "design/calc/layered_structure.h"
+
+#include <array>
+
+#include "platform/real.h"
+
+namespace kelvor {
+
+namespace {
+
+/// The structural number of all layers together.
+Real TotalStructuralNumber(const CalcContext& context) {
+    return context.store.SQLSum("LDLayerStructNo").value_or(0.0);
+}
+
+/// SNi = a m D of one layer; D in inches.
+void CalcLayerStructuralNumber(CalcContext& context, std::string_view target, int layer, int /*dim2*/) {
+    const Real coefficient = context.store.GetVarDim("LDLayerCoef", layer, 1);
+    const Real drainage = context.store.GetVarDim("LDDrainCoef", layer, 1);
+    const Real thickness = context.store.GetVarDim("LDLayerThick", layer, 1);
+    context.store.SetVarDim(target, layer, 1, (coefficient * drainage * thickness).value());
+}
+
+/// The thickness, inches, of this layer's material that would supply what the structure still lacks.
+/// The drainage coefficient multiplies. A layer without coefficients gets none.
+void CalcAdditionalThickness(CalcContext& context, std::string_view target, int layer, int /*dim2*/) {
+    const Real remainder = context.store.GetVar("SN") - TotalStructuralNumber(context);
+    const Real coefficient = context.store.GetVarDim("LDLayerCoef", layer, 1);
+    const Real drainage = context.store.GetVarDim("LDDrainCoef", layer, 1);
+    if (coefficient == 0.0 || drainage == 0.0) return;
+    context.store.SetVarDim(target, layer, 1, (remainder / coefficient * drainage).value());
+}
+
+void CalcStructureSum(CalcContext& context, std::string_view target) {
+    context.store.SetVar(target, TotalStructuralNumber(context).value());
+}
+
+constexpr std::array kFields = {FieldKey{"SSN", CalcStructureSum}};
+constexpr std::array kCells = {CellKeyRoutine{"LDLayerStructNo", CalcLayerStructuralNumber},
+                               CellKeyRoutine{"LDAdditThick", CalcAdditionalThickness}};
+
+}  // namespace
+
+KeyTable LayeredStructureKeys() { return {kFields, kCells}; }
+
+}  // namespace kelvor

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <functional>
+#include <string_view>
+
+#include "design/calc/calc_context.h"
+#include "platform/real.h"
+
+namespace kelvor {
+
+/// What a solver gives back.
+inline constexpr int kSolveDone = 0;
+inline constexpr int kSolveFailed = -1;
+
+/// Both equations have the traffic and the reliability at these term numbers.
+inline constexpr int kTrafficTerm = 2;
+inline constexpr int kReliabilityTerm = 3;
+
+/// The cells of an equation's terms, found once per solve, by term number from 1.
+template <std::size_t Count>
+class TermCells {
+  public:
+    TermCells(ProjectStore& store, const std::array<std::string_view, Count>& names) : store_(store) {
+        for (std::size_t i = 0; i < Count; ++i) cells_[i] = store.Resolve(names[i]);
+    }
+
+    [[nodiscard]] Real Value(int term) const { return store_.Number(Handle(term)); }
+    void Write(int term, Real value) { store_.SetNumber(Handle(term), value.value()); }
+    [[nodiscard]] CellHandle Handle(int term) const { return cells_[static_cast<std::size_t>(term - 1)]; }
+
+    /// True if a term other than the one being solved is 0, which means not entered.
+    [[nodiscard]] bool AnyMissing(int solvedTerm) const {
+        for (int term = 1; term <= static_cast<int>(Count); ++term) {
+            if (term != solvedTerm && Value(term) == 0.0) return true;
+        }
+        return false;
+    }
+
+  private:
+    ProjectStore& store_;
+    std::array<CellHandle, Count> cells_;
+};
+
+/// The flow that both solvers share: looks up ZR unless the reliability itself is sought, refuses with
+/// a message if another term is missing, and runs the case; an arithmetic fault anywhere in it shows the
+/// overflow message and fails the solve.
+template <std::size_t Count>
+int RunSolve(CalcContext& context, int term, const TermCells<Count>& terms, const std::function<int()>& solveCase) {
+    try {
+        const Real reliability = terms.Value(kReliabilityTerm);
+        if (term != kReliabilityTerm && reliability != 0.0) {
+            ReliabilityState& state = context.reliability;
+            ReliabilityToZR(state.interval, context.dialogs, reliability, state.ZR);
+        }
+        if (terms.AnyMissing(term)) {
+            context.dialogs.ShowMessage({.text = "ALL Other Variables Must Be Entered!"});
+            return kSolveFailed;
+        }
+        return solveCase();
+    } catch (const ArithmeticFault&) {
+        ReportMathOverflow(context.dialogs);
+        return kSolveFailed;
+    }
+}
+
+}  // namespace kelvor
