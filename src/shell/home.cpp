@@ -1,0 +1,13 @@
+#include "shell/home.h"
+
+#include <system_error>
+
+namespace kelvor {
+
+Path ExecutableFolder() {
+    std::error_code error;
+    const Path executable = std::filesystem::read_symlink("/proc/self/exe", error);
+    return error ? std::filesystem::current_path() : executable.parent_path();
+}
+
+}  // namespace kelvor

@@ -1,0 +1,25 @@
+#include "shell/process_state.h"
+
+#include <utility>
+
+#include "shell/calculations.h"
+
+namespace kelvor {
+
+ProcessState::ProcessState(Host hostInterfaces, Home homeFolders)
+    : host(hostInterfaces), home(std::move(homeFolders)), calculations(JoinCalculations()) {}
+
+void ProcessState::OpenCatalogue(const Path& path) {
+    dbCatalogue = std::make_unique<Catalogue>(path);
+    units.emplace(*dbCatalogue, dbWork);
+    projectBounds.clear();
+    for (const Variable& variable : dbCatalogue->variables()) {
+        projectBounds.push_back({variable.name, variable.dim1, variable.dim2});
+    }
+}
+
+CalcContext ProcessState::MakeCalcContext() {
+    return {dbWork, *units, host.dialogs, host.clock, reliability, forms};
+}
+
+}  // namespace kelvor

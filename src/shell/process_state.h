@@ -1,0 +1,53 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "catalogue/catalogue.h"
+#include "catalogue/list_database.h"
+#include "design/calc/calc_context.h"
+#include "design/calc/dispatch.h"
+#include "platform/file_lock.h"
+#include "platform/host.h"
+#include "screens/units/units.h"
+#include "shell/home.h"
+#include "shell/store/project_store.h"
+
+namespace kelvor {
+
+/// Everything that lives as long as the process, in one place, so that a test makes as many as it
+/// likes. Passed by reference; there are no globals.
+struct ProcessState {
+    ProcessState(Host hostInterfaces, Home homeFolders);
+
+    /// Opens the catalogue and what depends on it. Throws DatabaseError.
+    void OpenCatalogue(const Path& path);
+
+    /// What a calculation may see.
+    [[nodiscard]] CalcContext MakeCalcContext();
+
+    Host host;
+    Home home;
+
+    std::unique_ptr<Catalogue> dbCatalogue;
+    std::unique_ptr<ListDatabase> dbCustom;
+    ProjectStore dbWork;
+    std::vector<CellBounds> projectBounds;  // the cells that every project has
+    std::optional<Units> units;             // holds bMetric
+
+    std::string sIniFile;
+    std::string sProjectFile;  // full path of the open project; empty for an unnamed one
+    std::string caption;       // of the main window
+    bool bProjectChanged = false;
+    bool bReportsUnavailable = false;
+
+    ReliabilityState reliability;
+    FormValues forms;
+    Dispatch calculations;
+
+    std::unique_ptr<FileLock> workLock;
+};
+
+}  // namespace kelvor

@@ -1,0 +1,221 @@
+#include "shell/project_files.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "platform/sqlite.h"
+#include "shell/recent_files.h"
+
+namespace kelvor {
+
+namespace {
+
+/// Far above any project: a file beyond this is none.
+constexpr std::size_t kLargestProject = 64UL * 1024UL * 1024UL;
+
+constexpr double kMetricMode = -1.0;
+
+const char* const kOpenFilter = "KVR projects (*.kvr)|*.kvr|All Files (*.*)|*.*";
+const char* const kSaveFilter = "KVR projects (*.kvr)|*.kvr";
+constexpr std::string_view kExtension = ".kvr";
+
+std::string FullPath(const std::string& path) {
+    std::error_code error;
+    const Path full = std::filesystem::absolute(path, error);
+    return error ? path : full.string();
+}
+
+}  // namespace
+
+// --- The work copy ---------------------------------------------------------------------------------
+
+void ProjectFiles::OpenWorkCopy(bool checkPages) {
+    state_.dbWork.Open(state_.home.WorkCopyFile(), state_.projectBounds, checkPages);
+    state_.bProjectChanged = false;
+    state_.units->SetMetric(state_.dbWork.GetVar("MetricMode") == kMetricMode);
+}
+
+void ProjectFiles::CloseWorkCopyQuietly() {
+    try {
+        state_.dbWork.Close();
+    } catch (const DatabaseError&) {
+        state_.dbWork.Abandon();
+    }
+}
+
+void ProjectFiles::WriteWorkCopy(const std::string& content) {
+    const Path file = state_.home.WorkCopyFile();
+    // A work copy of an earlier run, or a link in its place, goes first.
+    if (state_.host.files.Kind(file) == FileKind::Regular) state_.host.files.Remove(file);
+    state_.host.files.Write(file, content);
+}
+
+bool ProjectFiles::NewWorkCopy() {
+    state_.dbWork.Abandon();
+    const Path source = state_.home.Template();
+    if (state_.host.files.Kind(source) == FileKind::Missing) {
+        Report(std::string("One file is missing (") + Home::kTemplateName + ").\n\nPlease reinstall program.");
+        return false;
+    }
+    Path culprit = source;
+    try {
+        const std::string content = state_.host.files.Read(source, kLargestProject);
+        culprit = state_.home.WorkCopyFile();
+        WriteWorkCopy(content);
+        culprit = source;
+        OpenWorkCopy(false);
+        return true;
+    } catch (const FileError& failure) {
+        Report("Error loading from " + culprit.string() + ": " + failure.what());
+    } catch (const DatabaseError& failure) {
+        Report("Error loading from " + culprit.string() + ": " + failure.what());
+    }
+    return false;
+}
+
+void ProjectFiles::DiscardWorkCopy(const std::string& path) {
+    state_.dbWork.SetVar("MetricMode", state_.units->bMetric() ? kMetricMode : 0.0);
+    CloseWorkCopyQuietly();
+    const Path workCopy = state_.home.WorkCopyFile();
+    try {
+        if (!path.empty()) {
+            ReplaceFile(state_.host.files, path, state_.host.files.Read(workCopy, kLargestProject));
+        }
+    } catch (const FileError&) {  // NOLINT(bugprone-empty-catch): New asks and tells nothing
+    }
+    try {
+        state_.host.files.Remove(workCopy);
+    } catch (const FileError&) {  // NOLINT(bugprone-empty-catch): the next one replaces it
+    }
+    state_.sProjectFile.clear();
+}
+
+// --- New and Open ----------------------------------------------------------------------------------
+
+bool ProjectFiles::NewProject() {
+    if (state_.dbWork.IsOpen()) {
+        DiscardWorkCopy(state_.sProjectFile);
+    } else {
+        state_.sProjectFile.clear();
+    }
+    return NewWorkCopy();
+}
+
+bool ProjectFiles::OpenProject(const std::string& path) {
+    const bool opened = LoadProject(path);
+    AddRecentFile(state_, FullPath(path));
+    return opened;
+}
+
+bool ProjectFiles::LoadProject(const std::string& path) {
+    CloseWorkCopyQuietly();
+    const std::string failed = "Error loading from " + path + ": ";
+    try {
+        if (IsWorkCopy(path)) throw FileError("it is the program's own work copy");
+        WriteWorkCopy(state_.host.files.Read(path, kLargestProject));
+        OpenWorkCopy(true);
+        NameProject(path);
+        return true;
+    } catch (const FileError& failure) {
+        Report(failed + failure.what());
+    } catch (const DatabaseError& failure) {
+        Report(failure.notADatabase() ? "File " + path + " is not a kvor file" : failed + failure.what());
+    }
+    return false;
+}
+
+bool ProjectFiles::OpenProjectDialog() {
+    MakeProjectsFolder();
+    const auto chosen =
+        state_.host.dialogs.AskFile({FileRequest::Kind::Open, state_.home.ProjectsFolder(), kOpenFilter});
+    if (chosen) return OpenProject(chosen->string());
+    if (state_.dbWork.IsOpen()) DiscardWorkCopy("");
+    state_.sProjectFile.clear();
+    return NewWorkCopy();
+}
+
+// --- Save ------------------------------------------------------------------------------------------
+
+bool ProjectFiles::SaveProject(const std::string& path) {
+    const std::string failed = "Error saving to " + path + ": ";
+    if (!state_.dbWork.IsOpen()) {
+        Report(failed + "no project is open");
+        return false;
+    }
+    state_.dbWork.SetVar("MetricMode", state_.units->bMetric() ? kMetricMode : 0.0);
+    try {
+        state_.dbWork.Close();
+    } catch (const DatabaseError& failure) {
+        Report(failed + failure.what());
+        return false;
+    }
+    try {
+        if (IsWorkCopy(path)) throw FileError("it is the program's own work copy");
+        ReplaceFile(state_.host.files, path, state_.host.files.Read(state_.home.WorkCopyFile(), kLargestProject));
+    } catch (const FileError& failure) {
+        Report(failed + failure.what());
+        ReopenAfterFailedSave();
+        return false;
+    }
+    AddRecentFile(state_, FullPath(path));
+    try {
+        OpenWorkCopy(false);
+    } catch (const DatabaseError& failure) {
+        Report("Error loading from " + state_.home.WorkCopyFile().string() + ": " + failure.what());
+    }
+    NameProject(path);
+    return true;
+}
+
+bool ProjectFiles::ReopenAfterFailedSave() {
+    const bool changed = state_.bProjectChanged;
+    try {
+        OpenWorkCopy(false);
+        state_.bProjectChanged = changed;
+        return true;
+    } catch (const DatabaseError& failure) {
+        Report("Error loading from " + state_.home.WorkCopyFile().string() + ": " + failure.what());
+        return false;
+    }
+}
+
+bool ProjectFiles::Save() {
+    return state_.sProjectFile.empty() ? SaveProjectAs() : SaveProject(state_.sProjectFile);
+}
+
+bool ProjectFiles::SaveProjectAs() {
+    MakeProjectsFolder();
+    const auto chosen =
+        state_.host.dialogs.AskFile({FileRequest::Kind::Save, state_.home.ProjectsFolder(), kSaveFilter});
+    return chosen && SaveProjectAs(chosen->string());
+}
+
+bool ProjectFiles::SaveProjectAs(const std::string& name) {
+    if (name.empty()) return false;
+    const std::string_view ending = std::string_view(name).substr(name.size() - std::min(name.size(), kExtension.size()));
+    return SaveProject(EqualNoCase(ending, kExtension) ? name : name + std::string(kExtension));
+}
+
+// --- Helpers ---------------------------------------------------------------------------------------
+
+bool ProjectFiles::IsWorkCopy(const std::string& path) const {
+    const FileSystem& files = state_.host.files;
+    return files.Resolve(path) == files.Resolve(state_.home.WorkCopyFile());
+}
+
+void ProjectFiles::NameProject(const std::string& path) {
+    state_.sProjectFile = FullPath(path);
+    state_.caption = "KVR - " + state_.sProjectFile;
+}
+
+void ProjectFiles::MakeProjectsFolder() {
+    try {
+        const Path folder = state_.home.ProjectsFolder();
+        if (state_.host.files.Kind(folder) == FileKind::Missing) state_.host.files.MakeDirectory(folder);
+    } catch (const FileError&) {  // NOLINT(bugprone-empty-catch): the dialog then starts elsewhere
+    }
+}
+
+void ProjectFiles::Report(const std::string& text) { state_.host.dialogs.ShowMessage({.text = text}); }
+
+}  // namespace kelvor

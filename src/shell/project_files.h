@@ -1,0 +1,57 @@
+#pragma once
+
+#include <string>
+
+#include "shell/process_state.h"
+
+namespace kelvor {
+
+/// Project files and the work copy. The program never edits a project file: it works in one database,
+/// the work copy, and moves whole files. Each operation shows its own messages.
+class ProjectFiles {
+  public:
+    explicit ProjectFiles(ProcessState& state) : state_(state) {}
+
+    /// New Project: a named project is saved over its file without asking, an unnamed one is dropped;
+    /// then a fresh project. False if there is none.
+    bool NewProject();
+
+    /// Copies the template to the work copy and opens it. False, with its message and no project open,
+    /// if that cannot be done; an older work copy is never taken for a new project.
+    bool NewWorkCopy();
+
+    /// Makes a project file the open project. On failure, with its message, no project is open, and
+    /// name and caption of the former one stand. The path joins the recent files in any case.
+    bool OpenProject(const std::string& path);
+
+    /// The Open command: asks for a file. A cancelled dialog leaves a fresh, unnamed project.
+    bool OpenProjectDialog();
+
+    /// Copies the work copy over a project file, whole. On failure the work copy stays open and sound.
+    bool SaveProject(const std::string& path);
+
+    /// Save: to the project's file, or as SaveProjectAs if it has none.
+    bool Save();
+
+    /// Save As: asks for a file. True if the project was saved.
+    bool SaveProjectAs();
+
+    /// Save As with a given name, to which ".kvr" is added if it has another ending.
+    bool SaveProjectAs(const std::string& name);
+
+  private:
+    void OpenWorkCopy(bool checkPages);
+    void CloseWorkCopyQuietly();
+    bool ReopenAfterFailedSave();
+    void DiscardWorkCopy(const std::string& path);
+    void WriteWorkCopy(const std::string& content);
+    bool LoadProject(const std::string& path);
+    [[nodiscard]] bool IsWorkCopy(const std::string& path) const;
+    void NameProject(const std::string& path);
+    void MakeProjectsFolder();
+    void Report(const std::string& text);
+
+    ProcessState& state_;
+};
+
+}  // namespace kelvor

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+#include "shell/process_state.h"
+
+namespace kelvor {
+
+/// Records that a project was opened or saved: its row takes the present time, or, if it has none, the
+/// oldest row takes the path. The rows are then numbered from the newest, free ones last. The match is
+/// `Like`, so a path with wild cards matches loosely. Failures are ignored.
+void AddRecentFile(ProcessState& state, const std::string& path);
+
+}  // namespace kelvor

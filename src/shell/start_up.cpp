@@ -1,0 +1,142 @@
+#include "shell/start_up.h"
+
+#include <algorithm>
+
+#include "platform/ini_file.h"
+#include "platform/sqlite.h"
+#include "platform/text.h"
+#include "shell/project_files.h"
+#include "shell/recent_files.h"
+
+namespace kelvor {
+
+namespace {
+
+const char* const kIniSection = "kvor";
+
+/// Numbers under which failures of the start are reported.
+constexpr int kNotADatabase = 3049;
+constexpr int kDamagedDatabase = 3343;
+
+StartResult Stop(ProcessState& state, const Message& message) {
+    state.host.dialogs.ShowMessage(message);
+    return StartResult::Stopped;
+}
+
+Message IniError(const std::string& reason) {
+    return {.text = "Error reading .INI values\n" + reason, .title = "Init Error"};
+}
+
+Message ReinstallMessage(const std::string& missingFile) {
+    return {.text = "One file is missing (" + missingFile + ").\n\nPlease reinstall program."};
+}
+
+/// Proves each component; a missing report engine costs the reports alone. False if another is missing,
+/// also after the components were registered.
+bool ProveComponents(ProcessState& state) {
+    bool registered = false;
+    for (const Component component : kComponents) {
+        while (!state.host.components.Prove(component)) {
+            if (component == Component::ReportEngine) {
+                state.bReportsUnavailable = true;
+                break;
+            }
+            if (registered) return false;
+            state.host.components.RegisterComponents();
+            registered = true;
+        }
+    }
+    return true;
+}
+
+/// The path of a database that the configuration names; nothing, with its message, if the key is empty
+/// or the file is missing.
+std::optional<Path> FindDatabase(ProcessState& state, const char* key) {
+    const std::string name = ReadIni(state.host.files, kIniSection, key, state.sIniFile);
+    if (name.empty()) {
+        Message message = IniError("(unable to locate application file)");
+        message.icon = MessageIcon::Critical;
+        state.host.dialogs.ShowMessage(message);
+        return std::nullopt;
+    }
+    const Path path = state.home.DatabaseFile(name);
+    if (state.host.files.Kind(path) == FileKind::Missing) {
+        state.host.dialogs.ShowMessage(ReinstallMessage(name));
+        return std::nullopt;
+    }
+    return path;
+}
+
+bool OpenDatabases(ProcessState& state) {
+    try {
+        const auto catalogue = FindDatabase(state, "Application");
+        if (!catalogue) return false;
+        const std::string custom = ReadIni(state.host.files, kIniSection, "Custom", state.sIniFile);
+        if (!custom.empty()) state.OpenCatalogue(*catalogue);
+        const auto lists = FindDatabase(state, "Custom");
+        if (!lists) return false;
+        state.dbCustom = std::make_unique<ListDatabase>(*lists);
+        return true;
+    } catch (const DatabaseError& failure) {
+        ShowError(state.host.dialogs, "MainFunction", failure.notADatabase() ? kNotADatabase : kDamagedDatabase,
+                  failure.what());
+        return false;
+    }
+}
+
+/// Makes the work copy this process's own. False, with its message, if another program has it.
+bool LockWorkCopy(ProcessState& state) {
+    try {
+        state.workLock = std::make_unique<FileLock>(state.home.LockFile());
+        if (state.workLock->holds()) return true;
+        state.host.dialogs.ShowMessage(
+            {.text = "Kelvor is already running on " + state.home.work.string() + ".\n\nPlease use the program that is open."});
+    } catch (const FileError& failure) {
+        state.host.dialogs.ShowMessage(
+            {.text = "Error loading from " + state.home.WorkCopyFile().string() + ": " + failure.what()});
+    }
+    state.workLock.reset();
+    return false;
+}
+
+StartResult OpenFirstProject(ProcessState& state, std::string command) {
+    ProjectFiles files(state);
+    if (command.empty()) return files.NewWorkCopy() ? StartResult::Running : StartResult::Stopped;
+    command.erase(std::remove(command.begin(), command.end(), '"'), command.end());
+    if (state.host.files.Kind(command) == FileKind::Missing) {
+        state.host.dialogs.ShowMessage({.text = command + " file does not exist!", .title = "Opening file"});
+        return StartResult::FileMissing;
+    }
+    files.OpenProject(command);
+    return StartResult::Running;
+}
+
+}  // namespace
+
+StartResult Main(ProcessState& state, const std::string& commandLine) {
+    Dialogs& dialogs = state.host.dialogs;
+    state.bReportsUnavailable = false;
+    dialogs.SetWaitCursor(true);
+    state.sIniFile = state.home.IniFile().string();
+    if (state.host.files.Kind(state.sIniFile) == FileKind::Missing) {
+        return Stop(state, IniError("(unable to locate ini file)\nPlease reinstall Kelvor"));
+    }
+    if (!ProveComponents(state)) {
+        return Stop(state, {.text = "A necessary system component could not be found.\n"
+                                    "  Please contact Product Support for assistance.\n"
+                                    "        Press 'OK' to shut down the application.",
+                            .title = "Problem"});
+    }
+    if (!OpenDatabases(state) || !LockWorkCopy(state)) return StartResult::Stopped;
+    const StartResult result = OpenFirstProject(state, std::string(TrimBlanks(commandLine)));
+    // With an absent file the start ends early, and the wait cursor stays.
+    if (result != StartResult::FileMissing) dialogs.SetWaitCursor(false);
+    return result;
+}
+
+void ShowError(Dialogs& dialogs, const std::string& procedure, int number, const std::string& description) {
+    dialogs.ShowMessage({.text = "Error in " + procedure + " Error Number : " + std::to_string(number) + "\n" + description,
+                         .title = "Error"});
+}
+
+}  // namespace kelvor
