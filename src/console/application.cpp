@@ -1,0 +1,132 @@
+#include "console/application.h"
+
+#include <stdlib.h>  // NOLINT(modernize-deprecated-headers): mkdtemp
+
+#include <CLI/CLI.hpp>
+#include <cstdlib>
+#include <fstream>
+#include <istream>
+#include <memory>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <system_error>
+
+#include "console/model_driver.h"
+#include "console/script/runner.h"
+#include "platform/clock.h"
+#include "platform/component_probe.h"
+#include "platform/file_system.h"
+#include "shell/program.h"
+
+namespace kelvor {
+
+namespace {
+
+const char* const kVersion = "kelvor-cli " KELVOR_VERSION;
+
+constexpr int kStatusDone = 0;
+constexpr int kStatusStopped = 1;
+constexpr int kStatusNotUnderstood = 2;
+
+struct Options {
+    std::string home;
+    std::string work;
+    std::string script;
+    std::string project;
+    bool json = false;
+};
+
+/// A private folder that goes when the program ends.
+class TemporaryFolder {
+  public:
+    TemporaryFolder() {
+        std::string name = (std::filesystem::temp_directory_path() / "kelvor-XXXXXX").string();
+        if (::mkdtemp(name.data()) == nullptr) throw FileError("no temporary folder can be made");
+        path_ = name;
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    ~TemporaryFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+
+    [[nodiscard]] const Path& path() const { return path_; }
+
+  private:
+    Path path_;
+};
+
+/// Reads the command line. Gives the exit status if that is all there is to do.
+std::optional<int> ReadOptions(int argc, char** argv, Options& options, std::ostream& output, std::ostream& errors) {
+    CLI::App app("Designs pavements by script: starts as Kelvor does, opens a project, and obeys commands.",
+                 "kelvor-cli");
+    app.add_option("--home", options.home, "The program folder: where kvor.ini, DataBase, kvrwork.tpl lie")
+        ->option_text("DIR");
+    app.add_option("--work", options.work, "Where the work copy lies (default: a private temporary folder)")
+        ->option_text("DIR");
+    app.add_option("--script", options.script, "Read commands from FILE (default: standard input)")
+        ->option_text("FILE");
+    app.add_flag("--json", options.json, "Print one JSON object a line");
+    app.add_option("project", options.project, "The project file to open")->option_text("PROJECT.kvr");
+    app.set_version_flag("--version", kVersion);
+    try {
+        app.parse(argc, argv);
+        return std::nullopt;
+    } catch (const CLI::ParseError& end) {
+        const bool asked = end.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success);
+        app.exit(end, output, errors);
+        return asked ? kStatusDone : kStatusNotUnderstood;
+    }
+}
+
+int RunProgram(const Options& options, const Home& home, std::istream& input, std::ostream& output,
+               std::ostream& errors) {
+    std::unique_ptr<Output> printer;
+    if (options.json) {
+        printer = std::make_unique<JsonOutput>(output);
+    } else {
+        printer = std::make_unique<PlainOutput>(output);
+    }
+    NativeFileSystem files;
+    SystemClock clock;
+    LinkedComponents components;
+    ScriptedDialogs dialogs(printer.get());
+    Program program({files, clock, dialogs, components}, home);
+    try {
+        if (program.Start(options.project) != StartResult::Running) return kStatusStopped;
+    } catch (const ProgramStop& stop) {
+        errors << "the program stopped: " << stop.what() << '\n';
+        return kStatusStopped;
+    }
+    ModelDriver driver(program, dialogs);
+    return static_cast<int>(RunScript(input, driver, *printer, errors));
+}
+
+}  // namespace
+
+int RunConsole(int argc, char** argv, std::istream& input, std::ostream& output, std::ostream& errors) {
+    Options options;
+    if (const auto status = ReadOptions(argc, argv, options, output, errors)) return *status;
+    std::ifstream script;
+    if (!options.script.empty()) {
+        script.open(options.script);
+        if (!script || std::filesystem::is_directory(options.script)) {
+            errors << "the script " << options.script << " cannot be read\n";
+            return kStatusNotUnderstood;
+        }
+    }
+    std::istream& commands = options.script.empty() ? input : script;
+    try {
+        const Path folder = options.home.empty() ? ExecutableFolder() : Path(options.home);
+        if (!options.work.empty()) return RunProgram(options, {folder, options.work}, commands, output, errors);
+        const TemporaryFolder work;
+        return RunProgram(options, {folder, work.path()}, commands, output, errors);
+    } catch (const std::exception& failure) {
+        errors << "kelvor-cli: " << failure.what() << '\n';
+        return kStatusStopped;
+    }
+}
+
+}  // namespace kelvor

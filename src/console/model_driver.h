@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "console/script/driver.h"
+#include "platform/dialogs.h"
+#include "shell/program.h"
+
+namespace kelvor {
+
+/// Drives the program's model, with no window.
+class ModelDriver : public Driver {
+  public:
+    ModelDriver(Program& program, ScriptedDialogs& dialogs) : program_(program), dialogs_(dialogs) {}
+
+    /// Throws ProgramStop if no fresh project can be made.
+    void New() override;
+    void Open(const std::string& path) override;
+    void Save() override;
+    void SaveAs(const std::string& path) override;
+    void ChooseUnits(bool metric) override;
+    CellReport Get(const CellKey& key) override;
+    void Set(const CellKey& key, const std::string& value) override;
+    DisplayReport Show(const CellKey& key) override;
+    std::vector<CellReport> Dump(const std::string& pattern) override;
+    void Calc(const std::string& key, const std::string& target) override;
+    void CalcCell(const std::string& key, int dim1, int dim2, const std::string& target) override;
+    int FindTerm(const std::string& screen, const std::string& term) override;
+    int Solve(const std::string& screen, int term) override;
+    void QueueAnswer(const std::string& text) override;
+
+  private:
+    Program& program_;
+    ScriptedDialogs& dialogs_;
+};
+
+}  // namespace kelvor

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "shell/store/work_copy.h"
+
+namespace kelvor {
+
+struct CellReport {
+    CellKey key;
+    std::optional<CellValue> value;  // nothing: there is no such cell
+};
+
+struct DisplayReport {
+    CellKey key;
+    std::string text;
+    std::string unit;
+};
+
+/// What a script does to a program. One driver works on the program's model, another on its windows;
+/// the runner is the same for both. Each operation throws ScriptError if it makes no sense there.
+class Driver {
+  public:
+    Driver() = default;
+    Driver(const Driver&) = delete;
+    Driver& operator=(const Driver&) = delete;
+    virtual ~Driver() = default;
+
+    // Project
+    virtual void New() = 0;
+    virtual void Open(const std::string& path) = 0;
+    virtual void Save() = 0;
+    virtual void SaveAs(const std::string& path) = 0;
+    virtual void ChooseUnits(bool metric) = 0;
+    virtual CellReport Get(const CellKey& key) = 0;
+    virtual void Set(const CellKey& key, const std::string& value) = 0;
+    virtual DisplayReport Show(const CellKey& key) = 0;
+    virtual std::vector<CellReport> Dump(const std::string& pattern) = 0;
+
+    // Calculation
+    virtual void Calc(const std::string& key, const std::string& target) = 0;
+    virtual void CalcCell(const std::string& key, int dim1, int dim2, const std::string& target) = 0;
+
+    /// The number of a term, given as its number or as the name of its variable.
+    virtual int FindTerm(const std::string& screen, const std::string& term) = 0;
+    virtual int Solve(const std::string& screen, int term) = 0;
+
+    // Questions
+    virtual void QueueAnswer(const std::string& text) = 0;
+};
+
+}  // namespace kelvor

@@ -1,0 +1,70 @@
+#include <nlohmann/json.hpp>
+
+#include "console/script/output.h"
+
+namespace kelvor {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+/// A text that is no UTF-8 shows replacement characters rather than ending the script.
+void Print(std::ostream& stream, const Json& object) {
+    stream << object.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
+}
+
+template <typename Value>
+Json OrNull(const std::optional<Value>& value) {
+    return value ? Json(*value) : Json(nullptr);
+}
+
+Json KeyObject(const CellKey& key) { return {{"name", key.name}, {"dim1", key.dim1}, {"dim2", key.dim2}}; }
+
+}  // namespace
+
+const char* NameOf(FileRequest::Kind kind) { return kind == FileRequest::Kind::Open ? "open" : "save"; }
+
+void JsonOutput::Cell(const CellReport& cell) {
+    Json object = KeyObject(cell.key);
+    if (cell.value) {
+        object["rvalue"] = OrNull(cell.value->number);
+        object["svalue"] = OrNull(cell.value->text);
+    } else {
+        object["missing"] = true;
+    }
+    Print(stream_, {{"cell", object}});
+}
+
+void JsonOutput::Display(const DisplayReport& display) {
+    Json object = KeyObject(display.key);
+    object["text"] = display.text;
+    object["unit"] = display.unit;
+    Print(stream_, {{"display", object}});
+}
+
+void JsonOutput::Solve(const std::string& screen, int term, int result) {
+    Print(stream_, {{"solve", {{"screen", screen}, {"term", term}, {"result", result}}}});
+}
+
+void JsonOutput::OnMessage(const Message& message, Answer answer) {
+    Print(stream_, {{"message",
+                     {{"title", message.title},
+                      {"text", message.text},
+                      {"style", NameOf(message.style)},
+                      {"icon", NameOf(message.icon)},
+                      {"answer", NameOf(answer)}}}});
+}
+
+void JsonOutput::OnInput(const InputRequest& request, const std::optional<std::string>& answer) {
+    Print(stream_, {{"input", {{"text", request.text}, {"answer", OrNull(answer)}}}});
+}
+
+void JsonOutput::OnFile(const FileRequest& request, const std::optional<Path>& answer) {
+    Print(stream_, {{"filedialog",
+                     {{"kind", NameOf(request.kind)},
+                      {"folder", request.folder.string()},
+                      {"filter", request.filter},
+                      {"answer", answer ? Json(answer->string()) : Json(nullptr)}}}});
+}
+
+}  // namespace kelvor

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <ostream>
+#include <string>
+
+#include "console/script/driver.h"
+#include "platform/dialogs.h"
+
+namespace kelvor {
+
+/// Where a script's results go: one object a line, in the order in which things happen.
+class Output : public DialogObserver {
+  public:
+    virtual void Cell(const CellReport& cell) = 0;
+    virtual void Display(const DisplayReport& display) = 0;
+    virtual void Solve(const std::string& screen, int term, int result) = 0;
+};
+
+/// One JSON object a line; numbers read back as the same double.
+class JsonOutput : public Output {
+  public:
+    explicit JsonOutput(std::ostream& stream) : stream_(stream) {}
+
+    void Cell(const CellReport& cell) override;
+    void Display(const DisplayReport& display) override;
+    void Solve(const std::string& screen, int term, int result) override;
+    void OnMessage(const Message& message, Answer answer) override;
+    void OnInput(const InputRequest& request, const std::optional<std::string>& answer) override;
+    void OnFile(const FileRequest& request, const std::optional<Path>& answer) override;
+
+  private:
+    std::ostream& stream_;
+};
+
+/// The same facts as lines for a reader.
+class PlainOutput : public Output {
+  public:
+    explicit PlainOutput(std::ostream& stream) : stream_(stream) {}
+
+    void Cell(const CellReport& cell) override;
+    void Display(const DisplayReport& display) override;
+    void Solve(const std::string& screen, int term, int result) override;
+    void OnMessage(const Message& message, Answer answer) override;
+    void OnInput(const InputRequest& request, const std::optional<std::string>& answer) override;
+    void OnFile(const FileRequest& request, const std::optional<Path>& answer) override;
+
+  private:
+    std::ostream& stream_;
+};
+
+/// The name of a kind of file dialog.
+const char* NameOf(FileRequest::Kind kind);
+
+}  // namespace kelvor

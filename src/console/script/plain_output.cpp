@@ -1,0 +1,58 @@
+#include "console/script/output.h"
+#include "platform/number_text.h"
+
+namespace kelvor {
+
+namespace {
+
+std::string KeyText(const CellKey& key) {
+    return key.name + "(" + std::to_string(key.dim1) + "," + std::to_string(key.dim2) + ")";
+}
+
+std::string Quoted(const std::string& text) {
+    std::string quoted = "\"";
+    for (const char c : text) {
+        if (c == '"' || c == '\\') quoted.push_back('\\');
+        quoted += c == '\n' ? "\\n" : c == '\t' ? "\\t" : std::string(1, c);
+    }
+    return quoted + "\"";
+}
+
+/// The number, the text where there is only a text, or both where the text says the number otherwise.
+std::string ValueText(const CellValue& value) {
+    if (!value.number) return value.text ? Quoted(*value.text) : "empty";
+    const std::string number = ExactNumberText(*value.number);
+    return value.text && *value.text != number ? number + " " + Quoted(*value.text) : number;
+}
+
+}  // namespace
+
+void PlainOutput::Cell(const CellReport& cell) {
+    stream_ << KeyText(cell.key) << " = " << (cell.value ? ValueText(*cell.value) : "missing") << '\n';
+}
+
+void PlainOutput::Display(const DisplayReport& display) {
+    stream_ << KeyText(display.key) << ": " << display.text;
+    if (!display.unit.empty()) stream_ << " [" << display.unit << "]";
+    stream_ << '\n';
+}
+
+void PlainOutput::Solve(const std::string& screen, int term, int result) {
+    stream_ << "solve " << screen << " " << term << ": " << (result == 0 ? "done" : "not solved") << " (" << result
+            << ")\n";
+}
+
+void PlainOutput::OnMessage(const Message& message, Answer answer) {
+    stream_ << "message [" << message.title << "]: " << message.text << " -> " << NameOf(answer) << '\n';
+}
+
+void PlainOutput::OnInput(const InputRequest& request, const std::optional<std::string>& answer) {
+    stream_ << "input: " << request.text << " -> " << answer.value_or("cancel") << '\n';
+}
+
+void PlainOutput::OnFile(const FileRequest& request, const std::optional<Path>& answer) {
+    stream_ << "file dialog (" << NameOf(request.kind) << ") in " << request.folder.string() << " -> "
+            << (answer ? answer->string() : "cancel") << '\n';
+}
+
+}  // namespace kelvor

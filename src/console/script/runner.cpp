@@ -1,0 +1,176 @@
+#include "console/script/runner.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstddef>
+#include <cstdint>
+#include <istream>
+#include <limits>
+#include <ostream>
+#include <string_view>
+#include <vector>
+
+#include "console/script/command_line.h"
+#include "shell/store/project_store.h"
+
+namespace kelvor {
+
+namespace {
+
+/// The words behind a command's name.
+class Arguments {
+  public:
+    explicit Arguments(std::vector<std::string> words) : words_(std::move(words)) {}
+
+    [[nodiscard]] std::size_t count() const { return words_.size(); }
+    [[nodiscard]] const std::string& operator[](std::size_t i) const { return words_[i]; }
+
+    /// A subscript, 1 where the word is left out.
+    [[nodiscard]] int Subscript(std::size_t i) const {
+        if (i >= words_.size()) return 1;
+        const std::string& word = words_[i];
+        std::int16_t value = 0;
+        const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), value);
+        if (error != std::errc{} || end != word.data() + word.size()) {
+            throw ScriptError("\"" + word + "\" is no subscript");
+        }
+        return value;
+    }
+
+    /// NAME [D1 [D2]]
+    [[nodiscard]] CellKey Cell() const { return {words_[0], Subscript(1), Subscript(2)}; }
+
+  private:
+    std::vector<std::string> words_;
+};
+
+struct Context {
+    const Arguments& arguments;
+    Driver& driver;
+    Output& output;
+};
+
+void Save(const Context& c) {
+    if (c.arguments.count() == 0) {
+        c.driver.Save();
+    } else {
+        c.driver.SaveAs(c.arguments[0]);
+    }
+}
+
+void ChooseUnits(const Context& c) {
+    const std::string& system = c.arguments[0];
+    if (system != "english" && system != "metric") throw ScriptError("units are english or metric");
+    c.driver.ChooseUnits(system == "metric");
+}
+
+void Set(const Context& c) {
+    const Arguments& words = c.arguments;
+    if (words.count() == 3) throw ScriptError("set takes a name and a value, with both subscripts or none between them");
+    if (words.count() == 2) {
+        c.driver.Set({words[0], 1, 1}, words[1]);
+    } else {
+        c.driver.Set(words.Cell(), words[3]);
+    }
+}
+
+void Dump(const Context& c) {
+    const std::string pattern = c.arguments.count() == 0 ? "*" : c.arguments[0];
+    for (const CellReport& cell : c.driver.Dump(pattern)) c.output.Cell(cell);
+}
+
+void Calc(const Context& c) {
+    const std::string& key = c.arguments[0];
+    c.driver.Calc(key, c.arguments.count() > 1 ? c.arguments[1] : key);
+}
+
+void CalcOneCell(const Context& c) {
+    const std::string& key = c.arguments[0];
+    const std::string& target = c.arguments.count() > 3 ? c.arguments[3] : key;
+    c.driver.CalcCell(key, c.arguments.Subscript(1), c.arguments.Subscript(2), target);
+}
+
+void Solve(const Context& c) {
+    const std::string& screen = c.arguments[0];
+    const int term = c.driver.FindTerm(screen, c.arguments[1]);
+    const int result = c.driver.Solve(screen, term);
+    c.output.Solve(screen, term, result);
+}
+
+void NotAvailableYet(const Context& /*context*/) { throw ScriptError("not available yet"); }
+
+struct Command {
+    std::string_view name;
+    std::size_t fewest;
+    std::size_t most;
+    void (*run)(const Context&);
+};
+
+constexpr std::size_t kAnyNumber = std::numeric_limits<std::size_t>::max();
+
+constexpr std::array kCommands = {
+    Command{"new", 0, 0, [](const Context& c) { c.driver.New(); }},
+    Command{"open", 1, 1, [](const Context& c) { c.driver.Open(c.arguments[0]); }},
+    Command{"save", 0, 1, Save},
+    Command{"units", 1, 1, ChooseUnits},
+    Command{"get", 1, 3, [](const Context& c) { c.output.Cell(c.driver.Get(c.arguments.Cell())); }},
+    Command{"set", 2, 4, Set},
+    Command{"show", 1, 3, [](const Context& c) { c.output.Display(c.driver.Show(c.arguments.Cell())); }},
+    Command{"dump", 0, 1, Dump},
+    Command{"calc", 1, 2, Calc},
+    Command{"calccell", 3, 4, CalcOneCell},
+    Command{"solve", 2, 2, Solve},
+    Command{"answer", 1, 1, [](const Context& c) { c.driver.QueueAnswer(c.arguments[0]); }},
+};
+
+/// The commands of screens and reports.
+constexpr std::array<std::string_view, 22> kAwaitedCommands = {
+    "form", "forms", "focus", "type",       "key",  "press",    "choose",   "tab",      "menu",    "cell",   "row", "delete-row",
+    "read", "grid",  "controls", "chart", "report", "print", "previews", "preview", "export", "table",
+};
+
+const Command& FindCommand(const std::string& name) {
+    static constexpr Command kAwaited{"", 0, kAnyNumber, NotAvailableYet};
+    const auto command =
+        std::find_if(kCommands.begin(), kCommands.end(), [&](const Command& c) { return c.name == name; });
+    if (command != kCommands.end()) return *command;
+    if (std::find(kAwaitedCommands.begin(), kAwaitedCommands.end(), name) != kAwaitedCommands.end()) return kAwaited;
+    throw ScriptError("unknown command");
+}
+
+}  // namespace
+
+void RunLine(const std::string& line, Driver& driver, Output& output) {
+    std::vector<std::string> words = SplitWords(line);
+    if (words.empty()) return;
+    const std::string name = words.front();
+    words.erase(words.begin());
+    try {
+        const Command& command = FindCommand(name);
+        const Arguments arguments(std::move(words));
+        if (arguments.count() < command.fewest) throw ScriptError("too few words");
+        if (arguments.count() > command.most) throw ScriptError("too many words");
+        command.run({arguments, driver, output});
+    } catch (const ScriptError& error) {
+        throw ScriptError(name + ": " + error.what());
+    }
+}
+
+ScriptEnd RunScript(std::istream& script, Driver& driver, Output& output, std::ostream& errors) {
+    std::string line;
+    for (int number = 1; std::getline(script, line); ++number) {
+        try {
+            RunLine(line, driver, output);
+        } catch (const ScriptError& error) {
+            errors << "line " << number << ": " << error.what() << '\n';
+            return ScriptEnd::NotUnderstood;
+        } catch (const ProgramStop& stop) {
+            errors << "line " << number << ": the program stopped: " << stop.what() << '\n';
+            return ScriptEnd::ProgramStopped;
+        }
+    }
+    return ScriptEnd::Done;
+}
+
+}  // namespace kelvor
