@@ -48,8 +48,8 @@ void ForEachRow(SQLite::Database& database, const char* query, Reader read) {
 
 template <typename Row>
 const Row* FindNamed(const std::vector<Row>& rows, std::string Row::*member, std::string_view name) {
-    const auto found =
-        std::find_if(rows.begin(), rows.end(), [&](const Row& row) { return EqualNoCase(row.*member, name); });
+    const auto found = std::find_if(rows.begin(), rows.end(),
+                                    [&](const Row& row) { return EqualNoCase(row.*member, name); });
     return found == rows.end() ? nullptr : &*found;
 }
 
@@ -156,7 +156,8 @@ std::vector<const Field*> Catalogue::FieldsOfScreen(std::string_view screen) con
     for (const Field& field : fields_) {
         if (EqualNoCase(field.screen, screen) && FindVariable(field.name) != nullptr) found.push_back(&field);
     }
-    std::stable_sort(found.begin(), found.end(), [](const Field* a, const Field* b) { return a->seq < b->seq; });
+    std::stable_sort(found.begin(), found.end(),
+                     [](const Field* a, const Field* b) { return a->seq < b->seq; });
     return found;
 }
 
@@ -168,7 +169,9 @@ std::vector<const Field*> Catalogue::OutputsOfScreen(std::string_view screen) co
     return found;
 }
 
-const Screen* Catalogue::FindScreen(std::string_view name) const { return FindNamed(screens_, &Screen::name, name); }
+const Screen* Catalogue::FindScreen(std::string_view name) const {
+    return FindNamed(screens_, &Screen::name, name);
+}
 
 const UnitPair* Catalogue::FindPairByEnglish(std::string_view english) const {
     return FindNamed(unitPairs_, &UnitPair::english, english);
@@ -197,8 +200,8 @@ void Catalogue::EditRecentFiles(const std::function<void(std::vector<RecentFile>
         ForEachRow(database_, "SELECT rowid FROM RecentFiles ORDER BY rowid",
                    [&](SQLite::Statement& row) { places.push_back(row.getColumn(0).getInt64()); });
         edit(rows);
-        SQLite::Statement update(database_,
-                                 "UPDATE RecentFiles SET FileName = ?, OpenDate = ?, SortOrder = ? WHERE rowid = ?");
+        SQLite::Statement update(
+            database_, "UPDATE RecentFiles SET FileName = ?, OpenDate = ?, SortOrder = ? WHERE rowid = ?");
         for (std::size_t i = 0; i < std::min(rows.size(), places.size()); ++i) {
             update.reset();
             update.clearBindings();

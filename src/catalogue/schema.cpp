@@ -14,8 +14,12 @@ constexpr std::string_view kNumber = "REAL";
 constexpr std::string_view kWhole = "INTEGER";
 
 std::vector<ColumnDefinition> ListColumns() {
-    return {{"Name", "TEXT COLLATE NOCASE"}, {"Sort", kNumber},      {"Value", kText},
-            {"UnitSystem", kText},           {"ShowValue", kText}, {"ShowUnits", kText},
+    return {{"Name", "TEXT COLLATE NOCASE"},
+            {"Sort", kNumber},
+            {"Value", kText},
+            {"UnitSystem", kText},
+            {"ShowValue", kText},
+            {"ShowUnits", kText},
             {"Description", "TEXT COLLATE NOCASE"}};
 }
 
@@ -86,7 +90,8 @@ const std::vector<TableDefinition>& CatalogueTables() {
 }
 
 const std::vector<TableDefinition>& ListTables() {
-    static const std::vector<TableDefinition> kTables = {{"Value", ListColumns()}, {"ValueDefault", ListColumns()}};
+    static const std::vector<TableDefinition> kTables = {{"Value", ListColumns()},
+                                                         {"ValueDefault", ListColumns()}};
     return kTables;
 }
 

@@ -59,7 +59,8 @@ class TemporaryFolder {
 };
 
 /// Reads the command line. Gives the exit status if that is all there is to do.
-std::optional<int> ReadOptions(int argc, char** argv, Options& options, std::ostream& output, std::ostream& errors) {
+std::optional<int> ReadOptions(int argc, char** argv, Options& options, std::ostream& output,
+                               std::ostream& errors) {
     CLI::App app("Designs pavements by script: starts as Kelvor does, opens a project, and obeys commands.",
                  "kelvor-cli");
     app.add_option("--home", options.home, "The program folder: where kvor.ini, DataBase, kvrwork.tpl lie")
@@ -120,7 +121,8 @@ int RunConsole(int argc, char** argv, std::istream& input, std::ostream& output,
     std::istream& commands = options.script.empty() ? input : script;
     try {
         const Path folder = options.home.empty() ? ExecutableFolder() : Path(options.home);
-        if (!options.work.empty()) return RunProgram(options, {folder, options.work}, commands, output, errors);
+        if (!options.work.empty())
+            return RunProgram(options, {folder, options.work}, commands, output, errors);
         const TemporaryFolder work;
         return RunProgram(options, {folder, work.path()}, commands, output, errors);
     } catch (const std::exception& failure) {

@@ -2,6 +2,8 @@
 
 namespace kelvor {
 
-bool LinkedComponents::Prove(Component /*component*/) { return true; }
+bool LinkedComponents::Prove(Component /*component*/) {
+    return true;
+}
 
 }  // namespace kelvor

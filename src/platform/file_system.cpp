@@ -13,7 +13,9 @@ namespace kelvor {
 
 namespace {
 
-[[noreturn]] void ThrowErrno() { throw FileError(std::strerror(errno)); }
+[[noreturn]] void ThrowErrno() {
+    throw FileError(std::strerror(errno));
+}
 
 void ThrowIf(const std::error_code& error) {
     if (error) throw FileError(error.message());
@@ -46,7 +48,8 @@ class Descriptor {
 
 /// A path beside the target under a name that no other process uses.
 Path TemporaryBeside(const Path& target) {
-    return target.parent_path() / ("." + target.filename().string() + "." + std::to_string(::getpid()) + ".new");
+    return target.parent_path() /
+           ("." + target.filename().string() + "." + std::to_string(::getpid()) + ".new");
 }
 
 /// Removes a half-made file without hiding the failure that made it one.

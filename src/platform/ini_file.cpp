@@ -25,7 +25,9 @@ std::vector<std::string> SplitLines(std::string_view content) {
     return lines;
 }
 
-bool IsSectionLine(std::string_view line) { return TrimBlanks(line).starts_with('['); }
+bool IsSectionLine(std::string_view line) {
+    return TrimBlanks(line).starts_with('[');
+}
 
 bool IsSection(std::string_view line, std::string_view section) {
     const std::string_view text = TrimBlanks(line);
@@ -72,7 +74,8 @@ std::string_view WithoutQuotes(std::string_view value) {
 
 }  // namespace
 
-std::string ReadIni(const FileSystem& files, std::string_view section, std::string_view key, const Path& file) {
+std::string ReadIni(const FileSystem& files, std::string_view section, std::string_view key,
+                    const Path& file) {
     try {
         const std::vector<std::string> lines = SplitLines(files.Read(file, kLargestFile));
         const Place place = FindPlace(lines, section, key);

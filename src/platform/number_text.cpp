@@ -13,8 +13,12 @@ namespace kelvor {
 
 namespace {
 
-constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-constexpr bool IsExponentLetter(char c) { return FoldLetter(c) == 'e' || FoldLetter(c) == 'd'; }
+constexpr bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+constexpr bool IsExponentLetter(char c) {
+    return FoldLetter(c) == 'e' || FoldLetter(c) == 'd';
+}
 
 /// Takes number elements from the head of a text.
 class Scanner {
@@ -24,8 +28,12 @@ class Scanner {
     [[nodiscard]] bool AtEnd() const { return position_ == text_.size(); }
     [[nodiscard]] std::size_t position() const { return position_; }
 
-    bool TakeSign() { return TakeIf([](char c) { return c == '+' || c == '-'; }); }
-    bool TakePoint() { return TakeIf([](char c) { return c == '.'; }); }
+    bool TakeSign() {
+        return TakeIf([](char c) { return c == '+' || c == '-'; });
+    }
+    bool TakePoint() {
+        return TakeIf([](char c) { return c == '.'; });
+    }
 
     /// Takes a run of digits and gives its length; with `commas`, single commas between digits too.
     std::size_t TakeDigits(bool commas) {

@@ -43,7 +43,9 @@ bool Program::SaveAs(const std::string& name) {
     return InEvent([&] { return ProjectFiles(state_).SaveProjectAs(name); });
 }
 
-void Program::ChooseUnits(bool metric) { state_.units->SetMetric(metric); }
+void Program::ChooseUnits(bool metric) {
+    state_.units->SetMetric(metric);
+}
 
 void Program::SetValue(std::string_view name, int dim1, int dim2, std::string_view value) {
     InEvent([&] {

@@ -54,7 +54,8 @@ bool ProjectFiles::NewWorkCopy() {
     state_.dbWork.Abandon();
     const Path source = state_.home.Template();
     if (state_.host.files.Kind(source) == FileKind::Missing) {
-        Report(std::string("One file is missing (") + Home::kTemplateName + ").\n\nPlease reinstall program.");
+        Report(std::string("One file is missing (") + Home::kTemplateName +
+               ").\n\nPlease reinstall program.");
         return false;
     }
     Path culprit = source;
@@ -151,7 +152,8 @@ bool ProjectFiles::SaveProject(const std::string& path) {
     }
     try {
         if (IsWorkCopy(path)) throw FileError("it is the program's own work copy");
-        ReplaceFile(state_.host.files, path, state_.host.files.Read(state_.home.WorkCopyFile(), kLargestProject));
+        ReplaceFile(state_.host.files, path,
+                    state_.host.files.Read(state_.home.WorkCopyFile(), kLargestProject));
     } catch (const FileError& failure) {
         Report(failed + failure.what());
         ReopenAfterFailedSave();
@@ -192,7 +194,8 @@ bool ProjectFiles::SaveProjectAs() {
 
 bool ProjectFiles::SaveProjectAs(const std::string& name) {
     if (name.empty()) return false;
-    const std::string_view ending = std::string_view(name).substr(name.size() - std::min(name.size(), kExtension.size()));
+    const std::string_view ending =
+        std::string_view(name).substr(name.size() - std::min(name.size(), kExtension.size()));
     return SaveProject(EqualNoCase(ending, kExtension) ? name : name + std::string(kExtension));
 }
 
@@ -216,6 +219,8 @@ void ProjectFiles::MakeProjectsFolder() {
     }
 }
 
-void ProjectFiles::Report(const std::string& text) { state_.host.dialogs.ShowMessage({.text = text}); }
+void ProjectFiles::Report(const std::string& text) {
+    state_.host.dialogs.ShowMessage({.text = text});
+}
 
 }  // namespace kelvor

@@ -78,8 +78,8 @@ bool OpenDatabases(ProcessState& state) {
         state.dbCustom = std::make_unique<ListDatabase>(*lists);
         return true;
     } catch (const DatabaseError& failure) {
-        ShowError(state.host.dialogs, "MainFunction", failure.notADatabase() ? kNotADatabase : kDamagedDatabase,
-                  failure.what());
+        ShowError(state.host.dialogs, "MainFunction",
+                  failure.notADatabase() ? kNotADatabase : kDamagedDatabase, failure.what());
         return false;
     }
 }
@@ -89,8 +89,8 @@ bool LockWorkCopy(ProcessState& state) {
     try {
         state.workLock = std::make_unique<FileLock>(state.home.LockFile());
         if (state.workLock->holds()) return true;
-        state.host.dialogs.ShowMessage(
-            {.text = "Kelvor is already running on " + state.home.work.string() + ".\n\nPlease use the program that is open."});
+        state.host.dialogs.ShowMessage({.text = "Kelvor is already running on " + state.home.work.string() +
+                                                ".\n\nPlease use the program that is open."});
     } catch (const FileError& failure) {
         state.host.dialogs.ShowMessage(
             {.text = "Error loading from " + state.home.WorkCopyFile().string() + ": " + failure.what()});
@@ -135,8 +135,9 @@ StartResult Main(ProcessState& state, const std::string& commandLine) {
 }
 
 void ShowError(Dialogs& dialogs, const std::string& procedure, int number, const std::string& description) {
-    dialogs.ShowMessage({.text = "Error in " + procedure + " Error Number : " + std::to_string(number) + "\n" + description,
-                         .title = "Error"});
+    dialogs.ShowMessage(
+        {.text = "Error in " + procedure + " Error Number : " + std::to_string(number) + "\n" + description,
+         .title = "Error"});
 }
 
 }  // namespace kelvor

@@ -137,7 +137,8 @@ void FillDefaults(SQLite::Database& database, const TextTable& defaults) {
         update.bind(3, cell("Name").value_or(""));
         update.bind(4, WholeCell(defaults, cell("Dim1"), 1));
         update.bind(5, WholeCell(defaults, cell("Dim2"), 1));
-        if (update.exec() != 1) throw TextTableError(defaults.name + ": no cell " + cell("Name").value_or(""));
+        if (update.exec() != 1)
+            throw TextTableError(defaults.name + ": no cell " + cell("Name").value_or(""));
     }
 }
 
@@ -148,7 +149,8 @@ void MakeCatalogue(const Path& data, const Path& file) {
         for (const TableDefinition& definition : CatalogueTables()) {
             const Path folder = data / "catalogue";
             const bool isVariable = definition.name == "Variable";
-            FillTable(database, definition, isVariable ? ReadVariables(folder) : ReadTable(folder, definition.name));
+            FillTable(database, definition,
+                      isVariable ? ReadVariables(folder) : ReadTable(folder, definition.name));
         }
     });
 }

@@ -61,7 +61,9 @@ TextTable ParseTextTable(const std::string& name, std::string_view content) {
             continue;
         }
         if (cells.size() != table.columns.size()) {
-            Fail(name, number, std::to_string(cells.size()) + " cells for " + std::to_string(table.columns.size()) + " columns");
+            Fail(name, number,
+                 std::to_string(cells.size()) + " cells for " + std::to_string(table.columns.size()) +
+                     " columns");
         }
         auto& row = table.rows.emplace_back();
         for (const std::string_view cell : cells) row.push_back(Unescape(name, number, cell));

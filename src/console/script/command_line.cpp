@@ -6,7 +6,9 @@ namespace kelvor {
 
 namespace {
 
-constexpr bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
+constexpr bool IsBlank(char c) {
+    return c == ' ' || c == '\t' || c == '\r';
+}
 
 char Unescape(char c) {
     switch (c) {
@@ -28,7 +30,8 @@ std::string TakeQuoted(std::string_view line, std::size_t& position) {
     for (++position; position < line.size(); ++position) {
         if (line[position] == '"') {
             ++position;
-            if (position < line.size() && !IsBlank(line[position])) throw ScriptError("a blank must follow a closing quote");
+            if (position < line.size() && !IsBlank(line[position]))
+                throw ScriptError("a blank must follow a closing quote");
             return word;
         }
         if (line[position] != '\\') {

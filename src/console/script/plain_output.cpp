@@ -38,8 +38,8 @@ void PlainOutput::Display(const DisplayReport& display) {
 }
 
 void PlainOutput::Solve(const std::string& screen, int term, int result) {
-    stream_ << "solve " << screen << " " << term << ": " << (result == 0 ? "done" : "not solved") << " (" << result
-            << ")\n";
+    stream_ << "solve " << screen << " " << term << ": " << (result == 0 ? "done" : "not solved") << " ("
+            << result << ")\n";
 }
 
 void PlainOutput::OnMessage(const Message& message, Answer answer) {

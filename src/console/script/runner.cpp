@@ -67,7 +67,8 @@ void ChooseUnits(const Context& c) {
 
 void Set(const Context& c) {
     const Arguments& words = c.arguments;
-    if (words.count() == 3) throw ScriptError("set takes a name and a value, with both subscripts or none between them");
+    if (words.count() == 3)
+        throw ScriptError("set takes a name and a value, with both subscripts or none between them");
     if (words.count() == 2) {
         c.driver.Set({words[0], 1, 1}, words[1]);
     } else {
@@ -98,7 +99,9 @@ void Solve(const Context& c) {
     c.output.Solve(screen, term, result);
 }
 
-void NotAvailableYet(const Context& /*context*/) { throw ScriptError("not available yet"); }
+void NotAvailableYet(const Context& /*context*/) {
+    throw ScriptError("not available yet");
+}
 
 struct Command {
     std::string_view name;
@@ -126,8 +129,9 @@ constexpr std::array kCommands = {
 
 /// The commands of screens and reports.
 constexpr std::array<std::string_view, 22> kAwaitedCommands = {
-    "form", "forms", "focus", "type",       "key",  "press",    "choose",   "tab",      "menu",    "cell",   "row", "delete-row",
-    "read", "grid",  "controls", "chart", "report", "print", "previews", "preview", "export", "table",
+    "form",   "forms", "focus",    "type",       "key",    "press", "choose",   "tab",
+    "menu",   "cell",  "row",      "delete-row", "read",   "grid",  "controls", "chart",
+    "report", "print", "previews", "preview",    "export", "table",
 };
 
 const Command& FindCommand(const std::string& name) {
@@ -135,7 +139,8 @@ const Command& FindCommand(const std::string& name) {
     const auto command =
         std::find_if(kCommands.begin(), kCommands.end(), [&](const Command& c) { return c.name == name; });
     if (command != kCommands.end()) return *command;
-    if (std::find(kAwaitedCommands.begin(), kAwaitedCommands.end(), name) != kAwaitedCommands.end()) return kAwaited;
+    if (std::find(kAwaitedCommands.begin(), kAwaitedCommands.end(), name) != kAwaitedCommands.end())
+        return kAwaited;
     throw ScriptError("unknown command");
 }
 

@@ -72,6 +72,8 @@ class BracketSearch {
 
 }  // namespace
 
-SearchResult SearchBracket(const SearchProblem& problem, Clock& clock) { return BracketSearch(problem, clock).Run(); }
+SearchResult SearchBracket(const SearchProblem& problem, Clock& clock) {
+    return BracketSearch(problem, clock).Run();
+}
 
 }  // namespace kelvor

@@ -9,9 +9,9 @@ namespace kelvor {
 
 /// A search for the x at which a rising traffic function meets a target.
 struct SearchProblem {
-    Real low;   // where the bracket starts
+    Real low;  // where the bracket starts
     Real high;
-    bool lowers = true;                        // a target below the bracket lowers it; else it ends the search
+    bool lowers = true;  // a target below the bracket lowers it; else it ends the search
     std::function<void(Real, Real&)> traffic;  // the traffic at x; leaves it as it was on a fault
     std::function<Real()> target;              // read anew at every comparison
 };

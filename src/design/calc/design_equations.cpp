@@ -68,7 +68,8 @@ void EvaluateE18(CalcContext& context, std::string_view pavementType, Real x, Re
                  const std::array<std::string_view, 8>& names) {
     const auto cell = [&](std::size_t i) { return context.store.Resolve(names[i]); };
     if (EqualNoCase(pavementType, "Rigid")) {
-        EvaluateRigid(context, {cell(0), cell(1), cell(2), cell(3), cell(4), cell(5), cell(6), cell(7)}, x, w18);
+        EvaluateRigid(context, {cell(0), cell(1), cell(2), cell(3), cell(4), cell(5), cell(6), cell(7)}, x,
+                      w18);
     } else if (EqualNoCase(pavementType, "Flexible") || EqualNoCase(pavementType, "Flex")) {
         EvaluateFlexible(context, {cell(0), cell(1), cell(2), cell(3)}, x, w18);
     }

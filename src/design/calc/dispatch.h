@@ -44,7 +44,8 @@ class Dispatch {
     void CalcField(CalcContext& context, std::string_view target, std::string_view key) const;
 
     /// The same for one cell of a column.
-    void CalcCell(CalcContext& context, std::string_view target, int dim1, int dim2, std::string_view key) const;
+    void CalcCell(CalcContext& context, std::string_view target, int dim1, int dim2,
+                  std::string_view key) const;
 
     /// All keys served, of both kinds.
     [[nodiscard]] std::vector<std::string_view> FieldKeys() const;

@@ -10,7 +10,8 @@ namespace kelvor {
 namespace {
 
 constexpr FlexibleNames kNewFlexible = {"SN", "FLEXE18", "FLEXREL", "FLEXDEV", "RM", "FLEXPO", "FLEXPT"};
-constexpr FlexibleNames kAcOfAc = {"ACACFUTSN", "FLEXE18", "ACACREL", "ACACDEV", "EXISTRM", "ACACPO", "ACACPT"};
+constexpr FlexibleNames kAcOfAc = {"ACACFUTSN", "FLEXE18", "ACACREL", "ACACDEV",
+                                   "EXISTRM",   "ACACPO",  "ACACPT"};
 constexpr FlexibleNames kAcOfFractured = {"ACCSFUTSN", "FLEXE18", "ACCSREL", "ACCSDEV",
                                           "EXISTRM2",  "ACCSPO",  "ACCSPT"};
 
@@ -31,19 +32,16 @@ constexpr EquationScreen Flexible(std::string_view screen, const FlexibleNames& 
     return {screen, firstTerm, &names, nullptr};
 }
 
-constexpr EquationScreen Rigid(std::string_view screen, const RigidNames& names) { return {screen, 1, nullptr, &names}; }
+constexpr EquationScreen Rigid(std::string_view screen, const RigidNames& names) {
+    return {screen, 1, nullptr, &names};
+}
 
 constexpr std::array kEquations = {
-    Flexible("DeF", kNewFlexible),
-    Rigid("DeR", kNewRigid),
-    Rigid("DeS", kNewRigid),
-    Flexible("DeS", kNewFlexible, static_cast<int>(kRigidTerms) + 1),
-    Flexible("OvAA", kAcOfAc),
-    Flexible("OvAFP", kAcOfFractured),
-    Rigid("OvAP", kAcOfPcc),
-    Rigid("OvAAP", kAcOfComposite),
-    Rigid("OvBP", kBonded),
-    Rigid("OvUP", kUnbonded),
+    Flexible("DeF", kNewFlexible), Rigid("DeR", kNewRigid),
+    Rigid("DeS", kNewRigid),       Flexible("DeS", kNewFlexible, static_cast<int>(kRigidTerms) + 1),
+    Flexible("OvAA", kAcOfAc),     Flexible("OvAFP", kAcOfFractured),
+    Rigid("OvAP", kAcOfPcc),       Rigid("OvAAP", kAcOfComposite),
+    Rigid("OvBP", kBonded),        Rigid("OvUP", kUnbonded),
     Rigid("OvWT", kWhitetopping),
 };
 
@@ -54,7 +52,9 @@ std::span<const std::string_view> EquationScreen::Terms() const {
     return *rigid;
 }
 
-std::span<const EquationScreen> EquationScreens() { return kEquations; }
+std::span<const EquationScreen> EquationScreens() {
+    return kEquations;
+}
 
 const EquationScreen* FindEquation(std::string_view screen, int term) {
     const EquationScreen* found = nullptr;

@@ -16,7 +16,8 @@ constexpr double kHighestStart = 30.0;
 /// log10((P0 - Pt) / 2.7) / (0.40 + 1094 / (SN + 1)^5.19) + 2.32 log10 MR - 8.07.
 class FlexibleSolver {
   public:
-    FlexibleSolver(CalcContext& context, const FlexibleNames& names) : context_(context), terms_(context.store, names) {}
+    FlexibleSolver(CalcContext& context, const FlexibleNames& names)
+        : context_(context), terms_(context.store, names) {}
 
     int Solve(int term) {
         return RunSolve(context_, term, terms_, [&] {

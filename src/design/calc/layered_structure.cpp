@@ -41,6 +41,8 @@ constexpr std::array kCells = {CellKeyRoutine{"LDLayerStructNo", CalcLayerStruct
 
 }  // namespace
 
-KeyTable LayeredStructureKeys() { return {kFields, kCells}; }
+KeyTable LayeredStructureKeys() {
+    return {kFields, kCells};
+}
 
 }  // namespace kelvor

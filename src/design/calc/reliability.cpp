@@ -13,9 +13,9 @@ struct Row {
 };
 
 constexpr std::array kTable = {
-    Row{50, 0},       Row{60, -0.253},  Row{70, -0.524},  Row{75, -0.674},  Row{80, -0.841},    Row{85, -1.037},
-    Row{90, -1.282},  Row{91, -1.34},   Row{92, -1.405},  Row{93, -1.476},  Row{94, -1.555},    Row{95, -1.645},
-    Row{96, -1.751},  Row{97, -1.881},  Row{98, -2.054},  Row{99, -2.327},  Row{99.99, -3.75},
+    Row{50, 0},      Row{60, -0.253}, Row{70, -0.524}, Row{75, -0.674}, Row{80, -0.841},   Row{85, -1.037},
+    Row{90, -1.282}, Row{91, -1.34},  Row{92, -1.405}, Row{93, -1.476}, Row{94, -1.555},   Row{95, -1.645},
+    Row{96, -1.751}, Row{97, -1.881}, Row{98, -2.054}, Row{99, -2.327}, Row{99.99, -3.75},
 };
 
 /// The row that ends the interval 75 to 80.
@@ -30,11 +30,15 @@ ReliabilityInterval IntervalEndingAt(std::size_t row) {
 }
 
 /// The bound below which a reliability lies in the interval that ends at a row.
-double UpperBound(std::size_t row) { return row + 1 == kTable.size() ? kFullReliability : kTable[row].reliability; }
+double UpperBound(std::size_t row) {
+    return row + 1 == kTable.size() ? kFullReliability : kTable[row].reliability;
+}
 
 /// What a deviate must exceed to lie in the interval that ends at a row. The sign at 80 is positive,
 /// unlike all others, so no deviate ever lies in the interval 75 to 80.
-double DeviateBound(std::size_t row) { return row == kRow80 ? -kTable[row].zr : kTable[row].zr; }
+double DeviateBound(std::size_t row) {
+    return row == kRow80 ? -kTable[row].zr : kTable[row].zr;
+}
 
 /// The number of the first row, from 1, that satisfies a test; the size of the table if none does.
 template <typename Test>
@@ -65,9 +69,11 @@ int ZRToReliability(Dialogs& dialogs, Real& reliability, Real zr) {
     }
     try {
         const std::size_t row = FirstRow([&](std::size_t i) { return zr > DeviateBound(i); });
-        const ReliabilityInterval interval = row < kTable.size() ? IntervalEndingAt(row) : ReliabilityInterval{};
+        const ReliabilityInterval interval =
+            row < kTable.size() ? IntervalEndingAt(row) : ReliabilityInterval{};
         const Real fraction = (zr - interval.lowerZR) / (interval.upperZR - interval.lowerZR);
-        reliability = (interval.upperReliability - interval.lowerReliability) * fraction + interval.lowerReliability;
+        reliability =
+            (interval.upperReliability - interval.lowerReliability) * fraction + interval.lowerReliability;
         return 0;
     } catch (const ArithmeticFault&) {
         ReportMathOverflow(dialogs);

@@ -18,7 +18,8 @@ constexpr double kThickestSlab = 20.0;  // inches; also where the search starts 
 /// ratio = MR Cd (D^0.75 - 1.132) / (215.63 J (D^0.75 - 18.42 / (Ec / k)^0.25)).
 class RigidSolver {
   public:
-    RigidSolver(CalcContext& context, const RigidNames& names) : context_(context), terms_(context.store, names) {}
+    RigidSolver(CalcContext& context, const RigidNames& names)
+        : context_(context), terms_(context.store, names) {}
 
     int Solve(int term) {
         return RunSolve(context_, term, terms_, [&] {
@@ -38,7 +39,8 @@ class RigidSolver {
         ServTerm = Log((Value(kP0) - Value(kPt)) / 3.0) / Ln10;
         ServDiv = 1.0 / (1.0 + 1.624e7 / Pow(D + 1.0, 8.46));
         PtTerm = 4.22 - 0.32 * Value(kPt);
-        RatioTerm = Log(Value(kMR) * Value(kCd) * (t() - 1.132) / (215.63 * Value(kJ) * (t() - Stiffness()))) / Ln10;
+        RatioTerm =
+            Log(Value(kMR) * Value(kCd) * (t() - 1.132) / (215.63 * Value(kJ) * (t() - Stiffness()))) / Ln10;
     }
 
     int SolveCase(int term) {
@@ -52,15 +54,18 @@ class RigidSolver {
             case kS0:
                 return Write(term, DeviateTimesDeviation() / context_.reliability.ZR);
             case kMR:
-                return Write(term, Y() / (Value(kCd) * (t() - 1.132) / (215.63 * Value(kJ) * (t() - Stiffness()))));
+                return Write(term,
+                             Y() / (Value(kCd) * (t() - 1.132) / (215.63 * Value(kJ) * (t() - Stiffness()))));
             case kEc:
                 return Write(term, Pow(-18.42 / (q() - t()), 4.0) * Value(kk));
             case kJ:
-                return Write(term, (Value(kMR) * Value(kCd) * (t() - 1.132) / (215.63 * (t() - Stiffness()))) / Y());
+                return Write(
+                    term, (Value(kMR) * Value(kCd) * (t() - 1.132) / (215.63 * (t() - Stiffness()))) / Y());
             case kk:
                 return Write(term, Value(kEc) / Pow(-18.42 / (q() - t()), 4.0));
             case kCd:
-                return Write(term, Y() / (Value(kMR) * (t() - 1.132) / (215.63 * Value(kJ) * (t() - Stiffness()))));
+                return Write(term,
+                             Y() / (Value(kMR) * (t() - 1.132) / (215.63 * Value(kJ) * (t() - Stiffness()))));
             case kP0:
                 return Write(term, Value(kPt) + ServiceabilityLoss());
             default:
@@ -131,7 +136,9 @@ class RigidSolver {
         problem.low = LowestStart();
         problem.high = kThickestSlab;
         problem.lowers = false;
-        problem.traffic = [this, inputs = Inputs()](Real D, Real& w18) { EvaluateRigid(context_, inputs, D, w18); };
+        problem.traffic = [this, inputs = Inputs()](Real D, Real& w18) {
+            EvaluateRigid(context_, inputs, D, w18);
+        };
         problem.target = [this] { return Value(kW18); };
         const SearchResult result = SearchBracket(problem, context_.clock);
         if (result.end == SearchEnd::BelowBracket) {

@@ -47,7 +47,8 @@ class TermCells {
 /// a message if another term is missing, and runs the case; an arithmetic fault anywhere in it shows the
 /// overflow message and fails the solve.
 template <std::size_t Count>
-int RunSolve(CalcContext& context, int term, const TermCells<Count>& terms, const std::function<int()>& solveCase) {
+int RunSolve(CalcContext& context, int term, const TermCells<Count>& terms,
+             const std::function<int()>& solveCase) {
     try {
         const Real reliability = terms.Value(kReliabilityTerm);
         if (term != kReliabilityTerm && reliability != 0.0) {

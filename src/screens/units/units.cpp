@@ -10,7 +10,9 @@ std::optional<std::string> BlankToNull(std::string_view text) {
     return text.empty() ? std::nullopt : std::optional(std::string(text));
 }
 
-std::string BlankToZero(std::string_view text) { return text.empty() ? "0" : std::string(text); }
+std::string BlankToZero(std::string_view text) {
+    return text.empty() ? "0" : std::string(text);
+}
 
 double Units::UnitFactor(std::string_view englishUnit) const {
     if (!metric_) return 1.0;
@@ -54,11 +56,13 @@ std::optional<double> Units::ToEnglish(const Variable* variable, std::optional<d
 
 void Units::SetDisplayValue(std::string_view variable, int dim1, int dim2, std::string_view value) {
     const auto number = IsNumeric(value) ? std::optional(ParseNumber(value)) : std::nullopt;
-    store_.SetCell(variable, dim1, dim2, {ToEnglish(catalogue_.FindVariable(variable), number), BlankToNull(value)});
+    store_.SetCell(variable, dim1, dim2,
+                   {ToEnglish(catalogue_.FindVariable(variable), number), BlankToNull(value)});
 }
 
 void Units::SetDisplayNumber(std::string_view variable, int dim1, int dim2, double value) {
-    store_.SetCell(variable, dim1, dim2, {ToEnglish(catalogue_.FindVariable(variable), value), NumberToText(value)});
+    store_.SetCell(variable, dim1, dim2,
+                   {ToEnglish(catalogue_.FindVariable(variable), value), NumberToText(value)});
 }
 
 }  // namespace kelvor

@@ -54,7 +54,8 @@ class Units {
     void SetDisplayNumber(std::string_view variable, int dim1, int dim2, double value);
 
   private:
-    [[nodiscard]] std::optional<double> ToEnglish(const Variable* variable, std::optional<double> value) const;
+    [[nodiscard]] std::optional<double> ToEnglish(const Variable* variable,
+                                                  std::optional<double> value) const;
 
     const Catalogue& catalogue_;
     ProjectStore& store_;

@@ -13,7 +13,9 @@ std::string CellText(std::string_view name, int dim1, int dim2) {
     return std::string(name) + "(" + std::to_string(dim1) + "," + std::to_string(dim2) + ")";
 }
 
-ProjectStore::~ProjectStore() { Abandon(); }
+ProjectStore::~ProjectStore() {
+    Abandon();
+}
 
 // --- Opening and closing -----------------------------------------------------------------------
 
@@ -30,7 +32,8 @@ void ProjectStore::Open(const Path& workCopy, const std::vector<CellBounds>& bou
 
 void ProjectStore::Load(const std::vector<CellBounds>& bounds) {
     std::size_t expected = 0;
-    for (const CellBounds& variable : bounds) expected += static_cast<std::size_t>(variable.dim1 * variable.dim2);
+    for (const CellBounds& variable : bounds)
+        expected += static_cast<std::size_t>(variable.dim1 * variable.dim2);
     cells_.reserve(expected);
     variables_.reserve(bounds.size());
     byName_.reserve(bounds.size());
@@ -47,7 +50,8 @@ void ProjectStore::AddCell(CellKey key, CellValue value) {
         variables_.push_back({std::move(key.name), static_cast<std::uint32_t>(cells_.size()), 0, 0});
     }
     ++variables_.back().count;
-    cells_.push_back({static_cast<std::uint32_t>(variables_.size() - 1), key.dim1, key.dim2, std::move(value), false});
+    cells_.push_back(
+        {static_cast<std::uint32_t>(variables_.size() - 1), key.dim1, key.dim2, std::move(value), false});
 }
 
 void ProjectStore::MarkBlocks() {
@@ -113,9 +117,9 @@ std::optional<std::uint32_t> ProjectStore::Index(std::string_view name, int dim1
     }
     const auto begin = cells_.begin() + variable->first;
     const auto end = begin + variable->count;
-    const auto cell = std::lower_bound(begin, end, std::pair(dim1, dim2), [](const Cell& c, const std::pair<int, int>& key) {
-        return std::pair(c.dim1, c.dim2) < key;
-    });
+    const auto cell = std::lower_bound(
+        begin, end, std::pair(dim1, dim2),
+        [](const Cell& c, const std::pair<int, int>& key) { return std::pair(c.dim1, c.dim2) < key; });
     if (cell == end || cell->dim1 != dim1 || cell->dim2 != dim2) return std::nullopt;
     return static_cast<std::uint32_t>(cell - cells_.begin());
 }
@@ -244,7 +248,8 @@ std::vector<std::string> ProjectStore::CompareWithWorkCopy() {
     workCopy_->ReadRows([&](const CellKey& key, const CellValue& value) {
         ++rows;
         const CellValue* cell = FindCell(key.name, key.dim1, key.dim2);
-        if (cell == nullptr || !(*cell == value)) differences.push_back(CellText(key.name, key.dim1, key.dim2));
+        if (cell == nullptr || !(*cell == value))
+            differences.push_back(CellText(key.name, key.dim1, key.dim2));
     });
     if (rows != cells_.size()) differences.emplace_back("number of rows");
     return differences;

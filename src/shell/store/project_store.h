@@ -100,7 +100,9 @@ class ProjectStore {
 
     /// Stops the program if there is no such cell.
     [[nodiscard]] CellHandle Resolve(std::string_view name, int dim1 = 1, int dim2 = 1) const;
-    [[nodiscard]] double Number(CellHandle cell) const { return cells_[cell.index_].value.number.value_or(0.0); }
+    [[nodiscard]] double Number(CellHandle cell) const {
+        return cells_[cell.index_].value.number.value_or(0.0);
+    }
     void SetNumber(CellHandle cell, double value);
 
     // --- Aggregates ----------------------------------------------------------------------------

@@ -16,12 +16,14 @@ const char* const kProjectTable =
 
 namespace {
 
-const char* const kUpdate = "UPDATE Project SET RValue = ?1, SValue = ?2 WHERE Name = ?3 AND Dim1 = ?4 AND Dim2 = ?5";
+const char* const kUpdate =
+    "UPDATE Project SET RValue = ?1, SValue = ?2 WHERE Name = ?3 AND Dim1 = ?4 AND Dim2 = ?5";
 
 /// A table of the same name but another make would answer our statements in other ways.
 void CheckProject(SQLite::Database& database, bool checkPages) {
     CheckShape(database, {{"Project", {"Name", "Dim1", "Dim2", "RValue", "SValue"}}}, true);
-    const std::string made = database.execAndGet("SELECT sql FROM sqlite_schema WHERE type = 'table'").getString();
+    const std::string made =
+        database.execAndGet("SELECT sql FROM sqlite_schema WHERE type = 'table'").getString();
     if (made != kProjectTable) throw DatabaseError("table Project is not made as a project's", false);
     if (!checkPages) return;
     const std::string verdict = database.execAndGet("PRAGMA quick_check(1)").getString();
@@ -31,7 +33,8 @@ void CheckProject(SQLite::Database& database, bool checkPages) {
 SQLite::Database OpenProject(const Path& path, bool checkPages) {
     SQLite::Database database = OpenDatabase(path, DatabaseAccess::ReadWrite);
     try {
-        database.exec("PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = DELETE; PRAGMA synchronous = OFF");
+        database.exec(
+            "PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = DELETE; PRAGMA synchronous = OFF");
         CheckProject(database, checkPages);
     } catch (const SQLite::Exception& failure) {
         throw ToDatabaseError(failure);
@@ -72,9 +75,11 @@ WorkCopy::WorkCopy(const Path& path, bool checkPages)
 
 void WorkCopy::ReadRows(const std::function<void(CellKey, CellValue)>& visit) {
     Run([&] {
-        SQLite::Statement rows(database_, "SELECT Name, Dim1, Dim2, RValue, SValue FROM Project ORDER BY Name, Dim1, Dim2");
+        SQLite::Statement rows(
+            database_, "SELECT Name, Dim1, Dim2, RValue, SValue FROM Project ORDER BY Name, Dim1, Dim2");
         while (rows.executeStep()) {
-            CellKey key{rows.getColumn(0).getString(), Subscript(rows.getColumn(1)), Subscript(rows.getColumn(2))};
+            CellKey key{rows.getColumn(0).getString(), Subscript(rows.getColumn(1)),
+                        Subscript(rows.getColumn(2))};
             visit(std::move(key), {Number(rows.getColumn(3)), Text(rows.getColumn(4))});
         }
     });

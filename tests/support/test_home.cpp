@@ -1,0 +1,64 @@
+#include "support/test_home.h"
+
+#include <stdlib.h>  // NOLINT(modernize-deprecated-headers): mkdtemp
+
+#include <algorithm>
+#include <cstdint>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <system_error>
+#include <vector>
+
+namespace kelvor::test {
+
+TemporaryFolder::TemporaryFolder() {
+    std::string name = (std::filesystem::temp_directory_path() / "kelvor-test-XXXXXX").string();
+    if (::mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder can be made");
+    path_ = name;
+}
+
+TemporaryFolder::~TemporaryFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+}
+
+TestHome::TestHome() {
+    const Path built = KELVOR_HOME_FOLDER;
+    std::filesystem::copy(built / "DataBase", folder_ / "DataBase", std::filesystem::copy_options::recursive);
+    std::filesystem::copy(built / "kvor.ini", folder_ / "kvor.ini");
+    std::filesystem::copy(built / "kvrwork.tpl", folder_ / "kvrwork.tpl");
+}
+
+std::string ReadFile(const Path& path) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file) throw std::runtime_error("cannot read " + path.string());
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void WriteFile(const Path& path, const std::string& content) {
+    std::ofstream file(path, std::ios::binary | std::ios::trunc);
+    file << content;
+    if (!file.flush()) throw std::runtime_error("cannot write " + path.string());
+}
+
+std::string Checksum(const Path& folder) {
+    std::vector<std::string> lines;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+        std::string line = entry.path().lexically_relative(folder).string();
+        if (entry.is_regular_file()) {
+            std::uint64_t hash = 14695981039346656037ULL;
+            for (const char c : ReadFile(entry.path())) {
+                hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211ULL;
+            }
+            line += " " + std::to_string(entry.file_size()) + " " + std::to_string(hash);
+        }
+        lines.push_back(line);
+    }
+    std::sort(lines.begin(), lines.end());
+    std::string all;
+    for (const std::string& line : lines) all += line + "\n";
+    return all;
+}
+
+}  // namespace kelvor::test
