@@ -1,0 +1,216 @@
+#include "catalogue_checks.h"
+
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <set>
+#include <span>
+
+#include "design/calc/equation_screens.h"
+#include "platform/number_picture.h"
+#include "shell/calculations.h"
+
+namespace kelvor::test {
+
+namespace {
+
+/// The variables whose limits are exactly 0 and 20: concrete thicknesses, inches.
+const std::set<std::string, std::less<>> kConcreteThicknesses = {
+    "DEPTH",       "ACPCFUTD",     "ACACPCFUTD", "BOLFUTDEPTH", "UBOLFUTDEPTH",
+    "WTDEPTH",     "EXISTDEPTH",   "ACACPCACT",  "ACPCEFFD",    "ACACPCEFFD",
+    "BOLEFFDEPTH", "UBOLEFFDEPTH", "BOLDEPTH",   "UBOLDEPTH",   "TrafficDEPTH",
+};
+
+/// What must be calculated before what, by key: on one screen the needed output stands first.
+const std::multimap<std::string, std::string, std::less<>> kNeeds = {
+    {"SSN", "LDLayerStructNo"},
+    {"LDAdditThick", "SSN"},
+    {"EXISTEFSNSUM", "EXISTEFSN"},
+    {"SNEFFTOT", "EXISTEFSN"},
+    {"ACACTHICK", "ACACEFFSN"},
+    {"ACCSTHICK", "ACCSEFFSN"},
+    {"ACACPCOLT", "ACACPCEFFD"},
+    {"ACPCOLT", "ACPCEFFD"},
+    {"BOLDEPTH", "BOLEFFDEPTH"},
+    {"UBOLDEPTH", "UBOLEFFDEPTH"},
+    {"NDTEFFEP", "NDTRM"},
+    {"AVGNDTRM", "NDTRM"},
+    {"AVGNDTEFFEP", "NDTEFFEP"},
+    {"BACKL", "AREA"},
+    {"DYNK", "BACKL"},
+    {"STATK", "DYNK"},
+    {"NDTE", "DYNK"},
+    {"AVGBACKL", "BACKL"},
+    {"AVGSTATK", "STATK"},
+    {"AVGNDTE", "NDTE"},
+    {"BACKLC", "AREAC"},
+    {"DYNKC", "BACKLC"},
+    {"STATKC", "DYNKC"},
+    {"NDTEC", "DYNKC"},
+    {"AVGBACKLC", "BACKLC"},
+    {"AVGSTATKC", "STATKC"},
+    {"AVGNDTEC", "NDTEC"},
+    {"TrRE18T", "TrRE18"},
+    {"TrFE18T", "TrFE18"},
+    {"PWCostR", "RehabItemCost"},
+    {"ItemTotal2", "InitialItem"},
+    {"ItemTotal4", "RehabItemCost"},
+    {"PrWorthTotal4", "PWCostR"},
+};
+
+class Checker {
+  public:
+    Checker(Catalogue& catalogue, const Dispatch& calculations)
+        : catalogue_(catalogue), calculations_(calculations) {}
+
+    std::vector<std::string> Run() {
+        for (const Variable& variable : catalogue_.variables()) CheckVariable(variable);
+        for (const Field& field : catalogue_.fields()) CheckField(field);
+        for (const EquationScreen& equation : EquationScreens()) CheckEquation(equation);
+        for (const Screen& screen : catalogue_.screens()) CheckOutputOrder(screen.name);
+        CheckUnitPairs();
+        CheckHelpSentences();
+        return faults_;
+    }
+
+  private:
+    void Fault(const std::string& rule, const std::string& where) { faults_.push_back(rule + ": " + where); }
+
+    void CheckVariable(const Variable& variable) {
+        if (!IsNumberPicture(variable.format)) Fault("picture", variable.name);
+        if (variable.desc.empty()) Fault("description", variable.name);
+        if (catalogue_.FindPairByEnglish(variable.units) == nullptr) Fault("unit", variable.name);
+        if (variable.dim1 < 1 || variable.dim2 < 1) Fault("bounds", variable.name);
+        if (variable.low && variable.high && *variable.low > *variable.high) Fault("limits", variable.name);
+        if (variable.lowMetric && variable.highMetric && *variable.lowMetric > *variable.highMetric) {
+            Fault("limits", variable.name);
+        }
+        const bool limitsOfConcrete = variable.low == 0.0 && variable.high == 20.0;
+        if (limitsOfConcrete != kConcreteThicknesses.contains(variable.name))
+            Fault("concrete", variable.name);
+    }
+
+    void CheckField(const Field& field) {
+        const std::string where = field.screen + "." + field.name;
+        if (catalogue_.FindScreen(field.screen) == nullptr) Fault("screen", where);
+        if (field.IsGrid()) return;  // the grid itself is no variable
+        const Variable* variable = catalogue_.FindVariable(field.name);
+        if (variable == nullptr) {
+            Fault("variable", where);
+            return;
+        }
+        if (variable->helpHead.empty() || !catalogue_.HelpText(field.name)) Fault("help", where);
+        if (!variable->IsText() && !field.IsOutput()) CheckLimits(*variable, where);
+        CheckSolveFor(field, where);
+        if (field.IsOutput()) CheckOutput(field, where);
+    }
+
+    void CheckLimits(const Variable& variable, const std::string& where) {
+        if (!variable.low || !variable.high || !variable.lowMetric || !variable.highMetric)
+            Fault("range", where);
+        // Whatever is allowed in English is allowed in metric units too.
+        const UnitPair* pair = catalogue_.FindPairByEnglish(variable.units);
+        if (pair == nullptr) return;
+        if (variable.high && variable.highMetric &&
+            *variable.high * pair->factor > *variable.highMetric * 1.0000001) {
+            Fault("metric limits", where);
+        }
+        if (variable.low && variable.lowMetric &&
+            *variable.low * pair->factor < *variable.lowMetric * 0.9999999) {
+            Fault("metric limits", where);
+        }
+    }
+
+    /// Only the terms of an equation can be solved for, and only they stand below 19.
+    void CheckSolveFor(const Field& field, const std::string& where) {
+        const auto term = TermNumber(field.screen, field.name);
+        if (term) {
+            if (field.seq != term || field.solveFor != 1.0) Fault("term", where);
+        } else if (field.solveFor || (LastTerm(field.screen) > 0 && field.seq.value_or(0) < 19)) {
+            Fault("term", where);
+        }
+    }
+
+    void CheckOutput(const Field& field, const std::string& where) {
+        const auto contains = [&](std::span<const std::string_view> keys) {
+            return std::find(keys.begin(), keys.end(), field.equation) != keys.end();
+        };
+        const bool known = field.IsColumn()
+                               ? contains(calculations_.CellKeys()) || contains(AwaitedCellKeys())
+                               : contains(calculations_.FieldKeys()) || contains(AwaitedFieldKeys());
+        if (!known) Fault("equation", where);
+    }
+
+    void CheckOutputOrder(const std::string& screen) {
+        const auto outputs = catalogue_.OutputsOfScreen(screen);
+        for (auto output = outputs.begin(); output != outputs.end(); ++output) {
+            const auto [first, last] = kNeeds.equal_range((*output)->equation);
+            for (auto need = first; need != last; ++need) {
+                const bool later = std::any_of(output + 1, outputs.end(), [&](const Field* field) {
+                    return field->equation == need->second;
+                });
+                if (later) Fault("order", screen + "." + (*output)->name);
+            }
+        }
+    }
+
+    void CheckEquation(const EquationScreen& equation) {
+        for (const std::string_view term : equation.Terms()) {
+            const auto fields = catalogue_.FieldsOfScreen(equation.screen);
+            const bool there = std::any_of(fields.begin(), fields.end(), [&](const Field* field) {
+                return EqualNoCase(field->name, term);
+            });
+            if (!there) Fault("missing term", std::string(equation.screen) + "." + std::string(term));
+        }
+    }
+
+    void CheckUnitPairs() {
+        const auto& pairs = catalogue_.unitPairs();
+        if (pairs.empty() || pairs.front().english != "in" || pairs.front().metric != "mm")
+            Fault("first pair", "in");
+        for (const UnitPair& pair : pairs) {
+            if (catalogue_.FindPairByEnglish(pair.english) != &pair) Fault("pair twice", pair.english);
+            if (catalogue_.FindPairByMetric(pair.metric) != &pair) Fault("pair twice", pair.metric);
+        }
+    }
+
+    /// A sentence that serves many fields says nothing about any of them.
+    void CheckHelpSentences() {
+        std::map<std::string, int> count;
+        for (const Variable& variable : catalogue_.variables()) {
+            const auto text = catalogue_.HelpText(variable.name);
+            if (!text) continue;
+            for (const std::string& sentence : Sentences(*text)) ++count[sentence];
+        }
+        for (const auto& [sentence, times] : count) {
+            if (times > 3) Fault("repeated help", sentence);
+        }
+    }
+
+    static std::vector<std::string> Sentences(const std::string& text) {
+        std::vector<std::string> sentences(1);
+        for (std::size_t i = 0; i < text.size(); ++i) {
+            const bool ends =
+                text[i] == '\n' || (text[i] == '.' && (i + 1 == text.size() || text[i + 1] == ' '));
+            if (text[i] != '\n') sentences.back().push_back(text[i]);
+            if (ends) sentences.emplace_back();
+        }
+        std::erase_if(sentences, [](std::string& sentence) {
+            sentence.erase(0, sentence.find_first_not_of(' '));
+            return sentence.empty();
+        });
+        return sentences;
+    }
+
+    Catalogue& catalogue_;
+    const Dispatch& calculations_;
+    std::vector<std::string> faults_;
+};
+
+}  // namespace
+
+std::vector<std::string> CheckCatalogue(Catalogue& catalogue, const Dispatch& calculations) {
+    return Checker(catalogue, calculations).Run();
+}
+
+}  // namespace kelvor::test
