@@ -27,18 +27,10 @@ void ModelDriver::New() {
     if (!program_.NewProject()) throw ProgramStop("no new project can be made");
 }
 
-void ModelDriver::Open(const std::string& path) {
-    program_.OpenProject(path);
-}
-void ModelDriver::Save() {
-    program_.Save();
-}
-void ModelDriver::SaveAs(const std::string& path) {
-    program_.SaveAs(path);
-}
-void ModelDriver::ChooseUnits(bool metric) {
-    program_.ChooseUnits(metric);
-}
+void ModelDriver::Open(const std::string& path) { program_.OpenProject(path); }
+void ModelDriver::Save() { program_.Save(); }
+void ModelDriver::SaveAs(const std::string& path) { program_.SaveAs(path); }
+void ModelDriver::ChooseUnits(bool metric) { program_.ChooseUnits(metric); }
 
 CellReport ModelDriver::Get(const CellKey& key) {
     const ProjectStore& store = program_.state().dbWork;
@@ -70,9 +62,7 @@ std::vector<CellReport> ModelDriver::Dump(const std::string& pattern) {
     return cells;
 }
 
-void ModelDriver::Calc(const std::string& key, const std::string& target) {
-    program_.CalcField(target, key);
-}
+void ModelDriver::Calc(const std::string& key, const std::string& target) { program_.CalcField(target, key); }
 
 void ModelDriver::CalcCell(const std::string& key, int dim1, int dim2, const std::string& target) {
     program_.CalcCell(target, dim1, dim2, key);
@@ -91,12 +81,8 @@ int ModelDriver::FindTerm(const std::string& screen, const std::string& term) {
     return *number;
 }
 
-int ModelDriver::Solve(const std::string& screen, int term) {
-    return program_.Solve(screen, term);
-}
+int ModelDriver::Solve(const std::string& screen, int term) { return program_.Solve(screen, term); }
 
-void ModelDriver::QueueAnswer(const std::string& text) {
-    dialogs_.QueueAnswer(text);
-}
+void ModelDriver::QueueAnswer(const std::string& text) { dialogs_.QueueAnswer(text); }
 
 }  // namespace kelvor

@@ -2,8 +2,6 @@
 
 namespace kelvor {
 
-bool LinkedComponents::Prove(Component /*component*/) {
-    return true;
-}
+bool LinkedComponents::Prove(Component /*component*/) { return true; }
 
 }  // namespace kelvor

@@ -13,9 +13,7 @@ namespace kelvor {
 
 namespace {
 
-[[noreturn]] void ThrowErrno() {
-    throw FileError(std::strerror(errno));
-}
+[[noreturn]] void ThrowErrno() { throw FileError(std::strerror(errno)); }
 
 void ThrowIf(const std::error_code& error) {
     if (error) throw FileError(error.message());

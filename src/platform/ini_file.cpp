@@ -25,9 +25,7 @@ std::vector<std::string> SplitLines(std::string_view content) {
     return lines;
 }
 
-bool IsSectionLine(std::string_view line) {
-    return TrimBlanks(line).starts_with('[');
-}
+bool IsSectionLine(std::string_view line) { return TrimBlanks(line).starts_with('['); }
 
 bool IsSection(std::string_view line, std::string_view section) {
     const std::string_view text = TrimBlanks(line);

@@ -21,9 +21,7 @@ struct Picture {
     bool grouped = false;
 };
 
-bool IsTextPicture(std::string_view picture) {
-    return picture.empty() || picture == "@";
-}
+bool IsTextPicture(std::string_view picture) { return picture.empty() || picture == "@"; }
 
 Picture ReadPicture(std::string_view text) {
     const std::size_t point = std::min(text.find('.'), text.size());

@@ -13,12 +13,8 @@ namespace kelvor {
 
 namespace {
 
-constexpr bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-constexpr bool IsExponentLetter(char c) {
-    return FoldLetter(c) == 'e' || FoldLetter(c) == 'd';
-}
+constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+constexpr bool IsExponentLetter(char c) { return FoldLetter(c) == 'e' || FoldLetter(c) == 'd'; }
 
 /// Takes number elements from the head of a text.
 class Scanner {

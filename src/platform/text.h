@@ -8,9 +8,7 @@
 namespace kelvor {
 
 /// The lower-case form of an ASCII letter; any other character as it is. Independent of the locale.
-constexpr char FoldLetter(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
+constexpr char FoldLetter(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
 /// Text comparison without regard to ASCII letter case, as names are compared everywhere.
 bool EqualNoCase(std::string_view a, std::string_view b);

@@ -6,9 +6,7 @@ namespace kelvor {
 
 namespace {
 
-constexpr bool IsBlank(char c) {
-    return c == ' ' || c == '\t' || c == '\r';
-}
+constexpr bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
 
 char Unescape(char c) {
     switch (c) {

@@ -18,15 +18,11 @@ Json OrNull(const std::optional<Value>& value) {
     return value ? Json(*value) : Json(nullptr);
 }
 
-Json KeyObject(const CellKey& key) {
-    return {{"name", key.name}, {"dim1", key.dim1}, {"dim2", key.dim2}};
-}
+Json KeyObject(const CellKey& key) { return {{"name", key.name}, {"dim1", key.dim1}, {"dim2", key.dim2}}; }
 
 }  // namespace
 
-const char* NameOf(FileRequest::Kind kind) {
-    return kind == FileRequest::Kind::Open ? "open" : "save";
-}
+const char* NameOf(FileRequest::Kind kind) { return kind == FileRequest::Kind::Open ? "open" : "save"; }
 
 void JsonOutput::Cell(const CellReport& cell) {
     Json object = KeyObject(cell.key);

@@ -99,9 +99,7 @@ void Solve(const Context& c) {
     c.output.Solve(screen, term, result);
 }
 
-void NotAvailableYet(const Context& /*context*/) {
-    throw ScriptError("not available yet");
-}
+void NotAvailableYet(const Context& /*context*/) { throw ScriptError("not available yet"); }
 
 struct Command {
     std::string_view name;

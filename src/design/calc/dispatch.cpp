@@ -59,11 +59,7 @@ void Dispatch::CalcCell(CalcContext& context, std::string_view target, int dim1,
     IgnoreFaults([&] { found->second(context, target, dim1, dim2); });
 }
 
-std::vector<std::string_view> Dispatch::FieldKeys() const {
-    return SortedKeys(fields_);
-}
-std::vector<std::string_view> Dispatch::CellKeys() const {
-    return SortedKeys(cells_);
-}
+std::vector<std::string_view> Dispatch::FieldKeys() const { return SortedKeys(fields_); }
+std::vector<std::string_view> Dispatch::CellKeys() const { return SortedKeys(cells_); }
 
 }  // namespace kelvor

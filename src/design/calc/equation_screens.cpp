@@ -52,9 +52,7 @@ std::span<const std::string_view> EquationScreen::Terms() const {
     return *rigid;
 }
 
-std::span<const EquationScreen> EquationScreens() {
-    return kEquations;
-}
+std::span<const EquationScreen> EquationScreens() { return kEquations; }
 
 const EquationScreen* FindEquation(std::string_view screen, int term) {
     const EquationScreen* found = nullptr;

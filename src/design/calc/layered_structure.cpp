@@ -41,8 +41,6 @@ constexpr std::array kCells = {CellKeyRoutine{"LDLayerStructNo", CalcLayerStruct
 
 }  // namespace
 
-KeyTable LayeredStructureKeys() {
-    return {kFields, kCells};
-}
+KeyTable LayeredStructureKeys() { return {kFields, kCells}; }
 
 }  // namespace kelvor

@@ -36,9 +36,7 @@ double UpperBound(std::size_t row) {
 
 /// What a deviate must exceed to lie in the interval that ends at a row. The sign at 80 is positive,
 /// unlike all others, so no deviate ever lies in the interval 75 to 80.
-double DeviateBound(std::size_t row) {
-    return row == kRow80 ? -kTable[row].zr : kTable[row].zr;
-}
+double DeviateBound(std::size_t row) { return row == kRow80 ? -kTable[row].zr : kTable[row].zr; }
 
 /// The number of the first row, from 1, that satisfies a test; the size of the table if none does.
 template <typename Test>

@@ -10,9 +10,7 @@ std::optional<std::string> BlankToNull(std::string_view text) {
     return text.empty() ? std::nullopt : std::optional(std::string(text));
 }
 
-std::string BlankToZero(std::string_view text) {
-    return text.empty() ? "0" : std::string(text);
-}
+std::string BlankToZero(std::string_view text) { return text.empty() ? "0" : std::string(text); }
 
 double Units::UnitFactor(std::string_view englishUnit) const {
     if (!metric_) return 1.0;

@@ -57,9 +57,7 @@ class DesignEquationsTest : public testing::Test {
 const FlexibleCase kFlexibleInputs{-1.645, 0.45, 5000.0, 4.2, 2.5};
 const RigidCase kRigidInputs{-1.645, 0.35, 650.0, 5e6, 3.2, 72.0, 1.0, 4.2, 2.5};
 
-TEST(Ln10Test, IsTheNaturalLogarithmOfTen) {
-    EXPECT_EQ(Ln10, std::log(10.0));
-}
+TEST(Ln10Test, IsTheNaturalLogarithmOfTen) { EXPECT_EQ(Ln10, std::log(10.0)); }
 
 TEST_F(DesignEquationsTest, TheFlexibleFormIsTheGuidesEquation) {
     SetFlexible(kFlexibleInputs);

@@ -55,12 +55,8 @@ TEST(CalculationsTest, EveryKeyIsEitherServedOrAwaitedAndNoneIsBoth) {
     EXPECT_THAT(Together(dispatch.CellKeys(), AwaitedCellKeys()), UnorderedElementsAreArray(kCellKeys));
 }
 
-void WriteSeven(CalcContext& context, std::string_view target) {
-    context.store.SetVar(target, 7.0);
-}
-void WriteEight(CalcContext& context, std::string_view target) {
-    context.store.SetVar(target, 8.0);
-}
+void WriteSeven(CalcContext& context, std::string_view target) { context.store.SetVar(target, 7.0); }
+void WriteEight(CalcContext& context, std::string_view target) { context.store.SetVar(target, 8.0); }
 void Fault(CalcContext& context, std::string_view target) {
     context.store.SetVar(target, (Real(1.0) / Real(context.store.GetVar("SN"))).value());
 }

@@ -115,9 +115,7 @@ TEST_F(ReliabilityTest, BetweenSeventyFiveAndEightyTheNextIntervalIsExtrapolated
     EXPECT_NEAR(Reliability(-0.6), 70.0 + 5.0 * 0.076 / 0.150, 1e-12);
 }
 
-TEST_F(ReliabilityTest, ADeviateOfZeroIsFiftyPerCent) {
-    EXPECT_EQ(Reliability(0.0), 50.0);
-}
+TEST_F(ReliabilityTest, ADeviateOfZeroIsFiftyPerCent) { EXPECT_EQ(Reliability(0.0), 50.0); }
 
 TEST_F(ReliabilityTest, AboveZeroIsOutOfBounds) {
     double reliability = 77.0;
