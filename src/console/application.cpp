@@ -29,7 +29,7 @@ constexpr int kStatusDone = 0;
 constexpr int kStatusStopped = 1;
 constexpr int kStatusNotUnderstood = 2;
 
-struct Options {
+struct ConsoleOptions {
     std::string home;
     std::string work;
     std::string script;
@@ -59,7 +59,7 @@ class TemporaryFolder {
 };
 
 /// Reads the command line. Gives the exit status if that is all there is to do.
-std::optional<int> ReadOptions(int argc, char** argv, Options& options, std::ostream& output,
+std::optional<int> ReadOptions(int argc, char** argv, ConsoleOptions& options, std::ostream& output,
                                std::ostream& errors) {
     CLI::App app("Designs pavements by script: starts as Kelvor does, opens a project, and obeys commands.",
                  "kelvor-cli");
@@ -82,7 +82,7 @@ std::optional<int> ReadOptions(int argc, char** argv, Options& options, std::ost
     }
 }
 
-int RunProgram(const Options& options, const Home& home, std::istream& input, std::ostream& output,
+int RunProgram(const ConsoleOptions& options, const Home& home, std::istream& input, std::ostream& output,
                std::ostream& errors) {
     std::unique_ptr<Output> printer;
     if (options.json) {
@@ -108,7 +108,7 @@ int RunProgram(const Options& options, const Home& home, std::istream& input, st
 }  // namespace
 
 int RunConsole(int argc, char** argv, std::istream& input, std::ostream& output, std::ostream& errors) {
-    Options options;
+    ConsoleOptions options;
     if (const auto status = ReadOptions(argc, argv, options, output, errors)) return *status;
     std::ifstream script;
     if (!options.script.empty()) {

@@ -83,6 +83,102 @@ int ModelDriver::FindTerm(const std::string& screen, const std::string& term) {
 
 int ModelDriver::Solve(const std::string& screen, int term) { return program_.Solve(screen, term); }
 
+// --- Screens ---------------------------------------------------------------------------------------
+
+void ModelDriver::Raise(const UserEvent& event, const std::string& refusal) {
+    if (!program_.Raise(event)) throw ScriptError(refusal);
+}
+
+const Form& ModelDriver::CurrentForm() {
+    const Form* form = program_.state().formRegistry.CurrentForm;
+    if (form == nullptr) throw ScriptError("no screen is open");
+    return *form;
+}
+
+const Control& ModelDriver::FindControl(const std::string& name) {
+    const Control* control = CurrentForm().Find(name);
+    if (control == nullptr) throw ScriptError(CurrentForm().name() + " has no control " + name);
+    return *control;
+}
+
+void ModelDriver::OpenForm(const std::string& name) {
+    Raise({UserEvent::Kind::OpenForm, name, {}, 0}, name + " is not available yet");
+}
+
+void ModelDriver::ActivateForm(const std::string& name) {
+    Raise({UserEvent::Kind::ActivateForm, name, {}, 0}, name + " is not open");
+}
+
+void ModelDriver::CloseForm(const std::optional<std::string>& name) {
+    const std::string form = name ? *name : CurrentForm().name();
+    Raise({UserEvent::Kind::CloseForm, form, {}, 0}, form + " is not open");
+}
+
+std::vector<std::string> ModelDriver::Forms() {
+    std::vector<std::string> names;
+    for (const Form* form : program_.state().formRegistry.InOpeningOrder()) names.push_back(form->name());
+    return names;
+}
+
+void ModelDriver::Focus(const std::string& control) {
+    Raise({UserEvent::Kind::Focus, FindControl(control).name, {}, 0}, "");
+}
+
+void ModelDriver::Type(const std::string& text) {
+    Raise({UserEvent::Kind::Type, {}, text, 0}, "no screen is open");
+}
+
+void ModelDriver::Key(const std::string& key) {
+    Raise({UserEvent::Kind::Key, key, {}, 0}, "there is no key " + key);
+}
+
+void ModelDriver::Press(const std::string& control) {
+    if (!FindControl(control).IsButton()) throw ScriptError(control + " is no button");
+    Raise({UserEvent::Kind::Press, control, {}, 0}, "");
+}
+
+void ModelDriver::Choose(const std::string& control, const std::string& item) {
+    (void)FindControl(control);
+    Raise({UserEvent::Kind::Choose, control, item, 0}, control + " has no such choice");
+}
+
+void ModelDriver::SwitchTab(int tab) {
+    Raise({UserEvent::Kind::SwitchTab, {}, {}, tab}, "there is no tab " + std::to_string(tab));
+}
+
+void ModelDriver::ChooseMenu(const std::string& name, int index) {
+    Raise({UserEvent::Kind::Menu, name, {}, index}, "there is no menu entry " + name);
+}
+
+PropertyValue ModelDriver::Read(const std::string& control, const std::string& property) {
+    const Control& c = FindControl(control);
+    if (property == "text") return c.text;
+    if (property == "enabled") return c.enabled;
+    if (property == "visible") return c.visible;
+    if (property == "bold") return c.bold;
+    if (property == "backcolor") return std::string(c.backColor);
+    if (property == "forecolor") return std::string(c.foreColor);
+    if (property == "value") return c.IsChoice() ? PropertyValue(c.value) : PropertyValue(c.text);
+    throw ScriptError("a control has no property " + property);
+}
+
+std::vector<ControlReport> ModelDriver::Controls() {
+    std::vector<ControlReport> reports;
+    for (const auto& control : CurrentForm().controls()) {
+        reports.push_back({control->name, NameOf(control->kind), control->tag, control->text,
+                           control->enabled, control->visible});
+    }
+    return reports;
+}
+
+std::optional<std::string> ModelDriver::FocusName() {
+    const Form* form = program_.state().formRegistry.CurrentForm;
+    if (form == nullptr || form->focus == nullptr) return std::nullopt;
+    return form->focus->name;
+}
+
+bool ModelDriver::HasEnded() { return program_.ended(); }
+
 void ModelDriver::QueueAnswer(const std::string& text) { dialogs_.QueueAnswer(text); }
 
 }  // namespace kelvor

@@ -28,9 +28,28 @@ class ModelDriver : public Driver {
     void CalcCell(const std::string& key, int dim1, int dim2, const std::string& target) override;
     int FindTerm(const std::string& screen, const std::string& term) override;
     int Solve(const std::string& screen, int term) override;
+    void OpenForm(const std::string& name) override;
+    void ActivateForm(const std::string& name) override;
+    void CloseForm(const std::optional<std::string>& name) override;
+    std::vector<std::string> Forms() override;
+    void Focus(const std::string& control) override;
+    void Type(const std::string& text) override;
+    void Key(const std::string& key) override;
+    void Press(const std::string& control) override;
+    void Choose(const std::string& control, const std::string& item) override;
+    void SwitchTab(int tab) override;
+    void ChooseMenu(const std::string& name, int index) override;
+    PropertyValue Read(const std::string& control, const std::string& property) override;
+    std::vector<ControlReport> Controls() override;
+    std::optional<std::string> FocusName() override;
     void QueueAnswer(const std::string& text) override;
+    bool HasEnded() override;
 
   private:
+    void Raise(const UserEvent& event, const std::string& refusal);
+    const Form& CurrentForm();
+    const Control& FindControl(const std::string& name);
+
     Program& program_;
     ScriptedDialogs& dialogs_;
 };

@@ -13,6 +13,9 @@ namespace kelvor {
 
 namespace {
 
+/// A chain of more links than this counts as a circle, as it does for the kernel.
+constexpr int kMostLinks = 40;
+
 [[noreturn]] void ThrowErrno() { throw FileError(std::strerror(errno)); }
 
 void ThrowIf(const std::error_code& error) {
@@ -44,10 +47,11 @@ class Descriptor {
     int fd_;
 };
 
-/// A path beside the target under a name that no other process uses.
+/// A path beside the target under a name that no other process uses. Of a long name only the beginning
+/// is in it, as the platform limits names.
 Path TemporaryBeside(const Path& target) {
-    return target.parent_path() /
-           ("." + target.filename().string() + "." + std::to_string(::getpid()) + ".new");
+    const std::string name = target.filename().string().substr(0, 200);
+    return target.parent_path() / ("." + name + "." + std::to_string(::getpid()) + ".new");
 }
 
 /// Removes a half-made file without hiding the failure that made it one.
@@ -142,9 +146,18 @@ void NativeFileSystem::CopyPermissions(const Path& from, const Path& to) {
 
 Path NativeFileSystem::Resolve(const Path& path) const {
     std::error_code error;
-    const Path resolved = std::filesystem::weakly_canonical(std::filesystem::absolute(path, error), error);
+    Path resolved = std::filesystem::absolute(path, error);
     ThrowIf(error);
-    return resolved;
+    // weakly_canonical stops at a link to a missing file; what that points at is found by going on.
+    for (int links = 0; links < kMostLinks; ++links) {
+        resolved = std::filesystem::weakly_canonical(resolved, error);
+        ThrowIf(error);
+        std::error_code missing;
+        if (!std::filesystem::is_symlink(resolved, missing)) return resolved;
+        resolved = resolved.parent_path() / std::filesystem::read_symlink(resolved, error);
+        ThrowIf(error);
+    }
+    throw FileError(std::strerror(ELOOP));
 }
 
 void ReplaceFile(FileSystem& files, const Path& target, std::string_view content) {

@@ -89,8 +89,10 @@ std::string ReadIni(const FileSystem& files, std::string_view section, std::stri
 bool WriteIni(FileSystem& files, std::string_view section, std::string_view key, std::string_view value,
               const Path& file) {
     try {
-        std::vector<std::string> lines;
-        if (files.Kind(file) != FileKind::Missing) lines = SplitLines(files.Read(file, kLargestFile));
+        std::string content;
+        if (files.Kind(file) != FileKind::Missing) content = files.Read(file, kLargestFile);
+        const char* lineEnd = content.find("\r\n") == std::string::npos ? "\n" : "\r\n";
+        std::vector<std::string> lines = SplitLines(content);
         const Place place = FindPlace(lines, section, key);
         const std::string entry = std::string(key) + "=" + std::string(value);
         if (place.found) {
@@ -100,8 +102,8 @@ bool WriteIni(FileSystem& files, std::string_view section, std::string_view key,
             const std::size_t end = std::max(place.end, place.begin + 1);
             lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(end), entry);
         }
-        std::string content;
-        for (const std::string& line : lines) content += line + "\n";
+        content.clear();
+        for (const std::string& line : lines) content += line + lineEnd;
         ReplaceFile(files, file, content);
         return true;
     } catch (const FileError&) {

@@ -27,8 +27,10 @@ Picture ReadPicture(std::string_view text) {
     const std::size_t point = std::min(text.find('.'), text.size());
     const std::string_view integerPart = text.substr(0, point);
     Picture picture;
+    // A place to the right of one that always shows always shows too.
+    const std::string_view shown = integerPart.substr(std::min(integerPart.find('0'), integerPart.size()));
     picture.leastIntegerDigits =
-        static_cast<std::size_t>(std::count(integerPart.begin(), integerPart.end(), '0'));
+        shown.size() - static_cast<std::size_t>(std::count(shown.begin(), shown.end(), ','));
     picture.grouped = integerPart.find(',') != std::string_view::npos;
     picture.fractionDigits = point == text.size() ? 0 : text.size() - point - 1;
     return picture;

@@ -9,10 +9,10 @@ namespace kelvor {
 /// commas with at least one place, and after an optional point a fraction of `0`.
 bool IsNumberPicture(std::string_view picture);
 
-/// A number in a picture such as "#,##0.0": a comma in the integer part groups by thousands, each `0`
-/// is a digit that always shows, the fraction has as many digits as the picture. Rounded half away
-/// from zero on the decimal value at 15 significant digits; never "-0"; 0 in "###,###,###" is empty.
-/// An empty picture and "@" give NumberToText.
+/// A number in a picture such as "#,##0.0": a comma in the integer part groups by thousands, each
+/// place from the first `0` on always shows, the fraction has as many digits as the picture. Rounded
+/// half away from zero on the decimal value at 15 significant digits; never "-0"; 0 in "###,###,###"
+/// is empty. An empty picture and "@" give NumberToText.
 std::string FormatNumber(double value, std::string_view picture);
 
 /// A text in a picture: a numeric text is formatted as its number; any other, and any text in an empty

@@ -1,9 +1,11 @@
 #include "platform/number_text.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <system_error>
 
@@ -72,6 +74,23 @@ class Scanner {
     std::size_t position_ = 0;
 };
 
+/// Which end of a double's range a number has crossed: true if it is too small, false if too large. The
+/// exponent alone does not tell, as there may be many digits before or after the point.
+bool IsTiny(std::string_view number) {
+    const std::size_t exponentAt = std::min(number.find('e'), number.size());
+    const std::string_view digits = number.substr(0, exponentAt);
+    const auto point = static_cast<std::int64_t>(std::min(digits.find('.'), digits.size()));
+    const auto first = static_cast<std::int64_t>(digits.find_first_of("123456789"));
+    std::string_view exponentText = number.substr(std::min(exponentAt + 1, number.size()));
+    if (exponentText.starts_with('+')) exponentText.remove_prefix(1);
+    std::int64_t exponent = 0;
+    const auto result =
+        std::from_chars(exponentText.data(), exponentText.data() + exponentText.size(), exponent);
+    // An exponent of so many digits outweighs any text.
+    if (result.ec == std::errc::result_out_of_range) return exponentText.starts_with('-');
+    return exponent < first - point;
+}
+
 /// The value of a text that holds one number, commas and exponent letter d allowed; nothing if a
 /// double cannot hold it. Below the smallest double the value is 0.
 std::optional<double> ToDouble(std::string_view number) {
@@ -83,13 +102,7 @@ std::optional<double> ToDouble(std::string_view number) {
     }
     double value = 0.0;
     const auto [end, error] = std::from_chars(plain.data(), plain.data() + plain.size(), value);
-    if (error == std::errc::result_out_of_range) {
-        // Which end of the range was crossed shows in the exponent's sign, or in a number without one.
-        const std::size_t exponent = plain.find('e');
-        const bool tiny = exponent == std::string::npos ? plain.find_first_of("123456789") > plain.find('.')
-                                                        : plain[exponent + 1] == '-';
-        return tiny ? std::optional(0.0) : std::nullopt;
-    }
+    if (error == std::errc::result_out_of_range) return IsTiny(plain) ? std::optional(0.0) : std::nullopt;
     if (error != std::errc{} || end != plain.data() + plain.size()) return std::nullopt;
     return value;
 }
@@ -145,10 +158,11 @@ double ParseNumber(std::string_view text) {
 }
 
 std::string NumberToText(double value) {
-    double rounded = 0.0;
+    // The largest numbers round up to what no double can hold; this is the largest of 15 digits.
+    double rounded = std::copysign(1.79769313486231e308, value);
     const std::string scientific = Digits(value, std::chars_format::scientific, 14);
     std::from_chars(scientific.data(), scientific.data() + scientific.size(), rounded);
-    return ExactNumberText(std::isfinite(rounded) ? rounded : value);
+    return ExactNumberText(rounded);
 }
 
 std::string ExactNumberText(double value) {

@@ -3,6 +3,9 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <filesystem>
+#include <system_error>
 
 #include "platform/text.h"
 
@@ -24,9 +27,18 @@ void Distrust(SQLite::Database& database) {
     database.exec("PRAGMA cell_size_check = ON; PRAGMA mmap_size = 0");
 }
 
+/// A file whose last page is cut would read as if zeros stood there.
+void CheckLength(SQLite::Database& database, const Path& path) {
+    std::error_code error;
+    const std::uintmax_t length = std::filesystem::file_size(path, error);
+    const auto pageSize = static_cast<std::uintmax_t>(database.execAndGet("PRAGMA page_size").getInt64());
+    if (!error && length % pageSize != 0) throw DatabaseError("file ends in the middle of a page", false);
+}
+
 void CheckTable(SQLite::Database& database, const TableShape& shape) {
     const std::string name(shape.name);
-    SQLite::Statement query(database, "SELECT name FROM pragma_table_info(?)");
+    // The plain table_info keeps quiet about computed columns.
+    SQLite::Statement query(database, "SELECT name FROM pragma_table_xinfo(?)");
     query.bind(1, name);
     std::size_t count = 0;
     while (query.executeStep()) {
@@ -57,6 +69,7 @@ SQLite::Database OpenDatabase(const Path& path, DatabaseAccess access) {
             throw DatabaseError("file is empty", true);
         }
         database.execAndGet("SELECT count(*) FROM sqlite_schema");
+        CheckLength(database, path);
         return database;
     } catch (const SQLite::Exception& failure) {
         throw ToDatabaseError(failure);

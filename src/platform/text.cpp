@@ -2,10 +2,52 @@
 
 #include <algorithm>
 #include <optional>
+#include <string>
 
 namespace kelvor {
 
 namespace {
+
+/// Beyond the last character of Unicode.
+constexpr char32_t kStrayByte = 0x110000;
+
+/// The number of bytes of a UTF-8 character by its first one; 0 if none begins so.
+std::size_t CharacterLength(unsigned char first) {
+    if (first < 0x80) return 1;
+    if (first < 0xC2) return 0;
+    if (first < 0xE0) return 2;
+    if (first < 0xF0) return 3;
+    return first < 0xF5 ? 4 : 0;
+}
+
+/// Takes a character from the head of a text that is not empty.
+char32_t TakeCharacter(std::string_view& text) {
+    const auto first = static_cast<unsigned char>(text.front());
+    const std::size_t length = CharacterLength(first);
+    char32_t character = length == 1 ? first : first & (0x7FU >> length);
+    bool whole = length > 0 && length <= text.size();
+    for (std::size_t i = 1; whole && i < length; ++i) {
+        const auto byte = static_cast<unsigned char>(text[i]);
+        whole = (byte & 0xC0U) == 0x80;
+        character = character << 6U | (byte & 0x3FU);
+    }
+    whole = whole && character < kStrayByte;
+    text.remove_prefix(whole ? length : 1);
+    return whole ? character : kStrayByte + first;
+}
+
+/// The characters of a UTF-8 text, ASCII letters in lower case. A byte that is no part of a character
+/// becomes a value of its own that no character has.
+std::u32string FoldedCharacters(std::string_view text) {
+    std::u32string characters;
+    characters.reserve(text.size());
+    while (!text.empty()) {
+        const char32_t character = TakeCharacter(text);
+        const bool capital = character >= U'A' && character <= U'Z';
+        characters.push_back(capital ? character - U'A' + U'a' : character);
+    }
+    return characters;
+}
 
 /// What one element of a pattern, standing at `position`, makes of the character `c`.
 struct ElementMatch {
@@ -13,18 +55,18 @@ struct ElementMatch {
     std::size_t next = 0;  // where the following element begins
 };
 
-ElementMatch MatchList(std::string_view pattern, std::size_t position, char c) {
-    const std::size_t close = pattern.find(']', position + 1);
-    if (close == std::string_view::npos) return {false, pattern.size()};
-    std::string_view list = pattern.substr(position + 1, close - position - 1);
-    const bool inverted = list.starts_with('!');
+ElementMatch MatchList(std::u32string_view pattern, std::size_t position, char32_t c) {
+    const std::size_t close = pattern.find(U']', position + 1);
+    if (close == std::u32string_view::npos) return {false, pattern.size()};
+    std::u32string_view list = pattern.substr(position + 1, close - position - 1);
+    const bool inverted = list.starts_with(U'!');
     if (inverted) list.remove_prefix(1);
     bool found = false;
     for (std::size_t i = 0; i < list.size(); ++i) {
-        const char low = FoldLetter(list[i]);
-        char high = low;
-        if (i + 2 < list.size() && list[i + 1] == '-') {
-            high = FoldLetter(list[i + 2]);
+        const char32_t low = list[i];
+        char32_t high = low;
+        if (i + 2 < list.size() && list[i + 1] == U'-') {
+            high = list[i + 2];
             i += 2;
         }
         found = found || (c >= low && c <= high);
@@ -32,18 +74,45 @@ ElementMatch MatchList(std::string_view pattern, std::size_t position, char c) {
     return {found != inverted, close + 1};
 }
 
-ElementMatch MatchElement(std::string_view pattern, std::size_t position, char rawCharacter) {
-    const char c = FoldLetter(rawCharacter);
+ElementMatch MatchElement(std::u32string_view pattern, std::size_t position, char32_t c) {
     switch (pattern[position]) {
-        case '?':
+        case U'?':
             return {true, position + 1};
-        case '#':
-            return {c >= '0' && c <= '9', position + 1};
-        case '[':
+        case U'#':
+            return {c >= U'0' && c <= U'9', position + 1};
+        case U'[':
             return MatchList(pattern, position, c);
         default:
-            return {FoldLetter(pattern[position]) == c, position + 1};
+            return {pattern[position] == c, position + 1};
     }
+}
+
+bool Matches(std::u32string_view text, std::u32string_view pattern) {
+    std::size_t t = 0;
+    std::size_t p = 0;
+    // Where the last `*` stands and how much text it has swallowed so far.
+    std::optional<std::size_t> star;
+    std::size_t swallowed = 0;
+    while (t < text.size()) {
+        if (p < pattern.size() && pattern[p] == U'*') {
+            star = p++;
+            swallowed = t;
+            continue;
+        }
+        if (p < pattern.size()) {
+            const ElementMatch match = MatchElement(pattern, p, text[t]);
+            if (match.matches) {
+                p = match.next;
+                ++t;
+                continue;
+            }
+        }
+        if (!star) return false;
+        p = *star + 1;
+        t = ++swallowed;
+    }
+    while (p < pattern.size() && pattern[p] == U'*') ++p;
+    return p == pattern.size();
 }
 
 }  // namespace
@@ -66,31 +135,7 @@ std::string_view TrimBlanks(std::string_view text) {
 }
 
 bool Like(std::string_view text, std::string_view pattern) {
-    std::size_t t = 0;
-    std::size_t p = 0;
-    // Where the last `*` stands and how much text it has swallowed so far.
-    std::optional<std::size_t> star;
-    std::size_t swallowed = 0;
-    while (t < text.size()) {
-        if (p < pattern.size() && pattern[p] == '*') {
-            star = p++;
-            swallowed = t;
-            continue;
-        }
-        if (p < pattern.size()) {
-            const ElementMatch match = MatchElement(pattern, p, text[t]);
-            if (match.matches) {
-                p = match.next;
-                ++t;
-                continue;
-            }
-        }
-        if (!star) return false;
-        p = *star + 1;
-        t = ++swallowed;
-    }
-    while (p < pattern.size() && pattern[p] == '*') ++p;
-    return p == pattern.size();
+    return Matches(FoldedCharacters(text), FoldedCharacters(pattern));
 }
 
 }  // namespace kelvor

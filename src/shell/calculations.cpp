@@ -25,15 +25,9 @@ constexpr std::array<std::string_view, 19> kAwaitedCellKeys = {
 
 }  // namespace
 
-Dispatch JoinCalculations() {
-    return Dispatch({LayeredStructureKeys()});
-}
+Dispatch JoinCalculations() { return Dispatch({LayeredStructureKeys()}); }
 
-std::span<const std::string_view> AwaitedFieldKeys() {
-    return kAwaitedFieldKeys;
-}
-std::span<const std::string_view> AwaitedCellKeys() {
-    return kAwaitedCellKeys;
-}
+std::span<const std::string_view> AwaitedFieldKeys() { return kAwaitedFieldKeys; }
+std::span<const std::string_view> AwaitedCellKeys() { return kAwaitedCellKeys; }
 
 }  // namespace kelvor

@@ -12,7 +12,7 @@ struct Home {
     Path work;
 
     [[nodiscard]] Path IniFile() const { return folder / "kvor.ini"; }
-    [[nodiscard]] Path DatabaseFile(const std::string& name) const { return folder / "DataBase" / name; }
+    [[nodiscard]] Path DatabaseFile(const std::string& name) const { return folder / ("DataBase/" + name); }
     [[nodiscard]] Path ProjectsFolder() const { return folder / "Projects"; }
     [[nodiscard]] Path Template() const { return folder / kTemplateName; }
     [[nodiscard]] Path WorkCopyFile() const { return work / "kvrwork.tmp"; }

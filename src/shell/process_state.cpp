@@ -22,4 +22,8 @@ CalcContext ProcessState::MakeCalcContext() {
     return {dbWork, *units, host.dialogs, host.clock, reliability, forms};
 }
 
+ScreenContext ProcessState::MakeScreenContext() {
+    return {MakeCalcContext(), *dbCatalogue, *units, calculations, formRegistry, balance, bProjectChanged};
+}
+
 }  // namespace kelvor

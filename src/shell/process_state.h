@@ -11,6 +11,7 @@
 #include "design/calc/dispatch.h"
 #include "platform/file_lock.h"
 #include "platform/host.h"
+#include "screens/forms/screen_context.h"
 #include "screens/units/units.h"
 #include "shell/home.h"
 #include "shell/store/project_store.h"
@@ -27,6 +28,9 @@ struct ProcessState {
 
     /// What a calculation may see.
     [[nodiscard]] CalcContext MakeCalcContext();
+
+    /// What a screen's routine may see.
+    [[nodiscard]] ScreenContext MakeScreenContext();
 
     Host host;
     Home home;
@@ -46,6 +50,9 @@ struct ProcessState {
     ReliabilityState reliability;
     FormValues forms;
     Dispatch calculations;
+
+    FormRegistry formRegistry;  // holds CurrentForm
+    BalanceFlags balance;
 
     std::unique_ptr<FileLock> workLock;
 };

@@ -2,21 +2,33 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
+#include "shell/main_window.h"
 #include "shell/process_state.h"
 #include "shell/start_up.h"
+#include "shell/user_event.h"
 
 namespace kelvor {
 
-/// The program behind every front end. Each operation is one event: what it writes reaches the work copy
-/// in one transaction.
+/// The program behind every front end. What a user does enters by Raise; a script also has the commands
+/// below, which stand for menus and for calculations. Each is one event: what it writes reaches the work copy
+/// in one transaction, and a further event while it runs (from a message box, say) is dropped.
 class Program {
   public:
-    Program(Host host, Home home) : state_(host, std::move(home)) {}
+    Program(Host host, Home home);
 
-    StartResult Start(const std::string& commandLine) { return Main(state_, commandLine); }
+    StartResult Start(const std::string& commandLine);
+
+    /// False if the event makes no sense: no such form, control, menu or tab.
+    bool Raise(const UserEvent& event);
+
+    /// True once the user has left the program.
+    [[nodiscard]] bool ended() const { return ended_; }
 
     [[nodiscard]] ProcessState& state() { return state_; }
+    [[nodiscard]] std::vector<MenuEntry> Menus() const;
 
     /// The File menu. Each tells whether it succeeded; the messages were shown.
     bool NewProject();
@@ -38,9 +50,22 @@ class Program {
 
   private:
     template <typename Action>
-    auto InEvent(Action action);
+    bool InEvent(Action action);
+
+    bool Perform(const UserEvent& event);
+    bool PerformOnCurrentForm(const UserEvent& event);
+    bool OnOpenForm(const UserEvent& event);
+    bool SwitchTab(int tab);
+    bool ChooseMenu(const std::string& name);
+    void SwitchUnits(bool metric);
+    bool LeaveProject();
+    void ShowHub();
+    bool Exit();
+    bool ConfirmClose();
 
     ProcessState state_;
+    bool running_ = false;
+    bool ended_ = false;
 };
 
 }  // namespace kelvor

@@ -45,8 +45,11 @@ void ProjectFiles::CloseWorkCopyQuietly() {
 
 void ProjectFiles::WriteWorkCopy(const std::string& content) {
     const Path file = state_.home.WorkCopyFile();
-    // A work copy of an earlier run, or a link in its place, goes first.
-    if (state_.host.files.Kind(file) == FileKind::Regular) state_.host.files.Remove(file);
+    // What an earlier run left behind goes first, or a link in its place; above all its journal, by which
+    // SQLite would roll the new work copy back.
+    for (const char* ending : {"-journal", "-wal", "-shm", ""}) {
+        state_.host.files.Remove(file.string() + ending);
+    }
     state_.host.files.Write(file, content);
 }
 
@@ -219,8 +222,6 @@ void ProjectFiles::MakeProjectsFolder() {
     }
 }
 
-void ProjectFiles::Report(const std::string& text) {
-    state_.host.dialogs.ShowMessage({.text = text});
-}
+void ProjectFiles::Report(const std::string& text) { state_.host.dialogs.ShowMessage({.text = text}); }
 
 }  // namespace kelvor

@@ -28,7 +28,9 @@ void Record(std::vector<RecentFile>& rows, const std::string& path, const std::s
     if (rows.empty()) return;
     auto row = std::find_if(rows.begin(), rows.end(), [&](const RecentFile& r) { return IsRowOf(r, path); });
     if (row == rows.end()) {
-        row = rows.end() - 1;
+        // The first free row or, if there is none, the oldest.
+        row = std::find_if(rows.begin(), rows.end(), [](const RecentFile& r) { return !r.fileName; });
+        if (row == rows.end()) --row;
         row->fileName = path;
     }
     row->openDate = now;
@@ -40,7 +42,7 @@ void Record(std::vector<RecentFile>& rows, const std::string& path, const std::s
 }  // namespace
 
 void AddRecentFile(ProcessState& state, const std::string& path) {
-    if (state.dbCatalogue == nullptr) return;
+    if (state.dbCatalogue == nullptr || path.empty()) return;
     state.host.dialogs.SetWaitCursor(true);
     try {
         const std::string now = state.host.clock.Timestamp();

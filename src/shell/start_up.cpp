@@ -49,31 +49,34 @@ bool ProveComponents(ProcessState& state) {
     return true;
 }
 
-/// The path of a database that the configuration names; nothing, with its message, if the key is empty
-/// or the file is missing.
-std::optional<Path> FindDatabase(ProcessState& state, const char* key) {
-    const std::string name = ReadIni(state.host.files, kIniSection, key, state.sIniFile);
-    if (name.empty()) {
-        Message message = IniError("(unable to locate application file)");
-        message.icon = MessageIcon::Critical;
-        state.host.dialogs.ShowMessage(message);
-        return std::nullopt;
-    }
+/// True for a file of any kind but a folder.
+bool FileExists(const ProcessState& state, const Path& path) {
+    const FileKind kind = state.host.files.Kind(path);
+    return kind != FileKind::Missing && kind != FileKind::Directory;
+}
+
+/// The path of a database that the configuration names; nothing, with its message, if it is missing.
+std::optional<Path> FindDatabase(ProcessState& state, const std::string& name) {
     const Path path = state.home.DatabaseFile(name);
-    if (state.host.files.Kind(path) == FileKind::Missing) {
-        state.host.dialogs.ShowMessage(ReinstallMessage(name));
-        return std::nullopt;
-    }
-    return path;
+    if (FileExists(state, path)) return path;
+    state.host.dialogs.ShowMessage(ReinstallMessage(name));
+    return std::nullopt;
 }
 
 bool OpenDatabases(ProcessState& state) {
+    const std::string catalogueName = ReadIni(state.host.files, kIniSection, "Application", state.sIniFile);
+    const std::string listsName = ReadIni(state.host.files, kIniSection, "Custom", state.sIniFile);
+    if (catalogueName.empty() || listsName.empty()) {
+        Message message = IniError("(unable to locate application file)");
+        message.icon = MessageIcon::Critical;
+        state.host.dialogs.ShowMessage(message);
+        return false;
+    }
     try {
-        const auto catalogue = FindDatabase(state, "Application");
+        const auto catalogue = FindDatabase(state, catalogueName);
         if (!catalogue) return false;
-        const std::string custom = ReadIni(state.host.files, kIniSection, "Custom", state.sIniFile);
-        if (!custom.empty()) state.OpenCatalogue(*catalogue);
-        const auto lists = FindDatabase(state, "Custom");
+        state.OpenCatalogue(*catalogue);
+        const auto lists = FindDatabase(state, listsName);
         if (!lists) return false;
         state.dbCustom = std::make_unique<ListDatabase>(*lists);
         return true;
@@ -111,14 +114,9 @@ StartResult OpenFirstProject(ProcessState& state, std::string command) {
     return StartResult::Running;
 }
 
-}  // namespace
-
-StartResult Main(ProcessState& state, const std::string& commandLine) {
-    Dialogs& dialogs = state.host.dialogs;
-    state.bReportsUnavailable = false;
-    dialogs.SetWaitCursor(true);
+StartResult RunStart(ProcessState& state, const std::string& commandLine) {
     state.sIniFile = state.home.IniFile().string();
-    if (state.host.files.Kind(state.sIniFile) == FileKind::Missing) {
+    if (!FileExists(state, state.sIniFile)) {
         return Stop(state, IniError("(unable to locate ini file)\nPlease reinstall Kelvor"));
     }
     if (!ProveComponents(state)) {
@@ -128,9 +126,17 @@ StartResult Main(ProcessState& state, const std::string& commandLine) {
                             .title = "Problem"});
     }
     if (!OpenDatabases(state) || !LockWorkCopy(state)) return StartResult::Stopped;
-    const StartResult result = OpenFirstProject(state, std::string(TrimBlanks(commandLine)));
+    return OpenFirstProject(state, std::string(TrimBlanks(commandLine)));
+}
+
+}  // namespace
+
+StartResult Main(ProcessState& state, const std::string& commandLine) {
+    state.bReportsUnavailable = false;
+    state.host.dialogs.SetWaitCursor(true);
+    const StartResult result = RunStart(state, commandLine);
     // With an absent file the start ends early, and the wait cursor stays.
-    if (result != StartResult::FileMissing) dialogs.SetWaitCursor(false);
+    if (result != StartResult::FileMissing) state.host.dialogs.SetWaitCursor(false);
     return result;
 }
 

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "shell/store/work_copy.h"
@@ -18,6 +19,18 @@ struct DisplayReport {
     std::string text;
     std::string unit;
 };
+
+struct ControlReport {
+    std::string name;
+    std::string kind;
+    std::string tag;
+    std::string text;
+    bool enabled = true;
+    bool visible = true;
+};
+
+/// A property of a control: a truth value or a text.
+using PropertyValue = std::variant<bool, std::string>;
 
 /// What a script does to a program. One driver works on the program's model, another on its windows;
 /// the runner is the same for both. Each operation throws ScriptError if it makes no sense there.
@@ -47,8 +60,31 @@ class Driver {
     virtual int FindTerm(const std::string& screen, const std::string& term) = 0;
     virtual int Solve(const std::string& screen, int term) = 0;
 
+    // Screens
+    virtual void OpenForm(const std::string& name) = 0;
+    virtual void ActivateForm(const std::string& name) = 0;
+
+    /// Closes a form, or the current one if no name is given.
+    virtual void CloseForm(const std::optional<std::string>& name) = 0;
+    virtual std::vector<std::string> Forms() = 0;
+    virtual void Focus(const std::string& control) = 0;
+    virtual void Type(const std::string& text) = 0;
+    virtual void Key(const std::string& key) = 0;
+    virtual void Press(const std::string& control) = 0;
+    virtual void Choose(const std::string& control, const std::string& item) = 0;
+    virtual void SwitchTab(int tab) = 0;
+    virtual void ChooseMenu(const std::string& name, int index) = 0;
+    virtual PropertyValue Read(const std::string& control, const std::string& property) = 0;
+    virtual std::vector<ControlReport> Controls() = 0;
+
+    /// The control that has the focus; nothing if none has it.
+    virtual std::optional<std::string> FocusName() = 0;
+
     // Questions
     virtual void QueueAnswer(const std::string& text) = 0;
+
+    /// True once the program was left.
+    virtual bool HasEnded() = 0;
 };
 
 }  // namespace kelvor

@@ -46,6 +46,31 @@ void JsonOutput::Solve(const std::string& screen, int term, int result) {
     Print(stream_, {{"solve", {{"screen", screen}, {"term", term}, {"result", result}}}});
 }
 
+void JsonOutput::Property(const std::string& control, const std::string& property,
+                          const PropertyValue& value) {
+    const Json json = std::visit([](const auto& v) { return Json(v); }, value);
+    Print(stream_, {{"control", {{"name", control}, {"property", property}, {"value", json}}}});
+}
+
+void JsonOutput::Controls(const std::vector<ControlReport>& controls) {
+    Json list = Json::array();
+    for (const ControlReport& control : controls) {
+        list.push_back({{"name", control.name},
+                        {"kind", control.kind},
+                        {"tag", control.tag},
+                        {"text", control.text},
+                        {"enabled", control.enabled},
+                        {"visible", control.visible}});
+    }
+    Print(stream_, {{"controls", list}});
+}
+
+void JsonOutput::Forms(const std::vector<std::string>& names) { Print(stream_, {{"forms", names}}); }
+
+void JsonOutput::Focus(const std::optional<std::string>& control) {
+    Print(stream_, {{"focus", OrNull(control)}});
+}
+
 void JsonOutput::OnMessage(const Message& message, Answer answer) {
     Print(stream_, {{"message",
                      {{"title", message.title},

@@ -14,6 +14,11 @@ class Output : public DialogObserver {
     virtual void Cell(const CellReport& cell) = 0;
     virtual void Display(const DisplayReport& display) = 0;
     virtual void Solve(const std::string& screen, int term, int result) = 0;
+    virtual void Property(const std::string& control, const std::string& property,
+                          const PropertyValue& value) = 0;
+    virtual void Controls(const std::vector<ControlReport>& controls) = 0;
+    virtual void Forms(const std::vector<std::string>& names) = 0;
+    virtual void Focus(const std::optional<std::string>& control) = 0;
 };
 
 /// One JSON object a line; numbers read back as the same double.
@@ -24,6 +29,11 @@ class JsonOutput : public Output {
     void Cell(const CellReport& cell) override;
     void Display(const DisplayReport& display) override;
     void Solve(const std::string& screen, int term, int result) override;
+    void Property(const std::string& control, const std::string& property,
+                  const PropertyValue& value) override;
+    void Controls(const std::vector<ControlReport>& controls) override;
+    void Forms(const std::vector<std::string>& names) override;
+    void Focus(const std::optional<std::string>& control) override;
     void OnMessage(const Message& message, Answer answer) override;
     void OnInput(const InputRequest& request, const std::optional<std::string>& answer) override;
     void OnFile(const FileRequest& request, const std::optional<Path>& answer) override;
@@ -40,6 +50,11 @@ class PlainOutput : public Output {
     void Cell(const CellReport& cell) override;
     void Display(const DisplayReport& display) override;
     void Solve(const std::string& screen, int term, int result) override;
+    void Property(const std::string& control, const std::string& property,
+                  const PropertyValue& value) override;
+    void Controls(const std::vector<ControlReport>& controls) override;
+    void Forms(const std::vector<std::string>& names) override;
+    void Focus(const std::optional<std::string>& control) override;
     void OnMessage(const Message& message, Answer answer) override;
     void OnInput(const InputRequest& request, const std::optional<std::string>& answer) override;
     void OnFile(const FileRequest& request, const std::optional<Path>& answer) override;

@@ -13,7 +13,7 @@ std::string Quoted(const std::string& text) {
     std::string quoted = "\"";
     for (const char c : text) {
         if (c == '"' || c == '\\') quoted.push_back('\\');
-        quoted += c == '\n' ? "\\n" : c == '\t' ? "\\t" : std::string(1, c);
+        quoted += c == '\n' ? "\\n" : c == '\r' ? "\\r" : c == '\t' ? "\\t" : std::string(1, c);
     }
     return quoted + "\"";
 }
@@ -40,6 +40,31 @@ void PlainOutput::Display(const DisplayReport& display) {
 void PlainOutput::Solve(const std::string& screen, int term, int result) {
     stream_ << "solve " << screen << " " << term << ": " << (result == 0 ? "done" : "not solved") << " ("
             << result << ")\n";
+}
+
+void PlainOutput::Property(const std::string& control, const std::string& property,
+                           const PropertyValue& value) {
+    const auto* truth = std::get_if<bool>(&value);
+    const std::string text =
+        truth != nullptr ? (*truth ? "true" : "false") : Quoted(std::get<std::string>(value));
+    stream_ << control << "." << property << " = " << text << '\n';
+}
+
+void PlainOutput::Controls(const std::vector<ControlReport>& controls) {
+    for (const ControlReport& control : controls) {
+        stream_ << control.kind << " " << control.name << " [" << control.tag << "] " << Quoted(control.text)
+                << (control.enabled ? "" : " disabled") << (control.visible ? "" : " hidden") << '\n';
+    }
+}
+
+void PlainOutput::Forms(const std::vector<std::string>& names) {
+    stream_ << "forms:";
+    for (const std::string& name : names) stream_ << " " << name;
+    stream_ << '\n';
+}
+
+void PlainOutput::Focus(const std::optional<std::string>& control) {
+    stream_ << "focus: " << control.value_or("none") << '\n';
 }
 
 void PlainOutput::OnMessage(const Message& message, Answer answer) {

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <istream>
 #include <limits>
+#include <optional>
 #include <ostream>
 #include <string_view>
 #include <vector>
@@ -99,6 +100,41 @@ void Solve(const Context& c) {
     c.output.Solve(screen, term, result);
 }
 
+void FormCommand(const Context& c) {
+    const Arguments& words = c.arguments;
+    const std::string& what = words[0];
+    if (what == "close" && words.count() <= 2) {
+        c.driver.CloseForm(words.count() == 2 ? std::optional(words[1]) : std::nullopt);
+    } else if (what == "activate" && words.count() == 2) {
+        c.driver.ActivateForm(words[1]);
+    } else if (what == "open" && words.count() == 2) {
+        c.driver.OpenForm(words[1]);
+    } else if (what == "open" && words.count() == 3) {
+        throw ScriptError("a screen of one pavement is not available yet");
+    } else {
+        throw ScriptError("it is form open NAME, form activate NAME or form close [NAME]");
+    }
+}
+
+/// Does something that may move the focus, and tells where it is then.
+void ThenFocus(const Context& c, void (Driver::*act)(const std::string&)) {
+    (c.driver.*act)(c.arguments[0]);
+    c.output.Focus(c.driver.FocusName());
+}
+
+void Choose(const Context& c) {
+    c.driver.Choose(c.arguments[0], c.arguments.count() > 1 ? c.arguments[1] : "");
+}
+
+void ChooseMenu(const Context& c) {
+    c.driver.ChooseMenu(c.arguments[0], c.arguments.count() > 1 ? c.arguments.Subscript(1) : 0);
+}
+
+void Read(const Context& c) {
+    const std::string property = c.arguments.count() > 1 ? c.arguments[1] : "text";
+    c.output.Property(c.arguments[0], property, c.driver.Read(c.arguments[0], property));
+}
+
 void NotAvailableYet(const Context& /*context*/) { throw ScriptError("not available yet"); }
 
 struct Command {
@@ -122,15 +158,24 @@ constexpr std::array kCommands = {
     Command{"calc", 1, 2, Calc},
     Command{"calccell", 3, 4, CalcOneCell},
     Command{"solve", 2, 2, Solve},
+    Command{"form", 1, 3, FormCommand},
+    Command{"forms", 0, 0, [](const Context& c) { c.output.Forms(c.driver.Forms()); }},
+    Command{"focus", 1, 1, [](const Context& c) { ThenFocus(c, &Driver::Focus); }},
+    Command{"type", 1, 1, [](const Context& c) { c.driver.Type(c.arguments[0]); }},
+    Command{"key", 1, 1, [](const Context& c) { ThenFocus(c, &Driver::Key); }},
+    Command{"press", 1, 1, [](const Context& c) { ThenFocus(c, &Driver::Press); }},
+    Command{"choose", 1, 2, Choose},
+    Command{"tab", 1, 1, [](const Context& c) { c.driver.SwitchTab(c.arguments.Subscript(0)); }},
+    Command{"menu", 1, 2, ChooseMenu},
+    Command{"read", 1, 2, Read},
+    Command{"controls", 0, 0, [](const Context& c) { c.output.Controls(c.driver.Controls()); }},
     Command{"answer", 1, 1, [](const Context& c) { c.driver.QueueAnswer(c.arguments[0]); }},
 };
 
-/// The commands of screens and reports.
-constexpr std::array<std::string_view, 22> kAwaitedCommands = {
-    "form",   "forms", "focus",    "type",       "key",    "press", "choose",   "tab",
-    "menu",   "cell",  "row",      "delete-row", "read",   "grid",  "controls", "chart",
-    "report", "print", "previews", "preview",    "export", "table",
-};
+/// The commands of grids, charts and reports.
+constexpr std::array<std::string_view, 11> kAwaitedCommands = {"cell",    "row",    "delete-row", "grid",
+                                                               "chart",   "report", "print",      "previews",
+                                                               "preview", "export", "table"};
 
 const Command& FindCommand(const std::string& name) {
     static constexpr Command kAwaited{"", 0, kAnyNumber, NotAvailableYet};
@@ -162,7 +207,7 @@ void RunLine(const std::string& line, Driver& driver, Output& output) {
 
 ScriptEnd RunScript(std::istream& script, Driver& driver, Output& output, std::ostream& errors) {
     std::string line;
-    for (int number = 1; std::getline(script, line); ++number) {
+    for (int number = 1; !driver.HasEnded() && std::getline(script, line); ++number) {
         try {
             RunLine(line, driver, output);
         } catch (const ScriptError& error) {

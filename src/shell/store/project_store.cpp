@@ -9,6 +9,13 @@
 
 namespace kelvor {
 
+namespace {
+
+/// Room made at once for the cells of a project; one that has more grows.
+constexpr std::size_t kUsualCells = 100'000;
+
+}  // namespace
+
 std::string CellText(std::string_view name, int dim1, int dim2) {
     return std::string(name) + "(" + std::to_string(dim1) + "," + std::to_string(dim2) + ")";
 }
@@ -34,7 +41,7 @@ void ProjectStore::Load(const std::vector<CellBounds>& bounds) {
     std::size_t expected = 0;
     for (const CellBounds& variable : bounds)
         expected += static_cast<std::size_t>(variable.dim1 * variable.dim2);
-    cells_.reserve(expected);
+    cells_.reserve(std::min(expected, kUsualCells));  // a damaged catalogue may ask for any number
     variables_.reserve(bounds.size());
     byName_.reserve(bounds.size());
     workCopy_->ReadRows([this](CellKey key, CellValue value) { AddCell(std::move(key), std::move(value)); });

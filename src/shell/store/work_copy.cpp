@@ -33,6 +33,9 @@ void CheckProject(SQLite::Database& database, bool checkPages) {
 SQLite::Database OpenProject(const Path& path, bool checkPages) {
     SQLite::Database database = OpenDatabase(path, DatabaseAccess::ReadWrite);
     try {
+        if (database.execAndGet("PRAGMA journal_mode").getString() == "wal") {
+            throw DatabaseError("the newest values of a file in WAL mode may stand in another", false);
+        }
         database.exec(
             "PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = DELETE; PRAGMA synchronous = OFF");
         CheckProject(database, checkPages);

@@ -1,0 +1,9 @@
+#include "design/screens/design_forms.h"
+
+#include "design/screens/flexible_design.h"
+
+namespace kelvor {
+
+std::vector<FormType> DesignForms() { return {FlexibleDesignForm()}; }
+
+}  // namespace kelvor

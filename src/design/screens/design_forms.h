@@ -1,0 +1,12 @@
+#pragma once
+
+#include <vector>
+
+#include "screens/forms/form_type.h"
+
+namespace kelvor {
+
+/// The screens of new pavement design.
+std::vector<FormType> DesignForms();
+
+}  // namespace kelvor

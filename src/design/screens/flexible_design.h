@@ -1,0 +1,10 @@
+#pragma once
+
+#include "screens/forms/form_type.h"
+
+namespace kelvor {
+
+/// `DeF`: balances the flexible design equation for a new pavement.
+FormType FlexibleDesignForm();
+
+}  // namespace kelvor

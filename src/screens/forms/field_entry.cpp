@@ -1,0 +1,133 @@
+#include "screens/forms/field_entry.h"
+
+#include <algorithm>
+#include <array>
+
+#include "platform/number_text.h"
+#include "screens/forms/balance_state.h"
+
+namespace kelvor {
+
+namespace {
+
+/// The fields of the project's identification, which take any text.
+constexpr std::array<std::string_view, 8> kFreeTexts = {"Agency",   "Company",  "Contractor", "JobNumber",
+                                                        "Location", "Engineer", "State",      "PavDesc"};
+
+/// Existing thicknesses, to which the advice for new concrete does not apply.
+constexpr std::array<std::string_view, 2> kExistingThicknesses = {"ACACPCACT", "EXISTDEPTH"};
+
+constexpr double kThinnestConcrete = 4.0;  // inches, recommended
+constexpr double kLimitOfConcrete = 20.0;  // limits of 0 and 20 tell a concrete thickness
+
+template <std::size_t Count>
+bool Contains(const std::array<std::string_view, Count>& names, std::string_view name) {
+    return std::any_of(names.begin(), names.end(), [&](std::string_view n) { return EqualNoCase(n, name); });
+}
+
+std::string LimitText(const std::optional<double>& limit) { return limit ? NumberToText(*limit) : ""; }
+
+bool IsOutOfRange(const Range& range, double value) {
+    return (range.low && value < *range.low) || (range.high && value > *range.high);
+}
+
+/// Empties the box of a refused value.
+bool Refuse(Form& form, Control& control) {
+    control.text.clear();
+    form.SetFieldChanged(false);
+    return false;
+}
+
+/// Stores nothing at the field's cell.
+void EmptyCell(ScreenContext& context, const Form& form, const Control& control) {
+    context.calc.store.SetCell(control.tag, 1, form.dim2().value_or(1), {});
+}
+
+void AdviseOnConcrete(ScreenContext& context, const Control& control, const Range& range, double value) {
+    const bool isConcrete = range.high == kLimitOfConcrete && range.low == 0.0;
+    if (!isConcrete || value >= kThinnestConcrete || Contains(kExistingThicknesses, control.name)) return;
+    context.calc.dialogs.ShowMessage(
+        {.text = "The AASHTO recommended minimum thickness for concrete is 4 inches (100mm)",
+         .title = "AASHTO recommendation"});
+}
+
+/// True if a changed value may be stored; else its message was shown.
+bool PassesRange(ScreenContext& context, const Control& control) {
+    if (control.kind == ControlKind::ComboBox || control.text.empty()) return true;
+    const Range range = context.units.VariableRange(control.tag);
+    const double value = ParseNumber(control.text);
+    if (IsOutOfRange(range, value)) {
+        context.calc.dialogs.ShowMessage({.text = OutOfRangeText(range)});
+        return false;
+    }
+    AdviseOnConcrete(context, control, range, value);
+    return true;
+}
+
+/// Solving for an input with this code or below is what the screen's equation is about.
+constexpr double kInEquation = 1.0;
+
+bool IsInEquation(const ScreenContext& context, const Form& form, const Control& control) {
+    const auto fields = context.catalogue.FieldsOfScreen(form.tag);
+    return std::any_of(fields.begin(), fields.end(), [&](const Field* field) {
+        return EqualNoCase(field->name, control.tag) && field->solveFor && *field->solveFor <= kInEquation;
+    });
+}
+
+void StoreField(ScreenContext& context, Form& form, Control& control) {
+    context.bProjectChanged = true;
+    if (control.text.empty()) {
+        EmptyCell(context, form, control);
+    } else {
+        context.units.SetDisplayValue(control.tag, 1, form.dim2().value_or(1), control.text);
+    }
+    RecalcOutputs(context, form, control.tag, 0);
+    if (IsInEquation(context, form, control)) SetSolveForState(form, SolveState::Warning);
+}
+
+}  // namespace
+
+std::string OutOfRangeText(const Range& range) {
+    return "Warning: Input out of range. Enter value between " + LimitText(range.low) + " and " +
+           LimitText(range.high);
+}
+
+void FieldChange(Form& form, Control& control) {
+    form.SetFieldChanged(true);
+    form.SetHiddenText("SolveForField", control.tag);
+}
+
+void FieldGotFocus(Form& form, Control& control) {
+    form.SetFieldChanged(false);
+    form.SetHiddenText("SolveForField", control.tag);
+    FindControlIndex(form, control.name);
+}
+
+void FindControlIndex(Form& form, std::string_view controlName) {
+    if (const auto index = form.IndexOf(controlName)) form.iCurrentField = index;
+}
+
+bool FieldLostFocus(ScreenContext& context, Form& form, Control& control) {
+    const bool isText = !control.text.empty() && !IsNumeric(control.text);
+    if (isText && control.kind != ControlKind::ComboBox && !Contains(kFreeTexts, control.tag)) {
+        context.calc.dialogs.ShowMessage({.text = "Please enter valid numeric value.", .title = "Value"});
+        if (form.fieldChanged()) context.bProjectChanged = true;
+        EmptyCell(context, form, control);
+        return Refuse(form, control);
+    }
+    if (form.fieldChanged()) {
+        form.SetFieldChanged(false);
+        if (!PassesRange(context, control)) return Refuse(form, control);
+        StoreField(context, form, control);
+    }
+    form.SetHiddenText("SolveForField", control.tag);
+    return true;
+}
+
+void RestoreField(ScreenContext& context, Form& form, Control& control) {
+    if (!form.fieldChanged()) return;
+    control.text = context.units.GetDisplayValue(control.tag, 1, form.dim2().value_or(1));
+    form.SetFieldChanged(false);
+}
+
+}  // namespace kelvor

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "screens/forms/screen_context.h"
+
+namespace kelvor {
+
+/// A field was typed in.
+void FieldChange(Form& form, Control& control);
+
+/// A field got the focus: it is not changed yet, and it is the one that Solve For and help mean.
+void FieldGotFocus(Form& form, Control& control);
+
+/// Notes a control's place in the form as that of the current field.
+void FindControlIndex(Form& form, std::string_view controlName);
+
+/// A field is left: its text is tested and stored, the outputs are recalculated, and the indicator warns if
+/// the field belongs to the equation. False if the value was refused; the focus then stays. A field that
+/// was not typed in stores nothing.
+bool FieldLostFocus(ScreenContext& context, Form& form, Control& control);
+
+/// Shows the stored value again in a field that was typed in.
+void RestoreField(ScreenContext& context, Form& form, Control& control);
+
+/// The text with which a value out of a range is refused.
+std::string OutOfRangeText(const Range& range);
+
+}  // namespace kelvor

@@ -1,0 +1,93 @@
+#include "screens/forms/form.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/number_text.h"
+#include "screens/forms/form_builder.h"
+
+namespace kelvor {
+
+namespace {
+
+const char* const kFieldChanged = "FieldChanged";
+
+/// How truth values stand in hidden boxes.
+const char* const kTrue = "-1";
+const char* const kFalse = "0";
+
+std::optional<int> Subscript(const std::string& text) {
+    if (text.empty()) return std::nullopt;
+    return static_cast<int>(Val(text));
+}
+
+}  // namespace
+
+Form::Form(const FormType& type, const Catalogue& catalogue)
+    : tag(type.tag), caption(type.caption), type_(type), controls_(BuildControls(type, catalogue)) {}
+
+Control* Form::Find(std::string_view name) {
+    const auto index = IndexOf(name);
+    return index ? controls_[*index].get() : nullptr;
+}
+
+const Control* Form::Find(std::string_view name) const {
+    const auto index = IndexOf(name);
+    return index ? controls_[*index].get() : nullptr;
+}
+
+std::optional<std::size_t> Form::IndexOf(std::string_view name) const {
+    const auto found = std::find_if(controls_.begin(), controls_.end(),
+                                    [&](const auto& control) { return EqualNoCase(control->name, name); });
+    if (found == controls_.end()) return std::nullopt;
+    return static_cast<std::size_t>(found - controls_.begin());
+}
+
+Control* Form::FindField(std::string_view variable) {
+    const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const auto& control) {
+        return control->IsField() && EqualNoCase(control->tag, variable);
+    });
+    return found == controls_.end() ? nullptr : found->get();
+}
+
+Control* Form::FindAccessKey(char key) {
+    for (const auto& control : controls_) {
+        if (control->accessKey == '\0' || FoldLetter(control->accessKey) != FoldLetter(key)) continue;
+        if (control->page != -1 && control->page != page) continue;
+        return control->labelOf.empty() ? control.get() : Find(control->labelOf);
+    }
+    return nullptr;
+}
+
+std::string Form::HiddenText(std::string_view name) const {
+    const Control* control = Find(name);
+    return control == nullptr ? std::string() : control->text;
+}
+
+void Form::SetHiddenText(std::string_view name, std::string text) {
+    if (Control* control = Find(name)) control->text = std::move(text);
+}
+
+bool Form::fieldChanged() const { return Val(HiddenText(kFieldChanged)) != 0.0; }
+
+void Form::SetFieldChanged(bool changed) { SetHiddenText(kFieldChanged, changed ? kTrue : kFalse); }
+
+std::optional<int> Form::dim2() const { return Subscript(HiddenText("Dim2")); }
+std::optional<int> Form::dim1() const { return Subscript(HiddenText("Dim1")); }
+
+bool Form::CanFocus(const Control& control) const {
+    return control.TakesFocus() && (control.page == -1 || control.page == page);
+}
+
+Control* Form::NextInTabOrder(const Control* from, bool forwards) {
+    const std::size_t count = controls_.size();
+    std::size_t place = forwards ? count - 1 : 0;
+    if (from != nullptr) place = IndexOf(from->name).value_or(place);
+    for (std::size_t i = 0; i < count; ++i) {
+        place = forwards ? (place + 1) % count : (place + count - 1) % count;
+        if (CanFocus(*controls_[place])) return controls_[place].get();
+    }
+    return nullptr;
+}
+
+}  // namespace kelvor

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "catalogue/catalogue.h"
+#include "screens/forms/control.h"
+#include "screens/forms/form_type.h"
+
+namespace kelvor {
+
+/// What the Solve For indicator says.
+enum class SolveState { Resting = 0, Warning = 1, Solved = 2 };
+
+/// An open form: its controls in the order of the declaration, which is the reading order and the tab
+/// order, and where the focus is.
+class Form {
+  public:
+    /// Makes the controls that a type's layout declares, bound to the catalogue.
+    Form(const FormType& type, const Catalogue& catalogue);
+
+    [[nodiscard]] const FormType& type() const { return type_; }
+    [[nodiscard]] const std::string& name() const { return type_.name; }
+
+    /// Null if there is no such control. Names compare without regard to case.
+    [[nodiscard]] Control* Find(std::string_view name);
+    [[nodiscard]] const Control* Find(std::string_view name) const;
+
+    /// The box bound to a variable; null if there is none.
+    [[nodiscard]] Control* FindField(std::string_view variable);
+
+    /// The control with an access key among those on the page that shows; null if there is none.
+    [[nodiscard]] Control* FindAccessKey(char key);
+
+    [[nodiscard]] const std::vector<std::unique_ptr<Control>>& controls() const { return controls_; }
+
+    /// The place of a control in the collection, counted from 0; nothing for a name that is none.
+    [[nodiscard]] std::optional<std::size_t> IndexOf(std::string_view name) const;
+
+    /// The text of a hidden box; empty if the form has none of that name.
+    [[nodiscard]] std::string HiddenText(std::string_view name) const;
+    void SetHiddenText(std::string_view name, std::string text);
+
+    /// True while the field in focus has been typed in since it got the focus.
+    [[nodiscard]] bool fieldChanged() const;
+    void SetFieldChanged(bool changed);
+
+    /// The second subscript that the form shows; nothing if it shows no slice.
+    [[nodiscard]] std::optional<int> dim2() const;
+    [[nodiscard]] std::optional<int> dim1() const;
+
+    /// True if a control can take the focus on the page that shows.
+    [[nodiscard]] bool CanFocus(const Control& control) const;
+
+    /// The control that Tab reaches from here, forwards or backwards, round the form; null if none can.
+    [[nodiscard]] Control* NextInTabOrder(const Control* from, bool forwards);
+
+    std::string tag;  // the catalogue key; the hub changes it with its tabs
+    std::string caption;
+    Control* focus = nullptr;
+    std::optional<std::size_t> iCurrentField;  // the field that had the focus last
+    std::array<SolveState, 2> solveState{SolveState::Resting, SolveState::Resting};
+    int page = 0;  // of the tab strip
+    bool modal = false;
+    bool valueFromHelp = false;  // a side screen has sent a value back
+
+  private:
+    const FormType& type_;
+    std::vector<std::unique_ptr<Control>> controls_;
+};
+
+}  // namespace kelvor

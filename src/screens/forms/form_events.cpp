@@ -1,0 +1,240 @@
+#include "screens/forms/form_events.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "screens/forms/balance_state.h"
+#include "screens/forms/field_entry.h"
+
+namespace kelvor {
+
+namespace {
+
+const char* const kOkButton = "cmdAction";
+const char* const kHelpButton = "SSHelp";
+
+bool IsFor(const Handler& handler, FormEvent event, const Control* control, HandlerOrder order) {
+    if (handler.event != event || handler.order != order) return false;
+    return handler.control.empty() || (control != nullptr && EqualNoCase(handler.control, control->name));
+}
+
+}  // namespace
+
+template <typename Common>
+void FormEvents::Handle(FormEvent event, Form& form, Control* control, Common common) {
+    const auto run = [&](HandlerOrder order) {
+        bool any = false;
+        for (const Handler& handler : form.type().handlers) {
+            if (!IsFor(handler, event, control, order)) continue;
+            handler.run(context_, form, control);
+            any = true;
+        }
+        return any;
+    };
+    run(HandlerOrder::Before);
+    if (!run(HandlerOrder::Instead)) common();
+    run(HandlerOrder::After);
+}
+
+// --- Opening, activating, closing -------------------------------------------------------------------
+
+bool FormEvents::Open(std::string_view name) {
+    if (!context_.calc.store.IsOpen()) return context_.forms.FindType(name) != nullptr;
+    if (!Commit()) return true;
+    if (Form* open = context_.forms.Find(name)) {
+        Activate(*open);
+        return true;
+    }
+    const FormType* type = context_.forms.FindType(name);
+    if (type == nullptr) return false;
+    Form& form = context_.forms.Add(*type, context_.catalogue);
+    Handle(FormEvent::Load, form, nullptr, [&] { InitScreen(context_, form); });
+    form.valueFromHelp = false;
+    Activate(form);
+    return true;
+}
+
+void FormEvents::Activate(Form& form) {
+    if (Current() == &form || !Commit()) return;
+    context_.forms.BringToFront(form);
+    Handle(FormEvent::Activate, form, nullptr, [&] {
+        LoadScreen(context_, form);
+        FocusFirstField(form);
+        if (!form.valueFromHelp) return;
+        form.valueFromHelp = false;
+        SetSolveForState(form, SolveState::Warning);
+    });
+    context_.forms.CurrentForm = &form;
+}
+
+void FormEvents::FocusFirstField(Form& form) {
+    form.focus = nullptr;
+    for (const auto& control : form.controls()) {
+        if (!form.CanFocus(*control) || control->IsButton()) continue;
+        GetFocus(form, *control);
+        return;
+    }
+}
+
+bool FormEvents::Close(Form& form) {
+    if (form.type().isHub) return false;
+    if (form.focus != nullptr && !LoseFocus(form, *form.focus)) return false;
+    if (!ConfirmScreenClose(context_, form)) return false;
+    Unload(form);
+    return true;
+}
+
+void FormEvents::Unload(Form& form) {
+    Handle(FormEvent::Unload, form, nullptr, [] {});
+    context_.forms.Remove(form);
+    ActivateFront();
+}
+
+void FormEvents::ActivateFront() {
+    if (Current() != nullptr) return;
+    if (Form* front = context_.forms.Front()) Activate(*front);
+}
+
+void FormEvents::UnloadAll() {
+    const std::vector<Form*> open = context_.forms.InOpeningOrder();
+    for (auto form = open.rbegin(); form != open.rend(); ++form) {
+        // A form that asks and is told to stay stays open; what closes the others goes on.
+        if (!(*form)->type().isHub) Close(**form);
+    }
+}
+
+// --- Focus --------------------------------------------------------------------------------------------
+
+bool FormEvents::LoseFocus(Form& form, Control& control) {
+    bool accepted = true;
+    if (!control.IsField()) return accepted;
+    Handle(FormEvent::LostFocus, form, &control, [&] { accepted = FieldLostFocus(context_, form, control); });
+    return accepted;
+}
+
+void FormEvents::GetFocus(Form& form, Control& control) {
+    form.focus = &control;
+    if (!control.IsField()) return;
+    Handle(FormEvent::GotFocus, form, &control, [&] { FieldGotFocus(form, control); });
+}
+
+bool FormEvents::MoveFocus(Form& form, Control& control) {
+    if (!form.CanFocus(control)) return false;
+    if (form.focus == &control) return true;
+    if (form.focus != nullptr && !LoseFocus(form, *form.focus)) return false;
+    GetFocus(form, control);
+    return true;
+}
+
+bool FormEvents::Commit() {
+    Form* form = Current();
+    return form == nullptr || form->focus == nullptr || LoseFocus(*form, *form->focus);
+}
+
+void FormEvents::CommitAndReturn() {
+    Form* form = Current();
+    if (form == nullptr || form->focus == nullptr) return;
+    Control& control = *form->focus;
+    if (LoseFocus(*form, control)) GetFocus(*form, control);
+}
+
+void FormEvents::Tab(Form& form, bool forwards) {
+    if (Control* next = form.NextInTabOrder(form.focus, forwards)) MoveFocus(form, *next);
+}
+
+// --- Typing and keys ------------------------------------------------------------------------------------
+
+void FormEvents::Type(const std::string& text) {
+    Form* form = Current();
+    if (form == nullptr || form->focus == nullptr) return;
+    Control& control = *form->focus;
+    if (control.kind != ControlKind::TextBox && control.kind != ControlKind::ComboBox) return;
+    if (control.locked || control.text == text) return;
+    control.text = text;
+    Handle(FormEvent::Change, *form, &control, [&] { FieldChange(*form, control); });
+}
+
+void FormEvents::TypeCharacter(Form& form, char character) {
+    if (form.focus == nullptr) return;
+    // A field that was not typed in yet is selected as a whole, so the first character replaces it.
+    const std::string kept = form.fieldChanged() ? form.focus->text : "";
+    Type(kept + character);
+}
+
+bool FormEvents::Key(const std::string& key) {
+    Form* form = Current();
+    if (form == nullptr) return true;
+    const bool selects = form->type().isHub && form->focus != nullptr && form->focus->IsChoice();
+    if (key == "Enter" && selects) {
+        Click(*form, *form->focus);
+    } else if (key == "Enter" || key == "Tab") {
+        Tab(*form, true);
+    } else if (key == "BackTab") {
+        Tab(*form, false);
+    } else if (key == "Esc") {
+        if (form->focus != nullptr) RestoreField(context_, *form, *form->focus);
+    } else if (key == "Space") {
+        if (form->focus != nullptr && (form->focus->IsButton() || form->focus->IsChoice())) {
+            Click(*form, *form->focus);
+        } else {
+            TypeCharacter(*form, ' ');
+        }
+    } else if (key == "F1") {
+        if (Control* help = form->Find(kHelpButton)) Press(*form, *help);
+    } else if (key.size() == 5 && key.starts_with("Alt+")) {
+        PressAccessKey(*form, key.back());
+    } else if (key.size() == 1) {
+        TypeCharacter(*form, key.front());
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void FormEvents::PressAccessKey(Form& form, char key) {
+    Control* control = form.FindAccessKey(key);
+    if (control == nullptr || !MoveFocus(form, *control)) return;
+    if (control->IsButton() || control->IsChoice()) Click(form, *control);
+}
+
+// --- Clicks -----------------------------------------------------------------------------------------------
+
+void FormEvents::Press(Form& form, Control& button) {
+    if (MoveFocus(form, button)) Click(form, button);
+}
+
+void FormEvents::Click(Form& form, Control& control) {
+    if (control.kind == ControlKind::OptionButton) {
+        for (const auto& other : form.controls()) {
+            if (other->kind == ControlKind::OptionButton && other->page == control.page) other->value = false;
+        }
+        control.value = true;
+    } else if (control.kind == ControlKind::CheckBox) {
+        control.value = !control.value;
+    }
+    Handle(FormEvent::Click, form, &control, [&] {
+        if (EqualNoCase(control.name, kOkButton)) Close(form);
+    });
+}
+
+bool FormEvents::Choose(Form& form, Control& control, const std::string& item) {
+    if (control.IsChoice()) {
+        Press(form, control);
+        return true;
+    }
+    if (control.kind != ControlKind::ComboBox) return false;
+    if (std::find(control.items.begin(), control.items.end(), item) == control.items.end()) return false;
+    if (MoveFocus(form, control)) Type(item);
+    return true;
+}
+
+// --- Units ------------------------------------------------------------------------------------------------
+
+void FormEvents::AfterUnitSwitch() {
+    Form* form = Current();
+    if (form == nullptr || form->type().isHub) return;
+    RefreshScreen(context_, *form);
+    if (form->focus != nullptr) GetFocus(*form, *form->focus);
+}
+
+}  // namespace kelvor

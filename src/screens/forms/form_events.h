@@ -1,0 +1,76 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "screens/forms/screen_context.h"
+
+namespace kelvor {
+
+/// What a user does to the open forms, and what the forms then do: focus, typing, keys, clicks, opening and
+/// closing. One object serves one event.
+class FormEvents {
+  public:
+    explicit FormEvents(ScreenContext& context) : context_(context) {}
+
+    /// Opens the form of a name, or brings it to the front, unless the current form refuses the value being
+    /// typed; with no project open it does nothing. False if there is no such form.
+    bool Open(std::string_view name);
+
+    /// Closes a form as its close box does: the value being typed is committed, then the form may ask. False
+    /// if it stays open.
+    bool Close(Form& form);
+
+    /// Closes a form without a question; what it writes on closing is written.
+    void Unload(Form& form);
+
+    /// Closes every form but the hub, the last one first.
+    void UnloadAll();
+
+    /// Makes a form the current one, unless the current one refuses the value being typed.
+    void Activate(Form& form);
+
+    /// Moves the focus; the control that had it may refuse. True if it arrived.
+    bool MoveFocus(Form& form, Control& control);
+
+    /// Commits the value being typed on the current form. False if it was refused.
+    bool Commit();
+
+    /// Commits the value being typed, then gives the focus back to its field, as Save does.
+    void CommitAndReturn();
+
+    /// Replaces the text of the control in focus, as typing does.
+    void Type(const std::string& text);
+
+    /// A key: Enter, Tab, BackTab, Esc, Space, F1, Alt+X, or one character. False for a name that is none.
+    bool Key(const std::string& key);
+
+    /// Moves the focus to a button and clicks it, if the focus stays there.
+    void Press(Form& form, Control& button);
+
+    /// Selects an option, toggles a check box, or picks an item of a list. False if that makes no sense.
+    bool Choose(Form& form, Control& control, const std::string& item);
+
+    /// Rewrites the current form after a switch of the unit system.
+    void AfterUnitSwitch();
+
+  private:
+    Form* Current() { return context_.forms.CurrentForm; }
+
+    /// Runs a screen's own routines and, unless one stands instead of it, the common one.
+    template <typename Common>
+    void Handle(FormEvent event, Form& form, Control* control, Common common);
+
+    bool LoseFocus(Form& form, Control& control);
+    void GetFocus(Form& form, Control& control);
+    void FocusFirstField(Form& form);
+    void ActivateFront();
+    void Click(Form& form, Control& control);
+    void TypeCharacter(Form& form, char character);
+    void PressAccessKey(Form& form, char key);
+    void Tab(Form& form, bool forwards);
+
+    ScreenContext& context_;
+};
+
+}  // namespace kelvor

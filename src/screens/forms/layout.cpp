@@ -1,0 +1,93 @@
+#include "screens/forms/layout.h"
+
+#include <utility>
+
+namespace kelvor {
+
+namespace {
+
+LayoutNode Group(LayoutKind kind, std::vector<LayoutNode> children) {
+    LayoutNode node;
+    node.kind = kind;
+    node.children = std::move(children);
+    return node;
+}
+
+LayoutNode Leaf(LayoutKind kind, std::string name, std::string title) {
+    LayoutNode node;
+    node.kind = kind;
+    node.name = std::move(name);
+    node.title = std::move(title);
+    return node;
+}
+
+}  // namespace
+
+LayoutNode Pages(std::string name, std::vector<LayoutNode> pages) {
+    LayoutNode node = Group(LayoutKind::Pages, std::move(pages));
+    node.name = std::move(name);
+    return node;
+}
+
+LayoutNode Columns(std::vector<LayoutNode> children) {
+    return Group(LayoutKind::Columns, std::move(children));
+}
+LayoutNode Rows(std::vector<LayoutNode> children) { return Group(LayoutKind::Rows, std::move(children)); }
+
+LayoutNode Page(std::string title, std::vector<LayoutNode> children) {
+    LayoutNode node = Rows(std::move(children));
+    node.title = std::move(title);
+    return node;
+}
+
+LayoutNode Frame(std::string name, std::string title, std::vector<LayoutNode> children) {
+    LayoutNode node = Group(LayoutKind::Frame, std::move(children));
+    node.name = std::move(name);
+    node.title = std::move(title);
+    return node;
+}
+
+LayoutNode Fields(std::vector<FieldItem> fields) {
+    LayoutNode node;
+    node.kind = LayoutKind::Fields;
+    node.fields = std::move(fields);
+    return node;
+}
+
+LayoutNode Options(std::vector<ButtonItem> options) {
+    LayoutNode node;
+    node.kind = LayoutKind::Options;
+    node.buttons = std::move(options);
+    return node;
+}
+
+LayoutNode Text(std::string name, std::string text) {
+    return Leaf(LayoutKind::Text, std::move(name), std::move(text));
+}
+
+LayoutNode Picture(std::string name, std::string file) {
+    return Leaf(LayoutKind::Picture, std::move(name), std::move(file));
+}
+
+LayoutNode Buttons(std::vector<ButtonItem> buttons) {
+    LayoutNode node;
+    node.kind = LayoutKind::Buttons;
+    node.buttons = std::move(buttons);
+    return node;
+}
+
+LayoutNode Hidden(std::vector<std::string> names) {
+    LayoutNode node;
+    node.kind = LayoutKind::Hidden;
+    for (std::string& name : names) node.fields.push_back({std::move(name), {}, false, false});
+    return node;
+}
+
+LayoutNode SolveForFrame(std::string frame, std::string indicator, std::string button) {
+    LayoutNode label;
+    label.kind = LayoutKind::Indicator;
+    label.name = std::move(indicator);
+    return Frame(std::move(frame), "Solve For", {label, Buttons({{std::move(button), "&Solve For", false}})});
+}
+
+}  // namespace kelvor

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "screens/forms/control.h"
+
+namespace kelvor {
+
+/// How the parts of a form lie to each other.
+enum class LayoutKind {
+    Pages,      // one child a tab
+    Columns,    // children side by side
+    Rows,       // children below each other
+    Frame,      // a titled group of its children
+    Fields,     // label, box and unit in aligned columns
+    Options,    // option buttons below each other
+    Text,       // a paragraph
+    Picture,    // an image
+    Indicator,  // the Solve For indicator above its button
+    Buttons,    // buttons in a row
+    Hidden,     // boxes that the user never sees
+};
+
+/// One field of a form: the variable it is bound to, and what its declaration says beyond the catalogue.
+struct FieldItem {
+    std::string variable;
+    std::string label = {};  // empty: the variable's description
+    bool locked = false;
+    bool list = false;  // a drop-down list instead of a text box
+};
+
+/// A button or an option.
+struct ButtonItem {
+    std::string name;
+    std::string caption;  // `&` before the letter of its access key
+    bool comesLater = false;
+};
+
+/// A part of a form, with the parts inside it.
+struct LayoutNode {
+    LayoutKind kind = LayoutKind::Rows;
+    std::string name;   // of the control that it makes, where it makes one
+    std::string title;  // of a frame or page; the paragraph of a text; the file of a picture
+    std::vector<LayoutNode> children;
+    std::vector<FieldItem> fields;
+    std::vector<ButtonItem> buttons;
+};
+
+LayoutNode Pages(std::string name, std::vector<LayoutNode> pages);
+LayoutNode Columns(std::vector<LayoutNode> children);
+LayoutNode Rows(std::vector<LayoutNode> children);
+LayoutNode Page(std::string title, std::vector<LayoutNode> children);
+LayoutNode Frame(std::string name, std::string title, std::vector<LayoutNode> children);
+LayoutNode Fields(std::vector<FieldItem> fields);
+LayoutNode Options(std::vector<ButtonItem> options);
+LayoutNode Text(std::string name, std::string text);
+LayoutNode Picture(std::string name, std::string file);
+LayoutNode Buttons(std::vector<ButtonItem> buttons);
+LayoutNode Hidden(std::vector<std::string> names);
+
+/// The frame "Solve For" with the indicator and its button.
+LayoutNode SolveForFrame(std::string frame, std::string indicator, std::string button);
+
+}  // namespace kelvor

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "catalogue/catalogue.h"
+#include "design/calc/calc_context.h"
+#include "design/calc/dispatch.h"
+#include "screens/forms/balance_flags.h"
+#include "screens/forms/form_registry.h"
+#include "screens/units/units.h"
+
+namespace kelvor {
+
+/// All that a screen's routine may see and touch: what a calculation sees, and the forms.
+struct ScreenContext {
+    CalcContext calc;
+    const Catalogue& catalogue;
+    Units& units;
+    const Dispatch& calculations;
+    FormRegistry& forms;
+    BalanceFlags& balance;
+    bool& bProjectChanged;
+};
+
+}  // namespace kelvor

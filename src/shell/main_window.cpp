@@ -1,0 +1,80 @@
+#include "shell/main_window.h"
+
+#include <utility>
+
+#include "screens/forms/form_events.h"
+
+namespace kelvor {
+
+namespace {
+
+/// Which option of the Design tab opens which screen, in the order in which they are looked at.
+constexpr std::pair<const char*, const char*> kDesignScreens[] = {
+    {"oDeR", "DeR"}, {"oDeF", "DeF"}, {"oDeS", "DeS"}};
+
+void OpenDesignScreen(ScreenContext& context, Form& form, Control* /*button*/) {
+    for (const auto& [option, screen] : kDesignScreens) {
+        const Control* choice = form.Find(option);
+        if (choice == nullptr || !choice->value) continue;
+        FormEvents(context).Open(screen);
+        return;
+    }
+}
+
+LayoutNode EmptyPage(const std::string& title, const std::string& label) {
+    return Page(title, {Text(label, "This part of Kelvor comes later.")});
+}
+
+}  // namespace
+
+std::vector<MenuTitle> MenuTitles() {
+    return {{"MenuFile", "&File"}, {"MenuUnits", "&Units"}, {"MenuWindow", "&Window"}, {"MenuHelp", "&Help"}};
+}
+
+std::vector<MenuEntry> MenuEntries(bool metric) {
+    return {
+        {"MenuFile", "NewProj", "&New Project", false, false},
+        {"MenuFile", "MenuFileOpen", "&Open Project...", false, false},
+        {"MenuFile", "MenuFilePrint", "&Print", true, false},
+        {"MenuFile", "MenuFileSave", "&Save Project...", false, false},
+        {"MenuFile", "MenuFileSaveAs", "Save Project &As...", false, false},
+        {"MenuFile", "", "", false, false},
+        {"MenuFile", "MenuFileExit", "E&xit", false, false},
+        {"MenuUnits", "MenuUnitsEnglish", "&English", false, !metric},
+        {"MenuUnits", "MenuUnitsMetric", "&Metric", false, metric},
+        {"MenuHelp", "MenuAbout", "A&bout Kelvor", true, false},
+        {"MenuHelp", "MenuTopics", "Help &Topics", true, false},
+    };
+}
+
+FormType HubForm() {
+    FormType type;
+    type.name = kHubForm;
+    type.tag = "InfForm";
+    type.caption = "Kelvor";
+    type.isHub = true;
+    type.layout = Pages(
+        "VSIndexTab",
+        {
+            EmptyPage("Project ID", "LabLater0"),
+            EmptyPage("Traffic", "LabLater1"),
+            Page("Design / Evaluation",
+                 {Frame("Frame1", "Design / Evaluation",
+                        {Options({{"oDeF", "&Asphalt Pavement Design / Evaluation", false},
+                                  {"oDeR", "&Rigid Pavement Design / Evaluation", true},
+                                  {"oDeS", "&Both Rigid and Asphalt Design / Evaluation", true}}),
+                         Buttons({{"Command4", "&Design", false}})})}),
+            EmptyPage("Overlays", "LabLater3"),
+            EmptyPage("Life Cycle Costing", "LabLater4"),
+            EmptyPage("Reports", "LabLater5"),
+            EmptyPage("Lists", "LabLater6"),
+            Page("KVR", {Text("ProductLabel", "Kelvor"), Text("VersionLabel", "Version " KELVOR_VERSION)}),
+        });
+    type.handlers = {
+        {FormEvent::Load, "", HandlerOrder::Instead, [](ScreenContext&, Form&, Control*) {}},
+        {FormEvent::Click, "Command4", HandlerOrder::Instead, OpenDesignScreen},
+    };
+    return type;
+}
+
+}  // namespace kelvor

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+
+namespace kelvor {
+
+/// One act of the user on the windows. A front end tells the program nothing else.
+struct UserEvent {
+    enum class Kind {
+        OpenForm,      // name: the form
+        ActivateForm,  // name: an open form
+        CloseForm,     // name: an open form; its close box
+        Focus,         // name: a control of the current form
+        Type,          // text: what the control in focus now holds
+        Key,           // name: of the key
+        Press,         // name: a button of the current form
+        Choose,        // name: an option, a check box or a list; text: the item of a list
+        SwitchTab,     // number: of the hub's tab, from 0
+        Menu,          // name: of the entry
+    };
+
+    Kind kind;
+    std::string name;
+    std::string text;
+    int number = 0;
+};
+
+}  // namespace kelvor
