@@ -1,0 +1,292 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <cmath>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "screens/forms/form.h"
+#include "support/test_host.h"
+
+namespace kelvor::test {
+namespace {
+
+using Kind = UserEvent::Kind;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class FormsTest : public testing::Test {
+  protected:
+    bool Raise(Kind kind, const std::string& name = {}, const std::string& text = {}, int number = 0) {
+        return program_.program.Raise({kind, name, text, number});
+    }
+
+    Form& Open(const std::string& name) {
+        EXPECT_TRUE(Raise(Kind::OpenForm, name));
+        return *program_.program.state().formRegistry.Find(name);
+    }
+
+    std::vector<std::string> Messages() { return program_.host.record.TakeTexts(); }
+
+    TestProgram program_;
+};
+
+TEST_F(FormsTest, EveryFieldOfEveryFormIsBoundToTheCatalogue) {
+    const Catalogue& catalogue = *program_.program.state().dbCatalogue;
+    for (const std::string& name : program_.program.state().formRegistry.TypeNames()) {
+        const Form form(*program_.program.state().formRegistry.FindType(name), catalogue);
+        for (const auto& control : form.controls()) {
+            if (!control->IsField()) continue;
+            EXPECT_NE(catalogue.FindVariable(control->tag), nullptr) << name << "." << control->name;
+            EXPECT_FALSE(control->picture.empty()) << name << "." << control->name;
+        }
+    }
+}
+
+TEST_F(FormsTest, AccessKeysAreUniqueOnEveryPageAndReachEveryControl) {
+    const Catalogue& catalogue = *program_.program.state().dbCatalogue;
+    for (const std::string& name : program_.program.state().formRegistry.TypeNames()) {
+        Form form(*program_.program.state().formRegistry.FindType(name), catalogue);
+        for (const auto& control : form.controls()) {
+            if (control->accessKey == '\0') continue;
+            form.page = control->page == -1 ? 0 : control->page;
+            const Control* found = form.FindAccessKey(control->accessKey);
+            const std::string expected = control->labelOf.empty() ? control->name : control->labelOf;
+            ASSERT_NE(found, nullptr);
+            EXPECT_EQ(found->name, expected) << name << ": Alt+" << control->accessKey;
+        }
+        for (const auto& control : form.controls()) {
+            const bool needsKey = !control->labelOf.empty() || control->IsButton() || control->IsChoice();
+            EXPECT_TRUE(!needsKey || control->accessKey != '\0') << name << "." << control->name;
+        }
+    }
+}
+
+TEST_F(FormsTest, TabGoesThroughEveryInputInReadingOrderAndRound) {
+    Form& form = Open("DeF");
+    std::vector<std::string> order;
+    for (int i = 0; i < 10; ++i) {
+        order.push_back(form.focus->name);
+        Raise(Kind::Key, "Tab");
+    }
+    EXPECT_THAT(order, ElementsAre("FLEXE18", "FLEXREL", "FLEXDEV", "RM", "SN", "FLEXPO", "FLEXPT",
+                                   "Command1", "cmdAction", "FLEXE18"));
+    Raise(Kind::Key, "BackTab");
+    Raise(Kind::Key, "BackTab");
+    EXPECT_EQ(form.focus->name, "cmdAction");
+    EXPECT_THAT(Messages(), IsEmpty());
+}
+
+TEST_F(FormsTest, EnterOnAButtonMovesOn) {
+    Form& form = Open("DeF");
+    Raise(Kind::Focus, "Command1");
+    Raise(Kind::Key, "Enter");
+    EXPECT_EQ(form.focus->name, "cmdAction");
+    Raise(Kind::Key, "Enter");
+    EXPECT_EQ(form.focus->name, "FLEXE18");
+    EXPECT_THAT(Messages(), IsEmpty());
+}
+
+TEST_F(FormsTest, AFormIsOpenOnceAtMost) {
+    Form& form = Open("DeF");
+    Raise(Kind::ActivateForm, "TabForm");
+    EXPECT_EQ(&Open("DeF"), &form);
+    EXPECT_EQ(program_.program.state().formRegistry.InOpeningOrder().size(), 2U);
+    EXPECT_EQ(program_.program.state().formRegistry.CurrentForm, &form);
+}
+
+TEST_F(FormsTest, WhatMakesNoSenseIsTold) {
+    EXPECT_FALSE(Raise(Kind::OpenForm, "NoSuch"));
+    EXPECT_FALSE(Raise(Kind::CloseForm, "DeF"));
+    EXPECT_FALSE(Raise(Kind::Focus, "NoSuch"));
+    EXPECT_FALSE(Raise(Kind::SwitchTab, {}, {}, 8));
+    EXPECT_FALSE(Raise(Kind::SwitchTab, {}, {}, -1));
+    EXPECT_FALSE(Raise(Kind::Menu, "NoSuch"));
+    EXPECT_FALSE(Raise(Kind::Key, "Bogus"));
+}
+
+TEST_F(FormsTest, ADisabledControlTakesNeitherFocusNorClick) {
+    Form& form = Open("DeF");
+    EXPECT_TRUE(Raise(Kind::Press, "Command2"));
+    EXPECT_EQ(form.focus->name, "FLEXE18");
+    EXPECT_EQ(form.Find("Command2")->toolTip, "comes later");
+    Raise(Kind::Key, "F1");
+    EXPECT_EQ(form.focus->name, "FLEXE18");
+    Raise(Kind::Focus, "SolveForField");
+    EXPECT_EQ(form.focus->name, "FLEXE18") << "a hidden box";
+}
+
+TEST_F(FormsTest, LeavingAFieldThatWasNotTypedInStoresNothing) {
+    program_.store().SetCell("RM", 1, 1, {1.0, "1"});  // below the limit
+    Form& form = Open("DeF");
+    Raise(Kind::Focus, "RM");
+    Raise(Kind::Focus, "SN");
+    EXPECT_EQ(form.focus->name, "SN");
+    EXPECT_EQ(*program_.store().FindCell("RM", 1, 1), (CellValue{1.0, "1"}));
+    EXPECT_EQ(form.solveState[0], SolveState::Resting);
+    EXPECT_FALSE(program_.program.state().bProjectChanged);
+}
+
+TEST_F(FormsTest, AFieldOutsideTheEquationDoesNotWarn) {
+    SQLite::Database((program_.home / "DataBase/Kelvor.mdb").string(), SQLite::OPEN_READWRITE)
+        .exec("UPDATE Field SET SolveFor = NULL WHERE Screen = 'DeF' AND Name = 'RM'");
+    program_.program.state().OpenCatalogue(program_.home / "DataBase/Kelvor.mdb");
+    program_.Set("FLEXPO", 4.2);
+    program_.Set("FLEXPT", 2.5);
+    Form& form = Open("DeF");
+    Raise(Kind::Focus, "RM");
+    Raise(Kind::Type, {}, "5000");
+    Raise(Kind::Focus, "SN");
+    EXPECT_EQ(program_.Get("RM"), 5000.0);
+    EXPECT_EQ(form.solveState[0], SolveState::Resting);
+    Raise(Kind::Focus, "RM");
+    Raise(Kind::Press, "Command1");
+    EXPECT_THAT(Messages(), ElementsAre("Cannot solve for: Soil Resilient Mod."));
+    EXPECT_EQ(form.focus->name, "RM");
+    EXPECT_EQ(form.solveState[0], SolveState::Resting);
+}
+
+TEST_F(FormsTest, ALimitThatIsMissingBoundsNothingAndReadsEmpty) {
+    SQLite::Database((program_.home / "DataBase/Kelvor.mdb").string(), SQLite::OPEN_READWRITE)
+        .exec("UPDATE Variable SET Low = NULL WHERE Name = 'RM'");
+    program_.program.state().OpenCatalogue(program_.home / "DataBase/Kelvor.mdb");
+    Open("DeF");
+    Raise(Kind::Focus, "RM");
+    Raise(Kind::Type, {}, "-5");
+    Raise(Kind::Focus, "SN");
+    EXPECT_EQ(program_.Get("RM"), -5.0);
+    Raise(Kind::Focus, "RM");
+    Raise(Kind::Type, {}, "200,000");
+    Raise(Kind::Focus, "SN");
+    EXPECT_THAT(Messages(), ElementsAre("Warning: Input out of range. Enter value between  and 100000"));
+}
+
+TEST_F(FormsTest, AnEventInsideAnEventIsDropped) {
+    // A message box whose observer acts like an impatient user.
+    class Impatient : public Dialogs {
+      public:
+        Answer ShowMessage(const Message& message) override {
+            program->Raise({Kind::CloseForm, "DeF", {}, 0});
+            return DefaultAnswer(message.style);
+        }
+        std::optional<std::string> AskText(const InputRequest&) override { return std::nullopt; }
+        std::optional<Path> AskFile(const FileRequest&) override { return std::nullopt; }
+        void SetWaitCursor(bool) override {}
+        Program* program = nullptr;
+    };
+    TestHome home;
+    TestHost host;
+    Impatient dialogs;
+    Program program({host.native, host.clock, dialogs, host.components}, home.home());
+    dialogs.program = &program;
+    ASSERT_EQ(program.Start(""), StartResult::Running);
+    program.Raise({Kind::OpenForm, "DeF", {}, 0});
+    program.Raise({Kind::Type, {}, "abc", 0});
+    program.Raise({Kind::Key, "Enter", {}, 0});
+    EXPECT_NE(program.state().formRegistry.Find("DeF"), nullptr);
+}
+
+TEST_F(FormsTest, TwentySwitchesOfTheUnitsLeaveEveryCellAsItWas) {
+    Open("DeF");
+    for (const char* field : {"FLEXE18", "FLEXREL", "FLEXDEV", "RM", "FLEXPO", "FLEXPT"}) {
+        Raise(Kind::Focus, field);
+        Raise(Kind::Type, {},
+              std::string(field) == "FLEXE18"   ? "5,000,000"
+              : std::string(field) == "FLEXREL" ? "95"
+              : std::string(field) == "FLEXDEV" ? "0.45"
+              : std::string(field) == "RM"      ? "5,000"
+              : std::string(field) == "FLEXPO"  ? "4.2"
+                                                : "2.5");
+    }
+    Raise(Kind::Focus, "SN");
+    Raise(Kind::Press, "Command1");
+    const auto snapshot = [&] {
+        std::string all;
+        program_.store().ForEachFilled([&](const CellKey& key, const CellValue& value) {
+            all += CellText(key.name, key.dim1, key.dim2) + "=" + std::to_string(value.number.value_or(-1)) +
+                   value.text.value_or("") + "\n";
+        });
+        return all;
+    };
+    const std::string before = snapshot();
+    for (int i = 0; i < 20; ++i) Raise(Kind::Menu, i % 2 == 0 ? "MenuUnitsMetric" : "MenuUnitsEnglish");
+    EXPECT_EQ(snapshot(), before);
+}
+
+TEST_F(FormsTest, AThousandPastedCharactersAreRefusedWithOneMessage) {
+    Form& form = Open("DeF");
+    Raise(Kind::Type, {}, std::string(1000, 'x'));
+    Raise(Kind::Key, "Enter");
+    EXPECT_THAT(Messages(), ElementsAre("Please enter valid numeric value."));
+    EXPECT_EQ(form.focus->name, "FLEXE18");
+    EXPECT_EQ(form.focus->text, "");
+}
+
+TEST_F(FormsTest, WithNoProjectOpenScreensDoNothing) {
+    WriteFile(program_.home / "bad.kvr", "no project");
+    program_.program.OpenProject((program_.home / "bad.kvr").string());
+    (void)Messages();
+    EXPECT_TRUE(Raise(Kind::OpenForm, "DeF"));
+    EXPECT_EQ(program_.program.state().formRegistry.Find("DeF"), nullptr);
+    EXPECT_TRUE(Raise(Kind::Menu, "MenuUnitsMetric"));
+}
+
+/// One random act of a user who has no idea.
+UserEvent RandomEvent(std::mt19937& random, const Form* current) {
+    static const std::vector<std::string> kKeys = {"Enter", "Tab",   "BackTab", "Esc", "Space", "F1",
+                                                   "Alt+S", "Alt+O", "Alt+D",   "5",   ".",     "x"};
+    static const std::vector<std::string> kTexts = {"5000", "95", "0.45",  "4.2", "2.5",      "",
+                                                    "abc",  "-1", "1e308", "1e9", "5,000,000"};
+    static const std::vector<std::string> kMenus = {"MenuUnitsMetric", "MenuUnitsEnglish", "MenuFilePrint",
+                                                    "NewProj"};
+    const auto pick = [&](std::size_t count) {
+        return std::uniform_int_distribution<std::size_t>(0, count - 1)(random);
+    };
+    std::string control = "TabForm";
+    if (current != nullptr) control = current->controls()[pick(current->controls().size())]->name;
+    switch (pick(10)) {
+        case 0:
+            return {Kind::OpenForm, "DeF", {}, 0};
+        case 1:
+            return {Kind::ActivateForm, pick(2) == 0 ? "TabForm" : "DeF", {}, 0};
+        case 2:
+            return {Kind::CloseForm, "DeF", {}, 0};
+        case 3:
+            return {Kind::Focus, control, {}, 0};
+        case 4:
+        case 5:
+            return {Kind::Type, {}, kTexts[pick(kTexts.size())], 0};
+        case 6:
+            return {Kind::Key, kKeys[pick(kKeys.size())], {}, 0};
+        case 7:
+            return {Kind::Press, pick(3) == 0 ? "Command1" : control, {}, 0};
+        case 8:
+            return pick(2) == 0 ? UserEvent{Kind::Choose, control, {}, 0}
+                                : UserEvent{Kind::SwitchTab, {}, {}, static_cast<int>(pick(9))};
+        default:
+            // A new project now and then only: it copies the template.
+            return {Kind::Menu, kMenus[pick(20) == 0 ? 3 : pick(3)], {}, 0};
+    }
+}
+
+TEST_F(FormsTest, AHundredThousandRandomEventsDoNoHarm) {
+    std::mt19937 random(20260103);
+    FormRegistry& forms = program_.program.state().formRegistry;
+    for (int i = 0; i < 100'000; ++i) {
+        program_.program.Raise(RandomEvent(random, forms.CurrentForm));
+        program_.host.record.messages.clear();
+        program_.host.record.answers.clear();
+        ASSERT_NE(forms.CurrentForm, nullptr);
+        const Control* focus = forms.CurrentForm->focus;
+        ASSERT_TRUE(focus == nullptr || forms.CurrentForm->CanFocus(*focus)) << "event " << i;
+    }
+    EXPECT_TRUE(program_.store().CompareWithWorkCopy().empty());
+    program_.store().ForEachFilled([](const CellKey& key, const CellValue& value) {
+        EXPECT_TRUE(std::isfinite(value.number.value_or(0.0))) << key.name;
+    });
+}
+
+}  // namespace
+}  // namespace kelvor::test
