@@ -57,6 +57,7 @@ TextTable ParseTextTable(const std::string& name, std::string_view content) {
         const std::vector<std::string_view> cells = SplitCells(content.substr(0, end));
         content.remove_prefix(std::min(end + 1, content.size()));
         if (number == 1) {
+            if (std::count(cells.begin(), cells.end(), "") > 0) Fail(name, number, "a column has no name");
             table.columns.assign(cells.begin(), cells.end());
             continue;
         }

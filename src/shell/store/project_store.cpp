@@ -14,15 +14,22 @@ namespace {
 /// Room made at once for the cells of a project; one that has more grows.
 constexpr std::size_t kUsualCells = 100'000;
 
+/// Below, at or above 0 as `a` stands before, with or after `b` in the work copy's order of names.
+int CompareNames(std::string_view a, std::string_view b) {
+    const auto [x, y] = std::mismatch(a.begin(), a.end(), b.begin(), b.end(),
+                                      [](char c, char d) { return FoldLetter(c) == FoldLetter(d); });
+    if (x == a.end() || y == b.end()) return static_cast<int>(x != a.end()) - static_cast<int>(y != b.end());
+    const auto byte = [](char c) { return static_cast<int>(static_cast<unsigned char>(FoldLetter(c))); };
+    return byte(*x) - byte(*y);
+}
+
 }  // namespace
 
 std::string CellText(std::string_view name, int dim1, int dim2) {
     return std::string(name) + "(" + std::to_string(dim1) + "," + std::to_string(dim2) + ")";
 }
 
-ProjectStore::~ProjectStore() {
-    Abandon();
-}
+ProjectStore::~ProjectStore() { Abandon(); }
 
 // --- Opening and closing -----------------------------------------------------------------------
 
@@ -50,10 +57,15 @@ void ProjectStore::Load(const std::vector<CellBounds>& bounds) {
 }
 
 void ProjectStore::AddCell(CellKey key, CellValue value) {
-    // The rows come in key order, so a variable's cells follow each other.
-    if (variables_.empty() || !EqualNoCase(variables_.back().name, key.name)) {
-        const auto number = static_cast<std::uint32_t>(variables_.size());
-        if (!byName_.emplace(key.name, number).second) throw DatabaseError("rows out of order", false);
+    // The rows come in key order, so a variable's cells follow each other. In a damaged work copy that has
+    // them in another order no change would find its row.
+    const int order = variables_.empty() ? 1 : CompareNames(key.name, variables_.back().name);
+    if (order < 0 ||
+        (order == 0 && std::pair(key.dim1, key.dim2) <= std::pair(cells_.back().dim1, cells_.back().dim2))) {
+        throw DatabaseError("rows out of order", false);
+    }
+    if (order > 0) {
+        byName_.emplace(key.name, static_cast<std::uint32_t>(variables_.size()));
         variables_.push_back({std::move(key.name), static_cast<std::uint32_t>(cells_.size()), 0, 0});
     }
     ++variables_.back().count;

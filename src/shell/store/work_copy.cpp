@@ -97,8 +97,9 @@ void WorkCopy::Update(std::string_view name, int dim1, int dim2, const CellValue
         update_.bind(3, std::string(name));
         update_.bind(4, dim1);
         update_.bind(5, dim2);
-        update_.exec();
+        const int rows = update_.exec();
         update_.reset();
+        if (rows != 1) throw DatabaseError("the row of " + std::string(name) + " is missing", false);
     });
 }
 

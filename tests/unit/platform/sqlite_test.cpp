@@ -156,6 +156,38 @@ TEST_F(SqliteTest, TheSchemaCannotBeForged) {
     EXPECT_THROW(database.exec("UPDATE sqlite_schema SET sql = 'x'"), SQLite::Exception);
 }
 
+/// Counts its calls in the int that it was registered with.
+void Spy(sqlite3_context* context, int /*count*/, sqlite3_value** /*arguments*/) {
+    ++*static_cast<int*>(sqlite3_user_data(context));
+    sqlite3_result_int(context, 1);
+}
+
+TEST_F(SqliteTest, TheSchemaRunsNoFunctionOfTheProgram) {
+    int calls = 0;
+    {
+        SQLite::Database plain(file_.string(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        plain.createFunction("spy", 0, false, &calls, Spy);
+        plain.exec(
+            "CREATE TABLE Number (Id INTEGER, Text TEXT DEFAULT (spy())); INSERT INTO Number (Id) VALUES "
+            "(1)");
+        ASSERT_EQ(calls, 1) << "the default works";
+    }
+    SQLite::Database database = OpenDatabase(file_, DatabaseAccess::ReadWrite);
+    database.createFunction("spy", 0, false, &calls, Spy);
+    EXPECT_THROW(database.exec("INSERT INTO Number (Id) VALUES (2)"), SQLite::Exception);
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(SqliteTest, AValueOfManyMegabytesIsNotRead) {
+    Make(
+        "CREATE TABLE Number (Id INTEGER, Text TEXT);"
+        "INSERT INTO Number VALUES (1, hex(zeroblob(1000000))), (2, hex(zeroblob(5000000)))");
+    SQLite::Database database = OpenDatabase(file_, DatabaseAccess::ReadOnly);
+    EXPECT_EQ(database.execAndGet("SELECT Text FROM Number WHERE Id = 1").getString().size(), 2000000U);
+    EXPECT_THROW((void)database.execAndGet("SELECT Text FROM Number WHERE Id = 2").getString(),
+                 SQLite::Exception);
+}
+
 TEST_F(SqliteTest, NoExtensionIsLoaded) {
     MakeNumbers(1);
     SQLite::Database database = OpenDatabase(file_, DatabaseAccess::ReadWrite);

@@ -280,7 +280,9 @@ TEST(TextTest, TextsAreEqualWithoutRegardToCase) {
         EXPECT_EQ(EqualNoCase(row.a, row.b), row.equal) << row.a << " and " << row.b;
         EXPECT_EQ(EqualNoCase(row.b, row.a), row.equal) << row.b << " and " << row.a;
         EXPECT_EQ(NameEqual()(row.a, row.b), row.equal) << row.a << " and " << row.b;
-        if (row.equal) EXPECT_EQ(NameHash()(row.a), NameHash()(row.b)) << row.a << " and " << row.b;
+        if (row.equal) {
+            EXPECT_EQ(NameHash()(row.a), NameHash()(row.b)) << row.a << " and " << row.b;
+        }
     }
 }
 

@@ -8,6 +8,7 @@
 #include "support/file_system_doubles.h"
 #include "unit/shell/child_process.h"
 #include "unit/shell/project_fixture.h"
+#include "unit/shell/small_home.h"
 
 // Saves that do not run to their end. Each begins with a project file that holds SN 4.5 and stores 5.5.
 
@@ -24,7 +25,7 @@ const char* const kNew = "5.5";
 /// A program on a file system in which one operation goes wrong.
 class FaultyProgram {
   public:
-    FaultyProgram(const TestHome& home, FaultyFileSystem::Plan plan) : files_(host_.native, plan) {
+    FaultyProgram(const SmallHome& home, FaultyFileSystem::Plan plan) : files_(host_.native, plan) {
         host_.fileSystem = &files_;
         program_.emplace(host_.host(), home.home());
     }
@@ -120,7 +121,7 @@ class InterruptedSaveTest : public testing::Test {
         EXPECT_EQ(program.state().dbWork.GetVar("SN"), value);
     }
 
-    TestHome home_;
+    SmallHome home_;
     TemporaryFolder folder_;
     std::string old_;
     std::string new_;

@@ -132,8 +132,74 @@ TEST_F(ProjectFilesTest, AnyNameThatTheMachineAllowsServes) {
         "back\\slash.kvr",
         "*.kvr",
         std::string(196, 'n') + ".kvr",
+        std::string(251, 'm') + ".kvr",
     };
     for (const std::string& name : names) {
+        SCOPED_TRACE(name);
+        Enter("Agency", name);
+        ASSERT_TRUE(Run().SaveAs(File(name)));
+        ASSERT_TRUE(Run().NewProject());
+        EXPECT_EQ(program_.store().FindCell("Agency", 1, 1)->text, std::nullopt);
+        ASSERT_TRUE(Run().OpenProject(File(name)));
+        EXPECT_EQ(program_.store().FindCell("Agency", 1, 1)->text, name);
+        ASSERT_TRUE(Run().NewProject());
+        EXPECT_THAT(Messages(), IsEmpty());
+    }
+}
+
+TEST_F(ProjectFilesTest, AProjectNamedByARelativePathIsKnownByItsFullPath) {
+    const Path before = std::filesystem::current_path();
+    std::filesystem::current_path(folder_.path());
+    const bool saved = Run().SaveAs("plan");
+    std::filesystem::current_path(before);
+    ASSERT_TRUE(saved);
+    EXPECT_TRUE(Path(State().sProjectFile).is_absolute());
+    EXPECT_TRUE(std::filesystem::equivalent(State().sProjectFile, File("plan.kvr")));
+    EXPECT_EQ(State().caption, "KVR - " + State().sProjectFile);
+    EXPECT_THAT(RecentPaths(State()), ElementsAre(State().sProjectFile));
+}
+
+// --- Links, folders and other targets ------------------------------------------------------------
+
+TEST_F(ProjectFilesTest, SavingOntoALinkWritesTheFileBehindIt) {
+    WriteFile(File("behind.kvr"), "old");
+    std::filesystem::create_symlink(File("behind.kvr"), File("link.kvr"));
+    Enter("SN", "4.5");
+    ASSERT_TRUE(Run().SaveAs(File("link.kvr")));
+    EXPECT_TRUE(std::filesystem::is_symlink(File("link.kvr")));
+    EXPECT_FALSE(std::filesystem::is_symlink(File("behind.kvr")));
+    EXPECT_EQ(NumberInFile(File("behind.kvr"), "SN"), 4.5);
+    EXPECT_EQ(State().sProjectFile, File("link.kvr"));
+    EXPECT_THAT(NamesIn(folder_.path()), ElementsAre("behind.kvr", "link.kvr"));
+}
+
+TEST_F(ProjectFilesTest, SavingOntoALinkThatLeadsNowhereMakesItsFile) {
+    std::filesystem::create_symlink("behind.kvr", File("link.kvr"));
+    ASSERT_TRUE(Run().SaveAs(File("link.kvr")));
+    EXPECT_TRUE(std::filesystem::is_symlink(File("link.kvr")));
+    EXPECT_TRUE(std::filesystem::is_regular_file(File("behind.kvr")));
+}
+
+TEST_F(ProjectFilesTest, ASaveOntoWhatIsNoFileFailsAndTheProjectStaysOpen) {
+    ASSERT_TRUE(Run().SaveAs(File("plan.kvr")));
+    const std::string saved = ReadFile(File("plan.kvr"));
+    Enter("SN", "4.5");
+    Enter("Agency", "County");
+    std::filesystem::create_directory(File("folder.kvr"));
+    ASSERT_EQ(::mkfifo(File("pipe.kvr").c_str(), 0600), 0);
+    std::filesystem::create_symlink(program_.home / "kvrwork.tmp", File("work.kvr"));
+    std::filesystem::create_symlink(File("loop.kvr"), File("loop.kvr"));
+    const std::string longName(300, 'n');
+    const std::vector<std::pair<std::string, std::string>> targets = {
+        {"folder.kvr", "Is a directory"},
+        {"nowhere/plan.kvr", "No such file or directory"},
+        {"plan.kvr/plan.kvr", "Not a directory"},
+        {"pipe.kvr", "Not a regular file"},
+        {"work.kvr", "it is the program's own work copy"},
+        {"loop.kvr", "Too many levels of symbolic links"},
+        {longName + ".kvr", "File name too long"},
+    };
+    for (const auto& [name, reason] : targets) {
         SCOPED_TRACE(name);
         EXPECT_FALSE(Run().SaveAs(File(name)));
         EXPECT_THAT(Messages(), ElementsAre("Error saving to " + File(name) + ": " + reason));
@@ -454,6 +520,20 @@ TEST_F(AfterAFailedOpenTest, EntriesAndUnitsHaveNoEffect) {
     EXPECT_TRUE(Run().NewProject());
     EXPECT_EQ(Get("SN"), 0.0);
     EXPECT_FALSE(program_.units().bMetric());
+}
+
+TEST_F(AfterAFailedOpenTest, ExitOffersToSaveAndTouchesNothing) {
+    const std::string question =
+        "The contents of " + File("plan.kvr") + " has changed. Do you want to save your changes?";
+    EXPECT_TRUE(Run().Raise({.kind = UserEvent::Kind::Menu, .name = "MenuFileExit", .text = ""}));
+    EXPECT_THAT(Messages(),
+                ElementsAre(question, "Error saving to " + File("plan.kvr") + ": no project is open"));
+    EXPECT_FALSE(Run().ended()) << "a Yes that saved nothing ends nothing";
+    program_.host.dialogs.QueueAnswer("no");
+    EXPECT_TRUE(Run().Raise({.kind = UserEvent::Kind::Menu, .name = "MenuFileExit", .text = ""}));
+    EXPECT_THAT(Messages(), ElementsAre(question));
+    EXPECT_TRUE(Run().ended());
+    EXPECT_EQ(ReadFile(File("plan.kvr")), saved_);
 }
 
 // --- Changes -------------------------------------------------------------------------------------

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "bench_program.h"
+#include "summary.h"
+
+namespace kelvor::bench {
+
+/// A pair of registered benchmarks that the summary compares.
+struct Pair {
+    std::string name;  // for the summary
+    std::string ours;  // the names of the two benchmarks
+    std::string reference;
+    Measure measure = Measure::Cpu;
+    std::optional<double> limit;
+};
+
+/// Each of the following registers benchmarks and gives the pairs to compare. The program and the home
+/// must outlive the run.
+
+/// A keyed read by name, against a hash table of the standard library with the same names.
+std::vector<Pair> RegisterReads(BenchProgram& program);
+
+/// A solve for the structural number that writes nothing, against the same search on plain doubles.
+std::vector<Pair> RegisterSolves(BenchProgram& program);
+
+/// A write through to the work copy inside an event, and the end of an event that wrote one cell, both
+/// against SQLite alone.
+std::vector<Pair> RegisterWrites(BenchProgram& program, const Path& home);
+
+/// How often one solve for the structural number reads the store, and what it does meanwhile.
+struct SolveCount {
+    int byName = 0;
+    int byHandle = 0;
+    int evaluations = 0;  // of the design equation, during the search
+};
+SolveCount CountSolve(BenchProgram& program);
+
+/// Starts kelvor-cli and the reference in turns, to their first answer, and compares the medians of time
+/// and of peak memory.
+std::vector<Comparison> CompareStarts(const Path& home);
+
+}  // namespace kelvor::bench

@@ -1,0 +1,684 @@
+#include "console/application.h"
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <nlohmann/json.hpp>
+#include <sstream>
+#include <utility>
+
+#include "console/script/output.h"
+#include "unit/shell/child_process.h"
+#include "unit/shell/project_fixture.h"
+
+namespace kelvor::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::MatchesRegex;
+
+/// What a run of the console left.
+struct ConsoleEnd {
+    int status = -1;
+    std::string output;
+    std::string errors;
+};
+
+/// The whole of kelvor-cli, in this process.
+ConsoleEnd RunInProcess(std::vector<std::string> words, const std::string& input) {
+    words.insert(words.begin(), "kelvor-cli");
+    std::vector<char*> arguments;
+    for (std::string& word : words) arguments.push_back(word.data());
+    std::istringstream in(input);
+    std::ostringstream out;
+    std::ostringstream errors;
+    const int status = RunConsole(static_cast<int>(arguments.size()), arguments.data(), in, out, errors);
+    return {status, out.str(), errors.str()};
+}
+
+std::vector<std::string> Lines(const std::string& text) {
+    std::vector<std::string> lines;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);) lines.push_back(line);
+    return lines;
+}
+
+std::string Report(const ConsoleEnd& end) {
+    return std::to_string(end.status) + "\n" + end.output + end.errors;
+}
+
+/// kelvor-cli as a process of its own, asked one command at a time.
+class RunningCli {
+  public:
+    RunningCli(std::vector<std::string> words, const std::string& temporaryFolder) {
+        int ends[2];
+        if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0)
+            throw std::runtime_error("no socket");
+        words.insert(words.begin(), KELVOR_CLI);
+        std::vector<char*> arguments;
+        for (std::string& word : words) arguments.push_back(word.data());
+        arguments.push_back(nullptr);
+        process_ = ::fork();
+        if (process_ == 0) {
+            ::dup2(ends[0], STDIN_FILENO);
+            ::dup2(ends[0], STDOUT_FILENO);
+            ::dup2(::open("/dev/null", O_WRONLY | O_CLOEXEC), STDERR_FILENO);
+            ::setenv("TMPDIR", temporaryFolder.c_str(), 1);
+            ::execv(KELVOR_CLI, arguments.data());
+            ::_exit(127);
+        }
+        ::close(ends[0]);
+        socket_ = ends[1];
+    }
+    RunningCli(const RunningCli&) = delete;
+    RunningCli& operator=(const RunningCli&) = delete;
+    ~RunningCli() {
+        if (socket_ >= 0) End();
+    }
+
+    /// Sends a command and gives the line that it prints.
+    std::string Ask(const std::string& command) {
+        const std::string line = command + "\n";
+        if (::send(socket_, line.data(), line.size(), MSG_NOSIGNAL) < 0) return "";
+        std::string answer;
+        char c = 0;
+        while (::read(socket_, &c, 1) == 1 && c != '\n') answer.push_back(c);
+        return answer;
+    }
+
+    /// Ends the input and gives the exit status.
+    int End() {
+        ::shutdown(socket_, SHUT_WR);
+        int status = 0;
+        ::waitpid(process_, &status, 0);
+        ::close(std::exchange(socket_, -1));
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+
+  private:
+    pid_t process_ = -1;
+    int socket_ = -1;
+};
+
+class ConsoleTest : public testing::Test {
+  protected:
+    /// Obeys a script in JSON on the test's home.
+    ConsoleEnd Obey(const std::string& script, const std::vector<std::string>& more = {}) {
+        std::vector<std::string> words = {"--home", home_.path().string(), "--json"};
+        words.insert(words.end(), more.begin(), more.end());
+        return RunInProcess(words, script);
+    }
+
+    /// Obeys a script and prints plain lines.
+    ConsoleEnd ObeyPlainly(const std::string& script) {
+        return RunInProcess({"--home", home_.path().string()}, script);
+    }
+
+    [[nodiscard]] std::string File(const std::string& name) const { return (folder_ / name).string(); }
+
+    TestHome home_;
+    TemporaryFolder folder_;
+};
+
+// --- Options -------------------------------------------------------------------------------------
+
+TEST_F(ConsoleTest, HelpAndVersionAreAllThereIsToDo) {
+    const ConsoleEnd help = RunInProcess({"--help"}, "frobnicate\n");
+    EXPECT_EQ(help.status, 0);
+    EXPECT_EQ(help.errors, "");
+    for (const char* option :
+         {"--home DIR", "--work DIR", "--script FILE", "--json", "--help", "--version", "PROJECT.kvr"}) {
+        EXPECT_THAT(help.output, HasSubstr(option));
+    }
+    const ConsoleEnd version = RunInProcess({"--version"}, "frobnicate\n");
+    EXPECT_EQ(version.status, 0);
+    EXPECT_THAT(version.output, MatchesRegex("kelvor-cli [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+    EXPECT_EQ(version.errors, "");
+}
+
+TEST_F(ConsoleTest, AnOptionThatIsNotUnderstoodIsStatusTwoAndNothingRuns) {
+    const std::string before = Checksum(home_.path());
+    const std::string home = home_.path().string();
+    for (const std::vector<std::string>& words : std::vector<std::vector<std::string>>{
+             {"--frobnicate"},
+             {"--home", home, "-x"},
+             {"--home"},
+             {"--home", home, "--work"},
+             {"--home", home, "--script"},
+             {"--home", home, "a.kvr", "b.kvr"},
+             {"--home", home, "--home", home},
+             {"--json=perhaps", "--home", home},
+         }) {
+        SCOPED_TRACE(testing::PrintToString(words));
+        const ConsoleEnd end = RunInProcess(words, "get SN\n");
+        EXPECT_EQ(end.status, 2);
+        EXPECT_EQ(end.output, "");
+        EXPECT_NE(end.errors, "");
+    }
+    EXPECT_EQ(Checksum(home_.path()), before);
+}
+
+TEST_F(ConsoleTest, AScriptThatCannotBeReadIsStatusTwo) {
+    for (const std::string& script : {File("nosuch.kvs"), folder_.path().string(), File("nosuch/x.kvs")}) {
+        const ConsoleEnd end = Obey("get SN\n", {"--script", script});
+        EXPECT_EQ(end.status, 2);
+        EXPECT_EQ(end.output, "");
+        EXPECT_EQ(end.errors, "the script " + script + " cannot be read\n");
+    }
+}
+
+TEST_F(ConsoleTest, AScriptWithoutReadPermissionIsStatusTwo) {
+    WriteFile(File("secret.kvs"), "get SN\n");
+    OpenToEverybody(folder_.path(), true);
+    OpenToEverybody(home_.path(), true);
+    std::filesystem::permissions(File("secret.kvs"), std::filesystem::perms::none);
+    const ChildEnd end = RunInChild(
+        [&] {
+            return Report(Obey("", {"--script", File("secret.kvs")}));
+        },
+        Rights::Unprivileged);
+    EXPECT_EQ(end.report, "2\nthe script " + File("secret.kvs") + " cannot be read\n");
+}
+
+TEST_F(ConsoleTest, AScriptFileIsObeyedInsteadOfTheInput) {
+    WriteFile(File("script.kvs"), "set SN 4.5\r\n\r\n# done\r\nget SN");
+    const ConsoleEnd end = Obey("frobnicate\n", {"--script", File("script.kvs")});
+    EXPECT_EQ(end.status, 0);
+    EXPECT_EQ(end.errors, "");
+    EXPECT_EQ(end.output, R"({"cell":{"name":"SN","dim1":1,"dim2":1,"rvalue":4.5,"svalue":"4.5"}})"
+                          "\n");
+}
+
+TEST_F(ConsoleTest, AnEmptyScriptIsStatusZero) {
+    for (const char* script : {"", "\n", "   \n\t\n# a comment\n", "#"}) {
+        EXPECT_EQ(Report(Obey(script)), "0\n") << script;
+    }
+}
+
+// --- The start -----------------------------------------------------------------------------------
+
+TEST_F(ConsoleTest, AStartThatFailsGivesItsMessageAndStatusOne) {
+    std::filesystem::remove(home_ / "kvor.ini");
+    const std::string before = Checksum(home_.path());
+    const ConsoleEnd end = Obey("get SN\n");
+    EXPECT_EQ(end.status, 1);
+    EXPECT_EQ(end.output,
+              R"({"message":{"title":"Init Error","text":"Error reading .INI values\n(unable to locate ini )"
+              R"(file)\nPlease reinstall Kelvor","style":"ok","icon":"none","answer":"ok"}})"
+              "\n");
+    EXPECT_EQ(Checksum(home_.path()), before);
+}
+
+TEST_F(ConsoleTest, EveryPartOfTheHomeThatIsMissingOrBrokenIsStatusOneAndNothingIsWritten) {
+    for (const char* part : {"kvor.ini", "DataBase/Kelvor.mdb", "DataBase/custom.tpl", "kvrwork.tpl"}) {
+        for (const bool broken : {false, true}) {
+            SCOPED_TRACE(testing::Message() << part << (broken ? " broken" : " missing"));
+            const TestHome home;
+            std::filesystem::remove(home / part);
+            if (broken) WriteFile(home / part, "broken\n");
+            const std::string before = Checksum(home.path());
+            const ConsoleEnd end =
+                RunInProcess({"--home", home.path().string(), "--json"}, "set SN 4.5\nget SN\n");
+            EXPECT_EQ(end.status, 1);
+            EXPECT_THAT(Lines(end.output), ElementsAre(testing::StartsWith("{\"message\":")));
+            EXPECT_EQ(end.errors, "");
+            EXPECT_EQ(Checksum(home.path()), before);
+        }
+    }
+}
+
+TEST_F(ConsoleTest, AProjectOnTheCommandLineIsOpen) {
+    ASSERT_EQ(Obey("set SN 4.5\nsave \"" + File("plan.kvr") + "\"\n").status, 0);
+    EXPECT_EQ(Report(Obey("get SN\n", {File("plan.kvr")})),
+              "0\n"
+              R"({"cell":{"name":"SN","dim1":1,"dim2":1,"rvalue":4.5,"svalue":"4.5"}})"
+              "\n");
+}
+
+TEST_F(ConsoleTest, AnAbsentProjectIsStatusOneAndNothingRuns) {
+    EXPECT_EQ(Report(Obey("get SN\n", {File("nosuch.kvr")})),
+              "1\n{\"message\":{\"title\":\"Opening file\",\"text\":\"" + File("nosuch.kvr") +
+                  " file does not exist!\",\"style\":\"ok\",\"icon\":\"none\",\"answer\":\"ok\"}}\n");
+}
+
+TEST_F(ConsoleTest, ARefusedProjectIsToldAndTheScriptGoesOnWithoutOne) {
+    WriteFile(File("text.kvr"), "no project");
+    EXPECT_EQ(Report(Obey("get SN\nset SN 5\nget SN\n", {File("text.kvr")})),
+              "0\n{\"message\":{\"title\":\"Kelvor\",\"text\":\"File " + File("text.kvr") +
+                  " is not a kvor file\",\"style\":\"ok\",\"icon\":\"none\",\"answer\":\"ok\"}}\n"
+                  "{\"cell\":{\"name\":\"SN\",\"dim1\":1,\"dim2\":1,\"missing\":true}}\n"
+                  "{\"cell\":{\"name\":\"SN\",\"dim1\":1,\"dim2\":1,\"missing\":true}}\n");
+}
+
+TEST_F(ConsoleTest, AHomeThatCannotBeWrittenServesWithAPrivateWorkCopy) {
+    OpenToEverybody(folder_.path(), true);
+    const WriteProtection readOnly(home_.path());
+    const std::string before = Checksum(home_.path());
+    const ChildEnd end =
+        RunInChild([&] { return Report(Obey("set SN 4.5\nget SN\nsave \"" + File("plan.kvr") + "\"\n")); },
+                   Rights::Unprivileged);
+    EXPECT_EQ(end.report,
+              "0\n"
+              R"({"cell":{"name":"SN","dim1":1,"dim2":1,"rvalue":4.5,"svalue":"4.5"}})"
+              "\n");
+    EXPECT_EQ(Checksum(home_.path()), before);
+    EXPECT_EQ(NumberInFile(File("plan.kvr"), "SN"), 4.5);
+}
+
+TEST_F(ConsoleTest, AWorkFolderThatCannotBeWrittenIsStatusOne) {
+    const std::string home = home_.path().string();
+    const WriteProtection readOnly(home_.path());
+    const std::string before = Checksum(home_.path());
+    const ChildEnd end = RunInChild(
+        [&] {
+            return Report(Obey("get SN\n", {"--work", home}));
+        },
+        Rights::Unprivileged);
+    EXPECT_EQ(end.report, "1\n{\"message\":{\"title\":\"Kelvor\",\"text\":\"Error loading from " + home +
+                              "/kvrwork.tmp: Permission denied\",\"style\":\"ok\",\"icon\":\"none\","
+                              "\"answer\":\"ok\"}}\n");
+    EXPECT_EQ(Checksum(home_.path()), before);
+    EXPECT_EQ(Obey("get SN\n", {"--work", File("nosuch")}).status, 1);
+    EXPECT_FALSE(std::filesystem::exists(File("nosuch")));
+}
+
+TEST_F(ConsoleTest, WithoutAFolderForTemporaryFilesItEndsWithStatusOne) {
+    const ChildEnd end = RunInChild([&] {
+        ::setenv("TMPDIR", File("nosuch").c_str(), 1);
+        const ConsoleEnd console = Obey("get SN\n");
+        return std::to_string(console.status) + (console.errors.empty() ? " silent" : " told");
+    });
+    EXPECT_EQ(end.report, "1 told");
+}
+
+TEST_F(ConsoleTest, AWorkFolderThatIsNamedKeepsItsWorkCopyButNoLock) {
+    std::filesystem::create_directory(File("work"));
+    EXPECT_EQ(Obey("set SN 4.5\n", {"--work", File("work")}).status, 0);
+    EXPECT_THAT(NamesIn(File("work")), ElementsAre("kvrwork.tmp"));
+    EXPECT_EQ(NumberInFile(File("work/kvrwork.tmp"), "SN"), 4.5);
+    EXPECT_THAT(NamesIn(home_.path()), ElementsAre("DataBase", "kvor.ini", "kvrwork.tpl"));
+}
+
+// --- As a process --------------------------------------------------------------------------------
+
+TEST_F(ConsoleTest, ThePrivateWorkFolderIsRemovedAtTheEnd) {
+    const std::string home = home_.path().string();
+    for (const auto& [last, status] : std::vector<std::pair<std::string, int>>{
+             {"get SN", 0}, {"frobnicate", 2}, {"solve DeF NOSUCH", 2}}) {
+        SCOPED_TRACE(last);
+        RunningCli cli({"--home", home}, folder_.path().string());
+        EXPECT_EQ(cli.Ask("get SN"), "SN(1,1) = empty");
+        const std::vector<std::string> during = NamesIn(folder_.path());
+        ASSERT_THAT(during, ElementsAre(testing::StartsWith("kelvor-")));
+        EXPECT_THAT(NamesIn(folder_ / during[0]), ElementsAre("kvrwork.lck", "kvrwork.tmp"));
+        const auto mode = std::filesystem::status(folder_ / during[0]).permissions();
+        EXPECT_EQ(mode, std::filesystem::perms::owner_all) << "it is private";
+        cli.Ask(last);
+        EXPECT_EQ(cli.End(), status);
+        EXPECT_THAT(NamesIn(folder_.path()), IsEmpty());
+    }
+}
+
+TEST_F(ConsoleTest, OfTwoOnOneWorkFolderTheSecondSaysSoAndEnds) {
+    const std::string home = home_.path().string();
+    RunningCli first({"--home", home, "--work", home, "--json"}, folder_.path().string());
+    const std::string empty = R"({"cell":{"name":"SN","dim1":1,"dim2":1,"rvalue":null,"svalue":null}})";
+    EXPECT_EQ(first.Ask("get SN"), empty);
+    EXPECT_EQ(Report(Obey("set SN 9\n", {"--work", home})),
+              "1\n{\"message\":{\"title\":\"Kelvor\",\"text\":\"Kelvor is already running on " + home +
+                  ".\\n\\nPlease use the program that is open.\",\"style\":\"ok\",\"icon\":\"none\","
+                  "\"answer\":\"ok\"}}\n");
+    EXPECT_EQ(Obey("get SN\n").status, 0) << "one with a work folder of its own runs beside it";
+    EXPECT_EQ(first.Ask("get SN"), empty);
+    EXPECT_EQ(first.End(), 0);
+    EXPECT_EQ(Obey("get SN\n", {"--work", home}).status, 0);
+}
+
+TEST_F(ConsoleTest, ATemplateThatIsGoneStopsNew) {
+    RunningCli cli({"--home", home_.path().string()}, folder_.path().string());
+    EXPECT_EQ(cli.Ask("get SN"), "SN(1,1) = empty");
+    std::filesystem::remove(home_ / "kvrwork.tpl");
+    EXPECT_EQ(cli.Ask("new"), "message [Kelvor]: One file is missing (kvrwork.tpl).");
+    EXPECT_EQ(cli.End(), 1);
+}
+
+TEST_F(ConsoleTest, WithoutAHomeItsOwnFolderServes) {
+    RunningCli cli({"--json"}, folder_.path().string());
+    EXPECT_EQ(cli.Ask("get SN"), R"({"cell":{"name":"SN","dim1":1,"dim2":1,"rvalue":null,"svalue":null}})");
+    EXPECT_EQ(cli.End(), 0);
+}
+
+// --- Commands that are not understood ------------------------------------------------------------
+
+TEST_F(ConsoleTest, ABadCommandIsToldWithItsLineAndNothingFurtherRuns) {
+    struct Row {
+        const char* command;
+        const char* error;
+    };
+    for (const Row& row : {
+             Row{"frobnicate", "frobnicate: unknown command"},
+             Row{"GET SN", "GET: unknown command"},
+             Row{"\"\"", ": unknown command"},
+             Row{"new now", "new: too many words"},
+             Row{"open", "open: too few words"},
+             Row{"open a.kvr b.kvr", "open: too many words"},
+             Row{"save a.kvr b.kvr", "save: too many words"},
+             Row{"units", "units: too few words"},
+             Row{"units imperial", "units: units are english or metric"},
+             Row{"units Metric", "units: units are english or metric"},
+             Row{"get", "get: too few words"},
+             Row{"get SN 1 1 1", "get: too many words"},
+             Row{"get SN one", "get: \"one\" is no subscript"},
+             Row{"get SN 1 one", "get: \"one\" is no subscript"},
+             Row{"get SN 1.5", "get: \"1.5\" is no subscript"},
+             Row{"get SN \"\"", "get: \"\" is no subscript"},
+             Row{"get SN 1x", "get: \"1x\" is no subscript"},
+             Row{"get SN 32768", "get: \"32768\" is no subscript"},
+             Row{"get SN 1 65537", "get: \"65537\" is no subscript"},
+             Row{"get SN 4294967297", "get: \"4294967297\" is no subscript"},
+             Row{"get SN 99999999999999999999999", "get: \"99999999999999999999999\" is no subscript"},
+             Row{"set", "set: too few words"},
+             Row{"set SN", "set: too few words"},
+             Row{"set SN 1 5",
+                 "set: set takes a name and a value, with both subscripts or none between them"},
+             Row{"set SN 1 1 5 5", "set: too many words"},
+             Row{"set SN 1 two 5", "set: \"two\" is no subscript"},
+             Row{"set SN -32769 1 5", "set: \"-32769\" is no subscript"},
+             Row{"set SN \"5", "a quote is not closed"},
+             Row{"set SN \"5\\", "a quote is not closed"},
+             Row{"set SN \"5\"5", "a blank must follow a closing quote"},
+             Row{"set SN 5\"5\"", "a quote stands inside a word"},
+             Row{"set SN \"\\q\"", "unknown escape \\q"},
+             Row{"show", "show: too few words"},
+             Row{"show SN x", "show: \"x\" is no subscript"},
+             Row{"dump SN RM", "dump: too many words"},
+             Row{"calc", "calc: too few words"},
+             Row{"calc SSN SSN SSN", "calc: too many words"},
+             Row{"calccell LDLayerStructNo 1", "calccell: too few words"},
+             Row{"calccell LDLayerStructNo 1 x", "calccell: \"x\" is no subscript"},
+             Row{"calccell LDLayerStructNo 1 1 T X", "calccell: too many words"},
+             Row{"solve DeF", "solve: too few words"},
+             Row{"solve DeF 1 2", "solve: too many words"},
+             Row{"solve DeF 0", "solve: DeF has terms 1 to 7"},
+             Row{"solve DeF 8", "solve: DeF has terms 1 to 7"},
+             Row{"solve DeF -1", "solve: DeF has terms 1 to 7"},
+             Row{"solve DeR 12", "solve: DeR has terms 1 to 11"},
+             Row{"solve DeS 19", "solve: DeS has terms 1 to 18"},
+             Row{"solve DeF NOSUCH", "solve: DeF has no term NOSUCH"},
+             Row{"solve DeF DEPTH", "solve: DeF has no term DEPTH"},
+             Row{"solve DeF 99999999999", "solve: DeF has no term 99999999999"},
+             Row{"solve Nowhere SN", "solve: Nowhere has no term SN"},
+             Row{"answer", "answer: too few words"},
+             Row{"answer a b", "answer: too many words"},
+         }) {
+        SCOPED_TRACE(row.command);
+        const ConsoleEnd end = Obey(std::string("# the bad one\n\nset SN 1\n") + row.command + "\nget SN\n");
+        EXPECT_EQ(end.status, 2);
+        EXPECT_EQ(end.output, "");
+        EXPECT_EQ(end.errors, std::string("line 4: ") + row.error + "\n");
+    }
+}
+
+TEST_F(ConsoleTest, WhatRanBeforeABadCommandStands) {
+    const ConsoleEnd end =
+        Obey("set SN 4.5\nget SN\nsave \"" + File("plan.kvr") + "\"\nfrobnicate\nset SN 9\nsave\n");
+    EXPECT_EQ(end.status, 2);
+    EXPECT_EQ(end.output, R"({"cell":{"name":"SN","dim1":1,"dim2":1,"rvalue":4.5,"svalue":"4.5"}})"
+                          "\n");
+    EXPECT_EQ(end.errors, "line 4: frobnicate: unknown command\n");
+    EXPECT_EQ(NumberInFile(File("plan.kvr"), "SN"), 4.5);
+}
+
+TEST_F(ConsoleTest, CommandsOfLaterReleasesSayThatTheyAreNotAvailableYet) {
+    for (const std::string name : {"report", "print", "previews", "preview", "export", "table"}) {
+        SCOPED_TRACE(name);
+        for (const char* words : {"", " 1", " 1 out.pdf", " 1 2 3 4 5 6 7 8"}) {
+            EXPECT_EQ(Report(Obey("\n" + name + words + "\nget SN\n")),
+                      "2\nline 2: " + name + ": not available yet\n");
+        }
+    }
+}
+
+// --- Odd but understood --------------------------------------------------------------------------
+
+TEST_F(ConsoleTest, UnknownNamesAndSubscriptsAreMissingCells) {
+    EXPECT_EQ(Report(Obey("get NOSUCH\nget SN 2\nget SN 0\nget SN -1 -1\nget SN 32767 32767\nget \"\"\n"
+                          "set NOSUCH 5\nset SN 2 1 5\nset SN 0 0 5\nget \"O'Brien; DROP TABLE Project\"\n")),
+              "0\n"
+              R"({"cell":{"name":"NOSUCH","dim1":1,"dim2":1,"missing":true}})"
+              "\n"
+              R"({"cell":{"name":"SN","dim1":2,"dim2":1,"missing":true}})"
+              "\n"
+              R"({"cell":{"name":"SN","dim1":0,"dim2":1,"missing":true}})"
+              "\n"
+              R"({"cell":{"name":"SN","dim1":-1,"dim2":-1,"missing":true}})"
+              "\n"
+              R"({"cell":{"name":"SN","dim1":32767,"dim2":32767,"missing":true}})"
+              "\n"
+              R"({"cell":{"name":"","dim1":1,"dim2":1,"missing":true}})"
+              "\n"
+              R"({"cell":{"name":"O'Brien; DROP TABLE Project","dim1":1,"dim2":1,"missing":true}})"
+              "\n");
+}
+
+TEST_F(ConsoleTest, ATextThatIsNoNumberIsKeptAsAText) {
+    const std::string digits(400, '9');
+    for (const std::string& value :
+         {std::string("1e999"), std::string("-1e999"), std::string("abc"), std::string("$5"),
+          std::string("0x10"), std::string("1,,5"), std::string("nan"), std::string("inf"), digits}) {
+        SCOPED_TRACE(value);
+        EXPECT_EQ(Report(Obey("set SN 5\nset SN " + value + "\nget SN\n")),
+                  "0\n{\"cell\":{\"name\":\"SN\",\"dim1\":1,\"dim2\":1,\"rvalue\":null,\"svalue\":\"" +
+                      value + "\"}}\n");
+    }
+}
+
+TEST_F(ConsoleTest, ANumberIsStoredWithItsTextAndAnEmptyOneEmptiesTheCell) {
+    EXPECT_EQ(Report(Obey("set RM \" 5,250 \"\nget RM\nset RM \"\"\nget RM\nset RM 1d3\nget RM\n")),
+              "0\n"
+              R"({"cell":{"name":"RM","dim1":1,"dim2":1,"rvalue":5250.0,"svalue":" 5,250 "}})"
+              "\n"
+              R"({"cell":{"name":"RM","dim1":1,"dim2":1,"rvalue":null,"svalue":null}})"
+              "\n"
+              R"({"cell":{"name":"RM","dim1":1,"dim2":1,"rvalue":1000.0,"svalue":"1d3"}})"
+              "\n");
+}
+
+TEST_F(ConsoleTest, AnUnknownScreenSolvesToZeroAndTouchesNothing) {
+    EXPECT_EQ(Report(Obey("solve Nowhere 1\nsolve Nowhere 99\nsolve \"\" 1\nget SN\nget DEPTH\n")),
+              "0\n"
+              R"({"solve":{"screen":"Nowhere","term":1,"result":0}})"
+              "\n"
+              R"({"solve":{"screen":"Nowhere","term":99,"result":0}})"
+              "\n"
+              R"({"solve":{"screen":"","term":1,"result":0}})"
+              "\n"
+              R"({"cell":{"name":"SN","dim1":1,"dim2":1,"rvalue":null,"svalue":null}})"
+              "\n"
+              R"({"cell":{"name":"DEPTH","dim1":1,"dim2":1,"rvalue":null,"svalue":null}})"
+              "\n");
+}
+
+TEST_F(ConsoleTest, AWriteToACellWithoutARowStopsTheProgram) {
+    const ConsoleEnd end = Obey("get SN\ncalccell LDLayerStructNo 32767 32767\nget SN\n");
+    EXPECT_EQ(end.status, 1);
+    EXPECT_THAT(Lines(end.output), testing::SizeIs(1));
+    EXPECT_THAT(end.errors, testing::StartsWith("line 2: the program stopped: no cell "));
+}
+
+TEST_F(ConsoleTest, ATextTooLongForAnyFileIsToldAtTheSaveAndNothingIsWritten) {
+    const std::string path = File("plan.kvr");
+    const ConsoleEnd end = Obey("save \"" + path + "\"\nset Agency " + std::string(5000000, 'x') +
+                                "\nsave\nset Agency short\nsave\n");
+    EXPECT_EQ(end.status, 0);
+    EXPECT_EQ(end.output, "{\"message\":{\"title\":\"Kelvor\",\"text\":\"Error saving to " + path +
+                              ": string or blob too big\",\"style\":\"ok\",\"icon\":\"none\",\"answer\":"
+                              "\"ok\"}}\n");
+    EXPECT_EQ(Report(Obey("get Agency\n", {path})),
+              "0\n"
+              R"({"cell":{"name":"Agency","dim1":1,"dim2":1,"rvalue":null,"svalue":"short"}})"
+              "\n");
+}
+
+TEST_F(ConsoleTest, BytesThatAreNoTextArePrintedAsReplacements) {
+    const ConsoleEnd end = Obey("set Agency \"a\xFF\xC3(b\"\nget Agency\nget \"\xFE\"\n");
+    EXPECT_EQ(end.status, 0);
+    const std::vector<std::string> lines = Lines(end.output);
+    ASSERT_EQ(lines.size(), 2U);
+    for (const std::string& line : lines) EXPECT_TRUE(nlohmann::json::accept(line)) << line;
+    EXPECT_THAT(lines[0], HasSubstr("\"svalue\":\"a\xEF\xBF\xBD\xEF\xBF\xBD(b\""));
+}
+
+// --- Dialogs -------------------------------------------------------------------------------------
+
+TEST_F(ConsoleTest, AFileDialogTakesTheAnswerQueuedAndIsCancelledWithoutOne) {
+    const std::string folder = (home_ / "Projects").string();
+    EXPECT_EQ(Report(Obey("save\nanswer cancel\nsave\nanswer \"\"\nsave\nanswer \"" + File("plan") +
+                          "\"\nsave\nsave\n")),
+              "0\n{\"filedialog\":{\"kind\":\"save\",\"folder\":\"" + folder +
+                  "\",\"filter\":\"KVR projects (*.kvr)|*.kvr\",\"answer\":null}}\n"
+                  "{\"filedialog\":{\"kind\":\"save\",\"folder\":\"" +
+                  folder +
+                  "\",\"filter\":\"KVR projects (*.kvr)|*.kvr\",\"answer\":null}}\n"
+                  "{\"filedialog\":{\"kind\":\"save\",\"folder\":\"" +
+                  folder +
+                  "\",\"filter\":\"KVR projects (*.kvr)|*.kvr\",\"answer\":null}}\n"
+                  "{\"filedialog\":{\"kind\":\"save\",\"folder\":\"" +
+                  folder + "\",\"filter\":\"KVR projects (*.kvr)|*.kvr\",\"answer\":\"" + File("plan") +
+                  "\"}}\n");
+    EXPECT_TRUE(std::filesystem::exists(File("plan.kvr")));
+}
+
+TEST_F(ConsoleTest, AMessageTakesTheNextAnswerEvenIfItHasNoSuchButton) {
+    const ConsoleEnd end =
+        Obey("answer \"" + File("plan") + "\"\nopen \"" + File("nosuch.kvr") + "\"\nnew\nsave\n");
+    EXPECT_EQ(end.status, 0);
+    const std::vector<std::string> lines = Lines(end.output);
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_EQ(lines[0],
+              "{\"message\":{\"title\":\"Kelvor\",\"text\":\"Error loading from " + File("nosuch.kvr") +
+                  ": No such file or directory\",\"style\":\"ok\",\"icon\":\"none\",\"answer\":\"ok\"}}");
+    EXPECT_THAT(lines[1], HasSubstr("\"answer\":null"));
+}
+
+// --- What is printed -----------------------------------------------------------------------------
+
+TEST_F(ConsoleTest, NumbersReadBackAsTheSameDouble) {
+    const std::vector<std::string> values = {
+        "0.1",  "1e-300", "123456789.123456789",     "5e-324", "0.3",  "1.7976931348623157e308",
+        "1e21", "-0.07",  "2.2250738585072011e-308", "100",    "1e22", "0.30000000000000004"};
+    for (const std::string& value : values) {
+        for (const char* units : {"english", "metric"}) {
+            SCOPED_TRACE(value + " " + units);
+            const ConsoleEnd end = Obey(std::string("units ") + units + "\nset DEPTH " + value +
+                                        "\nget DEPTH\nsave \"" + File("plan.kvr") + "\"\n");
+            ASSERT_EQ(end.status, 0);
+            const nlohmann::json cell = nlohmann::json::parse(end.output).at("cell");
+            const auto stored = NumberInFile(File("plan.kvr"), "DEPTH");
+            ASSERT_TRUE(stored.has_value());
+            EXPECT_EQ(cell.at("rvalue").get<double>(), *stored);
+            EXPECT_EQ(cell.at("svalue"), value);
+        }
+    }
+}
+
+TEST_F(ConsoleTest, ADumpIsSortedByNameWithoutRegardToCaseThenSubscripts) {
+    const ConsoleEnd end =
+        Obey("set SN 1\nset agency X\nset LDLayerThick 2 1 5\nset LDLayerThick 1 1 6\nset RM 3\ndump\n");
+    ASSERT_EQ(end.status, 0);
+    std::vector<std::string> keys;
+    for (const std::string& line : Lines(end.output)) {
+        const nlohmann::json cell = nlohmann::json::parse(line).at("cell");
+        std::string name = cell.at("name");
+        for (char& c : name) c = FoldLetter(c);
+        char key[100];
+        std::snprintf(key, sizeof key, "%s %05d %05d", name.c_str(), cell.at("dim1").get<int>(),
+                      cell.at("dim2").get<int>());
+        keys.emplace_back(key);
+    }
+    EXPECT_TRUE(std::is_sorted(keys.begin(), keys.end()));
+    for (const char* key : {"agency 00001 00001", "ldlayerthick 00002 00001", "metricmode 00001 00001"}) {
+        EXPECT_THAT(keys, testing::Contains(key));
+    }
+    EXPECT_EQ(Report(Obey("set SN 1\nset RM 3\ndump s?\ndump NOSUCH*\n")),
+              "0\n"
+              R"({"cell":{"name":"SN","dim1":1,"dim2":1,"rvalue":1.0,"svalue":"1"}})"
+              "\n");
+}
+
+TEST_F(ConsoleTest, AValueIsShownInTheActiveUnitsWithItsUnit) {
+    EXPECT_EQ(Report(Obey("set rm 5000\nshow rm\nunits metric\nshow RM\nget RM\nunits english\nshow RM\n")),
+              "0\n"
+              R"({"display":{"name":"RM","dim1":1,"dim2":1,"text":"5,000","unit":"psi"}})"
+              "\n"
+              R"({"display":{"name":"RM","dim1":1,"dim2":1,"text":"34","unit":"MPa"}})"
+              "\n"
+              R"({"cell":{"name":"RM","dim1":1,"dim2":1,"rvalue":5000.0,"svalue":"5000"}})"
+              "\n"
+              R"({"display":{"name":"RM","dim1":1,"dim2":1,"text":"5,000","unit":"psi"}})"
+              "\n");
+}
+
+TEST_F(ConsoleTest, WithoutJsonTheSameFactsComeAsLines) {
+    EXPECT_EQ(
+        Report(ObeyPlainly("set SN 4.98\nget SN\nset RM 5,000\nget RM\nshow RM\nget NOSUCH\nget DEPTH\n"
+                           "set Agency \"A \\\"B\\\"\"\nget Agency\nsolve Nowhere 1\nsolve DeF 1\nsave\n"
+                           "open \"" +
+                           File("nosuch.kvr") + "\"\n")),
+        "0\n"
+        "SN(1,1) = 4.98\n"
+        "RM(1,1) = 5000 \"5,000\"\n"
+        "RM(1,1): 5,000 [psi]\n"
+        "NOSUCH(1,1) = missing\n"
+        "DEPTH(1,1) = empty\n"
+        "Agency(1,1) = \"A \\\"B\\\"\"\n"
+        "solve Nowhere 1: done (0)\n"
+        "message [Kelvor]: ALL Other Variables Must Be Entered! -> ok\n"
+        "solve DeF 1: not solved (-1)\n"
+        "file dialog (save) in " +
+            (home_ / "Projects").string() +
+            " -> cancel\n"
+            "message [Kelvor]: Error loading from " +
+            File("nosuch.kvr") + ": No such file or directory -> ok\n");
+}
+
+TEST(JsonOutputTest, EachQuestionIsOneObject) {
+    std::ostringstream stream;
+    JsonOutput output(stream);
+    output.OnMessage({.text = "Go \"on\"?\n",
+                      .title = "Values",
+                      .style = MessageStyle::YesNoCancel,
+                      .icon = MessageIcon::Warning},
+                     Answer::No);
+    output.OnMessage({.text = "", .style = MessageStyle::OkCancel, .icon = MessageIcon::Question},
+                     Answer::Cancel);
+    output.OnMessage({.text = "a", .style = MessageStyle::YesNo, .icon = MessageIcon::Information},
+                     Answer::Yes);
+    output.OnInput({.text = "Factor?"}, "1.5");
+    output.OnInput({.text = "Factor?"}, std::nullopt);
+    output.OnFile({FileRequest::Kind::Open, "/a b", "All Files (*.*)|*.*"}, Path("/x.kvr"));
+    EXPECT_EQ(
+        stream.str(),
+        R"({"message":{"title":"Values","text":"Go \"on\"?\n","style":"yesnocancel","icon":"warning","answer":"no"}})"
+        "\n"
+        R"({"message":{"title":"Kelvor","text":"","style":"okcancel","icon":"question","answer":"cancel"}})"
+        "\n"
+        R"({"message":{"title":"Kelvor","text":"a","style":"yesno","icon":"information","answer":"yes"}})"
+        "\n"
+        R"({"input":{"text":"Factor?","answer":"1.5"}})"
+        "\n"
+        R"({"input":{"text":"Factor?","answer":null}})"
+        "\n"
+        R"({"filedialog":{"kind":"open","folder":"/a b","filter":"All Files (*.*)|*.*","answer":"/x.kvr"}})"
+        "\n");
+}
+
+}  // namespace
+}  // namespace kelvor::test
