@@ -102,7 +102,12 @@ int RunProgram(const ConsoleOptions& options, const Home& home, std::istream& in
         return kStatusStopped;
     }
     ModelDriver driver(program, dialogs);
-    return static_cast<int>(RunScript(input, driver, *printer, errors));
+    const ScriptEnd end = RunScript(input, driver, *printer, errors);
+    if (!output.flush()) {
+        errors << "kelvor-cli: the output cannot be written\n";
+        return kStatusStopped;
+    }
+    return static_cast<int>(end);
 }
 
 }  // namespace
@@ -120,9 +125,11 @@ int RunConsole(int argc, char** argv, std::istream& input, std::ostream& output,
     }
     std::istream& commands = options.script.empty() ? input : script;
     try {
-        const Path folder = options.home.empty() ? ExecutableFolder() : Path(options.home);
+        const Path folder =
+            options.home.empty() ? ExecutableFolder() : std::filesystem::absolute(options.home);
         if (!options.work.empty())
-            return RunProgram(options, {folder, options.work}, commands, output, errors);
+            return RunProgram(options, {folder, std::filesystem::absolute(options.work)}, commands, output,
+                              errors);
         const TemporaryFolder work;
         return RunProgram(options, {folder, work.path()}, commands, output, errors);
     } catch (const std::exception& failure) {

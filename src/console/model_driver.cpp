@@ -13,6 +13,11 @@ namespace kelvor {
 
 namespace {
 
+const char* const kNoNewProject = "no new project can be made";
+
+/// The longest text that a cell takes; a project with a longer one could not be saved.
+constexpr std::size_t kLongestText = 1024UL * 1024UL;
+
 std::optional<int> WholeNumber(const std::string& text) {
     std::int16_t value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
@@ -24,7 +29,7 @@ std::optional<int> WholeNumber(const std::string& text) {
 
 void ModelDriver::New() {
     // Without a template there is no project to go on with.
-    if (!program_.NewProject()) throw ProgramStop("no new project can be made");
+    if (!program_.NewProject()) throw ProgramStop(kNoNewProject);
 }
 
 void ModelDriver::Open(const std::string& path) { program_.OpenProject(path); }
@@ -43,6 +48,7 @@ CellReport ModelDriver::Get(const CellKey& key) {
 }
 
 void ModelDriver::Set(const CellKey& key, const std::string& value) {
+    if (value.size() > kLongestText) throw ScriptError("the value is longer than a cell can hold");
     program_.SetValue(key.name, key.dim1, key.dim2, value);
 }
 
@@ -147,7 +153,10 @@ void ModelDriver::SwitchTab(int tab) {
 }
 
 void ModelDriver::ChooseMenu(const std::string& name, int index) {
+    const bool hadProject = program_.state().dbWork.IsOpen();
     Raise({UserEvent::Kind::Menu, name, {}, index}, "there is no menu entry " + name);
+    if (name == "NewProj" && hadProject && !program_.state().dbWork.IsOpen())
+        throw ProgramStop(kNoNewProject);
 }
 
 PropertyValue ModelDriver::Read(const std::string& control, const std::string& property) {

@@ -136,6 +136,10 @@ void NativeFileSystem::MakeDirectory(const Path& path) {
     ThrowIf(error);
 }
 
+bool NativeFileSystem::IsWritable(const Path& path) const {
+    return ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
+}
+
 void NativeFileSystem::CopyPermissions(const Path& from, const Path& to) {
     std::error_code error;
     const auto permissions = std::filesystem::status(from, error).permissions();
@@ -165,6 +169,8 @@ void ReplaceFile(FileSystem& files, const Path& target, std::string_view content
     const FileKind kind = files.Kind(resolved);
     if (kind == FileKind::Directory) throw FileError(std::strerror(EISDIR));
     if (kind == FileKind::Other) throw FileError("Not a regular file");
+    // Renaming would replace a write-protected file all the same.
+    if (kind == FileKind::Regular && !files.IsWritable(resolved)) throw FileError(std::strerror(EACCES));
     const Path temporary = TemporaryBeside(resolved);
     try {
         files.Write(temporary, content);
@@ -175,8 +181,12 @@ void ReplaceFile(FileSystem& files, const Path& target, std::string_view content
         RemoveQuietly(files, temporary);
         throw;
     }
-    // From here on the new file is in place, whole; only its survival of a power cut is still open.
-    files.Flush(resolved.parent_path());
+    // From here on the new file is in place, whole. Only its survival of a power cut is still open, and a
+    // folder that cannot be flushed is no reason to report a failure.
+    try {
+        files.Flush(resolved.parent_path());
+    } catch (const FileError&) {  // NOLINT(bugprone-empty-catch)
+    }
 }
 
 }  // namespace kelvor

@@ -44,6 +44,9 @@ class FileSystem {
     virtual void Remove(const Path& path) = 0;
     virtual void MakeDirectory(const Path& path) = 0;
 
+    /// True if this process may write to an existing file.
+    [[nodiscard]] virtual bool IsWritable(const Path& path) const = 0;
+
     /// Gives `to` the permissions of `from`.
     virtual void CopyPermissions(const Path& from, const Path& to) = 0;
 
@@ -61,6 +64,7 @@ class NativeFileSystem : public FileSystem {
     void Rename(const Path& from, const Path& to) override;
     void Remove(const Path& path) override;
     void MakeDirectory(const Path& path) override;
+    [[nodiscard]] bool IsWritable(const Path& path) const override;
     void CopyPermissions(const Path& from, const Path& to) override;
     [[nodiscard]] Path Resolve(const Path& path) const override;
 };

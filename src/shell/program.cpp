@@ -48,7 +48,7 @@ bool Program::InEvent(Action action) {
 
 StartResult Program::Start(const std::string& commandLine) {
     const StartResult result = Main(state_, commandLine);
-    if (result == StartResult::Stopped) return result;
+    if (result != StartResult::Running) return result;  // an absent file leaves an empty main window
     InEvent([&] {
         ScreenContext context = state_.MakeScreenContext();
         Form& hub = state_.formRegistry.Add(*state_.formRegistry.FindType(kHubForm), *state_.dbCatalogue);

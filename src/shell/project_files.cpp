@@ -35,11 +35,14 @@ void ProjectFiles::OpenWorkCopy(bool checkPages) {
     state_.units->SetMetric(state_.dbWork.GetVar("MetricMode") == kMetricMode);
 }
 
-void ProjectFiles::CloseWorkCopyQuietly() {
+/// False if changes were lost on the way.
+bool ProjectFiles::CloseWorkCopyQuietly() {
     try {
         state_.dbWork.Close();
+        return true;
     } catch (const DatabaseError&) {
         state_.dbWork.Abandon();
+        return false;
     }
 }
 
@@ -79,10 +82,11 @@ bool ProjectFiles::NewWorkCopy() {
 
 void ProjectFiles::DiscardWorkCopy(const std::string& path) {
     state_.dbWork.SetVar("MetricMode", state_.units->bMetric() ? kMetricMode : 0.0);
-    CloseWorkCopyQuietly();
+    const bool whole = CloseWorkCopyQuietly();
     const Path workCopy = state_.home.WorkCopyFile();
     try {
-        if (!path.empty()) {
+        // A work copy that lacks changes is no reason to put the former file away.
+        if (!path.empty() && whole) {
             ReplaceFile(state_.host.files, path, state_.host.files.Read(workCopy, kLargestProject));
         }
     } catch (const FileError&) {  // NOLINT(bugprone-empty-catch): New asks and tells nothing
@@ -166,21 +170,20 @@ bool ProjectFiles::SaveProject(const std::string& path) {
     try {
         OpenWorkCopy(false);
     } catch (const DatabaseError& failure) {
-        Report("Error loading from " + state_.home.WorkCopyFile().string() + ": " + failure.what());
+        Report(failed + failure.what());
+        return false;
     }
     NameProject(path);
     return true;
 }
 
-bool ProjectFiles::ReopenAfterFailedSave() {
+void ProjectFiles::ReopenAfterFailedSave() {
     const bool changed = state_.bProjectChanged;
     try {
         OpenWorkCopy(false);
         state_.bProjectChanged = changed;
-        return true;
     } catch (const DatabaseError& failure) {
         Report("Error loading from " + state_.home.WorkCopyFile().string() + ": " + failure.what());
-        return false;
     }
 }
 

@@ -41,8 +41,8 @@ class ProjectFiles {
 
   private:
     void OpenWorkCopy(bool checkPages);
-    void CloseWorkCopyQuietly();
-    bool ReopenAfterFailedSave();
+    bool CloseWorkCopyQuietly();
+    void ReopenAfterFailedSave();
     void DiscardWorkCopy(const std::string& path);
     void WriteWorkCopy(const std::string& content);
     bool LoadProject(const std::string& path);

@@ -106,7 +106,7 @@ StartResult OpenFirstProject(ProcessState& state, std::string command) {
     ProjectFiles files(state);
     if (command.empty()) return files.NewWorkCopy() ? StartResult::Running : StartResult::Stopped;
     command.erase(std::remove(command.begin(), command.end(), '"'), command.end());
-    if (state.host.files.Kind(command) == FileKind::Missing) {
+    if (!FileExists(state, command)) {
         state.host.dialogs.ShowMessage({.text = command + " file does not exist!", .title = "Opening file"});
         return StartResult::FileMissing;
     }

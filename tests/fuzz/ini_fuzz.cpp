@@ -32,6 +32,7 @@ class MemoryFiles : public FileSystem {
     }
     void Remove(const Path& path) override { files_.erase(path); }
     void MakeDirectory(const Path& /*path*/) override {}
+    [[nodiscard]] bool IsWritable(const Path& /*path*/) const override { return true; }
     void CopyPermissions(const Path& /*from*/, const Path& /*to*/) override {}
     [[nodiscard]] Path Resolve(const Path& path) const override { return path; }
 

@@ -28,7 +28,8 @@ class FaultyFileSystem : public FileSystem {
 
     FaultyFileSystem(FileSystem& inner, Plan plan) : inner_(inner), plan_(plan) {}
 
-    /// How many operations were asked for so far. Kind and Resolve do not count and never go wrong.
+    /// How many operations were asked for so far. Kind, IsWritable and Resolve do not count and never go
+    /// wrong.
     [[nodiscard]] int operations() const { return operations_; }
 
     [[nodiscard]] FileKind Kind(const Path& path) const override { return inner_.Kind(path); }
@@ -38,6 +39,7 @@ class FaultyFileSystem : public FileSystem {
     void Rename(const Path& from, const Path& to) override;
     void Remove(const Path& path) override;
     void MakeDirectory(const Path& path) override;
+    [[nodiscard]] bool IsWritable(const Path& path) const override { return inner_.IsWritable(path); }
     void CopyPermissions(const Path& from, const Path& to) override;
     [[nodiscard]] Path Resolve(const Path& path) const override { return inner_.Resolve(path); }
 

@@ -28,7 +28,7 @@ std::string TakeQuoted(std::string_view line, std::size_t& position) {
     for (++position; position < line.size(); ++position) {
         if (line[position] == '"') {
             ++position;
-            if (position < line.size() && !IsBlank(line[position]))
+            if (position < line.size() && !IsBlank(line[position]) && line[position] != '#')
                 throw ScriptError("a blank must follow a closing quote");
             return word;
         }

@@ -306,6 +306,32 @@ TEST_F(ConsoleTest, AWorkFolderThatIsNamedKeepsItsWorkCopyButNoLock) {
     EXPECT_THAT(NamesIn(home_.path()), ElementsAre("DataBase", "kvor.ini", "kvrwork.tpl"));
 }
 
+TEST_F(ConsoleTest, FoldersGivenByARelativePathAreFound) {
+    std::filesystem::create_directory(File("work"));
+    const ChildEnd end = RunInChild([&] {
+        std::filesystem::current_path(folder_.path());
+        const Path home = home_.path().lexically_relative(folder_.path());
+        return Report(
+            RunInProcess({"--home", home.string(), "--work", "work"}, "set SN 4.5\nget SN\nsave plan\n"));
+    });
+    EXPECT_EQ(end.report, "0\nSN(1,1) = 4.5\n");
+    EXPECT_EQ(NumberInFile(File("plan.kvr"), "SN"), 4.5);
+    EXPECT_THAT(NamesIn(File("work")), ElementsAre("kvrwork.tmp"));
+}
+
+TEST_F(ConsoleTest, OutputThatCannotBeWrittenIsStatusOne) {
+    std::string program = "kelvor-cli";
+    std::string option = "--home";
+    std::string home = home_.path().string();
+    char* arguments[] = {program.data(), option.data(), home.data()};
+    std::istringstream in("get SN\n");
+    std::ostringstream out;
+    out.setstate(std::ios::badbit);  // as on a full disk
+    std::ostringstream errors;
+    EXPECT_EQ(RunConsole(3, arguments, in, out, errors), 1);
+    EXPECT_EQ(errors.str(), "kelvor-cli: the output cannot be written\n");
+}
+
 // --- As a process --------------------------------------------------------------------------------
 
 TEST_F(ConsoleTest, ThePrivateWorkFolderIsRemovedAtTheEnd) {
@@ -357,67 +383,69 @@ TEST_F(ConsoleTest, WithoutAHomeItsOwnFolderServes) {
 
 // --- Commands that are not understood ------------------------------------------------------------
 
+struct BadCommand {
+    const char* command;
+    const char* error;
+};
+
+constexpr BadCommand kBadCommands[] = {
+    {"frobnicate", "frobnicate: unknown command"},
+    {"GET SN", "GET: unknown command"},
+    {"\"\"", ": unknown command"},
+    {"new now", "new: too many words"},
+    {"open", "open: too few words"},
+    {"open a.kvr b.kvr", "open: too many words"},
+    {"save a.kvr b.kvr", "save: too many words"},
+    {"units", "units: too few words"},
+    {"units imperial", "units: units are english or metric"},
+    {"units Metric", "units: units are english or metric"},
+    {"get", "get: too few words"},
+    {"get SN 1 1 1", "get: too many words"},
+    {"get SN one", "get: \"one\" is no subscript"},
+    {"get SN 1 one", "get: \"one\" is no subscript"},
+    {"get SN 1.5", "get: \"1.5\" is no subscript"},
+    {"get SN \"\"", "get: \"\" is no subscript"},
+    {"get SN 1x", "get: \"1x\" is no subscript"},
+    {"get SN 32768", "get: \"32768\" is no subscript"},
+    {"get SN 1 65537", "get: \"65537\" is no subscript"},
+    {"get SN 4294967297", "get: \"4294967297\" is no subscript"},
+    {"get SN 99999999999999999999999", "get: \"99999999999999999999999\" is no subscript"},
+    {"set", "set: too few words"},
+    {"set SN", "set: too few words"},
+    {"set SN 1 5", "set: set takes a name and a value, with both subscripts or none between them"},
+    {"set SN 1 1 5 5", "set: too many words"},
+    {"set SN 1 two 5", "set: \"two\" is no subscript"},
+    {"set SN -32769 1 5", "set: \"-32769\" is no subscript"},
+    {"set SN \"5", "a quote is not closed"},
+    {"set SN \"5\\", "a quote is not closed"},
+    {"set SN \"5\"5", "a blank must follow a closing quote"},
+    {"set SN 5\"5\"", "a quote stands inside a word"},
+    {"set SN \"\\q\"", "unknown escape \\q"},
+    {"show", "show: too few words"},
+    {"show SN x", "show: \"x\" is no subscript"},
+    {"dump SN RM", "dump: too many words"},
+    {"calc", "calc: too few words"},
+    {"calc SSN SSN SSN", "calc: too many words"},
+    {"calccell LDLayerStructNo 1", "calccell: too few words"},
+    {"calccell LDLayerStructNo 1 x", "calccell: \"x\" is no subscript"},
+    {"calccell LDLayerStructNo 1 1 T X", "calccell: too many words"},
+    {"solve DeF", "solve: too few words"},
+    {"solve DeF 1 2", "solve: too many words"},
+    {"solve DeF 0", "solve: DeF has terms 1 to 7"},
+    {"solve DeF 8", "solve: DeF has terms 1 to 7"},
+    {"solve DeF -1", "solve: DeF has terms 1 to 7"},
+    {"solve DeR 12", "solve: DeR has terms 1 to 11"},
+    {"solve DeS 19", "solve: DeS has terms 1 to 18"},
+    {"solve DeF NOSUCH", "solve: DeF has no term NOSUCH"},
+    {"solve DeF DEPTH", "solve: DeF has no term DEPTH"},
+    {"solve DeF 99999999999", "solve: DeF has no term 99999999999"},
+    {"solve Nowhere SN", "solve: Nowhere has no term SN"},
+    {"answer", "answer: too few words"},
+    {"answer a b", "answer: too many words"},
+};
+
 TEST_F(ConsoleTest, ABadCommandIsToldWithItsLineAndNothingFurtherRuns) {
-    struct Row {
-        const char* command;
-        const char* error;
-    };
-    for (const Row& row : {
-             Row{"frobnicate", "frobnicate: unknown command"},
-             Row{"GET SN", "GET: unknown command"},
-             Row{"\"\"", ": unknown command"},
-             Row{"new now", "new: too many words"},
-             Row{"open", "open: too few words"},
-             Row{"open a.kvr b.kvr", "open: too many words"},
-             Row{"save a.kvr b.kvr", "save: too many words"},
-             Row{"units", "units: too few words"},
-             Row{"units imperial", "units: units are english or metric"},
-             Row{"units Metric", "units: units are english or metric"},
-             Row{"get", "get: too few words"},
-             Row{"get SN 1 1 1", "get: too many words"},
-             Row{"get SN one", "get: \"one\" is no subscript"},
-             Row{"get SN 1 one", "get: \"one\" is no subscript"},
-             Row{"get SN 1.5", "get: \"1.5\" is no subscript"},
-             Row{"get SN \"\"", "get: \"\" is no subscript"},
-             Row{"get SN 1x", "get: \"1x\" is no subscript"},
-             Row{"get SN 32768", "get: \"32768\" is no subscript"},
-             Row{"get SN 1 65537", "get: \"65537\" is no subscript"},
-             Row{"get SN 4294967297", "get: \"4294967297\" is no subscript"},
-             Row{"get SN 99999999999999999999999", "get: \"99999999999999999999999\" is no subscript"},
-             Row{"set", "set: too few words"},
-             Row{"set SN", "set: too few words"},
-             Row{"set SN 1 5",
-                 "set: set takes a name and a value, with both subscripts or none between them"},
-             Row{"set SN 1 1 5 5", "set: too many words"},
-             Row{"set SN 1 two 5", "set: \"two\" is no subscript"},
-             Row{"set SN -32769 1 5", "set: \"-32769\" is no subscript"},
-             Row{"set SN \"5", "a quote is not closed"},
-             Row{"set SN \"5\\", "a quote is not closed"},
-             Row{"set SN \"5\"5", "a blank must follow a closing quote"},
-             Row{"set SN 5\"5\"", "a quote stands inside a word"},
-             Row{"set SN \"\\q\"", "unknown escape \\q"},
-             Row{"show", "show: too few words"},
-             Row{"show SN x", "show: \"x\" is no subscript"},
-             Row{"dump SN RM", "dump: too many words"},
-             Row{"calc", "calc: too few words"},
-             Row{"calc SSN SSN SSN", "calc: too many words"},
-             Row{"calccell LDLayerStructNo 1", "calccell: too few words"},
-             Row{"calccell LDLayerStructNo 1 x", "calccell: \"x\" is no subscript"},
-             Row{"calccell LDLayerStructNo 1 1 T X", "calccell: too many words"},
-             Row{"solve DeF", "solve: too few words"},
-             Row{"solve DeF 1 2", "solve: too many words"},
-             Row{"solve DeF 0", "solve: DeF has terms 1 to 7"},
-             Row{"solve DeF 8", "solve: DeF has terms 1 to 7"},
-             Row{"solve DeF -1", "solve: DeF has terms 1 to 7"},
-             Row{"solve DeR 12", "solve: DeR has terms 1 to 11"},
-             Row{"solve DeS 19", "solve: DeS has terms 1 to 18"},
-             Row{"solve DeF NOSUCH", "solve: DeF has no term NOSUCH"},
-             Row{"solve DeF DEPTH", "solve: DeF has no term DEPTH"},
-             Row{"solve DeF 99999999999", "solve: DeF has no term 99999999999"},
-             Row{"solve Nowhere SN", "solve: Nowhere has no term SN"},
-             Row{"answer", "answer: too few words"},
-             Row{"answer a b", "answer: too many words"},
-         }) {
+    for (const BadCommand& row : kBadCommands) {
         SCOPED_TRACE(row.command);
         const ConsoleEnd end = Obey(std::string("# the bad one\n\nset SN 1\n") + row.command + "\nget SN\n");
         EXPECT_EQ(end.status, 2);
@@ -513,18 +541,15 @@ TEST_F(ConsoleTest, AWriteToACellWithoutARowStopsTheProgram) {
     EXPECT_THAT(end.errors, testing::StartsWith("line 2: the program stopped: no cell "));
 }
 
-TEST_F(ConsoleTest, ATextTooLongForAnyFileIsToldAtTheSaveAndNothingIsWritten) {
+TEST_F(ConsoleTest, AValueLongerThanACellCanHoldIsNotUnderstood) {
     const std::string path = File("plan.kvr");
-    const ConsoleEnd end = Obey("save \"" + path + "\"\nset Agency " + std::string(5000000, 'x') +
-                                "\nsave\nset Agency short\nsave\n");
-    EXPECT_EQ(end.status, 0);
-    EXPECT_EQ(end.output, "{\"message\":{\"title\":\"Kelvor\",\"text\":\"Error saving to " + path +
-                              ": string or blob too big\",\"style\":\"ok\",\"icon\":\"none\",\"answer\":"
-                              "\"ok\"}}\n");
+    const std::string longest(1024UL * 1024UL, 'x');
+    EXPECT_EQ(Report(Obey("set Agency " + longest + "\nsave \"" + path + "\"\nset Agency " + longest +
+                          "x\nsave\n")),
+              "2\nline 3: set: the value is longer than a cell can hold\n");
     EXPECT_EQ(Report(Obey("get Agency\n", {path})),
-              "0\n"
-              R"({"cell":{"name":"Agency","dim1":1,"dim2":1,"rvalue":null,"svalue":"short"}})"
-              "\n");
+              "0\n{\"cell\":{\"name\":\"Agency\",\"dim1\":1,\"dim2\":1,\"rvalue\":null,\"svalue\":\"" +
+                  longest + "\"}}\n");
 }
 
 TEST_F(ConsoleTest, BytesThatAreNoTextArePrintedAsReplacements) {

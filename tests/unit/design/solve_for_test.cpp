@@ -278,7 +278,7 @@ TEST_F(SolveForTest, ATrafficBelowTheThinnestSlabIsOutOfBounds) {
     EnterRigid({9.0, 0.001, 95, 0.35, 650, 5e6, 3.2, 100, 1, 4.2, 2.5});
     const double before = Get("DEPTH");
     EXPECT_EQ(Solve("DeR", 1), -1);
-    EXPECT_THAT(Messages(), testing::Contains(kBounds));
+    EXPECT_THAT(Messages(), ElementsAre(kBounds));
     EXPECT_EQ(Get("DEPTH"), before);
 }
 

@@ -12,6 +12,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "platform/file_system.h"
 
@@ -61,7 +62,7 @@ inline std::string ReceiveAll(int fd) {
 /// Runs an action that returns a text in a child process and gives that text. An exception in the child
 /// is reported as "exception: " and its reason.
 template <typename Action>
-ChildEnd RunInChild(Action action, Rights rights = Rights::Own) {
+ChildEnd RunInChild(const Action& action, Rights rights = Rights::Own) {
     int ends[2];
     if (::pipe(ends) != 0) throw std::runtime_error("no pipe can be made");
     const pid_t child = ::fork();

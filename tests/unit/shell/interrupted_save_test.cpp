@@ -113,6 +113,37 @@ class InterruptedSaveTest : public testing::Test {
         return found == new_;
     }
 
+    /// Lets one operation of a save fail, and checks what is left.
+    void FailAt(const Save& save, int operation, std::size_t bytes, bool savesAllTheSame) {
+        Restore();
+        {
+            FaultyProgram program(home_, {operation, bytes, false});
+            ASSERT_TRUE(Prepare(*program, Project()));
+            const std::string target = save.replaces ? Project() : Other();
+            EXPECT_EQ(save.run(*program, Project(), Other()), savesAllTheSame);
+            if (savesAllTheSame) {
+                EXPECT_THAT(program.Messages(), IsEmpty());
+                EXPECT_EQ(program->state().sProjectFile, target);
+            } else {
+                EXPECT_THAT(program.Messages(),
+                            ElementsAre("Error saving to " + target + ": No space left on device"));
+                EXPECT_EQ(program->state().sProjectFile, Project());
+            }
+            EXPECT_EQ(program->state().bProjectChanged, !savesAllTheSame);
+            EXPECT_EQ(program->state().dbWork.GetVar("SN"), 5.5);
+
+            // From there Save As works, with all values.
+            const std::string rescue = folder_ / "rescue.kvr";
+            EXPECT_TRUE(program->SaveAs(rescue));
+            EXPECT_EQ(ReadFile(rescue), new_);
+            std::filesystem::remove(rescue);
+        }
+        EXPECT_EQ(ExpectOldOrNew(save), savesAllTheSame);
+        std::vector<std::string> names = NamesIn(folder_.path());
+        std::erase(names, "other.kvr");
+        EXPECT_THAT(names, ElementsAre("plan.kvr")) << "a half-made file was left behind";
+    }
+
     void ExpectOpens(const std::string& path, double value) {
         TestHost host;
         Program program(host.host(), home_.home());
@@ -144,33 +175,13 @@ TEST_F(InterruptedSaveTest, AFailureAtAnyFileOperationLeavesTheOldOrTheNewFileWh
     ASSERT_NE(old_, new_);
     for (const Save& save : Saves()) {
         const Range range = OperationsOf(save);
-        ASSERT_GE(range.end - range.first, 4) << "at least: read, write, flush, rename";
+        ASSERT_GE(range.end - range.first, 5) << "at least: read, write, flush, rename, flush the folder";
         for (int operation = range.first; operation < range.end; ++operation) {
             for (const std::size_t bytes : {std::size_t{0}, std::size_t{1}, new_.size() / 2, new_.size()}) {
                 SCOPED_TRACE(testing::Message() << save.what << ", operation " << operation - range.first
                                                 << ", bytes written " << bytes);
-                Restore();
-                {
-                    FaultyProgram program(home_, {operation, bytes, false});
-                    ASSERT_TRUE(Prepare(*program, Project()));
-                    const std::string target = save.replaces ? Project() : Other();
-                    EXPECT_FALSE(save.run(*program, Project(), Other()));
-                    EXPECT_THAT(program.Messages(),
-                                ElementsAre("Error saving to " + target + ": No space left on device"));
-                    EXPECT_EQ(program->state().sProjectFile, Project());
-                    EXPECT_TRUE(program->state().bProjectChanged);
-                    EXPECT_EQ(program->state().dbWork.GetVar("SN"), 5.5);
-
-                    // From there Save As works, with all values.
-                    const std::string rescue = (folder_ / "rescue.kvr").string();
-                    EXPECT_TRUE(program->SaveAs(rescue));
-                    EXPECT_EQ(ReadFile(rescue), new_);
-                    std::filesystem::remove(rescue);
-                }
-                ExpectOldOrNew(save);
-                std::vector<std::string> names = NamesIn(folder_.path());
-                std::erase(names, "other.kvr");
-                EXPECT_THAT(names, ElementsAre("plan.kvr")) << "a half-made file was left behind";
+                // Behind the renaming the new file is in place.
+                FailAt(save, operation, bytes, operation == range.end - 1);
             }
         }
     }
@@ -232,6 +243,38 @@ TEST_F(InterruptedSaveTest, AKillAtAnyMomentOfNewLeavesTheOldOrTheNewFileWhole) 
         ASSERT_EQ(end.signal, SIGKILL) << end.report;
         ExpectOldOrNew(Saves()[0]);
     }
+}
+
+/// Loses the work copy as soon as a file was replaced.
+class LosingFiles : public NativeFileSystem {
+  public:
+    explicit LosingFiles(Path workCopy) : workCopy_(std::move(workCopy)) {}
+    void Rename(const Path& from, const Path& to) override {
+        NativeFileSystem::Rename(from, to);
+        std::filesystem::remove(workCopy_);
+    }
+
+  private:
+    Path workCopy_;
+};
+
+TEST_F(InterruptedSaveTest, AWorkCopyThatDoesNotReopenAfterTheSaveIsToldAndTheFileIsSafe) {
+    Restore();
+    TestHost host;
+    LosingFiles files(home_ / "kvrwork.tmp");
+    host.fileSystem = &files;
+    Program program(host.host(), home_.home());
+    ASSERT_TRUE(Prepare(program, Project()));
+    EXPECT_FALSE(program.Save());
+    EXPECT_THAT(host.record.TakeTexts(),
+                ElementsAre("Error saving to " + Project() + ": unable to open database file"));
+    EXPECT_EQ(ReadFile(Project()), new_);
+    EXPECT_FALSE(program.state().dbWork.IsOpen());
+    EXPECT_FALSE(program.Save());
+    EXPECT_THAT(host.record.TakeTexts(),
+                ElementsAre("Error saving to " + Project() + ": no project is open"));
+    EXPECT_TRUE(program.NewProject());
+    EXPECT_EQ(ReadFile(Project()), new_);
 }
 
 TEST_F(InterruptedSaveTest, AFailureAtAnyFileOperationOfAnOpenNeverTakesAnotherProject) {

@@ -284,6 +284,18 @@ TEST_F(ProjectFilesTest, NewSaysNothingIfTheNamedFileCannotBeWritten) {
     EXPECT_THAT(NamesIn(folder_.path()), IsEmpty());
 }
 
+TEST_F(ProjectFilesTest, NewPutsNoWorkCopyThatLacksChangesOverAFile) {
+    ASSERT_TRUE(Run().SaveAs(File("plan.kvr")));
+    const std::string saved = ReadFile(File("plan.kvr"));
+    // A folder in place of the rollback journal: no write to the work copy can begin.
+    std::filesystem::create_directory(program_.home / "kvrwork.tmp-journal");
+    Enter("SN", "4.5");
+    EXPECT_TRUE(Run().NewProject());
+    EXPECT_THAT(Messages(), IsEmpty());
+    EXPECT_EQ(ReadFile(File("plan.kvr")), saved);
+    EXPECT_EQ(Get("SN"), 0.0);
+}
+
 TEST_F(ProjectFilesTest, AFreshProjectComesUpInTheUnitsOfItsTemplate) {
     Run().ChooseUnits(true);
     ASSERT_TRUE(Run().NewProject());

@@ -14,6 +14,7 @@ namespace {
 using testing::AnyOf;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::MatchesRegex;
 using testing::StartsWith;
 
 constexpr std::size_t kPageSize = 4096;
@@ -24,8 +25,15 @@ using Maker = std::function<void(const Path&)>;
 struct Rejected {
     const char* what;
     Maker make;
-    const char* reason;  // nothing: not a database at all
+    const char* reason;  // a regular expression
 };
+
+/// The reason of what is not a database at all.
+const char* const kNotAKvorFile = nullptr;
+
+const char* const kColumns =
+    "Name TEXT NOT NULL COLLATE NOCASE, Dim1 INTEGER NOT NULL, Dim2 INTEGER NOT NULL, RValue REAL, SValue "
+    "TEXT";
 
 Maker Content(const std::string& content) {
     return [content](const Path& path) { WriteFile(path, content); };
@@ -49,17 +57,39 @@ Maker Remade(const std::string& columns) {
                columns + "; INSERT INTO Project SELECT * FROM P; DROP TABLE P");
 }
 
-const std::vector<Rejected>& RejectedFiles() {
-    static const std::string kColumns =
-        "Name TEXT NOT NULL COLLATE NOCASE, Dim1 INTEGER NOT NULL, Dim2 INTEGER NOT NULL, RValue REAL, "
-        "SValue TEXT";
-    static const std::string kKey = ", PRIMARY KEY (Name, Dim1, Dim2)) WITHOUT ROWID";
-    static const std::vector<Rejected> kFiles = {
-        {"a text", Content("Dear colleague,\nplease find enclosed the design.\n"), nullptr},
-        {"an empty file", Content(""), nullptr},
-        {"one byte", Content("S"), nullptr},
-        {"noise", Content(std::string(8192, '\xA5')), nullptr},
-        {"another magic", Content("SQLite format 2" + std::string(4081, '\0')), nullptr},
+/// Files that are no database, or no file.
+std::vector<Rejected> OtherFiles() {
+    const auto instead = [](void (*make)(const Path&)) {
+        return [make](const Path& path) {
+            std::filesystem::remove(path);
+            make(path);
+        };
+    };
+    return {
+        {"a text", Content("Dear colleague,\nplease find enclosed the design.\n"), kNotAKvorFile},
+        {"an empty file", Content(""), kNotAKvorFile},
+        {"one byte", Content("S"), kNotAKvorFile},
+        {"noise", Content(std::string(8192, '\xA5')), kNotAKvorFile},
+        {"another magic", Content("SQLite format 2" + std::string(4081, '\0')), kNotAKvorFile},
+        {"a file above any size",
+         [](const Path& path) { std::filesystem::resize_file(path, 64UL * 1024 * 1024 + 1); },
+         "File too large"},
+        {"no file", instead([](const Path& /*path*/) {}), "No such file or directory"},
+        {"a folder", instead([](const Path& path) { std::filesystem::create_directory(path); }),
+         "Is a directory"},
+        {"a pipe", instead([](const Path& path) { ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0); }),
+         "Not a regular file"},
+        {"a device", instead([](const Path& path) { std::filesystem::create_symlink("/dev/zero", path); }),
+         "Not a regular file"},
+        {"a link to nowhere",
+         instead([](const Path& path) { std::filesystem::create_symlink("nowhere", path); }),
+         "No such file or directory"},
+    };
+}
+
+/// Databases that are no projects.
+std::vector<Rejected> OtherDatabases() {
+    return {
         {"a foreign database", FreshSql("CREATE TABLE Roads (Name TEXT)"),
          "table Roads does not belong there"},
         {"a database without a table", FreshSql("CREATE TABLE t (x); DROP TABLE t"),
@@ -70,10 +100,10 @@ const std::vector<Rejected>& RejectedFiles() {
          "table Project lacks columns"},
         {"too many columns", FreshSql("CREATE TABLE Project (Name, Dim1, Dim2, RValue, SValue, More)"),
          "table Project has other columns"},
-        {"no key", Remade(kColumns + ")"), "table Project is not made as a project's"},
+        {"no key", Remade(std::string(kColumns) + ")"), "table Project is not made as a project's"},
         {"a key that tells cases apart",
-         Remade("Name TEXT NOT NULL, Dim1 INTEGER NOT NULL, Dim2 INTEGER NOT NULL, RValue REAL, SValue TEXT" +
-                kKey),
+         Remade("Name TEXT NOT NULL, Dim1 INTEGER NOT NULL, Dim2 INTEGER NOT NULL, RValue REAL, SValue TEXT, "
+                "PRIMARY KEY (Name, Dim1, Dim2)) WITHOUT ROWID"),
          "table Project is not made as a project's"},
         {"a virtual table of that name",
          FreshSql("CREATE VIRTUAL TABLE Project USING fts5(Name, Dim1, Dim2, RValue, SValue)"),
@@ -81,59 +111,43 @@ const std::vector<Rejected>& RejectedFiles() {
         {"a view of that name",
          FreshSql("CREATE VIEW Project AS SELECT 1 Name, 1 Dim1, 1 Dim2, 1 RValue, 1 SValue"),
          "view Project does not belong there"},
+    };
+}
+
+/// Projects with more in them, or less.
+std::vector<Rejected> SpoiltProjects() {
+    const char* const badSubscript = "a cell has a subscript out of range";
+    return {
         {"an extra table", Sql("CREATE TABLE Extra (x)"), "table Extra does not belong there"},
         {"an index", Sql("CREATE INDEX I ON Project (RValue)"), "index I does not belong there"},
         {"a view", Sql("CREATE VIEW V AS SELECT * FROM Project"), "view V does not belong there"},
         {"a trigger", Sql("CREATE TRIGGER T AFTER UPDATE ON Project BEGIN DELETE FROM Project; END"),
          "trigger T does not belong there"},
-        {"no rows", Sql("DELETE FROM Project"), nullptr},
-        {"a missing cell", Sql("DELETE FROM Project WHERE Name = 'SN'"), "cell SN(1,1) is missing"},
+        {"no rows but one", Sql("DELETE FROM Project WHERE Name <> 'SN'"), "cell .+ is missing"},
+        {"a missing cell", Sql("DELETE FROM Project WHERE Name = 'SN'"), "cell SN\\(1,1\\) is missing"},
         {"a missing row of an array", Sql("DELETE FROM Project WHERE Name = 'NDTRM' AND Dim1 = 300"),
-         "cell NDTRM(300,1) is missing"},
+         "cell NDTRM\\(300,1\\) is missing"},
         {"a hole in an array", Sql("DELETE FROM Project WHERE Name = 'NDTRM' AND Dim1 = 7"),
-         "cell NDTRM(7,1) is missing"},
+         "cell NDTRM\\(7,1\\) is missing"},
         {"no unit mode", Sql("DELETE FROM Project WHERE Name = 'MetricMode'"),
-         "cell MetricMode(1,1) is missing"},
-        {"a subscript of 0", Sql("INSERT INTO Project VALUES ('SN', 0, 1, 1, NULL)"),
-         "a cell has a subscript out of range"},
+         "cell MetricMode\\(1,1\\) is missing"},
+        {"a subscript of 0", Sql("INSERT INTO Project VALUES ('SN', 0, 1, 1, NULL)"), badSubscript},
         {"a subscript beyond 16 bits", Sql("INSERT INTO Project VALUES ('SN', 1, 32768, 1, NULL)"),
-         "a cell has a subscript out of range"},
+         badSubscript},
         {"a subscript beyond 32 bits", Sql("INSERT INTO Project VALUES ('SN', 4294967297, 1, 1, NULL)"),
-         "a cell has a subscript out of range"},
-        {"a text for a subscript", Sql("INSERT INTO Project VALUES ('SN', 'one', 1, 1, NULL)"),
-         "a cell has a subscript out of range"},
+         badSubscript},
+        {"a text for a subscript", Sql("INSERT INTO Project VALUES ('SN', 'one', 1, 1, NULL)"), badSubscript},
         {"a write-ahead log", Sql("PRAGMA journal_mode = WAL"),
          "the newest values of a file in WAL mode may stand in another"},
-        {"a file above any size",
-         [](const Path& path) { std::filesystem::resize_file(path, 64UL * 1024 * 1024 + 1); },
-         "File too large"},
-        {"no file", [](const Path& path) { std::filesystem::remove(path); }, "No such file or directory"},
-        {"a folder",
-         [](const Path& path) {
-             std::filesystem::remove(path);
-             std::filesystem::create_directory(path);
-         },
-         "Is a directory"},
-        {"a pipe",
-         [](const Path& path) {
-             std::filesystem::remove(path);
-             if (::mkfifo(path.c_str(), 0600) != 0) throw std::runtime_error("no pipe can be made");
-         },
-         "Not a regular file"},
-        {"a device",
-         [](const Path& path) {
-             std::filesystem::remove(path);
-             std::filesystem::create_symlink("/dev/zero", path);
-         },
-         "Not a regular file"},
-        {"a link to nowhere",
-         [](const Path& path) {
-             std::filesystem::remove(path);
-             std::filesystem::create_symlink("nowhere", path);
-         },
-         "No such file or directory"},
     };
-    return kFiles;
+}
+
+std::vector<Rejected> RejectedFiles() {
+    std::vector<Rejected> files = OtherFiles();
+    for (const auto& more : {OtherDatabases(), SpoiltProjects()}) {
+        files.insert(files.end(), more.begin(), more.end());
+    }
+    return files;
 }
 
 class ProjectRejectionTest : public ProjectTest {
@@ -181,13 +195,11 @@ TEST_F(ProjectRejectionTest, WhatIsNoProjectIsRefusedAndTheFormerFileIsOutOfReac
         const std::string path = Make("bad.kvr", file.make);
         const std::string before = Checksum(folder_.path());
         EXPECT_FALSE(Run().OpenProject(path));
-        if (file.reason != nullptr) {
-            EXPECT_THAT(Messages(), ElementsAre("Error loading from " + path + ": " + file.reason));
-        } else if (std::string(file.what) == "no rows") {
-            EXPECT_THAT(Messages(), ElementsAre(testing::MatchesRegex("Error loading from " + path +
-                                                                      ": cell .*\\(1,1\\) is missing")));
-        } else {
+        if (file.reason == kNotAKvorFile) {
             EXPECT_THAT(Messages(), ElementsAre("File " + path + " is not a kvor file"));
+        } else {
+            EXPECT_THAT(Messages(),
+                        ElementsAre(MatchesRegex("Error loading from " + path + ": " + file.reason)));
         }
         ExpectFormerFileOutOfReach(path);
         EXPECT_EQ(Checksum(folder_.path()), before);
@@ -247,6 +259,21 @@ TEST_F(ProjectRejectionTest, APageOverwrittenWithNoiseIsRefused) {
     }
 }
 
+TEST_F(ProjectRejectionTest, APageInThePlaceOfAnotherIsRefused) {
+    for (std::size_t page = 1; page + 1 < good_.size() / kPageSize; ++page) {
+        SCOPED_TRACE(page);
+        const std::string path = Make("bad.kvr", [&](const Path& file) {
+            const std::string first = good_.substr(page * kPageSize, kPageSize);
+            const std::string second = good_.substr((page + 1) * kPageSize, kPageSize);
+            std::string content = good_;
+            WriteFile(file, content.replace(page * kPageSize, 2 * kPageSize, second + first));
+        });
+        EXPECT_FALSE(Run().OpenProject(path));
+        EXPECT_FALSE(program_.store().IsOpen());
+        EXPECT_THAT(Messages(), ElementsAre(StartsWith("Error loading from " + path + ": ")));
+    }
+}
+
 TEST_F(ProjectRejectionTest, AnUnreadableFileIsRefused) {
     const std::string path = Make("secret.kvr", [](const Path&) {});
     OpenToEverybody(program_.home.path(), true);
@@ -272,6 +299,33 @@ TEST_F(ProjectRejectionTest, AnUnreadableFileIsRefused) {
     EXPECT_EQ(end.report, "refused\nError loading from " + path + ": Permission denied\nError saving to " +
                               File("good.kvr") + ": no project is open");
     EXPECT_EQ(ReadFile(File("good.kvr")), good_);
+}
+
+TEST_F(ProjectRejectionTest, AWriteProtectedFileOpensAndIsNotReplaced) {
+    OpenToEverybody(program_.home.path(), true);
+    OpenToEverybody(folder_.path(), true);
+    std::filesystem::permissions(File("good.kvr"), std::filesystem::perms::owner_read |
+                                                       std::filesystem::perms::group_read |
+                                                       std::filesystem::perms::others_read);
+    const Path home = program_.home.path();
+    const TemporaryFolder work;
+    OpenToEverybody(work.path(), true);
+    const ChildEnd end = RunInChild(
+        [&]() -> std::string {
+            TestHost host;
+            Program program(host.host(), {home, work.path()});
+            if (program.Start(File("good.kvr")) != StartResult::Running) return "not started";
+            program.SetValue("SN", 1, 1, "5.5");
+            program.Save();
+            program.SaveAs(File("copy.kvr"));
+            std::string report;
+            for (const std::string& text : host.record.TakeTexts()) report += text + "\n";
+            return report;
+        },
+        Rights::Unprivileged);
+    EXPECT_EQ(end.report, "Error saving to " + File("good.kvr") + ": Permission denied\n");
+    EXPECT_EQ(ReadFile(File("good.kvr")), good_);
+    EXPECT_EQ(NumberInFile(File("copy.kvr"), "SN"), 5.5);
 }
 
 TEST_F(ProjectRejectionTest, AFileInAFolderThatCannotBeEnteredIsRefused) {

@@ -153,13 +153,17 @@ TEST_F(StartUpTest, ARefusedProjectOnTheCommandLineLeavesTheProgramWithoutAProje
 
 TEST_F(StartUpTest, AnAbsentFileOnTheCommandLineLeavesNoProjectAndTheWaitCursor) {
     const std::string path = folder_ / "no such.kvr";
-    for (const std::string& commandLine : {path, " \"" + path + "\" "}) {
+    const std::string folder = folder_ / "folder.kvr";
+    std::filesystem::create_directory(folder);
+    const std::vector<std::pair<std::string, std::string>> commandLines = {
+        {path, path}, {" \"" + path + "\" ", path}, {folder, folder}, {"\"\"", ""}};
+    for (const auto& [commandLine, named] : commandLines) {
         SCOPED_TRACE(commandLine);
         const std::string before = Checksum(home_.path());
         const Start start = Run(commandLine);
         EXPECT_EQ(start.result, StartResult::FileMissing);
         ASSERT_THAT(start.messages, SizeIs(1));
-        EXPECT_EQ(start.messages[0].text, path + " file does not exist!");
+        EXPECT_EQ(start.messages[0].text, named + " file does not exist!");
         EXPECT_EQ(start.messages[0].title, "Opening file");
         EXPECT_EQ(start.messages[0].icon, MessageIcon::None);
         EXPECT_FALSE(start.projectOpen);
