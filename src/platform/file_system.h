@@ -71,8 +71,8 @@ class NativeFileSystem : public FileSystem {
 
 /// Replaces a file's content so that a crash or a full disk at any moment leaves the old file or the
 /// new one, whole: written beside the target, flushed, renamed. A link keeps pointing at its file, and
-/// a file keeps its permissions. Throws FileError; the target is then as it was, or new if the renaming
-/// itself could not be brought to the disk.
+/// a file keeps its permissions; one that is write-protected stays. Throws FileError and leaves the
+/// target as it was.
 void ReplaceFile(FileSystem& files, const Path& target, std::string_view content);
 
 }  // namespace kelvor

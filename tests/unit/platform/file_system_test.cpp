@@ -2,10 +2,12 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
 #include <cstring>
 #include <functional>
 #include <string>
@@ -148,6 +150,25 @@ TEST_F(FileSystemTest, PermissionsAreCopied) {
     EXPECT_EQ(Failure([&] { files_.CopyPermissions(file_, folder_ / "none"); }), Reason(ENOENT));
 }
 
+using FileSystemDeathTest = FileSystemTest;
+
+TEST_F(FileSystemDeathTest, AFileIsWritableIfItsPermissionsSaySo) {
+    WriteFile(folder_ / "protected", "content");
+    std::filesystem::permissions(folder_.path(), perms(0755));
+    std::filesystem::permissions(file_, perms(0666));
+    std::filesystem::permissions(folder_ / "protected", perms(0444));
+    const auto asOrdinaryUser = [this] {
+        // The superuser may write to everything, so it becomes somebody else.
+        constexpr uid_t kNobody = 65534;
+        if (::geteuid() == 0 && ::seteuid(kNobody) != 0) std::_Exit(9);
+        const bool right = files_.IsWritable(file_) && files_.IsWritable(folder_ / "link") &&
+                           !files_.IsWritable(folder_ / "protected");
+        std::_Exit(right ? 0 : 1);
+    };
+    EXPECT_EXIT(asOrdinaryUser(), testing::ExitedWithCode(0), "");
+    EXPECT_FALSE(files_.IsWritable(folder_ / "none"));
+}
+
 TEST_F(FileSystemTest, APathIsResolvedWithItsLinksAlsoWhereItsLastPartIsMissing) {
     const Path root = std::filesystem::canonical(folder_.path());
     EXPECT_EQ(files_.Resolve(file_), root / "file");
@@ -254,6 +275,26 @@ TEST_F(ReplaceFileTest, WhatIsNoFileIsNotReplaced) {
     EXPECT_EQ(files_.Kind(folder_ / "pipe"), FileKind::Other);
 }
 
+/// A file system in which nothing may be written to.
+class ProtectedFileSystem : public FaultyFileSystem {
+  public:
+    explicit ProtectedFileSystem(FileSystem& inner) : FaultyFileSystem(inner, {}) {}
+
+    [[nodiscard]] bool IsWritable(const Path& /*path*/) const override { return false; }
+};
+
+TEST_F(ReplaceFileTest, AWriteProtectedFileStaysAndAMissingOneIsMadeAllTheSame) {
+    WriteFile(target_, old_);
+    const auto names = Names();
+    ProtectedFileSystem files(files_);
+    EXPECT_EQ(Failure([&] { ReplaceFile(files, target_, new_); }), Reason(EACCES));
+    EXPECT_EQ(ReadFile(target_), old_);
+    EXPECT_EQ(Names(), names);
+    EXPECT_EQ(files.operations(), 0);
+    ReplaceFile(files, folder_ / "new", new_);
+    EXPECT_EQ(ReadFile(folder_ / "new"), new_);
+}
+
 TEST_F(ReplaceFileTest, ANameMayBeAsLongAsThePlatformAllows) {
     const Path target = folder_ / std::string(255, 'x');
     WriteFile(target, old_);
@@ -272,9 +313,11 @@ TEST_F(ReplaceFileTest, AFailureLeavesTheOldFileAndNothingBesideIt) {
             WriteFile(target_, old_);
             const auto names = Names();
             FaultyFileSystem faulty(files_, {.operation = operation, .bytes = bytes});
-            EXPECT_EQ(Failure([&] { ReplaceFile(faulty, target_, new_); }), FaultyFileSystem::kReason);
+            const std::string failure = Failure([&] { ReplaceFile(faulty, target_, new_); });
             // The last operation only flushes the folder: by then the new file is in place.
-            EXPECT_EQ(ReadFile(target_), operation == operations - 1 ? new_ : old_) << operation;
+            const bool inPlace = operation == operations - 1;
+            EXPECT_EQ(failure, inPlace ? "" : FaultyFileSystem::kReason) << operation;
+            EXPECT_EQ(ReadFile(target_), inPlace ? new_ : old_) << operation;
             EXPECT_EQ(Names(), names) << operation;
         }
     }
@@ -286,8 +329,11 @@ TEST_F(ReplaceFileTest, AFailureMakesNoHalfOfANewFile) {
         std::filesystem::remove(target_);
         auto names = Names();
         FaultyFileSystem faulty(files_, {.operation = operation, .bytes = 5});
-        EXPECT_EQ(Failure([&] { ReplaceFile(faulty, target_, new_); }), FaultyFileSystem::kReason);
-        if (operation == operations - 1) {
+        const std::string failure = Failure([&] { ReplaceFile(faulty, target_, new_); });
+        if (operation < operations - 1) {
+            EXPECT_EQ(failure, FaultyFileSystem::kReason) << operation;
+        } else {
+            EXPECT_EQ(failure, "");
             EXPECT_EQ(ReadFile(target_), new_);
             names.emplace_back("target");
             std::sort(names.begin(), names.end());
