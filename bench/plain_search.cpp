@@ -40,7 +40,7 @@ bool AnyMissing(const PlainTerms& t) {
     return t.W18 == 0.0 || t.reliability == 0.0 || t.S0 == 0.0 || t.MR == 0.0 || t.P0 == 0.0 || t.Pt == 0.0;
 }
 
-/// The parts of the equation that every solve computes before its case; the search needs none of them.
+/// What every solve computes of the equation before its case; the search needs none of it.
 void ComputeTerms(const PlainTerms& t, double zr) {
     double ZS = zr * t.S0;
     double SNTerm = 9.36 * (std::log(t.SN + 1.0) / kLn10);

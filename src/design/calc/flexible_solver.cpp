@@ -27,7 +27,7 @@ class FlexibleSolver {
     }
 
   private:
-    /// The parts of the equation that the cases share.
+    /// What the cases share of the equation.
     void ComputeTerms() {
         const Real SN = terms_.Value(kSN);
         ZS = context_.reliability.ZR * terms_.Value(kS0);

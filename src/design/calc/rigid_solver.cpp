@@ -31,7 +31,7 @@ class RigidSolver {
   private:
     [[nodiscard]] Real Value(int term) const { return terms_.Value(term); }
 
-    /// The parts of the equation that the cases share.
+    /// What the cases share of the equation.
     void ComputeTerms() {
         const Real D = Value(kD);
         ZS = context_.reliability.ZR * Value(kS0);

@@ -7,7 +7,7 @@
 
 namespace kelvor {
 
-/// How the parts of a form lie to each other.
+/// How the elements of a form lie to each other.
 enum class LayoutKind {
     Pages,      // one child a tab
     Columns,    // children side by side
@@ -37,7 +37,7 @@ struct ButtonItem {
     bool comesLater = false;
 };
 
-/// A part of a form, with the parts inside it.
+/// An element of a form, with the elements inside it.
 struct LayoutNode {
     LayoutKind kind = LayoutKind::Rows;
     std::string name;   // of the control that it makes, where it makes one
