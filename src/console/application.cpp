@@ -101,7 +101,7 @@ int RunProgram(const ConsoleOptions& options, const Home& home, std::istream& in
         errors << "the program stopped: " << stop.what() << '\n';
         return kStatusStopped;
     }
-    ModelDriver driver(program, dialogs);
+    ModelDriver driver(program, [&](const std::string& answer) { dialogs.QueueAnswer(answer); });
     const ScriptEnd end = RunScript(input, driver, *printer, errors);
     if (!output.flush()) {
         errors << "kelvor-cli: the output cannot be written\n";

@@ -188,6 +188,6 @@ std::optional<std::string> ModelDriver::FocusName() {
 
 bool ModelDriver::HasEnded() { return program_.ended(); }
 
-void ModelDriver::QueueAnswer(const std::string& text) { dialogs_.QueueAnswer(text); }
+void ModelDriver::QueueAnswer(const std::string& text) { queueAnswer_(text); }
 
 }  // namespace kelvor

@@ -1,10 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "console/script/driver.h"
-#include "platform/dialogs.h"
 #include "shell/program.h"
 
 namespace kelvor {
@@ -12,7 +13,9 @@ namespace kelvor {
 /// Drives the program's model, with no window.
 class ModelDriver : public Driver {
   public:
-    ModelDriver(Program& program, ScriptedDialogs& dialogs) : program_(program), dialogs_(dialogs) {}
+    /// `queueAnswer` takes the answers that a script prepares for the questions to come.
+    ModelDriver(Program& program, std::function<void(const std::string&)> queueAnswer)
+        : program_(program), queueAnswer_(std::move(queueAnswer)) {}
 
     /// Throws ProgramStop if no fresh project can be made.
     void New() override;
@@ -45,13 +48,18 @@ class ModelDriver : public Driver {
     void QueueAnswer(const std::string& text) override;
     bool HasEnded() override;
 
-  private:
-    void Raise(const UserEvent& event, const std::string& refusal);
+  protected:
+    [[nodiscard]] Program& program() { return program_; }
+
+    /// The form in which the script works, and a control of it. Both throw ScriptError if there is none.
     const Form& CurrentForm();
     const Control& FindControl(const std::string& name);
 
+  private:
+    void Raise(const UserEvent& event, const std::string& refusal);
+
     Program& program_;
-    ScriptedDialogs& dialogs_;
+    std::function<void(const std::string&)> queueAnswer_;
 };
 
 }  // namespace kelvor

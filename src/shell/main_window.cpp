@@ -33,17 +33,17 @@ std::vector<MenuTitle> MenuTitles() {
 
 std::vector<MenuEntry> MenuEntries(bool metric) {
     return {
-        {"MenuFile", "NewProj", "&New Project", false, false},
-        {"MenuFile", "MenuFileOpen", "&Open Project...", false, false},
-        {"MenuFile", "MenuFilePrint", "&Print", true, false},
-        {"MenuFile", "MenuFileSave", "&Save Project...", false, false},
-        {"MenuFile", "MenuFileSaveAs", "Save Project &As...", false, false},
-        {"MenuFile", "", "", false, false},
-        {"MenuFile", "MenuFileExit", "E&xit", false, false},
-        {"MenuUnits", "MenuUnitsEnglish", "&English", false, !metric},
-        {"MenuUnits", "MenuUnitsMetric", "&Metric", false, metric},
-        {"MenuHelp", "MenuAbout", "A&bout Kelvor", true, false},
-        {"MenuHelp", "MenuTopics", "Help &Topics", true, false},
+        {"MenuFile", "NewProj", "&New Project", false, "Ctrl+N"},
+        {"MenuFile", "MenuFileOpen", "&Open Project...", false, "Ctrl+O"},
+        {"MenuFile", "MenuFilePrint", "&Print", true, "Ctrl+P"},
+        {"MenuFile", "MenuFileSave", "&Save Project...", false, "Ctrl+S"},
+        {"MenuFile", "MenuFileSaveAs", "Save Project &As...", false, "Ctrl+Shift+S"},
+        {"MenuFile", "", ""},
+        {"MenuFile", "MenuFileExit", "E&xit", false, "Ctrl+Q"},
+        {"MenuUnits", "MenuUnitsEnglish", "&English", false, "", true, !metric},
+        {"MenuUnits", "MenuUnitsMetric", "&Metric", false, "", true, metric},
+        {"MenuHelp", "MenuAbout", "A&bout Kelvor", true},
+        {"MenuHelp", "MenuTopics", "Help &Topics", true},
     };
 }
 
@@ -59,16 +59,15 @@ FormType HubForm() {
             EmptyPage("Project ID", "LabLater0"),
             EmptyPage("Traffic", "LabLater1"),
             Page("Design / Evaluation",
-                 {Frame("Frame1", "Design / Evaluation",
-                        {Options({{"oDeF", "&Asphalt Pavement Design / Evaluation", false},
-                                  {"oDeR", "&Rigid Pavement Design / Evaluation", true},
-                                  {"oDeS", "&Both Rigid and Asphalt Design / Evaluation", true}}),
-                         Buttons({{"Command4", "&Design", false}})})}),
+                 {Options({{"oDeF", "Asphalt Pavement Design / Evaluation", false},
+                           {"oDeR", "Rigid Pavement Design / Evaluation", true},
+                           {"oDeS", "Both Rigid and Asphalt Design / Evaluation", true}}),
+                  Buttons({{"Command4", "&Design", false}})}),
             EmptyPage("Overlays", "LabLater3"),
             EmptyPage("Life Cycle Costing", "LabLater4"),
             EmptyPage("Reports", "LabLater5"),
             EmptyPage("Lists", "LabLater6"),
-            Page("KVR", {Text("ProductLabel", "Kelvor"), Text("VersionLabel", "Version " KELVOR_VERSION)}),
+            Page("KVR", {Heading("ProductLabel", "Kelvor"), Text("VersionLabel", "Version " KELVOR_VERSION)}),
         });
     type.handlers = {
         {FormEvent::Load, "", HandlerOrder::Instead, [](ScreenContext&, Form&, Control*) {}},

@@ -14,8 +14,13 @@ struct MenuEntry {
     std::string name;     // empty: a separator
     std::string caption;  // `&` before the letter of its access key
     bool comesLater = false;
+    std::string shortcut = {};  // a key that chooses it without the menu
+    bool checkable = false;
     bool checked = false;
 };
+
+/// What is said of a thing that Kelvor cannot do yet.
+inline constexpr const char* kComesLater = "comes later";
 
 /// The menus of the main window, in their order: name and caption.
 struct MenuTitle {

@@ -50,9 +50,6 @@ StartResult Program::Start(const std::string& commandLine) {
     const StartResult result = Main(state_, commandLine);
     if (result != StartResult::Running) return result;  // an absent file leaves an empty main window
     InEvent([&] {
-        ScreenContext context = state_.MakeScreenContext();
-        Form& hub = state_.formRegistry.Add(*state_.formRegistry.FindType(kHubForm), *state_.dbCatalogue);
-        FormEvents(context).Activate(hub);
         ShowHub();
         return true;
     });
@@ -68,6 +65,7 @@ bool Program::Raise(const UserEvent& event) {
 }
 
 bool Program::Perform(const UserEvent& event) {
+    if (IsOutsideModalForm(event)) return true;
     switch (event.kind) {
         case UserEvent::Kind::OpenForm: {
             ScreenContext context = state_.MakeScreenContext();
@@ -82,6 +80,23 @@ bool Program::Perform(const UserEvent& event) {
             return ChooseMenu(event.name);
         default:
             return PerformOnCurrentForm(event);
+    }
+}
+
+/// True for what a modal form in front keeps the user from: everything but itself.
+bool Program::IsOutsideModalForm(const UserEvent& event) const {
+    const Form* form = state_.formRegistry.CurrentForm;
+    if (form == nullptr || !form->modal) return false;
+    switch (event.kind) {
+        case UserEvent::Kind::OpenForm:
+        case UserEvent::Kind::SwitchTab:
+        case UserEvent::Kind::Menu:
+            return true;
+        case UserEvent::Kind::ActivateForm:
+        case UserEvent::Kind::CloseForm:
+            return !EqualNoCase(event.name, form->name());
+        default:
+            return false;
     }
 }
 
@@ -123,11 +138,11 @@ bool Program::SwitchTab(int tab) {
     if (tab < 0 || tab >= kHubTabs) return false;
     ScreenContext context = state_.MakeScreenContext();
     FormEvents events(context);
-    Form* hub = context.forms.Find(kHubForm);
-    events.Activate(*hub);
-    if (context.forms.CurrentForm != hub || !events.Commit()) return true;
-    hub->page = tab;
-    hub->focus = hub->NextInTabOrder(nullptr, true);
+    Form& hub = Hub();
+    events.Activate(hub);
+    if (context.forms.CurrentForm != &hub || !events.Commit()) return true;
+    hub.page = tab;
+    hub.focus = hub.NextInTabOrder(nullptr, true);
     return true;
 }
 
@@ -191,13 +206,18 @@ bool Program::LeaveProject() {
     return true;
 }
 
+/// The hub, which is made when it is first asked for and never closed.
+Form& Program::Hub() {
+    if (Form* hub = state_.formRegistry.Find(kHubForm)) return *hub;
+    return state_.formRegistry.Add(*state_.formRegistry.FindType(kHubForm), *state_.dbCatalogue);
+}
+
 void Program::ShowHub() {
     ScreenContext context = state_.MakeScreenContext();
-    FormEvents events(context);
-    Form* hub = context.forms.Find(kHubForm);
-    events.Activate(*hub);
-    hub->page = static_cast<int>(HubTab::Start);
-    hub->focus = nullptr;
+    Form& hub = Hub();
+    FormEvents(context).Activate(hub);
+    hub.page = static_cast<int>(HubTab::Start);
+    hub.focus = nullptr;
 }
 
 bool Program::NewProject() {

@@ -54,11 +54,13 @@ class Program {
 
     bool Perform(const UserEvent& event);
     bool PerformOnCurrentForm(const UserEvent& event);
+    [[nodiscard]] bool IsOutsideModalForm(const UserEvent& event) const;
     bool OnOpenForm(const UserEvent& event);
     bool SwitchTab(int tab);
     bool ChooseMenu(const std::string& name);
     void SwitchUnits(bool metric);
     bool LeaveProject();
+    Form& Hub();
     void ShowHub();
     bool Exit();
     bool ConfirmClose();

@@ -29,7 +29,7 @@ class ScriptTarget {
             ScriptedDialogs dialogs(&output);
             Program program({files_, clock_, dialogs, components_}, home_.home());
             Require(program.Start("") == StartResult::Running, "the program starts");
-            ModelDriver driver(program, dialogs);
+            ModelDriver driver(program, [&](const std::string& answer) { dialogs.QueueAnswer(answer); });
             std::istringstream input(script);
             const ScriptEnd end = RunScript(input, driver, output, errors);
             Require(errors.str().empty() == (end == ScriptEnd::Done), "an early end is told, and only that");

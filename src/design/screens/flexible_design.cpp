@@ -34,7 +34,7 @@ FormType FlexibleDesignForm() {
             Rows({SolveForFrame("Frame2", "SolveFor", "Command1"),
                   Buttons({{"Command2", "&Layer Determ.", true}, {"cmdbCS", "&Cross Section", true}})}),
         }),
-        Buttons({{"cmdAction", "&OK", false}, {"SSHelp", "&Help", true}}),
+        Buttons({{"cmdAction", "&OK", false}, {"SSHelp", "Hel&p", true}}),
         Hidden({"SolveForSide", "Dim1", "Dim2"}),
     });
     type.handlers = {{FormEvent::Click, "Command1", HandlerOrder::Instead, SolveClick}};

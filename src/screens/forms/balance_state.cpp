@@ -7,6 +7,7 @@
 #include "platform/number_picture.h"
 #include "platform/number_text.h"
 #include "screens/forms/field_entry.h"
+#include "screens/forms/field_hint.h"
 #include "screens/forms/form_builder.h"
 
 namespace kelvor {
@@ -52,6 +53,7 @@ std::string FieldText(const ScreenContext& context, const Form& form, const Cont
 }
 
 void RefreshControl(const ScreenContext& context, const Form& form, Control& control) {
+    if (control.IsField()) control.toolTip = FieldHint(context, control);
     if (control.kind == ControlKind::TextBox && !control.tag.empty()) {
         control.text = FieldText(context, form, control);
     } else if (control.kind == ControlKind::Label && control.tag.starts_with('u')) {

@@ -45,6 +45,7 @@ struct Control {
     char accessKey = '\0';  // pressed with Alt: moves the focus here, and clicks a button
     std::string labelOf;    // of a caption: the control it describes
     int page = -1;          // of the tab strip; -1: on every page
+    int group = 0;          // of option buttons: one of a group is selected; the innermost frame or page
 
     /// A box whose Tag is a variable.
     [[nodiscard]] bool IsField() const;

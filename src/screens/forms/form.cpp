@@ -24,7 +24,11 @@ std::optional<int> Subscript(const std::string& text) {
 }  // namespace
 
 Form::Form(const FormType& type, const Catalogue& catalogue)
-    : tag(type.tag), caption(type.caption), type_(type), controls_(BuildControls(type, catalogue)) {}
+    : tag(type.tag),
+      caption(type.caption),
+      modal(type.modal),
+      type_(type),
+      controls_(BuildControls(type, catalogue)) {}
 
 Control* Form::Find(std::string_view name) {
     const auto index = IndexOf(name);

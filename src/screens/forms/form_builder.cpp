@@ -18,6 +18,9 @@ const char* const kComesLater = "comes later";
 /// Every form has these, hidden: what the common routines keep on it.
 constexpr std::array<std::string_view, 2> kHiddenState = {"FieldChanged", "SolveForField"};
 
+/// The access keys of the main window's menus: no form is given one of these.
+constexpr std::string_view kMenuKeys = "FUWH";
+
 char ToUpper(char c) { return static_cast<char>(std::toupper(static_cast<unsigned char>(c))); }
 
 /// The access key that a caption marks with `&`; none if it marks none. `&&` is a plain ampersand.
@@ -47,6 +50,7 @@ class Builder {
         control->kind = kind;
         control->name = std::move(name);
         control->page = page_;
+        control->group = group_;
         controls_.push_back(std::move(control));
         return *controls_.back();
     }
@@ -57,8 +61,9 @@ class Builder {
                 AddPages(node);
                 return;
             case LayoutKind::Frame:
-                Add(ControlKind::Frame, node.name).text = node.title;
-                break;
+                AddFrame(node);
+                return;
+            case LayoutKind::Heading:
             case LayoutKind::Text:
                 Add(ControlKind::Label, node.name).text = node.title;
                 break;
@@ -90,9 +95,18 @@ class Builder {
     void AddPages(const LayoutNode& node) {
         for (std::size_t i = 0; i < node.children.size(); ++i) {
             page_ = static_cast<int>(i);
+            group_ = ++groups_;
             AddNode(node.children[i]);
         }
         page_ = -1;
+        group_ = 0;
+    }
+
+    void AddFrame(const LayoutNode& node) {
+        Add(ControlKind::Frame, node.name).text = node.title;
+        const int outer = std::exchange(group_, ++groups_);
+        for (const LayoutNode& child : node.children) AddNode(child);
+        group_ = outer;
     }
 
     void AddIndicator(const std::string& name) {
@@ -122,7 +136,7 @@ class Builder {
     /// A field's label, its box and its unit, from the catalogue.
     void AddField(const FieldItem& item) {
         const Variable* variable = catalogue_.FindVariable(item.variable);
-        Control& label = Add(ControlKind::Label, "Lab" + item.variable);
+        Control& label = Add(ControlKind::Label, FieldLabelName(item.variable));
         label.text = !item.label.empty() || variable == nullptr ? item.label : variable->desc;
         label.labelOf = item.variable;
 
@@ -136,7 +150,7 @@ class Builder {
             if (IsOutput(item.variable)) box.backColor = colours::kLightCyan;
         }
 
-        Control& unit = Add(ControlKind::Label, "u" + item.variable);
+        Control& unit = Add(ControlKind::Label, UnitLabelName(item.variable));
         unit.tag = "u" + item.variable;
         // A label without a unit stays blank through every switch.
         unit.text = variable == nullptr || IsNoUnit(variable->units) ? "" : variable->units;
@@ -149,7 +163,7 @@ class Builder {
     }
 
     /// Gives every label of a field, and every button without a key of its own, a letter of its text that
-    /// is still free on the same page.
+    /// is still free on the same page and opens no menu.
     void AssignAccessKeys() {
         for (const auto& control : controls_) {
             const bool wantsKey = !control->labelOf.empty() || control->IsButton() || control->IsChoice();
@@ -157,7 +171,8 @@ class Builder {
             for (const char c : control->text) {
                 const char key = ToUpper(c);
                 const bool isLetter = (key >= 'A' && key <= 'Z') || (key >= '0' && key <= '9');
-                if (!isLetter || IsTaken(key, control->page)) continue;
+                if (!isLetter || kMenuKeys.find(key) != std::string_view::npos) continue;
+                if (IsTaken(key, control->page)) continue;
                 control->accessKey = key;
                 break;
             }
@@ -174,6 +189,8 @@ class Builder {
     const Catalogue& catalogue_;
     std::vector<std::unique_ptr<Control>> controls_;
     int page_ = -1;
+    int group_ = 0;
+    int groups_ = 0;
 };
 
 }  // namespace

@@ -149,7 +149,7 @@ void FormEvents::Type(const std::string& text) {
     if (form == nullptr || form->focus == nullptr) return;
     Control& control = *form->focus;
     if (control.kind != ControlKind::TextBox && control.kind != ControlKind::ComboBox) return;
-    if (control.locked || control.text == text) return;
+    if (control.locked || (control.text.empty() && text.empty())) return;
     control.text = text;
     Handle(FormEvent::Change, *form, &control, [&] { FieldChange(*form, control); });
 }
@@ -164,31 +164,72 @@ void FormEvents::TypeCharacter(Form& form, char character) {
 bool FormEvents::Key(const std::string& key) {
     Form* form = Current();
     if (form == nullptr) return true;
-    const bool selects = form->type().isHub && form->focus != nullptr && form->focus->IsChoice();
-    if (key == "Enter" && selects) {
-        Click(*form, *form->focus);
-    } else if (key == "Enter" || key == "Tab") {
-        Tab(*form, true);
-    } else if (key == "BackTab") {
-        Tab(*form, false);
-    } else if (key == "Esc") {
-        if (form->focus != nullptr) RestoreField(context_, *form, *form->focus);
-    } else if (key == "Space") {
-        if (form->focus != nullptr && (form->focus->IsButton() || form->focus->IsChoice())) {
-            Click(*form, *form->focus);
-        } else {
-            TypeCharacter(*form, ' ');
-        }
-    } else if (key == "F1") {
-        if (Control* help = form->Find(kHelpButton)) Press(*form, *help);
-    } else if (key.size() == 5 && key.starts_with("Alt+")) {
+    if (key.size() == 5 && key.starts_with("Alt+")) {
         PressAccessKey(*form, key.back());
     } else if (key.size() == 1) {
         TypeCharacter(*form, key.front());
     } else {
-        return false;
+        return NamedKey(*form, key);
     }
     return true;
+}
+
+bool FormEvents::NamedKey(Form& form, const std::string& key) {
+    const bool onButton = form.focus != nullptr && (form.focus->IsButton() || form.focus->IsChoice());
+    if (key == "Enter" && form.type().isHub && onButton && form.focus->IsChoice()) {
+        Click(form, *form.focus);
+    } else if (key == "Enter" || key == "Tab") {
+        Tab(form, true);
+    } else if (key == "BackTab") {
+        Tab(form, false);
+    } else if (key == "Esc") {
+        if (form.focus != nullptr) RestoreField(context_, form, *form.focus);
+    } else if (key == "Space") {
+        if (onButton) {
+            Click(form, *form.focus);
+        } else {
+            TypeCharacter(form, ' ');
+        }
+    } else if (key == "F1") {
+        if (Control* help = form.Find(kHelpButton)) Press(form, *help);
+    } else if (key == "Delete") {
+        // A field that was not typed in yet is selected as a whole; else the cursor stands at its end.
+        if (!form.fieldChanged()) Type("");
+    } else if (key == "Up" || key == "Left") {
+        Step(form, key, -1);
+    } else if (key == "Down" || key == "Right") {
+        Step(form, key, 1);
+    } else {
+        return key == "F2";
+    }
+    return true;
+}
+
+void FormEvents::Step(Form& form, const std::string& key, int step) {
+    if (form.focus == nullptr) return;
+    if (form.focus->kind == ControlKind::OptionButton) {
+        StepOption(form, *form.focus, step);
+    } else if (form.focus->kind == ControlKind::ComboBox && (key == "Up" || key == "Down")) {
+        StepItem(*form.focus, step);
+    }
+}
+
+void FormEvents::StepOption(Form& form, const Control& option, int step) {
+    std::vector<Control*> group;
+    for (const auto& control : form.controls()) {
+        const bool isIn = control->kind == ControlKind::OptionButton && control->group == option.group;
+        if (isIn && form.CanFocus(*control)) group.push_back(control.get());
+    }
+    const auto place = std::find(group.begin(), group.end(), &option) - group.begin();
+    const auto count = static_cast<std::ptrdiff_t>(group.size());
+    Press(form, *group[static_cast<std::size_t>((place + step + count) % count)]);
+}
+
+void FormEvents::StepItem(const Control& list, int step) {
+    const auto place = std::find(list.items.begin(), list.items.end(), list.text);
+    const auto count = static_cast<std::ptrdiff_t>(list.items.size());
+    const std::ptrdiff_t next = place == list.items.end() ? 0 : place - list.items.begin() + step;
+    if (next >= 0 && next < count) Type(list.items[static_cast<std::size_t>(next)]);
 }
 
 void FormEvents::PressAccessKey(Form& form, char key) {
@@ -206,7 +247,8 @@ void FormEvents::Press(Form& form, Control& button) {
 void FormEvents::Click(Form& form, Control& control) {
     if (control.kind == ControlKind::OptionButton) {
         for (const auto& other : form.controls()) {
-            if (other->kind == ControlKind::OptionButton && other->page == control.page) other->value = false;
+            if (other->kind == ControlKind::OptionButton && other->group == control.group)
+                other->value = false;
         }
         control.value = true;
     } else if (control.kind == ControlKind::CheckBox) {
@@ -224,7 +266,7 @@ bool FormEvents::Choose(Form& form, Control& control, const std::string& item) {
     }
     if (control.kind != ControlKind::ComboBox) return false;
     if (std::find(control.items.begin(), control.items.end(), item) == control.items.end()) return false;
-    if (MoveFocus(form, control)) Type(item);
+    if (MoveFocus(form, control) && control.text != item) Type(item);
     return true;
 }
 

@@ -42,7 +42,8 @@ class FormEvents {
     /// Replaces the text of the control in focus, as typing does.
     void Type(const std::string& text);
 
-    /// A key: Enter, Tab, BackTab, Esc, Space, F1, Alt+X, or one character. False for a name that is none.
+    /// A key: Enter, Tab, BackTab, Esc, Space, F1, F2, Delete, Up, Down, Left, Right, Alt+X, or one
+    /// character. False for a name that is none.
     bool Key(const std::string& key);
 
     /// Moves the focus to a button and clicks it, if the focus stays there.
@@ -67,6 +68,12 @@ class FormEvents {
     void ActivateFront();
     void Click(Form& form, Control& control);
     void TypeCharacter(Form& form, char character);
+    bool NamedKey(Form& form, const std::string& key);
+
+    /// An arrow key: the option or the list item before or after the one that is chosen.
+    void Step(Form& form, const std::string& key, int step);
+    void StepOption(Form& form, const Control& option, int step);
+    void StepItem(const Control& list, int step);
     void PressAccessKey(Form& form, char key);
     void Tab(Form& form, bool forwards);
 

@@ -52,6 +52,7 @@ struct FormType {
     std::vector<Handler> handlers;
     std::optional<BalanceFlag> balance;        // of the indicator SolveFor
     std::optional<BalanceFlag> secondBalance;  // of SolveFor2
+    bool modal = false;                        // while it is open, the user works in it alone
     bool isHub = false;  // the form with the tabs: always open, and Enter selects its options
 };
 

@@ -61,6 +61,10 @@ LayoutNode Options(std::vector<ButtonItem> options) {
     return node;
 }
 
+LayoutNode Heading(std::string name, std::string text) {
+    return Leaf(LayoutKind::Heading, std::move(name), std::move(text));
+}
+
 LayoutNode Text(std::string name, std::string text) {
     return Leaf(LayoutKind::Text, std::move(name), std::move(text));
 }
@@ -82,6 +86,9 @@ LayoutNode Hidden(std::vector<std::string> names) {
     for (std::string& name : names) node.fields.push_back({std::move(name), {}, false, false});
     return node;
 }
+
+std::string FieldLabelName(const std::string& variable) { return "Lab" + variable; }
+std::string UnitLabelName(const std::string& variable) { return "u" + variable; }
 
 LayoutNode SolveForFrame(std::string frame, std::string indicator, std::string button) {
     LayoutNode label;

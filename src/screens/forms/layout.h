@@ -15,6 +15,7 @@ enum class LayoutKind {
     Frame,      // a titled group of its children
     Fields,     // label, box and unit in aligned columns
     Options,    // option buttons below each other
+    Heading,    // a line in large letters
     Text,       // a paragraph
     Picture,    // an image
     Indicator,  // the Solve For indicator above its button
@@ -54,10 +55,15 @@ LayoutNode Page(std::string title, std::vector<LayoutNode> children);
 LayoutNode Frame(std::string name, std::string title, std::vector<LayoutNode> children);
 LayoutNode Fields(std::vector<FieldItem> fields);
 LayoutNode Options(std::vector<ButtonItem> options);
+LayoutNode Heading(std::string name, std::string text);
 LayoutNode Text(std::string name, std::string text);
 LayoutNode Picture(std::string name, std::string file);
 LayoutNode Buttons(std::vector<ButtonItem> buttons);
 LayoutNode Hidden(std::vector<std::string> names);
+
+/// The names of the labels that stand before and after the box of a variable.
+std::string FieldLabelName(const std::string& variable);
+std::string UnitLabelName(const std::string& variable);
 
 /// The frame "Solve For" with the indicator and its button.
 LayoutNode SolveForFrame(std::string frame, std::string indicator, std::string button);

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "desktop/main_window.h"
+#include "desktop/qt_dialogs.h"
+#include "platform/clock.h"
+#include "platform/component_probe.h"
+#include "platform/file_system.h"
+
+namespace kelvor {
+
+/// The program with its windows, composed.
+class DesktopProgram {
+  public:
+    explicit DesktopProgram(const Home& home);
+
+    /// Starts, with the project of a path if it is not empty, and shows the main window. False if the start
+    /// failed; the message was shown.
+    bool Start(const std::string& project);
+
+    [[nodiscard]] Program& program() { return program_; }
+
+    /// Only after a start that did not fail.
+    [[nodiscard]] MainWindow& window() { return *window_; }
+
+  private:
+    NativeFileSystem files_;
+    SystemClock clock_;
+    QtDialogs dialogs_;
+    LinkedComponents components_;
+    Program program_;
+    std::unique_ptr<MainWindow> window_;
+};
+
+/// `kelvor [--home DIR] [PROJECT.kvr]`. Returns the exit status: 0 the user left, 1 the start failed or the
+/// program stopped, 2 an option is not understood.
+int RunDesktop(int argc, char** argv);
+
+}  // namespace kelvor

@@ -1,0 +1,201 @@
+#include "desktop/control_widgets.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <QStyle>
+#include <algorithm>
+
+#include "desktop/qt_text.h"
+#include "desktop/theme.h"
+#include "screens/forms/form_builder.h"
+
+namespace kelvor {
+
+namespace {
+
+/// The least number of characters that a box shows, whatever its picture.
+constexpr qsizetype kFewestPlaces = 11;
+constexpr qsizetype kPlacesOfText = 30;
+
+/// The lines and the width that an indicator needs, whatever it says.
+const char* const kWidestIndicator = "Press Solve For to Recalculate";
+constexpr int kIndicatorLines = 4;
+
+bool IsTextField(const Control& control) { return control.picture.empty() || control.picture == "@"; }
+
+bool IsIndicator(const Control& control) {
+    return control.kind == ControlKind::Label && control.backColor == colours::kResting;
+}
+
+int BoxWidth(const Control& control, const QWidget& box) {
+    const QFontMetrics metrics = box.fontMetrics();
+    const auto places = static_cast<qsizetype>(control.picture.size());
+    const QString widest(IsTextField(control) ? kPlacesOfText : std::max(places, kFewestPlaces), u'0');
+    return metrics.horizontalAdvance(widest) + 2 * metrics.averageCharWidth();
+}
+
+QWidget* MakeTextBox(const Control& control, QWidget* parent) {
+    auto* box = new QLineEdit(parent);
+    box->setMinimumWidth(BoxWidth(control, *box));
+    box->setAlignment((IsTextField(control) ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+    box->setAcceptDrops(false);  // a text dropped on a field without the focus would be nobody's edit
+    return box;
+}
+
+QWidget* MakeComboBox(const Control& control, QWidget* parent) {
+    auto* list = new QComboBox(parent);
+    list->setEditable(true);
+    list->setInsertPolicy(QComboBox::NoInsert);
+    list->setMinimumWidth(BoxWidth(control, *list));
+    list->setAcceptDrops(false);
+    return list;
+}
+
+QWidget* MakeIndicator(QWidget* parent) {
+    auto* label = new QLabel(parent);
+    label->setFrameStyle(static_cast<int>(QFrame::StyledPanel) | static_cast<int>(QFrame::Sunken));
+    label->setAlignment(Qt::AlignCenter);
+    label->setAutoFillBackground(true);
+    label->setAccessibleName(QStringLiteral("Solve For"));
+    QFont bold = label->font();
+    bold.setBold(true);
+    const QFontMetrics metrics(bold);
+    label->setMinimumSize(metrics.horizontalAdvance(kWidestIndicator) + 4 * metrics.averageCharWidth(),
+                          (kIndicatorLines + 1) * metrics.lineSpacing());
+    return label;
+}
+
+QWidget* MakeLabel(const Control& control, QWidget* parent) {
+    if (IsIndicator(control)) return MakeIndicator(parent);
+    auto* label = new QLabel(parent);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+template <typename Button>
+QWidget* MakeButton(QWidget* parent) {
+    auto* button = new Button(parent);
+    // The model moves the focus; a click of the mouse asks it to.
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+QWidget* MakeOption(QWidget* parent) {
+    auto* option = new QRadioButton(parent);
+    option->setAutoExclusive(false);  // which options exclude each other is the model's to say
+    option->setFocusPolicy(Qt::TabFocus);
+    return option;
+}
+
+void MirrorLabel(const Control& control, QLabel& label) {
+    const WidgetCaption caption = CaptionOf(control);
+    const QString text = label.buddy() != nullptr ? caption.text : PlainLabelText(control.text);
+    label.setProperty(kAddedMarkProperty, label.buddy() != nullptr ? caption.addedMark : qsizetype{-1});
+    if (label.text() != text) label.setText(text);
+    ApplyColours(label, control, QPalette::Window, QPalette::WindowText);
+}
+
+bool MirrorTextBox(const Control& control, QLineEdit& box) {
+    box.setReadOnly(control.locked);
+    box.setFocusPolicy(control.tabStop ? Qt::StrongFocus : Qt::NoFocus);
+    ApplyColours(box, control, QPalette::Base, QPalette::Text);
+    const QString text = ToQt(control.text);
+    if (box.text() == text) return false;
+    box.setText(text);
+    return true;
+}
+
+bool MirrorComboBox(const Control& control, QComboBox& list) {
+    const QSignalBlocker quiet(list);
+    QStringList items;
+    for (const std::string& item : control.items) items << ToQt(item);
+    QStringList shown;
+    for (int i = 0; i < list.count(); ++i) shown << list.itemText(i);
+    if (items != shown) {
+        list.clear();
+        list.addItems(items);
+    }
+    const QString text = ToQt(control.text);
+    if (list.currentText() == text) return false;
+    list.setCurrentIndex(list.findText(text, Qt::MatchExactly));
+    list.setEditText(text);
+    return true;
+}
+
+void MirrorButton(const Control& control, QAbstractButton& button) {
+    const WidgetCaption caption = CaptionOf(control);
+    button.setProperty(kAddedMarkProperty, caption.addedMark);
+    if (button.text() != caption.text) button.setText(caption.text);
+    if (!control.IsChoice()) return;
+    const QSignalBlocker quiet(button);
+    button.setCheckable(true);
+    button.setChecked(control.value);
+}
+
+void MirrorFrame(const Control& control, QGroupBox& frame) {
+    const QString title = ToQt(control.text);
+    if (frame.title() != title) frame.setTitle(title);
+}
+
+void MirrorCommon(const Control& control, QWidget& widget) {
+    if (widget.testAttribute(Qt::WA_ForceDisabled) == control.enabled) widget.setEnabled(control.enabled);
+    if (widget.isHidden() == control.visible) widget.setVisible(control.visible);
+    const QString toolTip = ToQt(control.toolTip);
+    if (widget.toolTip() != toolTip) {
+        widget.setToolTip(toolTip);
+        widget.setAccessibleDescription(toolTip);
+    }
+    if (widget.font().bold() != control.bold) {
+        QFont font = widget.font();
+        font.setBold(control.bold);
+        widget.setFont(font);
+    }
+}
+
+}  // namespace
+
+QWidget* MakeWidget(const Control& control, QWidget* parent) {
+    switch (control.kind) {
+        case ControlKind::Label:
+        case ControlKind::Image:
+            return MakeLabel(control, parent);
+        case ControlKind::TextBox:
+            return MakeTextBox(control, parent);
+        case ControlKind::ComboBox:
+            return MakeComboBox(control, parent);
+        case ControlKind::CommandButton:
+            return MakeButton<QPushButton>(parent);
+        case ControlKind::OptionButton:
+            return MakeOption(parent);
+        case ControlKind::CheckBox:
+            return MakeButton<QCheckBox>(parent);
+        case ControlKind::Frame:
+            return new QGroupBox(parent);
+    }
+    return nullptr;
+}
+
+bool MirrorControl(const Control& control, QWidget& widget) {
+    bool rewritten = false;
+    if (auto* label = qobject_cast<QLabel*>(&widget)) MirrorLabel(control, *label);
+    if (auto* box = qobject_cast<QLineEdit*>(&widget)) rewritten = MirrorTextBox(control, *box);
+    if (auto* list = qobject_cast<QComboBox*>(&widget)) rewritten = MirrorComboBox(control, *list);
+    if (auto* button = qobject_cast<QAbstractButton*>(&widget)) MirrorButton(control, *button);
+    if (auto* frame = qobject_cast<QGroupBox*>(&widget)) MirrorFrame(control, *frame);
+    MirrorCommon(control, widget);
+    return rewritten;
+}
+
+void NameField(QWidget& field, const Control& label, const Control* unit) {
+    QString name = PlainLabelText(label.text);
+    if (unit != nullptr && !unit->text.empty()) name += ", " + PlainLabelText(unit->text);
+    if (field.accessibleName() != name) field.setAccessibleName(name);
+}
+
+}  // namespace kelvor

@@ -1,0 +1,24 @@
+#include "desktop/event_door.h"
+
+#include <exception>
+
+namespace kelvor {
+
+void EventDoor::Raise(const UserEvent& event) {
+    Perform([&](Program& program) { program.Raise(event); });
+}
+
+void EventDoor::Perform(const std::function<void(Program&)>& act) {
+    if (busy_ || stopped_) return;
+    busy_ = true;
+    try {
+        act(program_);
+        afterEvent_();
+    } catch (const std::exception& stop) {
+        stopped_ = true;
+        onStop_(stop.what());
+    }
+    busy_ = false;
+}
+
+}  // namespace kelvor

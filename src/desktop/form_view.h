@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QHash>
+#include <QKeyEvent>
+#include <QTabWidget>
+#include <QWidget>
+#include <string>
+
+#include "desktop/event_door.h"
+#include "screens/forms/form.h"
+
+namespace kelvor {
+
+/// The window of one form, whichever it is: a widget for each control, laid out by the form's declaration.
+/// It mirrors the model and turns what the user does into events; it decides nothing. The model owns the
+/// focus: a widget that would take it asks the model first.
+class FormView : public QWidget {
+  public:
+    FormView(Form& form, EventDoor& door, QWidget* parent = nullptr);
+
+    /// Null once the form has been closed.
+    [[nodiscard]] Form* form() const { return form_; }
+
+    /// The form is gone; what still arrives here is ignored.
+    void Detach() { form_ = nullptr; }
+
+    /// Shows what the model holds.
+    void Sync();
+
+    /// Gives the toolkit's focus to the widget of the control that has the model's.
+    void SyncFocus();
+
+    /// The widget of a control; null if there is none of that name.
+    [[nodiscard]] QWidget* FindWidget(const std::string& name) const;
+
+    /// The tab strip; null if the form has none.
+    [[nodiscard]] QTabWidget* tabs() const { return tabs_; }
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    void MakeWidgets();
+    void ConnectWidgets();
+    void ConnectControl(const Control& control, QWidget& widget);
+    void SetBuddies();
+    bool Filter(const Control& control, QEvent& event);
+    void OnFocusIn(const Control& control, Qt::FocusReason reason);
+    void OnEdited(const Control& control, const QString& text);
+    bool FilterTabBar(QEvent& event);
+
+    /// Handles a key that is the model's; false if it is the widget's own.
+    bool HandleKey(const QKeyEvent& key);
+    bool HandleTabKey(const QKeyEvent& key);
+    [[nodiscard]] bool IsAccessKey(const QKeyEvent& key) const;
+
+    /// Asks the model for the focus. True if the control has it then.
+    bool RequestFocus(const Control& control);
+    bool BecomeCurrent();
+    void Raise(UserEvent::Kind kind, const std::string& name, const std::string& text = {}, int number = 0);
+
+    Form* form_;
+    EventDoor& door_;
+    QHash<const Control*, QWidget*> widgets_;
+    QHash<const QObject*, const Control*> controls_;
+    QTabWidget* tabs_ = nullptr;
+    const Control* shownFocus_ = nullptr;  // the control that had the focus when it was shown last
+};
+
+}  // namespace kelvor

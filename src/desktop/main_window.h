@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QHash>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+
+#include "desktop/event_door.h"
+#include "desktop/form_view.h"
+
+namespace kelvor {
+
+/// The main window: the menus, the open forms as child windows, and a line that says what the field in focus
+/// wants. All of it mirrors the model.
+class MainWindow : public QMainWindow {
+  public:
+    explicit MainWindow(Program& program);
+
+    [[nodiscard]] EventDoor& door() { return door_; }
+
+    /// Brings the windows in step with the model.
+    void Sync();
+
+    /// The window of an open form; null if it is not open.
+    [[nodiscard]] FormView* FindView(const std::string& form) const;
+
+    /// The window of the form in which the user works; null if there is none.
+    [[nodiscard]] FormView* CurrentView() const;
+
+    /// The action of a menu entry; null if there is none of that name.
+    [[nodiscard]] QAction* FindAction(const std::string& name) const;
+
+    /// The entry of the Window menu for an open form; null if it is not open.
+    [[nodiscard]] QAction* FindWindowAction(const std::string& form) const;
+
+    /// True once the program was stopped by its own rules, and why.
+    [[nodiscard]] const std::string& stopReason() const { return stopReason_; }
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void BuildMenus();
+    QMenu* AddMenu(const MenuTitle& title);
+    void AddEntry(QMenu& menu, const MenuEntry& entry);
+    void FillWindowMenu();
+    void SyncMenus();
+    void SyncForms();
+    void SyncModality();
+    void SyncActiveWindow();
+    void SyncStatus();
+    FormView& OpenView(Form& form);
+    void CloseView(Form* form);
+    void Place(QMdiSubWindow& window);
+    void OnSubWindowActivated(QMdiSubWindow* window);
+    void OnStop(const std::string& reason);
+
+    Program& program_;
+    EventDoor door_;
+    QMdiArea* area_;
+    QMenu* windowMenu_ = nullptr;
+    QMdiSubWindow* hubFrame_ = nullptr;
+    QHash<Form*, FormView*> views_;
+    std::string stopReason_;
+};
+
+}  // namespace kelvor

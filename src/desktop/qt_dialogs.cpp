@@ -1,0 +1,131 @@
+#include "desktop/qt_dialogs.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+
+#include "desktop/qt_text.h"
+
+namespace kelvor {
+
+namespace {
+
+/// An ordinary pointer over a box that shows while the program is busy.
+class BoxPointer {
+  public:
+    BoxPointer() { QApplication::setOverrideCursor(Qt::ArrowCursor); }
+    BoxPointer(const BoxPointer&) = delete;
+    BoxPointer& operator=(const BoxPointer&) = delete;
+    ~BoxPointer() { QApplication::restoreOverrideCursor(); }
+};
+
+QMessageBox::StandardButtons ButtonsOf(MessageStyle style) {
+    switch (style) {
+        case MessageStyle::Ok:
+            return QMessageBox::Ok;
+        case MessageStyle::OkCancel:
+            return QMessageBox::Ok | QMessageBox::Cancel;
+        case MessageStyle::YesNo:
+            return QMessageBox::Yes | QMessageBox::No;
+        case MessageStyle::YesNoCancel:
+            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    }
+    return QMessageBox::Ok;
+}
+
+QMessageBox::Icon IconOf(MessageIcon icon) {
+    switch (icon) {
+        case MessageIcon::None:
+            return QMessageBox::NoIcon;
+        case MessageIcon::Critical:
+            return QMessageBox::Critical;
+        case MessageIcon::Question:
+            return QMessageBox::Question;
+        case MessageIcon::Warning:
+            return QMessageBox::Warning;
+        case MessageIcon::Information:
+            return QMessageBox::Information;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButton ButtonOf(Answer answer) {
+    switch (answer) {
+        case Answer::Ok:
+            return QMessageBox::Ok;
+        case Answer::Cancel:
+            return QMessageBox::Cancel;
+        case Answer::Yes:
+            return QMessageBox::Yes;
+        case Answer::No:
+            return QMessageBox::No;
+    }
+    return QMessageBox::Ok;
+}
+
+/// The answer that a button of a box gives; a box closed by its frame gives the one that changes nothing.
+Answer AnswerOf(int button, MessageStyle style) {
+    for (const Answer answer : {Answer::Ok, Answer::Cancel, Answer::Yes, Answer::No}) {
+        if (ButtonOf(answer) == button && HasAnswer(style, answer)) return answer;
+    }
+    if (HasAnswer(style, Answer::Cancel)) return Answer::Cancel;
+    return HasAnswer(style, Answer::No) ? Answer::No : Answer::Ok;
+}
+
+/// "Name (*.x)|*.x|Name|*.*" as the toolkit writes it: "Name (*.x);;Name (*.*)".
+QString QtFilter(const std::string& filter) {
+    const QStringList fields = ToQt(filter).split(u'|');
+    QStringList kinds;
+    for (qsizetype i = 0; i + 1 < fields.size(); i += 2) {
+        const QString pattern = "(" + fields[i + 1] + ")";
+        kinds << (fields[i].contains(pattern) ? fields[i] : fields[i] + " " + pattern);
+    }
+    return kinds.join(";;");
+}
+
+}  // namespace
+
+Answer QtDialogs::ShowMessage(const Message& message) {
+    const BoxPointer pointer;
+    QMessageBox box(parent_);
+    box.setWindowTitle(ToQt(message.title));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(ToQt(message.text));
+    box.setIcon(IconOf(message.icon));
+    box.setStandardButtons(ButtonsOf(message.style));
+    box.setDefaultButton(ButtonOf(DefaultAnswer(message.style)));
+    return AnswerOf(box.exec(), message.style);
+}
+
+std::optional<std::string> QtDialogs::AskText(const InputRequest& request) {
+    const BoxPointer pointer;
+    bool accepted = false;
+    const QString text = QInputDialog::getText(parent_, ToQt(request.title), ToQt(request.text),
+                                               QLineEdit::Normal, {}, &accepted);
+    if (!accepted) return std::nullopt;
+    return FromQt(text);
+}
+
+std::optional<Path> QtDialogs::AskFile(const FileRequest& request) {
+    const BoxPointer pointer;
+    const bool opens = request.kind == FileRequest::Kind::Open;
+    QFileDialog dialog(parent_, opens ? QStringLiteral("Open Project") : QStringLiteral("Save Project As"),
+                       ToQt(request.folder.string()), QtFilter(request.filter));
+    dialog.setAcceptMode(opens ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+    dialog.setFileMode(opens ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+    return Path(FromQt(dialog.selectedFiles().constFirst()));
+}
+
+void QtDialogs::SetWaitCursor(bool on) {
+    if (on == waiting_) return;
+    waiting_ = on;
+    if (on) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QApplication::restoreOverrideCursor();
+    }
+}
+
+}  // namespace kelvor

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+#include "platform/dialogs.h"
+
+namespace kelvor {
+
+/// Message boxes, input boxes and file dialogs on the screen. Each runs an event loop of its own and returns
+/// when the user has answered.
+class QtDialogs : public Dialogs {
+  public:
+    /// The window in front of which they stand, once there is one.
+    void SetParent(QWidget* parent) { parent_ = parent; }
+
+    Answer ShowMessage(const Message& message) override;
+    std::optional<std::string> AskText(const InputRequest& request) override;
+    std::optional<Path> AskFile(const FileRequest& request) override;
+    void SetWaitCursor(bool on) override;
+
+  private:
+    QPointer<QWidget> parent_;
+    bool waiting_ = false;
+};
+
+}  // namespace kelvor

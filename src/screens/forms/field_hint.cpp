@@ -1,0 +1,37 @@
+#include "screens/forms/field_hint.h"
+
+#include "platform/number_picture.h"
+#include "platform/number_text.h"
+#include "screens/forms/form_builder.h"
+
+namespace kelvor {
+
+namespace {
+
+/// A limit in the field's picture, or in full if the picture would change it.
+std::string LimitText(double limit, const std::string& picture) {
+    std::string text = FormatNumber(limit, picture);
+    return IsNumeric(text) && ParseNumber(text) == limit ? text : NumberToText(limit);
+}
+
+std::string RangeText(const Range& range, const std::string& picture) {
+    const auto text = [&](double limit) { return LimitText(limit, picture); };
+    if (range.low && range.high) return text(*range.low) + " to " + text(*range.high);
+    if (range.low) return text(*range.low) + " or more";
+    return "at most " + text(*range.high);
+}
+
+}  // namespace
+
+std::string FieldHint(const ScreenContext& context, const Control& field) {
+    const Variable* variable = context.catalogue.FindVariable(field.tag);
+    if (variable == nullptr) return {};
+    if (field.locked) return variable->desc + ": computed";
+    const Range range = context.units.VariableRange(field.tag);
+    if (!range.low && !range.high) return variable->desc;
+    const std::string unit = context.units.UnitLabel(field.tag);
+    return variable->desc + ": " + RangeText(range, variable->format) +
+           (IsNoUnit(unit) ? std::string() : " " + unit);
+}
+
+}  // namespace kelvor
