@@ -1,7 +1,6 @@
 #include "desktop/main_window.h"
 
 #include <QActionGroup>
-#include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMenuBar>
@@ -249,8 +248,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 void MainWindow::OnStop(const std::string& reason) {
-    stopReason_ = reason;
-    QApplication::exit(1);
+    stopReason_ = reason.empty() ? "unknown" : reason;
+    close();  // the last window: the application ends
 }
 
 }  // namespace kelvor

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QAction>
+#include <QMenu>
+#include <QWidget>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "console/model_driver.h"
+#include "desktop/application.h"
+#include "desktop/dialog_responder.h"
+
+namespace kelvor::test {
+
+/// Drives the program's windows with keys and the mouse, and reads what the widgets show. What has no place
+/// on the screen (a raw cell, a calculation by its key) is left to the model.
+class WindowDriver : public ModelDriver {
+  public:
+    WindowDriver(DesktopProgram& desktop, DialogResponder& responder);
+
+    void New() override;
+    void Open(const std::string& path) override;
+    void Save() override;
+    void SaveAs(const std::string& path) override;
+    void ChooseUnits(bool metric) override;
+    void Set(const CellKey& key, const std::string& value) override;
+    void Calc(const std::string& key, const std::string& target) override;
+    void CalcCell(const std::string& key, int dim1, int dim2, const std::string& target) override;
+    int Solve(const std::string& screen, int term) override;
+    void OpenForm(const std::string& name) override;
+    void ActivateForm(const std::string& name) override;
+    void CloseForm(const std::optional<std::string>& name) override;
+    std::vector<std::string> Forms() override;
+    void Focus(const std::string& control) override;
+    void Type(const std::string& text) override;
+    void Key(const std::string& key) override;
+    void Press(const std::string& control) override;
+    void Choose(const std::string& control, const std::string& item) override;
+    void SwitchTab(int tab) override;
+    void ChooseMenu(const std::string& name, int index) override;
+    PropertyValue Read(const std::string& control, const std::string& property) override;
+    std::vector<ControlReport> Controls() override;
+    std::optional<std::string> FocusName() override;
+
+  private:
+    /// Does to the model what no window does, and shows it. What goes wrong comes out here.
+    void OnModel(const std::function<void()>& act);
+
+    void ComeToFront();
+    FormView& View();
+    QWidget& Widget(const std::string& control);
+    QWidget& FocusWidget();
+    void Click(QWidget& widget);
+    void ClickEntry(QMenu& menu, QAction& entry);
+    void TypeInto(QWidget& box, const std::string& text);
+
+    DesktopProgram& desktop_;
+    DialogResponder& responder_;
+};
+
+}  // namespace kelvor::test
