@@ -8,6 +8,12 @@ void EventDoor::Raise(const UserEvent& event) {
     Perform([&](Program& program) { program.Raise(event); });
 }
 
+void EventDoor::NoteRefusal() {
+    refused_ = true;
+    QMetaObject::invokeMethod(
+        &context_, [this] { refused_ = false; }, Qt::QueuedConnection);
+}
+
 void EventDoor::Perform(const std::function<void(Program&)>& act) {
     if (busy_ || stopped_) return;
     busy_ = true;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QObject>
 #include <functional>
 #include <string>
 #include <utility>
@@ -25,6 +26,12 @@ class EventDoor {
     /// True while an event runs, and while the windows are brought in step.
     [[nodiscard]] bool busy() const { return busy_; }
 
+    /// The toolkit moves its focus to what the mouse was pressed on before it hands the press over. If the
+    /// model refuses that move, the press itself must not ask again: these two hold the refusal until the
+    /// act of the user that caused it has ended.
+    void NoteRefusal();
+    [[nodiscard]] bool wasRefused() const { return refused_; }
+
     [[nodiscard]] Program& program() { return program_; }
 
   private:
@@ -33,6 +40,8 @@ class EventDoor {
     std::function<void(const std::string& reason)> onStop_;
     bool busy_ = false;
     bool stopped_ = false;
+    bool refused_ = false;
+    QObject context_;
 };
 
 }  // namespace kelvor

@@ -197,7 +197,7 @@ bool FormView::Filter(const Control& control, QEvent& event) {
             return event.isAccepted() && IsAccessKey(static_cast<QKeyEvent&>(event));
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
-            return control.IsField() && !RequestFocus(control);
+            return door_.wasRefused() || (control.IsField() && !RequestFocus(control));
         case QEvent::FocusIn:
             OnFocusIn(control, static_cast<QFocusEvent&>(event).reason());
             return false;
@@ -212,7 +212,7 @@ void FormView::OnFocusIn(const Control& control, Qt::FocusReason reason) {
                        reason == Qt::BacktabFocusReason || reason == Qt::MouseFocusReason ||
                        reason == Qt::OtherFocusReason;
     const bool isCurrent = door_.program().state().formRegistry.CurrentForm == form_;
-    if (asked && isCurrent) RequestFocus(control);
+    if (asked && isCurrent && !RequestFocus(control)) door_.NoteRefusal();
     // A window that comes back to the front, or a refusal: the focus goes where the model has it.
     QMetaObject::invokeMethod(
         this,
@@ -232,7 +232,7 @@ void FormView::OnEdited(const Control& control, const QString& text) {
 bool FormView::FilterTabBar(QEvent& event) {
     if (event.type() != QEvent::MouseButtonPress && event.type() != QEvent::MouseButtonDblClick) return false;
     const int tab = tabs_->tabBar()->tabAt(static_cast<QMouseEvent&>(event).position().toPoint());
-    if (tab >= 0) Raise(UserEvent::Kind::SwitchTab, {}, {}, tab);
+    if (tab >= 0 && !door_.wasRefused()) Raise(UserEvent::Kind::SwitchTab, {}, {}, tab);
     return true;
 }
 

@@ -238,6 +238,7 @@ void MainWindow::OnSubWindowActivated(QMdiSubWindow* window) {
     const auto* view = dynamic_cast<const FormView*>(window->widget());
     if (view == nullptr || view->form() == nullptr) return;
     door_.Raise({UserEvent::Kind::ActivateForm, view->form()->name(), {}, 0});
+    if (CurrentView() != view) door_.NoteRefusal();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
