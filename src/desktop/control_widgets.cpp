@@ -20,7 +20,7 @@ namespace kelvor {
 namespace {
 
 /// The least number of characters that a box shows, whatever its picture.
-constexpr qsizetype kFewestPlaces = 11;
+constexpr qsizetype kFewestPlaces = 14;  // 10,000,000,000
 constexpr qsizetype kPlacesOfText = 30;
 
 /// The lines and the width that an indicator needs, whatever it says.

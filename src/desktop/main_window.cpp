@@ -57,10 +57,12 @@ MainWindow::MainWindow(Program& program)
     connect(area_, &QMdiArea::subWindowActivated, this, &MainWindow::OnSubWindowActivated);
     area_->viewport()->installEventFilter(this);
     BuildMenus();
-    const QSize wanted(kStartColumns * fontMetrics().averageCharWidth(),
-                       kStartLines * fontMetrics().lineSpacing());
-    resize(wanted.boundedTo(screen()->availableSize()));
+    resize(StartSize().boundedTo(screen()->availableSize()));
     Sync();
+}
+
+QSize MainWindow::StartSize() const {
+    return {kStartColumns * fontMetrics().averageCharWidth(), kStartLines * fontMetrics().lineSpacing()};
 }
 
 // --- Menus ---------------------------------------------------------------------------------------------

@@ -19,6 +19,9 @@ class MainWindow : public QMainWindow {
 
     [[nodiscard]] EventDoor& door() { return door_; }
 
+    /// How large the window would be on a screen that has the room.
+    [[nodiscard]] QSize StartSize() const;
+
     /// Brings the windows in step with the model.
     void Sync();
 
