@@ -8,6 +8,7 @@
 #include <QStatusBar>
 #include <algorithm>
 
+#include "desktop/app_icon.h"
 #include "desktop/qt_text.h"
 
 namespace kelvor {
@@ -52,6 +53,7 @@ MainWindow::MainWindow(Program& program)
           program, [this] { Sync(); }, [this](const std::string& reason) { OnStop(reason); }),
       area_(new QMdiArea(this)) {
     setCentralWidget(area_);
+    setWindowIcon(AppIcon());
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     connect(area_, &QMdiArea::subWindowActivated, this, &MainWindow::OnSubWindowActivated);

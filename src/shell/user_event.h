@@ -20,8 +20,8 @@ struct UserEvent {
     };
 
     Kind kind;
-    std::string name;
-    std::string text;
+    std::string name = {};
+    std::string text = {};
     int number = 0;
 };
 

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <string>
+#include <vector>
 
 #include "support/test_home.h"
 
@@ -9,13 +11,26 @@ namespace {
 
 const Path kRoot = KELVOR_SOURCE_FOLDER;
 
+/// A piece of a source that stands further to the right, moved to the margin.
+std::string WithoutIndent(const std::string& piece, std::size_t indent) {
+    std::istringstream lines(piece);
+    std::string line;
+    std::string result;
+    while (std::getline(lines, line)) {
+        if (line.find_first_not_of(' ') == std::string::npos && lines.eof()) break;
+        result += (line.size() >= indent ? line.substr(indent) : line) + "\n";
+    }
+    return result;
+}
+
 /// The part of a source between two comments `// [name]`.
 std::string SampleRegion(const std::string& source, const std::string& name) {
     const std::string marker = "// [" + name + "]\n";
     const std::size_t begin = source.find(marker);
     const std::size_t end = source.find(marker, begin + 1);
     if (begin == std::string::npos || end == std::string::npos) return "no region " + name;
-    return source.substr(begin + marker.size(), end - begin - marker.size());
+    const std::size_t line = source.rfind('\n', begin) + 1;
+    return WithoutIndent(source.substr(begin + marker.size(), end - begin - marker.size()), begin - line);
 }
 
 /// The block of code that follows a page's mark of a sample's region.
@@ -27,13 +42,17 @@ std::string CodeBlock(const std::string& page, const std::string& sample, const 
     return page.substr(start, page.find("```", start) - start);
 }
 
-TEST(ContributingPageTest, ShowsTheSampleThatIsCompiled) {
-    const std::string sample = "docs/samples/add_a_calculation.cpp";
+void ExpectShown(const std::string& sample, const std::vector<std::string>& regions) {
     const std::string source = ReadFile(kRoot / sample);
     const std::string page = ReadFile(kRoot / "CONTRIBUTING.md");
-    for (const char* region : {"calculation", "test"}) {
+    for (const std::string& region : regions) {
         EXPECT_EQ(CodeBlock(page, sample, region), SampleRegion(source, region));
     }
+}
+
+TEST(ContributingPageTest, ShowsTheSamplesThatAreCompiled) {
+    ExpectShown("docs/samples/add_a_calculation.cpp", {"calculation", "test"});
+    ExpectShown("docs/samples/add_a_screen.cpp", {"screen", "test"});
 }
 
 }  // namespace
