@@ -51,13 +51,19 @@ MainWindow::MainWindow(Program& program)
     : program_(program),
       door_(
           program, [this] { Sync(); }, [this](const std::string& reason) { OnStop(reason); }),
-      area_(new QMdiArea(this)) {
+      area_(new QMdiArea(this)),
+      hint_(new QLabel(this)) {
     setCentralWidget(area_);
     setWindowIcon(AppIcon());
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     connect(area_, &QMdiArea::subWindowActivated, this, &MainWindow::OnSubWindowActivated);
     area_->viewport()->installEventFilter(this);
+    // A widget of its own: what a menu says in passing would wipe a message away.
+    hint_->setObjectName(QStringLiteral("Hint"));
+    hint_->setTextFormat(Qt::PlainText);
+    hint_->setContentsMargins(fontMetrics().averageCharWidth(), 0, 0, 0);
+    statusBar()->addWidget(hint_, 1);
     BuildMenus();
     resize(StartSize().boundedTo(screen()->availableSize()));
     Sync();
@@ -168,6 +174,7 @@ FormView& MainWindow::OpenView(Form& form) {
     auto* view = new FormView(form, door_);
     auto* frame = new FormWindow(*view, door_);
     frame->setWindowTitle(view->windowTitle());
+    frame->setWindowIcon(windowIcon());
     area_->addSubWindow(frame, form.type().isHub ? kHubFlags : kFormFlags);
     views_.insert(&form, view);
     if (form.type().isHub) hubFrame_ = frame;
@@ -225,7 +232,7 @@ void MainWindow::SyncActiveWindow() {
 void MainWindow::SyncStatus() {
     const Form* form = program_.state().formRegistry.CurrentForm;
     const QString hint = form == nullptr || form->focus == nullptr ? QString() : ToQt(form->focus->toolTip);
-    if (statusBar()->currentMessage() != hint) statusBar()->showMessage(hint);
+    if (hint_->text() != hint) hint_->setText(hint);
 }
 
 FormView* MainWindow::FindView(const std::string& form) const {

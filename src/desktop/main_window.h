@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHash>
+#include <QLabel>
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -63,6 +64,7 @@ class MainWindow : public QMainWindow {
     Program& program_;
     EventDoor door_;
     QMdiArea* area_;
+    QLabel* hint_;  // what the field in focus wants
     QMenu* windowMenu_ = nullptr;
     QMdiSubWindow* hubFrame_ = nullptr;
     QHash<Form*, FormView*> views_;

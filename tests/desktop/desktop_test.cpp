@@ -10,7 +10,6 @@
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QStatusBar>
 #include <QTabBar>
 #include <QTest>
 
@@ -263,7 +262,7 @@ TEST_F(WindowTest, EscShowsTheStoredValueAgain) {
 TEST_F(WindowTest, TheStatusLineAndTheToolTipSayWhatTheFieldWants) {
     OpenFlexibleDesign();
     Press(Qt::Key_Return);
-    EXPECT_EQ(window().statusBar()->currentMessage(), "Reliability: 50.00 to 99.99 percent");
+    EXPECT_EQ(Find<QLabel>("Hint").text(), "Reliability: 50.00 to 99.99 percent");
     EXPECT_EQ(Find<QLineEdit>("FLEXREL").toolTip(), "Reliability: 50.00 to 99.99 percent");
     EXPECT_EQ(Find<QLineEdit>("FLEXREL").accessibleName(), "Reliability, percent");
 }

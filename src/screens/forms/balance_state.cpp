@@ -96,7 +96,7 @@ void LoadBalance(const ScreenContext& context, Form& form, BalanceFlag flag, Ind
 
 /// What an indicator shows, to be put back.
 struct IndicatorLook {
-    SolveState state;
+    SolveState state = SolveState::Resting;
     Control control;
 };
 

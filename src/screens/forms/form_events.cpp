@@ -96,10 +96,11 @@ void FormEvents::ActivateFront() {
 }
 
 void FormEvents::UnloadAll() {
-    const std::vector<Form*> open = context_.forms.InOpeningOrder();
-    for (auto form = open.rbegin(); form != open.rend(); ++form) {
+    std::vector<Form*> open = context_.forms.InOpeningOrder();
+    std::reverse(open.begin(), open.end());
+    for (Form* form : open) {
         // A form that asks and is told to stay stays open; what closes the others goes on.
-        if (!(*form)->type().isHub) Close(**form);
+        if (!form->type().isHub) Close(*form);
     }
 }
 
