@@ -15,8 +15,9 @@ class ListDatabase {
     /// Opens the database. Throws DatabaseError.
     explicit ListDatabase(const Path& path);
 
-    /// The entries of a list in their order. Throws DatabaseError.
-    [[nodiscard]] std::vector<std::string> Values(std::string_view list);
+    /// The entries of a list in their order: those of a unit system, and those of none, which are offered in
+    /// both. Throws DatabaseError.
+    [[nodiscard]] std::vector<std::string> Values(std::string_view list, bool metric);
 
   private:
     SQLite::Database database_;

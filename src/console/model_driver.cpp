@@ -159,6 +159,50 @@ void ModelDriver::ChooseMenu(const std::string& name, int index) {
         throw ProgramStop(kNoNewProject);
 }
 
+const GridData& ModelDriver::FindGrid() {
+    for (const auto& control : CurrentForm().controls()) {
+        if (control->grid) return *control->grid;
+    }
+    throw ScriptError(CurrentForm().name() + " has no grid");
+}
+
+void ModelDriver::CheckRow(int row) {
+    const int rows = FindGrid().rows;
+    if (row < 1 || row > rows) throw ScriptError("the grid has rows 1 to " + std::to_string(rows));
+}
+
+void ModelDriver::CheckColumn(const std::string& column) {
+    if (!FindGrid().Find(column)) throw ScriptError("the grid has no column " + column);
+}
+
+void ModelDriver::EditCell(int row, const std::string& column, const std::string& text) {
+    CheckRow(row);
+    CheckColumn(column);
+    Raise({UserEvent::Kind::EditCell, column, text, row}, "");
+}
+
+void ModelDriver::MoveToRow(int row) {
+    CheckRow(row);
+    Raise({UserEvent::Kind::MoveToCell, {}, {}, row}, "");
+}
+
+void ModelDriver::DeleteRow(int row) {
+    CheckRow(row);
+    Raise({UserEvent::Kind::DeleteRow, {}, {}, row}, "");
+}
+
+std::vector<GridCellReport> ModelDriver::GridCells() {
+    std::vector<GridCellReport> cells;
+    const GridData& grid = FindGrid();
+    for (int row = 1; row <= grid.rows; ++row) {
+        for (const GridColumn& column : grid.columns) {
+            const std::string text = program_.CellText(CurrentForm(), row, column);
+            if (!text.empty()) cells.push_back({row, column.variable, text});
+        }
+    }
+    return cells;
+}
+
 PropertyValue ModelDriver::Read(const std::string& control, const std::string& property) {
     const Control& c = FindControl(control);
     if (property == "text") return c.text;

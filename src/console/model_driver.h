@@ -42,6 +42,10 @@ class ModelDriver : public Driver {
     void Choose(const std::string& control, const std::string& item) override;
     void SwitchTab(int tab) override;
     void ChooseMenu(const std::string& name, int index) override;
+    void EditCell(int row, const std::string& column, const std::string& text) override;
+    void MoveToRow(int row) override;
+    void DeleteRow(int row) override;
+    std::vector<GridCellReport> GridCells() override;
     PropertyValue Read(const std::string& control, const std::string& property) override;
     std::vector<ControlReport> Controls() override;
     std::optional<std::string> FocusName() override;
@@ -54,6 +58,11 @@ class ModelDriver : public Driver {
     /// The form in which the script works, and a control of it. Both throw ScriptError if there is none.
     const Form& CurrentForm();
     const Control& FindControl(const std::string& name);
+
+    /// The grid of the current form, and a row or column of it. Each throws ScriptError if there is none.
+    const GridData& FindGrid();
+    void CheckRow(int row);
+    void CheckColumn(const std::string& column);
 
   private:
     void Raise(const UserEvent& event, const std::string& refusal);

@@ -177,6 +177,8 @@ QWidget* MakeWidget(const Control& control, QWidget* parent) {
             return MakeButton<QCheckBox>(parent);
         case ControlKind::Frame:
             return new QGroupBox(parent);
+        case ControlKind::Grid:
+            break;  // it needs more than its control
     }
     return nullptr;
 }

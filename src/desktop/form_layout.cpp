@@ -71,8 +71,12 @@ class LayoutMaker {
                 AddText(to, node);
                 break;
             case LayoutKind::Picture:
+            case LayoutKind::Verdict:
             case LayoutKind::Indicator:
                 to.addWidget(find_(node.name));
+                break;
+            case LayoutKind::Grid:
+                to.addWidget(find_(node.name), 1);
                 break;
             case LayoutKind::Buttons:
                 AddButtons(to, node);

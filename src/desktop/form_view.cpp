@@ -1,6 +1,7 @@
 #include "desktop/form_view.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -11,6 +12,7 @@
 
 #include "desktop/control_widgets.h"
 #include "desktop/form_layout.h"
+#include "desktop/grid_view.h"
 #include "desktop/qt_text.h"
 
 namespace kelvor {
@@ -76,12 +78,34 @@ FormView::FormView(Form& form, EventDoor& door, QWidget* parent)
 
 void FormView::MakeWidgets() {
     for (const auto& control : form_->controls()) {
-        QWidget* widget = MakeWidget(*control, this);
+        QWidget* widget = control->grid ? MakeGrid(*control) : MakeWidget(*control, this);
         widget->setObjectName(ToQt(control->name));
         widget->setVisible(control->visible);
         widgets_.insert(control.get(), widget);
         controls_.insert(widget, control.get());
     }
+}
+
+QWidget* FormView::MakeGrid(const Control& control) {
+    GridHooks hooks;
+    hooks.read = [this](int row, const GridColumn& column) {
+        return form_ == nullptr ? std::string() : door_.program().CellText(*form_, row, column);
+    };
+    hooks.moveTo = [this](int row, const GridColumn& column) {
+        if (!door_.wasRefused() && BecomeCurrent()) {
+            Raise(UserEvent::Kind::MoveToCell, column.variable, {}, row);
+        }
+        Sync();
+    };
+    hooks.type = [this](const std::string& text) { Raise(UserEvent::Kind::Type, {}, text); };
+    hooks.paste = [this](const std::string& block) { Raise(UserEvent::Kind::PasteCells, {}, block); };
+    hooks.deleteRow = [this](int row) { Raise(UserEvent::Kind::DeleteRow, {}, {}, row); };
+    hooks.editorOpened = [this, &control](QWidget& editor) {
+        editor.installEventFilter(this);
+        controls_.insert(&editor, &control);
+        connect(&editor, &QObject::destroyed, this, [this](const QObject* gone) { controls_.remove(gone); });
+    };
+    return new GridView(control, std::move(hooks), this);
 }
 
 void FormView::SetBuddies() {
@@ -121,12 +145,20 @@ QWidget* FormView::FindWidget(const std::string& name) const {
     return control == nullptr ? nullptr : widgets_.value(control);
 }
 
+void FormView::Detach() {
+    form_ = nullptr;
+    for (QWidget* widget : std::as_const(widgets_)) {
+        if (auto* grid = dynamic_cast<GridView*>(widget)) grid->Detach();
+    }
+}
+
 // --- From the model to the widgets ------------------------------------------------------------------
 
 void FormView::Sync() {
     if (form_ == nullptr) return;
     for (const auto& control : form_->controls()) {
         QWidget* widget = widgets_.value(control.get());
+        if (auto* grid = dynamic_cast<GridView*>(widget)) grid->Show();
         const bool rewritten = MirrorControl(*control, *widget);
         auto* box = qobject_cast<QLineEdit*>(widget);
         if (rewritten && box != nullptr && form_->focus == control.get()) box->selectAll();
@@ -145,7 +177,9 @@ void FormView::SyncFocus() {
     if (form_ == nullptr) return;
     QWidget* widget = form_->focus == nullptr ? this : widgets_.value(form_->focus);
     const bool moved = std::exchange(shownFocus_, form_->focus) != form_->focus;
-    if (!widget->hasFocus()) widget->setFocus(Qt::OtherFocusReason);
+    const QWidget* focus = QApplication::focusWidget();
+    const bool inside = focus != nullptr && widget != this && widget->isAncestorOf(focus);  // a cell is edited
+    if (!widget->hasFocus() && !inside) widget->setFocus(Qt::OtherFocusReason);
     auto* box = qobject_cast<QLineEdit*>(widget);
     if (moved && box != nullptr) box->selectAll();
 }
@@ -191,7 +225,8 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
 bool FormView::Filter(const Control& control, QEvent& event) {
     switch (event.type()) {
         case QEvent::KeyPress:
-            return HandleKey(static_cast<QKeyEvent&>(event));
+            return control.grid ? HandleGridKey(control, static_cast<QKeyEvent&>(event))
+                                : HandleKey(static_cast<QKeyEvent&>(event));
         case QEvent::ShortcutOverride:
             if (IsAccessKey(static_cast<QKeyEvent&>(event))) event.accept();
             return event.isAccepted() && IsAccessKey(static_cast<QKeyEvent&>(event));
@@ -265,6 +300,30 @@ bool FormView::HandleTabKey(const QKeyEvent& key) {
     const int step = key.key() == Qt::Key_PageDown ? 1 : count - 1;
     Raise(UserEvent::Kind::SwitchTab, {}, {}, (form_->page + step) % count);
     return true;
+}
+
+/// In a grid the table itself moves by the arrows; in the line of a cell, up and down leave the cell.
+bool FormView::HandleGridKey(const Control& control, const QKeyEvent& key) {
+    const auto* grid = dynamic_cast<const GridView*>(widgets_.value(&control));
+    const bool editing = grid != nullptr && grid->editor() != nullptr;
+    const bool list = editing && qobject_cast<const QComboBox*>(grid->editor()) != nullptr;
+    const char* name = KeyName(key.key());
+    if (IsAccessKey(key) || HandleTabKey(key)) return HandleKey(key);
+    if (!IsPlain(key)) return false;
+    if (name == nullptr && key.key() == Qt::Key_Delete && !editing) name = "Delete";
+    const bool leaves = key.key() == Qt::Key_Up || key.key() == Qt::Key_Down;
+    if (name == nullptr && editing && !list && leaves) name = KeyNameOutsideBox(key.key());
+    if (name == nullptr) return false;
+    Raise(UserEvent::Kind::Key, name);
+    if (editing && form_ != nullptr) CloseCellEditor(control);
+    return true;
+}
+
+/// An editor into which nothing was typed is not the model's business.
+void FormView::CloseCellEditor(const Control& control) {
+    auto* grid = dynamic_cast<GridView*>(widgets_.value(&control));
+    if (grid != nullptr && !control.grid->typed) grid->EndEdit();
+    SyncFocus();
 }
 
 bool FormView::HandleKey(const QKeyEvent& key) {

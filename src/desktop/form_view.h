@@ -22,7 +22,7 @@ class FormView : public QWidget {
     [[nodiscard]] Form* form() const { return form_; }
 
     /// The form is gone; what still arrives here is ignored.
-    void Detach() { form_ = nullptr; }
+    void Detach();
 
     /// Shows what the model holds.
     void Sync();
@@ -45,6 +45,7 @@ class FormView : public QWidget {
 
   private:
     void MakeWidgets();
+    QWidget* MakeGrid(const Control& control);
     void ConnectWidgets();
     void ConnectControl(const Control& control, QWidget& widget);
     void SetBuddies();
@@ -55,6 +56,8 @@ class FormView : public QWidget {
 
     /// Handles a key that is the model's; false if it is the widget's own.
     bool HandleKey(const QKeyEvent& key);
+    bool HandleGridKey(const Control& control, const QKeyEvent& key);
+    void CloseCellEditor(const Control& control);
     bool HandleTabKey(const QKeyEvent& key);
     [[nodiscard]] bool IsAccessKey(const QKeyEvent& key) const;
 

@@ -16,8 +16,8 @@ namespace kelvor {
 namespace {
 
 /// The size of the window at start, in letters of the system's font.
-constexpr int kStartColumns = 130;
-constexpr int kStartLines = 42;
+constexpr int kStartColumns = 150;
+constexpr int kStartLines = 46;
 
 const char* const kWindowMenu = "MenuWindow";
 

@@ -13,6 +13,10 @@ const QColor kComputedDark(0x12, 0x49, 0x52);
 const QColor kWarning(0xC6, 0x1A, 0x1A);
 const QColor kRestingLight(0xDD, 0xE1, 0xE6);
 const QColor kRestingDark(0x3C, 0x42, 0x4A);
+const QColor kRedLettersLight(0xB0, 0x1A, 0x1A);
+const QColor kRedLettersDark(0xFF, 0x8A, 0x80);
+const QColor kBlueLettersLight(0x0B, 0x4F, 0xA8);
+const QColor kBlueLettersDark(0x82, 0xB1, 0xFF);
 
 bool IsPaletteColour(Colour colour) { return !colour.starts_with('#'); }
 
@@ -38,6 +42,13 @@ QColor ScreenColour(Colour colour, const QPalette& palette) {
     return QColor(ToQt(colour));
 }
 
+QColor ScreenTextColour(Colour colour, const QPalette& palette) {
+    const bool dark = IsDark(palette);
+    if (colour == colours::kRed) return dark ? kRedLettersDark : kRedLettersLight;
+    if (colour == colours::kBlue) return dark ? kBlueLettersDark : kBlueLettersLight;
+    return ScreenColour(colour, palette);
+}
+
 void ApplyColours(QWidget& widget, const Control& control, QPalette::ColorRole ground,
                   QPalette::ColorRole text) {
     QPalette palette;
@@ -46,7 +57,7 @@ void ApplyColours(QWidget& widget, const Control& control, QPalette::ColorRole g
     } else if (IsReadOnlyCopy(control)) {
         palette.setColor(ground, ScreenColour(colours::kButtonFace, palette));
     }
-    if (!IsPaletteColour(control.foreColor)) palette.setColor(text, ScreenColour(control.foreColor, palette));
+    if (!IsPaletteColour(control.foreColor)) palette.setColor(text, ScreenTextColour(control.foreColor, palette));
     if (widget.palette() != palette) widget.setPalette(palette);
 }
 

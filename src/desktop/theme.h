@@ -14,6 +14,9 @@ bool IsDark(const QPalette& palette);
 /// one that text can be read on, in light and in dark.
 QColor ScreenColour(Colour colour, const QPalette& palette);
 
+/// The same for letters on the ground of the palette itself.
+QColor ScreenTextColour(Colour colour, const QPalette& palette);
+
 /// Gives a widget its ground and its text colour; the names of palette colours leave it as the palette has
 /// it.
 void ApplyColours(QWidget& widget, const Control& control, QPalette::ColorRole ground,

@@ -23,7 +23,8 @@ CalcContext ProcessState::MakeCalcContext() {
 }
 
 ScreenContext ProcessState::MakeScreenContext() {
-    return {MakeCalcContext(), *dbCatalogue, *units, calculations, formRegistry, balance, bProjectChanged};
+    return {MakeCalcContext(), *dbCatalogue, *units,   calculations, formRegistry,
+            balance,           bProjectChanged, *dbCustom, forms};
 }
 
 }  // namespace kelvor

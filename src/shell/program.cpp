@@ -6,6 +6,7 @@
 #include "design/calc/solve_for.h"
 #include "design/screens/design_forms.h"
 #include "screens/forms/form_events.h"
+#include "screens/forms/grid_entry.h"
 #include "shell/project_files.h"
 
 namespace kelvor {
@@ -57,6 +58,10 @@ StartResult Program::Start(const std::string& commandLine) {
 }
 
 std::vector<MenuEntry> Program::Menus() const { return MenuEntries(state_.units && state_.units->bMetric()); }
+
+std::string Program::CellText(const Form& form, int row, const GridColumn& column) {
+    return GridReadCell(state_.MakeScreenContext(), form, row, column);
+}
 
 // --- Events of the windows -------------------------------------------------------------------------
 
@@ -123,6 +128,12 @@ bool Program::PerformOnCurrentForm(const UserEvent& event) {
         return true;
     }
     if (event.kind == UserEvent::Kind::Key) return events.Key(event.name);
+    if (event.kind == UserEvent::Kind::EditCell) {
+        return events.EditCell(*form, event.number, event.name, event.text);
+    }
+    if (event.kind == UserEvent::Kind::MoveToCell) return events.MoveToCell(*form, event.number, event.name);
+    if (event.kind == UserEvent::Kind::PasteCells) return events.PasteCells(*form, event.text);
+    if (event.kind == UserEvent::Kind::DeleteRow) return events.DeleteRow(*form, event.number);
     Control* control = form->Find(event.name);
     if (control == nullptr) return false;
     if (event.kind == UserEvent::Kind::Choose) return events.Choose(*form, *control, event.text);

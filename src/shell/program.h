@@ -30,6 +30,9 @@ class Program {
     [[nodiscard]] ProcessState& state() { return state_; }
     [[nodiscard]] std::vector<MenuEntry> Menus() const;
 
+    /// What a cell of a form's grid shows. For painting: it reads, and may be called while an event runs.
+    [[nodiscard]] std::string CellText(const Form& form, int row, const GridColumn& column);
+
     /// The File menu. Each tells whether it succeeded; the messages were shown.
     bool NewProject();
     bool OpenProject(const std::string& path);

@@ -14,6 +14,10 @@ struct UserEvent {
         Type,          // text: what the control in focus now holds
         Key,           // name: of the key
         Press,         // name: a button of the current form
+        EditCell,      // of the current form's grid; number: row; name: variable of the column; text
+        MoveToCell,    // number: row; name: variable of the column, empty: the cursor stays in its column
+        DeleteRow,     // number: row
+        PasteCells,    // text: tab-separated lines, for the cells from the cursor on
         Choose,        // name: an option, a check box or a list; text: the item of a list
         SwitchTab,     // number: of the hub's tab, from 0
         Menu,          // name: of the entry

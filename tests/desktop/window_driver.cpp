@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabBar>
+#include <QTableView>
 #include <QTest>
 #include <exception>
 #include <map>
@@ -46,6 +47,7 @@ bool IsTypable(const std::string& text) {
 }
 
 ControlKind KindOf(const QWidget& widget) {
+    if (qobject_cast<const QTableView*>(&widget) != nullptr) return ControlKind::Grid;
     if (qobject_cast<const QLineEdit*>(&widget) != nullptr) return ControlKind::TextBox;
     if (qobject_cast<const QComboBox*>(&widget) != nullptr) return ControlKind::ComboBox;
     if (qobject_cast<const QPushButton*>(&widget) != nullptr) return ControlKind::CommandButton;
@@ -83,8 +85,10 @@ std::string ColourName(const QWidget& widget, QPalette::ColorRole role, Colour u
     }
     const QColor shown = palette.color(QPalette::Active, role);
     for (const Colour colour : {colours::kLightCyan, colours::kLightRed, colours::kBrightWhite,
-                                colours::kResting, colours::kBlack}) {
-        if (ScreenColour(colour, QPalette()) == shown) return std::string(colour);
+                                colours::kResting, colours::kBlue, colours::kBlack}) {
+        const bool isText = role == QPalette::Text || role == QPalette::WindowText;
+        const QColor own = isText ? ScreenTextColour(colour, QPalette()) : ScreenColour(colour, QPalette());
+        if (own == shown) return std::string(colour);
     }
     return std::string(usual);
 }
@@ -328,6 +332,84 @@ void WindowDriver::Choose(const std::string& control, const std::string& item) {
         throw ScriptError(control + " has no such choice");
     }
     QApplication::processEvents();
+}
+
+// --- Grids --------------------------------------------------------------------------------------------------
+
+GridView& WindowDriver::FindGridView() {
+    auto* grid = dynamic_cast<GridView*>(View().findChild<QTableView*>());
+    if (grid == nullptr) throw ScriptError(CurrentForm().name() + " has no grid");
+    return *grid;
+}
+
+/// Clicks a cell, unless a value that is being typed elsewhere keeps the cursor.
+bool WindowDriver::ClickCell(GridView& grid, int row, int column) {
+    const QModelIndex cell = grid.model()->index(row - 1, column);
+    grid.scrollTo(cell);
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(cell).center());
+    ComeToFront();
+    return grid.currentIndex() == cell && grid.isAncestorOf(QApplication::focusWidget());
+}
+
+void WindowDriver::EditCell(int row, const std::string& column, const std::string& text) {
+    CheckRow(row);
+    CheckColumn(column);
+    GridView& grid = FindGridView();
+    const auto place = static_cast<int>(*FindGrid().Find(column));
+    if (!ClickCell(grid, row, place) || FindGrid().columns[static_cast<std::size_t>(place)].locked) return;
+    QTest::keyClick(&grid, Qt::Key_F2);
+    if (auto* line = qobject_cast<QLineEdit*>(grid.editor())) {
+        TypeInto(*line, text);
+        if (text.empty() && grid.model()->data(grid.currentIndex()).toString().isEmpty()) {
+            QTest::keyClick(line, Qt::Key_Escape);
+            return;
+        }
+    } else if (auto* list = qobject_cast<QComboBox*>(grid.editor())) {
+        PickInList(*list, text);
+    }
+    // Leaves the cell for another one of the row, and comes back.
+    const int beside = place == 0 ? 1 : place - 1;
+    ClickCell(grid, row, beside);
+    if (CurrentForm().focus != nullptr) ClickCell(grid, row, place);
+}
+
+/// An entry that the list does not offer cannot be picked; it is handed to the form as if typed.
+void WindowDriver::PickInList(QComboBox& list, const std::string& text) {
+    const int entry = list.findText(ToQt(text), Qt::MatchFixedString);
+    if (entry < 0) {
+        QTest::keyClick(&list, Qt::Key_Escape);
+        desktop_.window().door().Raise({UserEvent::Kind::Type, {}, text, 0});
+        return;
+    }
+    list.showPopup();
+    const QModelIndex index = list.model()->index(entry, 0);
+    QTest::mouseClick(list.view()->viewport(), Qt::LeftButton, {}, list.view()->visualRect(index).center());
+}
+
+void WindowDriver::MoveToRow(int row) {
+    CheckRow(row);
+    ClickCell(FindGridView(), row, static_cast<int>(FindGrid().column));
+}
+
+void WindowDriver::DeleteRow(int row) {
+    CheckRow(row);
+    GridView& grid = FindGridView();
+    if (!ClickCell(grid, row, static_cast<int>(FindGrid().column))) return;
+    QTest::keyClick(&grid, Qt::Key_Delete, Qt::ControlModifier);
+    QApplication::processEvents();
+}
+
+std::vector<GridCellReport> WindowDriver::GridCells() {
+    std::vector<GridCellReport> cells;
+    const QAbstractItemModel& shown = *FindGridView().model();
+    for (int row = 0; row < shown.rowCount(); ++row) {
+        for (int column = 0; column < shown.columnCount(); ++column) {
+            const std::string text = FromQt(shown.data(shown.index(row, column)).toString());
+            const std::string variable = FindGrid().columns[static_cast<std::size_t>(column)].variable;
+            if (!text.empty()) cells.push_back({row + 1, variable, text});
+        }
+    }
+    return cells;
 }
 
 // --- Reading ------------------------------------------------------------------------------------------------

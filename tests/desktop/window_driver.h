@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAction>
+#include <QComboBox>
 #include <QMenu>
 #include <QWidget>
 #include <functional>
@@ -11,6 +12,7 @@
 #include "console/model_driver.h"
 #include "desktop/application.h"
 #include "desktop/dialog_responder.h"
+#include "desktop/grid_view.h"
 
 namespace kelvor::test {
 
@@ -40,6 +42,10 @@ class WindowDriver : public ModelDriver {
     void Choose(const std::string& control, const std::string& item) override;
     void SwitchTab(int tab) override;
     void ChooseMenu(const std::string& name, int index) override;
+    void EditCell(int row, const std::string& column, const std::string& text) override;
+    void MoveToRow(int row) override;
+    void DeleteRow(int row) override;
+    std::vector<GridCellReport> GridCells() override;
     PropertyValue Read(const std::string& control, const std::string& property) override;
     std::vector<ControlReport> Controls() override;
     std::optional<std::string> FocusName() override;
@@ -54,6 +60,9 @@ class WindowDriver : public ModelDriver {
     QWidget& FocusWidget();
     void Click(QWidget& widget);
     void ClickEntry(QMenu& menu, QAction& entry);
+    GridView& FindGridView();
+    bool ClickCell(GridView& grid, int row, int column);
+    void PickInList(QComboBox& list, const std::string& text);
     void TypeInto(QWidget& box, const std::string& text);
 
     DesktopProgram& desktop_;

@@ -29,6 +29,13 @@ struct ControlReport {
     bool visible = true;
 };
 
+/// A cell of a grid that is not empty.
+struct GridCellReport {
+    int row = 1;
+    std::string column;  // its variable
+    std::string text;
+};
+
 /// A property of a control: a truth value or a text.
 using PropertyValue = std::variant<bool, std::string>;
 
@@ -74,6 +81,12 @@ class Driver {
     virtual void Choose(const std::string& control, const std::string& item) = 0;
     virtual void SwitchTab(int tab) = 0;
     virtual void ChooseMenu(const std::string& name, int index) = 0;
+    // Grids: of the current screen
+    virtual void EditCell(int row, const std::string& column, const std::string& text) = 0;
+    virtual void MoveToRow(int row) = 0;
+    virtual void DeleteRow(int row) = 0;
+    virtual std::vector<GridCellReport> GridCells() = 0;
+
     virtual PropertyValue Read(const std::string& control, const std::string& property) = 0;
     virtual std::vector<ControlReport> Controls() = 0;
 

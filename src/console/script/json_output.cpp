@@ -65,6 +65,14 @@ void JsonOutput::Controls(const std::vector<ControlReport>& controls) {
     Print(stream_, {{"controls", list}});
 }
 
+void JsonOutput::Grid(const std::vector<GridCellReport>& cells) {
+    Json list = Json::array();
+    for (const GridCellReport& cell : cells) {
+        list.push_back({{"row", cell.row}, {"column", cell.column}, {"text", cell.text}});
+    }
+    Print(stream_, {{"grid", list}});
+}
+
 void JsonOutput::Forms(const std::vector<std::string>& names) { Print(stream_, {{"forms", names}}); }
 
 void JsonOutput::Focus(const std::optional<std::string>& control) {

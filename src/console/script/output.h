@@ -17,6 +17,7 @@ class Output : public DialogObserver {
     virtual void Property(const std::string& control, const std::string& property,
                           const PropertyValue& value) = 0;
     virtual void Controls(const std::vector<ControlReport>& controls) = 0;
+    virtual void Grid(const std::vector<GridCellReport>& cells) = 0;
     virtual void Forms(const std::vector<std::string>& names) = 0;
     virtual void Focus(const std::optional<std::string>& control) = 0;
 };
@@ -32,6 +33,7 @@ class JsonOutput : public Output {
     void Property(const std::string& control, const std::string& property,
                   const PropertyValue& value) override;
     void Controls(const std::vector<ControlReport>& controls) override;
+    void Grid(const std::vector<GridCellReport>& cells) override;
     void Forms(const std::vector<std::string>& names) override;
     void Focus(const std::optional<std::string>& control) override;
     void OnMessage(const Message& message, Answer answer) override;
@@ -53,6 +55,7 @@ class PlainOutput : public Output {
     void Property(const std::string& control, const std::string& property,
                   const PropertyValue& value) override;
     void Controls(const std::vector<ControlReport>& controls) override;
+    void Grid(const std::vector<GridCellReport>& cells) override;
     void Forms(const std::vector<std::string>& names) override;
     void Focus(const std::optional<std::string>& control) override;
     void OnMessage(const Message& message, Answer answer) override;

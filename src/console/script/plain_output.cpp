@@ -57,6 +57,12 @@ void PlainOutput::Controls(const std::vector<ControlReport>& controls) {
     }
 }
 
+void PlainOutput::Grid(const std::vector<GridCellReport>& cells) {
+    for (const GridCellReport& cell : cells) {
+        stream_ << cell.column << "(" << cell.row << "): " << cell.text << '\n';
+    }
+}
+
 void PlainOutput::Forms(const std::vector<std::string>& names) {
     stream_ << "forms:";
     for (const std::string& name : names) stream_ << " " << name;

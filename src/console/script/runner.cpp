@@ -167,15 +167,20 @@ constexpr std::array kCommands = {
     Command{"choose", 1, 2, Choose},
     Command{"tab", 1, 1, [](const Context& c) { c.driver.SwitchTab(c.arguments.Subscript(0)); }},
     Command{"menu", 1, 2, ChooseMenu},
+    Command{"cell", 3, 3, [](const Context& c) {
+                c.driver.EditCell(c.arguments.Subscript(0), c.arguments[1], c.arguments[2]);
+            }},
+    Command{"row", 1, 1, [](const Context& c) { c.driver.MoveToRow(c.arguments.Subscript(0)); }},
+    Command{"delete-row", 1, 1, [](const Context& c) { c.driver.DeleteRow(c.arguments.Subscript(0)); }},
+    Command{"grid", 0, 0, [](const Context& c) { c.output.Grid(c.driver.GridCells()); }},
     Command{"read", 1, 2, Read},
     Command{"controls", 0, 0, [](const Context& c) { c.output.Controls(c.driver.Controls()); }},
     Command{"answer", 1, 1, [](const Context& c) { c.driver.QueueAnswer(c.arguments[0]); }},
 };
 
-/// The commands of grids, charts and reports.
-constexpr std::array<std::string_view, 11> kAwaitedCommands = {"cell",    "row",    "delete-row", "grid",
-                                                               "chart",   "report", "print",      "previews",
-                                                               "preview", "export", "table"};
+/// The commands of charts and reports.
+constexpr std::array<std::string_view, 7> kAwaitedCommands = {"chart",   "report", "print", "previews",
+                                                              "preview", "export", "table"};
 
 const Command& FindCommand(const std::string& name) {
     static constexpr Command kAwaited{"", 0, kAnyNumber, NotAvailableYet};

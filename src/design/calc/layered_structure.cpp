@@ -43,4 +43,12 @@ constexpr std::array kCells = {CellKeyRoutine{"LDLayerStructNo", CalcLayerStruct
 
 KeyTable LayeredStructureKeys() { return {kFields, kCells}; }
 
+void ClearAdditThick(CalcContext& context, const Dispatch& calculations, int layer) {
+    const char* const kName = "LDAdditThick";
+    for (int row = 1; context.store.FindCell(kName, row, 1) != nullptr; ++row) {
+        if (row != layer) context.store.SetCell(kName, row, 1, {});
+    }
+    calculations.CalcCell(context, kName, layer, 1, kName);
+}
+
 }  // namespace kelvor

@@ -1,5 +1,6 @@
 #include "design/screens/flexible_design.h"
 
+#include "design/screens/layered_design.h"
 #include "platform/number_text.h"
 #include "screens/forms/balance_state.h"
 #include "screens/forms/form.h"
@@ -20,6 +21,10 @@ void SolveClick(ScreenContext& context, Form& form, Control* /*button*/) {
     SolveForClick(context, form, BalanceFlag::DeF);
 }
 
+void LayersClick(ScreenContext& context, Form& form, Control* /*button*/) {
+    OpenLayeredDesign(context, form, "SN");
+}
+
 }  // namespace
 
 FormType FlexibleDesignForm() {
@@ -32,12 +37,15 @@ FormType FlexibleDesignForm() {
             Frame("Frame1", "Design Inputs",
                   {Fields({{"FLEXE18"}, {"FLEXREL"}, {"FLEXDEV"}, {"RM"}, {"SN"}, {"FLEXPO"}, {"FLEXPT"}})}),
             Rows({SolveForFrame("Frame2", "SolveFor", "Command1"),
-                  Buttons({{"Command2", "&Layer Determ.", true}, {"cmdbCS", "&Cross Section", true}})}),
+                  Buttons({{"Command2", "&Layer Determ."}, {"cmdbCS", "&Cross Section", true}})}),
         }),
         Buttons({{"cmdAction", "&OK", false}, {"SSHelp", "Hel&p", true}}),
         Hidden({"SolveForSide", "Dim1", "Dim2"}),
     });
-    type.handlers = {{FormEvent::Click, "Command1", HandlerOrder::Instead, SolveClick}};
+    type.handlers = {
+        {FormEvent::Click, "Command1", HandlerOrder::Instead, SolveClick},
+        {FormEvent::Click, "Command2", HandlerOrder::Instead, LayersClick},
+    };
     type.balance = BalanceFlag::DeF;
     return type;
 }

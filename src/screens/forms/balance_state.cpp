@@ -87,11 +87,10 @@ void RecalcColumn(ScreenContext& context, const Field& output, const Variable& v
     }
 }
 
-void LoadBalance(const ScreenContext& context, Form& form, BalanceFlag flag, Indicator which) {
-    // A form that shows a warning keeps it: only a solve clears it.
-    if (form.solveState[static_cast<std::size_t>(which)] == SolveState::Warning) return;
-    const SolveState state = context.balance.Get(flag) ? SolveState::Resting : SolveState::Warning;
-    SetSolveForState(form, state, {}, {}, {}, which);
+/// A form that showed a warning keeps it: only a solve clears it. Otherwise its flag tells.
+void LoadBalance(const ScreenContext& context, Form& form, BalanceFlag flag, Indicator which, SolveState before) {
+    const bool warns = before == SolveState::Warning || !context.balance.Get(flag);
+    SetSolveForState(form, warns ? SolveState::Warning : SolveState::Resting, {}, {}, {}, which);
 }
 
 /// What an indicator shows, to be put back.
@@ -214,10 +213,12 @@ void InitScreen(ScreenContext& context, Form& form) {
 void LoadScreen(ScreenContext& context, Form& form) {
     context.forms.CurrentForm = &form;
     if (!context.calc.store.IsOpen()) return;
+    const auto before = form.solveState;
     RefreshScreen(context, form);
     if (context.calc.store.GetVar("FieldChanged") == kTrue) SetSolveForState(form, SolveState::Warning);
-    if (form.type().balance) LoadBalance(context, form, *form.type().balance, Indicator::First);
-    if (form.type().secondBalance) LoadBalance(context, form, *form.type().secondBalance, Indicator::Second);
+    const FormType& type = form.type();
+    if (type.balance) LoadBalance(context, form, *type.balance, Indicator::First, before[0]);
+    if (type.secondBalance) LoadBalance(context, form, *type.secondBalance, Indicator::Second, before[1]);
 }
 
 bool ConfirmScreenClose(ScreenContext& context, Form& form) {

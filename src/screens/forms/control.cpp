@@ -1,5 +1,7 @@
 #include "screens/forms/control.h"
 
+#include "platform/text.h"
+
 namespace kelvor {
 
 const char* NameOf(ControlKind kind) {
@@ -20,8 +22,17 @@ const char* NameOf(ControlKind kind) {
             return "Frame";
         case ControlKind::Image:
             return "Image";
+        case ControlKind::Grid:
+            return "Grid";
     }
     return "";
+}
+
+std::optional<std::size_t> GridData::Find(std::string_view variable) const {
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        if (EqualNoCase(columns[i].variable, variable)) return i;
+    }
+    return std::nullopt;
 }
 
 bool Control::IsField() const {
@@ -30,7 +41,8 @@ bool Control::IsField() const {
 
 bool Control::TakesFocus() const {
     const bool focusable =
-        kind == ControlKind::TextBox || kind == ControlKind::ComboBox || IsButton() || IsChoice();
+        kind == ControlKind::TextBox || kind == ControlKind::ComboBox || kind == ControlKind::Grid ||
+        IsButton() || IsChoice();
     return focusable && enabled && visible && tabStop;
 }
 

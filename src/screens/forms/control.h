@@ -7,7 +7,17 @@
 
 namespace kelvor {
 
-enum class ControlKind { Label, TextBox, ComboBox, CommandButton, OptionButton, CheckBox, Frame, Image };
+enum class ControlKind {
+    Label,
+    TextBox,
+    ComboBox,
+    CommandButton,
+    OptionButton,
+    CheckBox,
+    Frame,
+    Image,
+    Grid,
+};
 
 const char* NameOf(ControlKind kind);
 
@@ -23,7 +33,34 @@ inline constexpr Colour kLightRed = "#FF0000";     // a warning
 inline constexpr Colour kBrightWhite = "#FFFFFF";  // the text of a warning
 inline constexpr Colour kResting = "#C0C0C0";      // an indicator at rest
 inline constexpr Colour kBlack = "#000000";
+inline constexpr Colour kBlue = "#0000FF";  // a verdict that is good
+inline constexpr Colour kRed = "#FF0000";   // and one that is not
 }  // namespace colours
+
+/// A column of a grid: one variable, whose first subscript is the row.
+struct GridColumn {
+    std::string variable;
+    std::string caption;
+    std::string picture;
+    std::string list;                // the name of the list that it offers; empty: it takes what is typed
+    std::vector<std::string> items;  // the entries of that list
+    bool locked = false;             // shows computed values and takes none
+};
+
+/// What a grid shows, and where its cursor is. It holds no values: a cell is the project's cell of the column's
+/// variable, with the row as first subscript and the form's own second one.
+struct GridData {
+    std::vector<GridColumn> columns;
+    int rows = 0;  // as many as the variables have cells
+    int row = 1;   // of the cursor, from 1
+    std::size_t column = 0;
+    std::optional<std::string> typed;  // into the cell under the cursor, and not yet stored
+
+    [[nodiscard]] const GridColumn& current() const { return columns[column]; }
+
+    /// The place of a variable's column; nothing if there is none. Names compare without regard to case.
+    [[nodiscard]] std::optional<std::size_t> Find(std::string_view variable) const;
+};
 
 /// One element of a form, as the model holds it. A front end mirrors it and decides nothing.
 struct Control {
@@ -34,6 +71,7 @@ struct Control {
     std::string picture;  // the number picture of a field; sizes its box
     std::string toolTip;
     std::vector<std::string> items;  // of a list
+    std::optional<GridData> grid;    // of a grid
     bool enabled = true;
     bool visible = true;
     bool locked = false;  // shows a value and takes none

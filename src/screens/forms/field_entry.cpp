@@ -27,10 +27,6 @@ bool Contains(const std::array<std::string_view, Count>& names, std::string_view
 
 std::string LimitText(const std::optional<double>& limit) { return limit ? NumberToText(*limit) : ""; }
 
-bool IsOutOfRange(const Range& range, double value) {
-    return (range.low && value < *range.low) || (range.high && value > *range.high);
-}
-
 /// Empties the box of a refused value.
 bool Refuse(Form& form, Control& control) {
     control.text.clear();
@@ -86,6 +82,10 @@ void StoreField(ScreenContext& context, Form& form, Control& control) {
 }
 
 }  // namespace
+
+bool IsOutOfRange(const Range& range, double value) {
+    return (range.low && value < *range.low) || (range.high && value > *range.high);
+}
 
 std::string OutOfRangeText(const Range& range) {
     return "Warning: Input out of range. Enter value between " + LimitText(range.low) + " and " +

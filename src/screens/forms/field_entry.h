@@ -21,6 +21,9 @@ bool FieldLostFocus(ScreenContext& context, Form& form, Control& control);
 /// Shows the stored value again in a field that was typed in.
 void RestoreField(ScreenContext& context, Form& form, Control& control);
 
+/// True if a value lies beyond a limit that is there.
+bool IsOutOfRange(const Range& range, double value);
+
 /// The text with which a value out of a range is refused.
 std::string OutOfRangeText(const Range& range);
 

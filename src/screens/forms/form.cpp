@@ -63,6 +63,12 @@ Control* Form::FindAccessKey(char key) {
     return nullptr;
 }
 
+Control* Form::FindGrid() {
+    const auto found = std::find_if(controls_.begin(), controls_.end(),
+                                    [](const auto& control) { return control->grid.has_value(); });
+    return found == controls_.end() ? nullptr : found->get();
+}
+
 std::string Form::HiddenText(std::string_view name) const {
     const Control* control = Find(name);
     return control == nullptr ? std::string() : control->text;

@@ -36,6 +36,9 @@ class Form {
     /// The control with an access key among those on the page that shows; null if there is none.
     [[nodiscard]] Control* FindAccessKey(char key);
 
+    /// The form's grid; null if it has none.
+    [[nodiscard]] Control* FindGrid();
+
     [[nodiscard]] const std::vector<std::unique_ptr<Control>>& controls() const { return controls_; }
 
     /// The place of a control in the collection, counted from 0; nothing for a name that is none.
@@ -67,6 +70,7 @@ class Form {
     int page = 0;  // of the tab strip
     bool modal = false;
     bool valueFromHelp = false;  // a side screen has sent a value back
+    std::string returnTo;        // the control for which a side screen was opened; empty if none was
 
   private:
     const FormType& type_;

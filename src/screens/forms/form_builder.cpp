@@ -70,6 +70,12 @@ class Builder {
             case LayoutKind::Picture:
                 Add(ControlKind::Image, node.name).text = node.title;
                 break;
+            case LayoutKind::Verdict:
+                Add(ControlKind::Label, node.name).bold = true;
+                break;
+            case LayoutKind::Grid:
+                AddGrid(node);
+                break;
             case LayoutKind::Indicator:
                 AddIndicator(node.name);
                 break;
@@ -154,6 +160,33 @@ class Builder {
         unit.tag = "u" + item.variable;
         // A label without a unit stays blank through every switch.
         unit.text = variable == nullptr || IsNoUnit(variable->units) ? "" : variable->units;
+    }
+
+    void AddGrid(const LayoutNode& node) {
+        Control& control = Add(ControlKind::Grid, node.name);
+        control.backColor = colours::kWindow;
+        control.grid.emplace();
+        for (const FieldItem& item : node.fields) {
+            const Variable* variable = catalogue_.FindVariable(item.variable);
+            GridColumn column;
+            column.variable = item.variable;
+            column.caption = ColumnCaption(item);
+            column.picture = variable == nullptr ? "" : variable->format;
+            column.list = item.list ? item.variable : "";
+            column.locked = item.locked || IsOutput(item.variable);
+            control.grid->columns.push_back(std::move(column));
+            if (variable != nullptr) control.grid->rows = std::max(control.grid->rows, variable->dim1);
+        }
+    }
+
+    /// What the declaration says, else the catalogue's heading for this screen, else the description.
+    [[nodiscard]] std::string ColumnCaption(const FieldItem& item) const {
+        if (!item.label.empty()) return item.label;
+        for (const Field* field : catalogue_.FieldsOfScreen(type_.tag)) {
+            if (EqualNoCase(field->name, item.variable) && !field->heading.empty()) return field->heading;
+        }
+        const Variable* variable = catalogue_.FindVariable(item.variable);
+        return variable == nullptr ? item.variable : variable->desc;
     }
 
     [[nodiscard]] bool IsOutput(const std::string& variable) const {

@@ -5,6 +5,7 @@
 
 #include "screens/forms/balance_state.h"
 #include "screens/forms/field_entry.h"
+#include "screens/forms/grid_entry.h"
 
 namespace kelvor {
 
@@ -13,6 +14,12 @@ namespace {
 const char* const kOkButton = "cmdAction";
 const char* const kHelpButton = "SSHelp";
 
+/// Keys that move the cursor of a grid while it has the focus. Enter moves on like Tab.
+bool IsCursorKey(std::string_view key) {
+    constexpr std::string_view kKeys[] = {"Up", "Down", "Left", "Right", "Tab", "BackTab", "Enter"};
+    return std::find(std::begin(kKeys), std::end(kKeys), key) != std::end(kKeys);
+}
+
 bool IsFor(const Handler& handler, FormEvent event, const Control* control, HandlerOrder order) {
     if (handler.event != event || handler.order != order) return false;
     return handler.control.empty() || (control != nullptr && EqualNoCase(handler.control, control->name));
@@ -20,8 +27,7 @@ bool IsFor(const Handler& handler, FormEvent event, const Control* control, Hand
 
 }  // namespace
 
-template <typename Common>
-void FormEvents::Handle(FormEvent event, Form& form, Control* control, Common common) {
+void FormEvents::Handle(FormEvent event, Form& form, Control* control, const std::function<void()>& common) {
     const auto run = [&](HandlerOrder order) {
         bool any = false;
         for (const Handler& handler : form.type().handlers) {
@@ -48,7 +54,10 @@ bool FormEvents::Open(std::string_view name) {
     const FormType* type = context_.forms.FindType(name);
     if (type == nullptr) return false;
     Form& form = context_.forms.Add(*type, context_.catalogue);
-    Handle(FormEvent::Load, form, nullptr, [&] { InitScreen(context_, form); });
+    Handle(FormEvent::Load, form, nullptr, [&] {
+        InitScreen(context_, form);
+        FillValueItems(context_, form);
+    });
     form.valueFromHelp = false;
     Activate(form);
     return true;
@@ -59,12 +68,22 @@ void FormEvents::Activate(Form& form) {
     context_.forms.BringToFront(form);
     Handle(FormEvent::Activate, form, nullptr, [&] {
         LoadScreen(context_, form);
-        FocusFirstField(form);
+        FocusOnActivation(form);
         if (!form.valueFromHelp) return;
         form.valueFromHelp = false;
         SetSolveForState(form, SolveState::Warning);
     });
     context_.forms.CurrentForm = &form;
+    NoteCurrentCell(form);
+}
+
+/// The first field, but after a side screen the control for which that was opened.
+void FormEvents::FocusOnActivation(Form& form) {
+    Control* caller = form.returnTo.empty() ? nullptr : form.Find(form.returnTo);
+    if (caller != nullptr) RecalcOutputs(context_, form, "", 0);
+    form.returnTo.clear();
+    FocusFirstField(form);
+    if (caller != nullptr && form.CanFocus(*caller)) GetFocus(form, *caller);
 }
 
 void FormEvents::FocusFirstField(Form& form) {
@@ -108,6 +127,7 @@ void FormEvents::UnloadAll() {
 
 bool FormEvents::LoseFocus(Form& form, Control& control) {
     bool accepted = true;
+    if (control.grid) return CommitCell(form, control);
     if (!control.IsField()) return accepted;
     Handle(FormEvent::LostFocus, form, &control, [&] { accepted = FieldLostFocus(context_, form, control); });
     return accepted;
@@ -149,6 +169,7 @@ void FormEvents::Type(const std::string& text) {
     Form* form = Current();
     if (form == nullptr || form->focus == nullptr) return;
     Control& control = *form->focus;
+    if (control.grid) TypeIntoCell(*form, control, text);
     if (control.kind != ControlKind::TextBox && control.kind != ControlKind::ComboBox) return;
     if (control.locked || (control.text.empty() && text.empty())) return;
     control.text = text;
@@ -158,7 +179,8 @@ void FormEvents::Type(const std::string& text) {
 void FormEvents::TypeCharacter(Form& form, char character) {
     if (form.focus == nullptr) return;
     // A field that was not typed in yet is selected as a whole, so the first character replaces it.
-    const std::string kept = form.fieldChanged() ? form.focus->text : "";
+    const std::string shown = form.focus->grid ? form.focus->grid->typed.value_or("") : form.focus->text;
+    const std::string kept = form.fieldChanged() ? shown : "";
     Type(kept + character);
 }
 
@@ -176,6 +198,10 @@ bool FormEvents::Key(const std::string& key) {
 }
 
 bool FormEvents::NamedKey(Form& form, const std::string& key) {
+    if (form.focus != nullptr && form.focus->grid && IsCursorKey(key)) {
+        StepCell(form, *form.focus, key);
+        return true;
+    }
     const bool onButton = form.focus != nullptr && (form.focus->IsButton() || form.focus->IsChoice());
     if (key == "Enter" && form.type().isHub && onButton && form.focus->IsChoice()) {
         Click(form, *form.focus);
@@ -184,7 +210,7 @@ bool FormEvents::NamedKey(Form& form, const std::string& key) {
     } else if (key == "BackTab") {
         Tab(form, false);
     } else if (key == "Esc") {
-        if (form.focus != nullptr) RestoreField(context_, form, *form.focus);
+        Restore(form);
     } else if (key == "Space") {
         if (onButton) {
             Click(form, *form.focus);
@@ -196,6 +222,7 @@ bool FormEvents::NamedKey(Form& form, const std::string& key) {
     } else if (key == "Delete") {
         // A field that was not typed in yet is selected as a whole; else the cursor stands at its end.
         if (!form.fieldChanged()) Type("");
+        if (form.focus != nullptr && form.focus->grid) CommitCell(form, *form.focus);
     } else if (key == "Up" || key == "Left") {
         Step(form, key, -1);
     } else if (key == "Down" || key == "Right") {
@@ -204,6 +231,17 @@ bool FormEvents::NamedKey(Form& form, const std::string& key) {
         return key == "F2";
     }
     return true;
+}
+
+/// Drops what was typed and not yet stored.
+void FormEvents::Restore(Form& form) {
+    if (form.focus == nullptr) return;
+    if (form.focus->grid) {
+        form.focus->grid->typed.reset();
+        form.SetFieldChanged(false);
+    } else {
+        RestoreField(context_, form, *form.focus);
+    }
 }
 
 void FormEvents::Step(Form& form, const std::string& key, int step) {
@@ -276,6 +314,7 @@ bool FormEvents::Choose(Form& form, Control& control, const std::string& item) {
 void FormEvents::AfterUnitSwitch() {
     Form* form = Current();
     if (form == nullptr || form->type().isHub) return;
+    FillValueItems(context_, *form);
     RefreshScreen(context_, *form);
     if (form->focus != nullptr) GetFocus(*form, *form->focus);
 }

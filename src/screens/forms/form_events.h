@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -49,6 +50,16 @@ class FormEvents {
     /// Moves the focus to a button and clicks it, if the focus stays there.
     void Press(Form& form, Control& button);
 
+    /// What a user does to the form's grid. Each is false if the form has no such grid, column or row. An edit
+    /// takes the same way as a typed field: validated, written, recalculated.
+    bool EditCell(Form& form, int row, const std::string& variable, const std::string& text);
+    bool MoveToCell(Form& form, int row, const std::string& variable);
+    bool DeleteRow(Form& form, int row);
+
+    /// Puts a block of tab-separated lines into the cells from the cursor on, each cell like a typed one; one
+    /// that is refused ends it. What reaches beyond the grid, and what meets a computed column, is left out.
+    bool PasteCells(Form& form, const std::string& block);
+
     /// Selects an option, toggles a check box, or picks an item of a list. False if that makes no sense.
     bool Choose(Form& form, Control& control, const std::string& item);
 
@@ -59,16 +70,24 @@ class FormEvents {
     Form* Current() { return context_.forms.CurrentForm; }
 
     /// Runs a screen's own routines and, unless one stands instead of it, the common one.
-    template <typename Common>
-    void Handle(FormEvent event, Form& form, Control* control, Common common);
+    void Handle(FormEvent event, Form& form, Control* control, const std::function<void()>& common);
 
     bool LoseFocus(Form& form, Control& control);
     void GetFocus(Form& form, Control& control);
+    void TypeIntoCell(Form& form, Control& control, const std::string& text);
+    bool CommitCell(Form& form, Control& control);
+    bool StoreCell(Form& form, Control& control, const std::string& text);
+    bool MoveGridCursor(Form& form, Control& control, int row, std::size_t column);
+    void StepCell(Form& form, Control& control, const std::string& key);
+    void NoteCurrentCell(Form& form);
+    void FocusOnActivation(Form& form);
     void FocusFirstField(Form& form);
     void ActivateFront();
     void Click(Form& form, Control& control);
     void TypeCharacter(Form& form, char character);
     bool NamedKey(Form& form, const std::string& key);
+
+    void Restore(Form& form);
 
     /// An arrow key: the option or the list item before or after the one that is chosen.
     void Step(Form& form, const std::string& key, int step);

@@ -12,7 +12,18 @@ class Form;
 struct Control;
 struct ScreenContext;
 
-enum class FormEvent { Load, Activate, Change, GotFocus, LostFocus, Click, Unload };
+enum class FormEvent {
+    Load,
+    Activate,
+    Change,
+    GotFocus,
+    LostFocus,
+    Click,
+    CellChanged,  // of a grid: the cell under its cursor was written
+    RowChanged,   // its cursor has moved to another row
+    RowDeleted,
+    Unload,
+};
 
 /// How a screen's own routine stands to the common one of the same event.
 enum class HandlerOrder { Before, Instead, After };

@@ -73,6 +73,14 @@ LayoutNode Picture(std::string name, std::string file) {
     return Leaf(LayoutKind::Picture, std::move(name), std::move(file));
 }
 
+LayoutNode Grid(std::string name, std::vector<FieldItem> columns) {
+    LayoutNode node = Leaf(LayoutKind::Grid, std::move(name), {});
+    node.fields = std::move(columns);
+    return node;
+}
+
+LayoutNode Verdict(std::string name) { return Leaf(LayoutKind::Verdict, std::move(name), {}); }
+
 LayoutNode Buttons(std::vector<ButtonItem> buttons) {
     LayoutNode node;
     node.kind = LayoutKind::Buttons;

@@ -18,6 +18,8 @@ enum class LayoutKind {
     Heading,    // a line in large letters
     Text,       // a paragraph
     Picture,    // an image
+    Grid,       // a table of the project's cells
+    Verdict,    // a line in bold letters that says how things stand
     Indicator,  // the Solve For indicator above its button
     Buttons,    // buttons in a row
     Hidden,     // boxes that the user never sees
@@ -25,7 +27,7 @@ enum class LayoutKind {
 
 /// One field of a form: the variable it is bound to, and what its declaration says beyond the catalogue.
 struct FieldItem {
-    std::string variable;
+    std::string variable = {};
     std::string label = {};  // empty: the variable's description
     bool locked = false;
     bool list = false;  // a drop-down list instead of a text box
@@ -57,7 +59,11 @@ LayoutNode Fields(std::vector<FieldItem> fields);
 LayoutNode Options(std::vector<ButtonItem> options);
 LayoutNode Heading(std::string name, std::string text);
 LayoutNode Text(std::string name, std::string text);
+LayoutNode Verdict(std::string name);
 LayoutNode Picture(std::string name, std::string file);
+
+/// A table with a column for each variable; an item that is a list offers the list of the variable's name.
+LayoutNode Grid(std::string name, std::vector<FieldItem> columns);
 LayoutNode Buttons(std::vector<ButtonItem> buttons);
 LayoutNode Hidden(std::vector<std::string> names);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "catalogue/catalogue.h"
+#include "catalogue/list_database.h"
 #include "design/calc/calc_context.h"
 #include "design/calc/dispatch.h"
 #include "screens/forms/balance_flags.h"
@@ -18,6 +19,8 @@ struct ScreenContext {
     FormRegistry& forms;
     BalanceFlags& balance;
     bool& bProjectChanged;
+    ListDatabase& lists;
+    FormValues& values;  // what the calculations may know of the current form
 };
 
 }  // namespace kelvor

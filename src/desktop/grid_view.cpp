@@ -1,0 +1,224 @@
+#include "desktop/grid_view.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QScrollBar>
+#include <algorithm>
+#include <utility>
+
+#include "desktop/qt_text.h"
+#include "desktop/theme.h"
+#include "screens/forms/cell_block.h"
+
+namespace kelvor {
+
+namespace {
+
+/// How many rows a grid shows before it scrolls.
+constexpr int kMostRowsShown = 12;
+constexpr int kLettersOfNumber = 12;
+constexpr int kLettersOfText = 26;
+
+bool IsText(const GridColumn& column) { return column.picture.empty() || column.picture == "@"; }
+
+}  // namespace
+
+// --- The cells ------------------------------------------------------------------------------------------
+
+int CellModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : control_.grid->rows; }
+
+int CellModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(control_.grid->columns.size());
+}
+
+QVariant CellModel::data(const QModelIndex& index, int role) const {
+    const GridColumn& column = ColumnAt(index.column());
+    switch (role) {
+        case Qt::DisplayRole:
+        case Qt::EditRole:
+            return ToQt(hooks_.read(index.row() + 1, column));
+        case Qt::TextAlignmentRole:
+            return QVariant::fromValue((IsText(column) ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+        case Qt::BackgroundRole:
+            return column.locked ? QVariant(ScreenColour(colours::kLightCyan, QPalette())) : QVariant();
+        case Qt::AccessibleTextRole:
+            return ToQt(column.caption) + " " + ToQt(hooks_.read(index.row() + 1, column));
+        default:
+            return {};
+    }
+}
+
+QVariant CellModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (role != Qt::DisplayRole) return {};
+    return orientation == Qt::Horizontal ? QVariant(ToQt(ColumnAt(section).caption)) : QVariant(section + 1);
+}
+
+Qt::ItemFlags CellModel::flags(const QModelIndex& index) const {
+    const Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+    return ColumnAt(index.column()).locked ? flags : flags | Qt::ItemIsEditable;
+}
+
+// --- Editing ----------------------------------------------------------------------------------------------
+
+/// Makes the line or the list in which a cell is edited. What is typed goes to the form at once, so that there
+/// is nothing to hand over at the end.
+class GridView::Delegate : public QStyledItemDelegate {
+  public:
+    explicit Delegate(GridView& view) : QStyledItemDelegate(&view), view_(view) {}
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
+                          const QModelIndex& index) const override {
+        const GridColumn& column = view_.cells_.ColumnAt(index.column());
+        QWidget* editor = column.list.empty() ? MakeLine(column, parent) : MakeList(column, parent);
+        view_.OpenEditor(*editor);
+        return editor;
+    }
+
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override {
+        const QString text = index.data(Qt::EditRole).toString();
+        if (auto* line = qobject_cast<QLineEdit*>(editor); line != nullptr && !line->isModified()) {
+            line->setText(text);
+        }
+        if (auto* list = qobject_cast<QComboBox*>(editor)) list->setCurrentText(text);
+    }
+
+    void setModelData(QWidget* /*editor*/, QAbstractItemModel* /*model*/,
+                      const QModelIndex& /*index*/) const override {}
+
+  private:
+    QWidget* MakeLine(const GridColumn& column, QWidget* parent) const {
+        auto* line = new QLineEdit(parent);
+        line->setFrame(false);
+        line->setAcceptDrops(false);
+        line->setAlignment(IsText(column) ? Qt::AlignLeft : Qt::AlignRight);
+        connect(line, &QLineEdit::textEdited, line,
+                [this](const QString& text) { view_.hooks_.type(FromQt(text)); });
+        return line;
+    }
+
+    QWidget* MakeList(const GridColumn& column, QWidget* parent) const {
+        auto* list = new QComboBox(parent);
+        list->addItem(QString());
+        for (const std::string& item : column.items) list->addItem(ToQt(item));
+        connect(list, &QComboBox::textActivated, list,
+                [this](const QString& text) { view_.hooks_.type(FromQt(text)); });
+        return list;
+    }
+
+    GridView& view_;
+};
+
+GridView::GridView(const Control& control, GridHooks hooks, QWidget* parent)
+    : QTableView(parent), control_(control), hooks_(std::move(hooks)), cells_(control, hooks_) {
+    setModel(&cells_);
+    setItemDelegate(new Delegate(*this));
+    setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::EditKeyPressed |
+                    QAbstractItemView::DoubleClicked);
+    setTabKeyNavigation(false);
+    setSelectionMode(QAbstractItemView::ContiguousSelection);
+    setAlternatingRowColors(false);
+    setAccessibleName(QStringLiteral("Table"));
+    horizontalHeader()->setDefaultAlignment(Qt::AlignCenter | Qt::Alignment(Qt::TextWordWrap));
+    horizontalHeader()->setSectionsClickable(false);
+    horizontalHeader()->setHighlightSections(false);
+    verticalHeader()->setSectionsClickable(false);
+    SizeColumns();
+}
+
+void GridView::SizeColumns() {
+    int width = verticalHeader()->sizeHint().width() + 2 * frameWidth();
+    for (int i = 0; i < cells_.columnCount(); ++i) {
+        const int letters = IsText(cells_.ColumnAt(i)) ? kLettersOfText : kLettersOfNumber;
+        setColumnWidth(i, (letters + 2) * fontMetrics().horizontalAdvance(u'0'));
+        width += columnWidth(i);
+    }
+    const int lines = 2 * fontMetrics().lineSpacing() + fontMetrics().lineSpacing() / 2;
+    horizontalHeader()->setFixedHeight(lines);
+    const int rows = std::min(cells_.rowCount(), kMostRowsShown);
+    if (cells_.rowCount() > rows) width += verticalScrollBar()->sizeHint().width();
+    setMinimumSize(width, lines + rows * verticalHeader()->defaultSectionSize() + 2 * frameWidth());
+}
+
+void GridView::OpenEditor(QWidget& editor) {
+    editor_ = &editor;
+    hooks_.editorOpened(editor);
+}
+
+void GridView::Show() {
+    showing_ = true;
+    const GridData& grid = *control_.grid;
+    const QModelIndex cursor = cells_.index(grid.row - 1, static_cast<int>(grid.column));
+    const bool ended = editor_ != nullptr && (!grid.typed || currentIndex() != cursor);
+    const bool untouched = editor_ != nullptr && currentIndex() == cursor && !editor_->property("typed").toBool();
+    if (ended && !untouched) EndEdit();
+    if (editor_ != nullptr && grid.typed) editor_->setProperty("typed", true);
+    if (currentIndex() != cursor) setCurrentIndex(cursor);
+    cells_.Refresh();
+    showing_ = false;
+}
+
+void GridView::Detach() {
+    EndEdit();
+    setModel(nullptr);
+}
+
+void GridView::EndEdit() {
+    if (editor_ != nullptr) closeEditor(editor_, QAbstractItemDelegate::NoHint);
+    editor_.clear();
+}
+
+// --- Keys and clicks ----------------------------------------------------------------------------------------
+
+void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableView::currentChanged(current, previous);
+    if (!showing_ && model() != nullptr && current.isValid()) hooks_.moveTo(current.row() + 1, cells_.ColumnAt(current.column()));
+}
+
+void GridView::keyPressEvent(QKeyEvent* event) {
+    if (model() == nullptr) return;
+    if (event->matches(QKeySequence::Copy)) {
+        Copy();
+    } else if (event->matches(QKeySequence::Paste)) {
+        Paste();
+    } else if (event->key() == Qt::Key_Delete && event->modifiers().testFlag(Qt::ControlModifier)) {
+        hooks_.deleteRow(currentIndex().row() + 1);
+    } else {
+        QTableView::keyPressEvent(event);
+    }
+}
+
+void GridView::contextMenuEvent(QContextMenuEvent* event) {
+    QMenu menu(this);
+    const QAction* copy = menu.addAction(QStringLiteral("&Copy"));
+    const QAction* paste = menu.addAction(QStringLiteral("&Paste"));
+    menu.addSeparator();
+    const QAction* remove = menu.addAction(QStringLiteral("&Delete Row"));
+    const QAction* chosen = menu.exec(event->globalPos());
+    if (chosen == nullptr) return;
+    if (chosen == copy) Copy();
+    if (chosen == paste) Paste();
+    if (chosen == remove) hooks_.deleteRow(currentIndex().row() + 1);
+}
+
+void GridView::Copy() const {
+    QModelIndexList cells = selectedIndexes();
+    if (cells.isEmpty()) cells << currentIndex();
+    std::sort(cells.begin(), cells.end());
+    std::vector<std::vector<std::string>> rows;
+    int last = -1;
+    for (const QModelIndex& cell : cells) {
+        if (std::exchange(last, cell.row()) != cell.row()) rows.emplace_back();
+        rows.back().push_back(FromQt(cell.data(Qt::DisplayRole).toString()));
+    }
+    QApplication::clipboard()->setText(ToQt(JoinCells(rows)));
+}
+
+void GridView::Paste() { hooks_.paste(FromQt(QApplication::clipboard()->text())); }
+
+}  // namespace kelvor

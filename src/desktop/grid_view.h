@@ -1,0 +1,86 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QPointer>
+#include <QStyledItemDelegate>
+#include <QTableView>
+#include <functional>
+#include <string>
+
+#include "screens/forms/control.h"
+
+namespace kelvor {
+
+/// What a grid on the screen asks of, and tells, the form it stands on. Rows count from 1.
+struct GridHooks {
+    std::function<std::string(int row, const GridColumn& column)> read;
+    std::function<void(int row, const GridColumn& column)> moveTo;
+    std::function<void(const std::string& text)> type;  // into the cell under the cursor
+    std::function<void(const std::string& block)> paste;
+    std::function<void(int row)> deleteRow;
+    std::function<void(QWidget& editor)> editorOpened;
+};
+
+/// The cells of a grid for the toolkit's table. It holds none of them.
+class CellModel : public QAbstractTableModel {
+  public:
+    CellModel(const Control& control, const GridHooks& hooks) : control_(control), hooks_(hooks) {}
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+    /// Everything may have changed.
+    void Refresh() { emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1)); }
+
+    [[nodiscard]] const GridColumn& ColumnAt(int column) const {
+        return control_.grid->columns[static_cast<std::size_t>(column)];
+    }
+
+  private:
+    const Control& control_;
+    const GridHooks& hooks_;
+};
+
+/// A grid that works like a spreadsheet: arrows, Tab and Enter move, typing replaces, F2 edits, Delete empties,
+/// Ctrl+C and Ctrl+V take blocks of cells, Ctrl+Delete deletes the row. The model owns the cursor and what is
+/// being typed.
+class GridView : public QTableView {
+  public:
+    GridView(const Control& control, GridHooks hooks, QWidget* parent);
+
+    /// Shows where the cursor is and what the cells hold; ends an edit that the model has ended.
+    void Show();
+
+    /// The control is gone: shows nothing from now on.
+    void Detach();
+
+    /// Closes the line in which a cell is edited.
+    void EndEdit();
+
+    /// The line in which a cell is edited; null while none is.
+    [[nodiscard]] QWidget* editor() const { return editor_; }
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+
+  private:
+    class Delegate;
+
+    void Copy() const;
+    void Paste();
+    void SizeColumns();
+    void OpenEditor(QWidget& editor);
+
+    const Control& control_;
+    GridHooks hooks_;
+    CellModel cells_;
+    QPointer<QWidget> editor_;
+    bool showing_ = false;
+};
+
+}  // namespace kelvor
