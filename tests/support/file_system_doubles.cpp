@@ -18,6 +18,11 @@ std::string FaultyFileSystem::Read(const Path& path, std::size_t limit) const {
     return inner_.Read(path, limit);
 }
 
+std::string FaultyFileSystem::ReadStart(const Path& path, std::size_t count) const {
+    CountOrFail();
+    return inner_.ReadStart(path, count);
+}
+
 void FaultyFileSystem::Write(const Path& path, std::string_view content) {
     if (GoesWrong()) {
         if (plan_.bytes > 0) inner_.Write(path, content.substr(0, plan_.bytes));

@@ -34,6 +34,7 @@ class FaultyFileSystem : public FileSystem {
 
     [[nodiscard]] FileKind Kind(const Path& path) const override { return inner_.Kind(path); }
     [[nodiscard]] std::string Read(const Path& path, std::size_t limit) const override;
+    [[nodiscard]] std::string ReadStart(const Path& path, std::size_t count) const override;
     void Write(const Path& path, std::string_view content) override;
     void Flush(const Path& path) override;
     void Rename(const Path& from, const Path& to) override;

@@ -20,6 +20,7 @@ class FaultyFileSystemTest : public testing::Test {
     [[nodiscard]] std::vector<std::function<void(FileSystem&)>> Operations() const {
         return {
             [this](FileSystem& files) { (void)files.Read(file_, 100); },
+            [this](FileSystem& files) { (void)files.ReadStart(file_, 2); },
             [this](FileSystem& files) { files.Write(folder_ / "written", "content"); },
             [this](FileSystem& files) { files.Flush(file_); },
             [this](FileSystem& files) { files.MakeDirectory(folder_ / "made"); },

@@ -71,6 +71,7 @@ TEST_F(FileSystemTest, AFileIsReadUpToTheLimit) {
     EXPECT_EQ(files_.Read(file_, 7), "content");
     EXPECT_EQ(Failure([&] { (void)files_.Read(file_, 6); }), Reason(EFBIG));
     EXPECT_EQ(Failure([&] { (void)files_.Read(file_, 0); }), Reason(EFBIG));
+    EXPECT_THROW((void)files_.Read(file_, 6), FileTooLarge);
     EXPECT_EQ(files_.Read(folder_ / "link", 7), "content");
     WriteFile(file_, "");
     EXPECT_EQ(files_.Read(file_, 0), "");
@@ -78,6 +79,18 @@ TEST_F(FileSystemTest, AFileIsReadUpToTheLimit) {
     for (int i = 0; i < 1000000; ++i) bytes.push_back(static_cast<char>(i * 7 % 256));
     WriteFile(file_, bytes);
     EXPECT_EQ(files_.Read(file_, 1000000), bytes);
+}
+
+TEST_F(FileSystemTest, TheStartOfAFileOfAnySizeIsRead) {
+    EXPECT_EQ(files_.ReadStart(file_, 3), "con");
+    EXPECT_EQ(files_.ReadStart(file_, 7), "content");
+    EXPECT_EQ(files_.ReadStart(file_, 1000), "content");
+    EXPECT_EQ(files_.ReadStart(file_, 0), "");
+    EXPECT_EQ(files_.ReadStart(folder_ / "link", 3), "con");
+    WriteFile(file_, "");
+    EXPECT_EQ(files_.ReadStart(file_, 3), "");
+    std::filesystem::resize_file(file_, 8UL * 1024 * 1024 * 1024);  // takes no room: nothing stands in it
+    EXPECT_EQ(files_.ReadStart(file_, 3), std::string(3, '\0'));
 }
 
 TEST_F(FileSystemTest, WhatIsNoRegularFileIsNotRead) {
@@ -88,6 +101,10 @@ TEST_F(FileSystemTest, WhatIsNoRegularFileIsNotRead) {
     // Nobody writes into the pipe: a reader that waited would wait forever.
     EXPECT_EQ(Failure([&] { (void)files_.Read(folder_ / "pipe", 10); }), "Not a regular file");
     EXPECT_EQ(Failure([&] { (void)files_.Read("/dev/zero", 10); }), "Not a regular file");
+    EXPECT_EQ(Failure([&] { (void)files_.ReadStart(folder_ / "none", 10); }), Reason(ENOENT));
+    EXPECT_EQ(Failure([&] { (void)files_.ReadStart(folder_.path(), 10); }), Reason(EISDIR));
+    EXPECT_EQ(Failure([&] { (void)files_.ReadStart(folder_ / "pipe", 10); }), "Not a regular file");
+    EXPECT_EQ(Failure([&] { (void)files_.ReadStart("/dev/zero", 10); }), "Not a regular file");
 }
 
 TEST_F(FileSystemTest, AFileIsMadeOrEmptiedAndWritten) {
