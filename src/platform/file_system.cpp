@@ -25,7 +25,8 @@ void ThrowIf(const std::error_code& error) {
 /// An open file that closes itself.
 class Descriptor {
   public:
-    Descriptor(const Path& path, int flags) : fd_(::open(path.c_str(), flags | O_CLOEXEC, 0666)) {
+    Descriptor(const Path& path, int flags, mode_t mode = 0666)
+        : fd_(::open(path.c_str(), flags | O_CLOEXEC, mode)) {
         if (fd_ < 0) ThrowErrno();
     }
     Descriptor(const Descriptor&) = delete;
@@ -46,6 +47,16 @@ class Descriptor {
   private:
     int fd_;
 };
+
+void WriteAndClose(Descriptor& file, std::string_view content) {
+    while (!content.empty()) {
+        const ssize_t count = ::write(file.get(), content.data(), content.size());
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0) ThrowErrno();
+        content.remove_prefix(static_cast<std::size_t>(count));
+    }
+    file.Close();
+}
 
 /// A regular file that is open for reading.
 class RegularFile {
@@ -126,13 +137,15 @@ std::string NativeFileSystem::ReadStart(const Path& path, std::size_t count) con
 
 void NativeFileSystem::Write(const Path& path, std::string_view content) {
     Descriptor file(path, O_WRONLY | O_CREAT | O_TRUNC);
-    while (!content.empty()) {
-        const ssize_t count = ::write(file.get(), content.data(), content.size());
-        if (count < 0 && errno == EINTR) continue;
-        if (count < 0) ThrowErrno();
-        content.remove_prefix(static_cast<std::size_t>(count));
-    }
-    file.Close();
+    WriteAndClose(file, content);
+}
+
+void NativeFileSystem::WritePrivate(const Path& path, std::string_view content) {
+    // What stands there may be open to others, or be open at another program: its content would not be
+    // private. The new file is one that nobody has yet.
+    Remove(path);
+    Descriptor file(path, O_WRONLY | O_CREAT | O_EXCL, 0600);
+    WriteAndClose(file, content);
 }
 
 void NativeFileSystem::Flush(const Path& path) {
@@ -196,8 +209,12 @@ void ReplaceFile(FileSystem& files, const Path& target, std::string_view content
     if (kind == FileKind::Regular && !files.IsWritable(resolved)) throw FileError(std::strerror(EACCES));
     const Path temporary = TemporaryBeside(resolved);
     try {
-        files.Write(temporary, content);
-        if (kind == FileKind::Regular) files.CopyPermissions(resolved, temporary);
+        if (kind == FileKind::Regular) {
+            files.WritePrivate(temporary, content);
+            files.CopyPermissions(resolved, temporary);
+        } else {
+            files.Write(temporary, content);
+        }
         files.Flush(temporary);
         files.Rename(temporary, resolved);
     } catch (const FileError&) {

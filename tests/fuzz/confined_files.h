@@ -29,6 +29,10 @@ class ConfinedFiles : public NativeFileSystem {
         Check(path);
         NativeFileSystem::Write(path, content);
     }
+    void WritePrivate(const Path& path, std::string_view content) override {
+        Check(path);
+        NativeFileSystem::WritePrivate(path, content);
+    }
     void Flush(const Path& path) override { Check(path); }
     void Rename(const Path& from, const Path& to) override {
         Check(from);

@@ -27,6 +27,7 @@ class MemoryFiles : public FileSystem {
         return Content(path).substr(0, count);
     }
     void Write(const Path& path, std::string_view content) override { files_[path] = content; }
+    void WritePrivate(const Path& path, std::string_view content) override { Write(path, content); }
     void Flush(const Path& /*path*/) override {}
     void Rename(const Path& from, const Path& to) override {
         files_[to] = files_.at(from);

@@ -31,6 +31,14 @@ void FaultyFileSystem::Write(const Path& path, std::string_view content) {
     inner_.Write(path, content);
 }
 
+void FaultyFileSystem::WritePrivate(const Path& path, std::string_view content) {
+    if (GoesWrong()) {
+        if (plan_.bytes > 0) inner_.WritePrivate(path, content.substr(0, plan_.bytes));
+        Fail();
+    }
+    inner_.WritePrivate(path, content);
+}
+
 void FaultyFileSystem::Flush(const Path& path) {
     CountOrFail();
     inner_.Flush(path);

@@ -122,6 +122,35 @@ TEST_F(FileSystemTest, AFileIsMadeOrEmptiedAndWritten) {
     EXPECT_EQ(ReadFile(file_), zeros);
 }
 
+/// The umask of a user who lets everybody read and write.
+class OpenUmask {
+  public:
+    OpenUmask() : former_(::umask(0)) {}
+    OpenUmask(const OpenUmask&) = delete;
+    OpenUmask& operator=(const OpenUmask&) = delete;
+    ~OpenUmask() { ::umask(former_); }
+
+  private:
+    mode_t former_;
+};
+
+TEST_F(FileSystemTest, APrivateFileIsOpenToItsOwnerAloneWhateverStoodThere) {
+    const OpenUmask open;
+    const Path target = folder_ / "private";
+    files_.WritePrivate(target, "abc");
+    EXPECT_EQ(ReadFile(target), "abc");
+    EXPECT_EQ(std::filesystem::status(target).permissions(), perms(0600));
+    std::filesystem::permissions(target, perms(0666));
+    files_.WritePrivate(target, "x");
+    EXPECT_EQ(ReadFile(target), "x");
+    EXPECT_EQ(std::filesystem::status(target).permissions(), perms(0600));
+    files_.WritePrivate(folder_ / "link", "in the place of the link");
+    EXPECT_FALSE(std::filesystem::is_symlink(folder_ / "link"));
+    EXPECT_EQ(ReadFile(file_), "content");
+    EXPECT_EQ(Failure([&] { files_.WritePrivate(folder_ / "none" / "file", "x"); }), Reason(ENOENT));
+    EXPECT_NE(Failure([&] { files_.WritePrivate(folder_.path(), "x"); }), "");
+}
+
 TEST_F(FileSystemTest, WhatCannotBeWrittenHasAReason) {
     EXPECT_EQ(Failure([&] { files_.Write(folder_ / "none" / "file", "x"); }), Reason(ENOENT));
     EXPECT_EQ(Failure([&] { files_.Write(folder_.path(), "x"); }), Reason(EISDIR));
@@ -378,6 +407,22 @@ TEST_F(ReplaceFileDeathTest, AKillAtAnyMomentLeavesTheOldFileOrTheNewOneWhole) {
         // What the killed process left behind is in nobody's way.
         ReplaceFile(files_, target_, new_);
         EXPECT_EQ(ReadFile(target_), new_) << operation;
+    }
+}
+
+TEST_F(ReplaceFileDeathTest, WhatAPrivateFileGetsIsAtNoMomentOpenToOthers) {
+    const OpenUmask open;
+    std::filesystem::create_directory(folder_ / "private");
+    const Path target = folder_ / "private" / "target";
+    WriteFile(target, old_);
+    std::filesystem::permissions(target, perms(0600));
+    const int operations = OperationsFor(target);
+    for (int operation = 0; operation < operations; ++operation) {
+        FaultyFileSystem killing(files_, {.operation = operation, .bytes = 5, .kill = true});
+        EXPECT_EXIT(ReplaceFile(killing, target, new_), testing::KilledBySignal(SIGKILL), "");
+        for (const auto& entry : std::filesystem::directory_iterator(folder_ / "private")) {
+            EXPECT_EQ(entry.status().permissions(), perms(0600)) << operation << " " << entry.path();
+        }
     }
 }
 
