@@ -18,32 +18,15 @@ SQLite::Database OpenCatalogue(const Path& path) {
     return database;
 }
 
-std::string Text(const SQLite::Column& column) {
-    return column.isNull() ? std::string() : column.getString();
-}
+std::string Text(const RowView& row, std::size_t column) { return std::string(row.Letters(column)); }
 
-std::optional<double> Number(const SQLite::Column& column) {
-    return column.isFloat() || column.isInteger() ? std::optional(column.getDouble()) : std::nullopt;
-}
-
-std::optional<int> Whole(const SQLite::Column& column) {
-    if (!column.isInteger()) return std::nullopt;
-    const std::int64_t value = column.getInt64();
-    if (value < 0 || value > std::numeric_limits<std::int16_t>::max()) {
+std::optional<int> Whole(const RowView& row, std::size_t column) {
+    const std::optional<std::int64_t> value = row.Whole(column);
+    if (!value) return std::nullopt;
+    if (*value < 0 || *value > std::numeric_limits<std::int16_t>::max()) {
         throw DatabaseError("a whole number is out of range", false);
     }
-    return static_cast<int>(value);
-}
-
-/// Runs a query and hands every row to `read`.
-template <typename Reader>
-void ForEachRow(SQLite::Database& database, const char* query, Reader read) {
-    try {
-        SQLite::Statement rows(database, query);
-        while (rows.executeStep()) read(rows);
-    } catch (const SQLite::Exception& failure) {
-        throw ToDatabaseError(failure);
-    }
+    return static_cast<int>(*value);
 }
 
 template <typename Row>
@@ -61,78 +44,81 @@ bool Variable::IsText() const {
 }
 
 Catalogue::Catalogue(const Path& path) : database_(OpenCatalogue(path)) {
-    ReadVariables();
-    ReadFields();
-    ReadScreens();
-    ReadUnitPairs();
+    try {
+        SQLite::Transaction reading(database_);  // one, so that the file is not locked for each table
+        ReadVariables();
+        ReadFields();
+        ReadScreens();
+        ReadUnitPairs();
+        reading.commit();
+    } catch (const SQLite::Exception& failure) {
+        throw ToDatabaseError(failure);
+    }
 }
 
 void Catalogue::ReadVariables() {
-    ForEachRow(database_,
-               "SELECT Name, Format, Units, \"Desc\", Dim1, Dim2, High, Low, HighMetric, LowMetric, HelpHead "
-               "FROM Variable ORDER BY rowid",
-               [this](SQLite::Statement& row) {
-                   Variable variable;
-                   variable.name = Text(row.getColumn(0));
-                   variable.format = Text(row.getColumn(1));
-                   variable.units = Text(row.getColumn(2));
-                   variable.desc = Text(row.getColumn(3));
-                   variable.dim1 = Whole(row.getColumn(4)).value_or(1);
-                   variable.dim2 = Whole(row.getColumn(5)).value_or(1);
-                   variable.high = Number(row.getColumn(6));
-                   variable.low = Number(row.getColumn(7));
-                   variable.highMetric = Number(row.getColumn(8));
-                   variable.lowMetric = Number(row.getColumn(9));
-                   variable.helpHead = Text(row.getColumn(10));
-                   variableByName_.emplace(variable.name, variables_.size());
-                   variables_.push_back(std::move(variable));
-               });
+    VisitRows(database_, "Variable",
+              "Name, Format, Units, \"Desc\", Dim1, Dim2, High, Low, HighMetric, LowMetric, HelpHead",
+              "rowid", [this](const RowView& row) {
+                  Variable variable;
+                  variable.name = Text(row, 0);
+                  variable.format = Text(row, 1);
+                  variable.units = Text(row, 2);
+                  variable.desc = Text(row, 3);
+                  variable.dim1 = Whole(row, 4).value_or(1);
+                  variable.dim2 = Whole(row, 5).value_or(1);
+                  variable.high = row.Number(6);
+                  variable.low = row.Number(7);
+                  variable.highMetric = row.Number(8);
+                  variable.lowMetric = row.Number(9);
+                  variable.helpHead = Text(row, 10);
+                  variableByName_.emplace(variable.name, variables_.size());
+                  variables_.push_back(std::move(variable));
+              });
 }
 
 void Catalogue::ReadFields() {
-    ForEachRow(database_,
-               "SELECT Screen, Name, Id, Seq, Class, Type, Equation, SolveFor, Dim2, x, y, Heading "
-               "FROM Field ORDER BY rowid",
-               [this](SQLite::Statement& row) {
-                   Field field;
-                   field.screen = Text(row.getColumn(0));
-                   field.name = Text(row.getColumn(1));
-                   field.id = Text(row.getColumn(2));
-                   field.seq = Whole(row.getColumn(3));
-                   field.fieldClass = Text(row.getColumn(4));
-                   field.type = Text(row.getColumn(5));
-                   field.equation = Text(row.getColumn(6));
-                   field.solveFor = Number(row.getColumn(7));
-                   field.dim2 = Whole(row.getColumn(8));
-                   field.x = Number(row.getColumn(9));
-                   field.y = Number(row.getColumn(10));
-                   field.heading = Text(row.getColumn(11));
-                   fields_.push_back(std::move(field));
-               });
+    VisitRows(database_, "Field",
+              "Screen, Name, Id, Seq, Class, Type, Equation, SolveFor, Dim2, x, y, Heading", "rowid",
+              [this](const RowView& row) {
+                  Field field;
+                  field.screen = Text(row, 0);
+                  field.name = Text(row, 1);
+                  field.id = Text(row, 2);
+                  field.seq = Whole(row, 3);
+                  field.fieldClass = Text(row, 4);
+                  field.type = Text(row, 5);
+                  field.equation = Text(row, 6);
+                  field.solveFor = row.Number(7);
+                  field.dim2 = Whole(row, 8);
+                  field.x = row.Number(9);
+                  field.y = row.Number(10);
+                  field.heading = Text(row, 11);
+                  fields_.push_back(std::move(field));
+              });
 }
 
 void Catalogue::ReadScreens() {
-    ForEachRow(database_, "SELECT Name, Dim2, Sf1Y, Layout, Title, Title1, Title2 FROM Screen ORDER BY rowid",
-               [this](SQLite::Statement& row) {
-                   Screen screen;
-                   screen.name = Text(row.getColumn(0));
-                   screen.dim2 = Whole(row.getColumn(1));
-                   screen.sf1Y = Number(row.getColumn(2));
-                   screen.layout = Text(row.getColumn(3));
-                   screen.title = Text(row.getColumn(4));
-                   screen.title1 = Text(row.getColumn(5));
-                   screen.title2 = Text(row.getColumn(6));
-                   screens_.push_back(std::move(screen));
-               });
+    VisitRows(database_, "Screen", "Name, Dim2, Sf1Y, Layout, Title, Title1, Title2", "rowid",
+              [this](const RowView& row) {
+                  Screen screen;
+                  screen.name = Text(row, 0);
+                  screen.dim2 = Whole(row, 1);
+                  screen.sf1Y = row.Number(2);
+                  screen.layout = Text(row, 3);
+                  screen.title = Text(row, 4);
+                  screen.title1 = Text(row, 5);
+                  screen.title2 = Text(row, 6);
+                  screens_.push_back(std::move(screen));
+              });
 }
 
 void Catalogue::ReadUnitPairs() {
-    ForEachRow(database_, "SELECT English, Metric, Factor FROM \"Convert\" ORDER BY rowid",
-               [this](SQLite::Statement& row) {
-                   const auto factor = Number(row.getColumn(2));
-                   if (!factor || *factor <= 0.0) throw DatabaseError("a unit factor is not above 0", false);
-                   unitPairs_.push_back({Text(row.getColumn(0)), Text(row.getColumn(1)), *factor});
-               });
+    VisitRows(database_, "Convert", "English, Metric, Factor", "rowid", [this](const RowView& row) {
+        const auto factor = row.Number(2);
+        if (!factor || *factor <= 0.0) throw DatabaseError("a unit factor is not above 0", false);
+        unitPairs_.push_back({Text(row, 0), Text(row, 1), *factor});
+    });
 }
 
 const Variable* Catalogue::FindVariable(std::string_view name) const {
@@ -183,12 +169,12 @@ const UnitPair* Catalogue::FindPairByMetric(std::string_view metric) const {
 
 std::vector<RecentFile> Catalogue::RecentFiles() {
     std::vector<RecentFile> rows;
-    ForEachRow(database_, "SELECT FileName, OpenDate, SortOrder FROM RecentFiles ORDER BY SortOrder, rowid",
-               [&](SQLite::Statement& row) {
-                   const auto name = row.getColumn(0);
-                   rows.push_back({name.isNull() ? std::nullopt : std::optional(name.getString()),
-                                   Text(row.getColumn(1)), Whole(row.getColumn(2)).value_or(0)});
-               });
+    VisitRows(database_, "RecentFiles", "FileName, OpenDate, SortOrder", "rowid", [&](const RowView& row) {
+        rows.push_back({row.IsText(0) ? std::optional(Text(row, 0)) : std::nullopt, Text(row, 1),
+                        Whole(row, 2).value_or(0)});
+    });
+    std::stable_sort(rows.begin(), rows.end(),
+                     [](const RecentFile& a, const RecentFile& b) { return a.sortOrder < b.sortOrder; });
     return rows;
 }
 
@@ -197,8 +183,8 @@ void Catalogue::EditRecentFiles(const std::function<void(std::vector<RecentFile>
         SQLite::Transaction transaction(database_, SQLite::TransactionBehavior::IMMEDIATE);
         std::vector<RecentFile> rows = RecentFiles();
         std::vector<std::int64_t> places;
-        ForEachRow(database_, "SELECT rowid FROM RecentFiles ORDER BY rowid",
-                   [&](SQLite::Statement& row) { places.push_back(row.getColumn(0).getInt64()); });
+        VisitRows(database_, "RecentFiles", "rowid", "rowid",
+                  [&](const RowView& row) { places.push_back(row.Whole(0).value_or(0)); });
         edit(rows);
         SQLite::Statement update(
             database_, "UPDATE RecentFiles SET FileName = ?, OpenDate = ?, SortOrder = ? WHERE rowid = ?");

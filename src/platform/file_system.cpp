@@ -25,7 +25,8 @@ void ThrowIf(const std::error_code& error) {
 /// An open file that closes itself.
 class Descriptor {
   public:
-    Descriptor(const Path& path, int flags) : fd_(::open(path.c_str(), flags | O_CLOEXEC, 0666)) {
+    Descriptor(const Path& path, int flags, mode_t mode = 0666)
+        : fd_(::open(path.c_str(), flags | O_CLOEXEC, mode)) {
         if (fd_ < 0) ThrowErrno();
     }
     Descriptor(const Descriptor&) = delete;
@@ -47,6 +48,49 @@ class Descriptor {
     int fd_;
 };
 
+void WriteAndClose(Descriptor& file, std::string_view content) {
+    while (!content.empty()) {
+        const ssize_t count = ::write(file.get(), content.data(), content.size());
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0) ThrowErrno();
+        content.remove_prefix(static_cast<std::size_t>(count));
+    }
+    file.Close();
+}
+
+/// A regular file that is open for reading.
+class RegularFile {
+  public:
+    // Without O_NONBLOCK the opening of a pipe would wait for a writer.
+    explicit RegularFile(const Path& path) : file_(path, O_RDONLY | O_NONBLOCK) {
+        struct stat status {};
+        if (::fstat(file_.get(), &status) != 0) ThrowErrno();
+        if (S_ISDIR(status.st_mode)) throw FileError(std::strerror(EISDIR));
+        if (!S_ISREG(status.st_mode)) throw FileError("Not a regular file");
+        size_ = static_cast<std::size_t>(status.st_size);
+    }
+
+    [[nodiscard]] std::size_t size() const { return size_; }
+
+    [[nodiscard]] std::string ReadStart(std::size_t length) const {
+        std::string content(length, '\0');
+        std::size_t done = 0;
+        while (done < length) {
+            const ssize_t count = ::read(file_.get(), content.data() + done, length - done);
+            if (count < 0 && errno == EINTR) continue;
+            if (count < 0) ThrowErrno();
+            if (count == 0) break;
+            done += static_cast<std::size_t>(count);
+        }
+        content.resize(done);
+        return content;
+    }
+
+  private:
+    Descriptor file_;
+    std::size_t size_ = 0;
+};
+
 /// A path beside the target under a name that no other process uses. Of a long name only the beginning
 /// is in it, as the platform limits names.
 Path TemporaryBeside(const Path& target) {
@@ -64,6 +108,8 @@ void RemoveQuietly(FileSystem& files, const Path& path) {
 
 }  // namespace
 
+FileTooLarge::FileTooLarge() : FileError(std::strerror(EFBIG)) {}
+
 FileKind NativeFileSystem::Kind(const Path& path) const {
     std::error_code error;
     switch (std::filesystem::status(path, error).type()) {
@@ -80,36 +126,26 @@ FileKind NativeFileSystem::Kind(const Path& path) const {
 }
 
 std::string NativeFileSystem::Read(const Path& path, std::size_t limit) const {
-    // Without O_NONBLOCK the opening of a pipe would wait for a writer.
-    const Descriptor file(path, O_RDONLY | O_NONBLOCK);
-    struct stat status {};
-    if (::fstat(file.get(), &status) != 0) ThrowErrno();
-    if (S_ISDIR(status.st_mode)) throw FileError(std::strerror(EISDIR));
-    if (!S_ISREG(status.st_mode)) throw FileError("Not a regular file");
-    const auto size = static_cast<std::size_t>(status.st_size);
-    if (size > limit) throw FileError(std::strerror(EFBIG));
-    std::string content(size, '\0');
-    std::size_t done = 0;
-    while (done < size) {
-        const ssize_t count = ::read(file.get(), content.data() + done, size - done);
-        if (count < 0 && errno == EINTR) continue;
-        if (count < 0) ThrowErrno();
-        if (count == 0) break;
-        done += static_cast<std::size_t>(count);
-    }
-    content.resize(done);
-    return content;
+    const RegularFile file(path);
+    if (file.size() > limit) throw FileTooLarge();
+    return file.ReadStart(file.size());
+}
+
+std::string NativeFileSystem::ReadStart(const Path& path, std::size_t count) const {
+    return RegularFile(path).ReadStart(count);
 }
 
 void NativeFileSystem::Write(const Path& path, std::string_view content) {
     Descriptor file(path, O_WRONLY | O_CREAT | O_TRUNC);
-    while (!content.empty()) {
-        const ssize_t count = ::write(file.get(), content.data(), content.size());
-        if (count < 0 && errno == EINTR) continue;
-        if (count < 0) ThrowErrno();
-        content.remove_prefix(static_cast<std::size_t>(count));
-    }
-    file.Close();
+    WriteAndClose(file, content);
+}
+
+void NativeFileSystem::WritePrivate(const Path& path, std::string_view content) {
+    // What stands there may be open to others, or be open at another program: its content would not be
+    // private. The new file is one that nobody has yet.
+    Remove(path);
+    Descriptor file(path, O_WRONLY | O_CREAT | O_EXCL, 0600);
+    WriteAndClose(file, content);
 }
 
 void NativeFileSystem::Flush(const Path& path) {
@@ -173,8 +209,12 @@ void ReplaceFile(FileSystem& files, const Path& target, std::string_view content
     if (kind == FileKind::Regular && !files.IsWritable(resolved)) throw FileError(std::strerror(EACCES));
     const Path temporary = TemporaryBeside(resolved);
     try {
-        files.Write(temporary, content);
-        if (kind == FileKind::Regular) files.CopyPermissions(resolved, temporary);
+        if (kind == FileKind::Regular) {
+            files.WritePrivate(temporary, content);
+            files.CopyPermissions(resolved, temporary);
+        } else {
+            files.Write(temporary, content);
+        }
         files.Flush(temporary);
         files.Rename(temporary, resolved);
     } catch (const FileError&) {

@@ -16,6 +16,12 @@ class FileError : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+/// A file that is larger than its reader takes.
+class FileTooLarge : public FileError {
+  public:
+    FileTooLarge();
+};
+
 enum class FileKind { Missing, Regular, Directory, Other };
 
 /// The file operations that Kelvor needs. Each throws FileError on failure, but for Kind.
@@ -29,11 +35,18 @@ class FileSystem {
     /// What stands at a path, links followed. A path that cannot be looked at counts as missing.
     [[nodiscard]] virtual FileKind Kind(const Path& path) const = 0;
 
-    /// The content of a regular file of at most `limit` bytes.
+    /// The content of a regular file of at most `limit` bytes. Throws FileTooLarge for a larger one.
     [[nodiscard]] virtual std::string Read(const Path& path, std::size_t limit) const = 0;
+
+    /// The first `count` bytes of a regular file of any size; less if it is shorter.
+    [[nodiscard]] virtual std::string ReadStart(const Path& path, std::size_t count) const = 0;
 
     /// Creates the file, or empties it if it is there, and writes the content.
     virtual void Write(const Path& path, std::string_view content) = 0;
+
+    /// Makes the file anew, whatever stood there, and writes the content. Nobody but its owner may open it
+    /// until it is given other permissions.
+    virtual void WritePrivate(const Path& path, std::string_view content) = 0;
 
     /// Brings a file's content, or a folder's entries, to the disk.
     virtual void Flush(const Path& path) = 0;
@@ -59,7 +72,9 @@ class NativeFileSystem : public FileSystem {
   public:
     [[nodiscard]] FileKind Kind(const Path& path) const override;
     [[nodiscard]] std::string Read(const Path& path, std::size_t limit) const override;
+    [[nodiscard]] std::string ReadStart(const Path& path, std::size_t count) const override;
     void Write(const Path& path, std::string_view content) override;
+    void WritePrivate(const Path& path, std::string_view content) override;
     void Flush(const Path& path) override;
     void Rename(const Path& from, const Path& to) override;
     void Remove(const Path& path) override;
@@ -71,8 +86,8 @@ class NativeFileSystem : public FileSystem {
 
 /// Replaces a file's content so that a crash or a full disk at any moment leaves the old file or the
 /// new one, whole: written beside the target, flushed, renamed. A link keeps pointing at its file, and
-/// a file keeps its permissions; one that is write-protected stays. Throws FileError and leaves the
-/// target as it was.
+/// a file keeps its permissions, so that nobody else ever reads what a private one gets; one that is
+/// write-protected stays. Throws FileError and leaves the target as it was.
 void ReplaceFile(FileSystem& files, const Path& target, std::string_view content);
 
 }  // namespace kelvor

@@ -1,9 +1,8 @@
 #include "platform/sqlite.h"
 
-#include <sqlite3.h>
-
 #include <algorithm>
-#include <cstdint>
+#include <cstddef>
+#include <exception>
 #include <filesystem>
 #include <system_error>
 
@@ -35,10 +34,10 @@ void CheckLength(SQLite::Database& database, const Path& path) {
     if (!error && length % pageSize != 0) throw DatabaseError("file ends in the middle of a page", false);
 }
 
-void CheckTable(SQLite::Database& database, const TableShape& shape) {
+/// `query` gives the columns of the table that is bound to it.
+void CheckTable(SQLite::Statement& query, const TableShape& shape) {
     const std::string name(shape.name);
-    // The plain table_info keeps quiet about computed columns.
-    SQLite::Statement query(database, "SELECT name FROM pragma_table_xinfo(?)");
+    query.reset();
     query.bind(1, name);
     std::size_t count = 0;
     while (query.executeStep()) {
@@ -52,7 +51,60 @@ void CheckTable(SQLite::Database& database, const TableShape& shape) {
     if (count != shape.columns.size()) throw DatabaseError("table " + name + " lacks columns", false);
 }
 
+const char* const kVisitFunction = "visit_row";
+
+/// What is done with each row, and the exception that ended it: SQLite knows none, so it must not pass there.
+struct Visit {
+    const std::function<void(const RowView&)>& visit;
+    std::exception_ptr failure;
+};
+
+/// The function that SQLite calls with each row. Its answer, 0, keeps the row out of the result.
+void VisitRow(sqlite3_context* context, int /*count*/, sqlite3_value** values) {
+    auto& state = *static_cast<Visit*>(sqlite3_user_data(context));
+    try {
+        state.visit(RowView(values));
+        sqlite3_result_int(context, 0);
+    } catch (...) {
+        state.failure = std::current_exception();
+        sqlite3_result_error_code(context, SQLITE_ABORT);
+    }
+}
+
+/// Makes VisitRow known to a database, for direct use alone, as long as it lives.
+class VisitFunction {
+  public:
+    VisitFunction(sqlite3* database, Visit& state) : database_(database) {
+        if (Define(&state, VisitRow) != SQLITE_OK) throw SQLite::Exception(database_);
+    }
+    VisitFunction(const VisitFunction&) = delete;
+    VisitFunction& operator=(const VisitFunction&) = delete;
+    ~VisitFunction() { Define(nullptr, nullptr); }
+
+  private:
+    int Define(Visit* state, void (*function)(sqlite3_context*, int, sqlite3_value**)) {
+        constexpr int kAnyCount = -1;
+        return sqlite3_create_function(database_, kVisitFunction, kAnyCount, SQLITE_UTF8 | SQLITE_DIRECTONLY,
+                                       state, function, nullptr, nullptr);
+    }
+
+    sqlite3* database_;
+};
+
 }  // namespace
+
+void VisitRows(SQLite::Database& database, const std::string& table, const std::string& columns,
+               const std::string& order, const std::function<void(const RowView&)>& visit) {
+    Visit state{visit, nullptr};
+    try {
+        const VisitFunction function(database.getHandle(), state);
+        database.exec("SELECT 1 FROM \"" + table + "\" WHERE " + kVisitFunction + "(" + columns +
+                      ") ORDER BY " + order);
+    } catch (const SQLite::Exception& failure) {
+        if (state.failure) std::rethrow_exception(state.failure);
+        throw ToDatabaseError(failure);
+    }
+}
 
 DatabaseError ToDatabaseError(const SQLite::Exception& failure) {
     return {failure.what(), failure.getErrorCode() == SQLITE_NOTADB};
@@ -60,9 +112,12 @@ DatabaseError ToDatabaseError(const SQLite::Exception& failure) {
 
 SQLite::Database OpenDatabase(const Path& path, DatabaseAccess access) {
     try {
-        const int flags = access == DatabaseAccess::ReadOnly ? SQLite::OPEN_READONLY : SQLite::OPEN_READWRITE;
+        // No locks around each call, of which a row takes a dozen: no database is used by two threads.
+        const int mode = access == DatabaseAccess::ReadOnly ? SQLite::OPEN_READONLY : SQLite::OPEN_READWRITE;
+        const int flags = mode | SQLite::OPEN_NOMUTEX;
         SQLite::Database database(path.string(), flags, kBusyMilliseconds);
         Distrust(database);
+        SQLite::Transaction reading(database);  // one, so that the file is not locked for each query
         // The first reading is what tells a database from any other file. An empty file reads as a
         // database of no pages.
         if (database.execAndGet("PRAGMA page_count").getInt() == 0) {
@@ -70,6 +125,7 @@ SQLite::Database OpenDatabase(const Path& path, DatabaseAccess access) {
         }
         database.execAndGet("SELECT count(*) FROM sqlite_schema");
         CheckLength(database, path);
+        reading.commit();
         return database;
     } catch (const SQLite::Exception& failure) {
         throw ToDatabaseError(failure);
@@ -78,6 +134,7 @@ SQLite::Database OpenDatabase(const Path& path, DatabaseAccess access) {
 
 void CheckShape(SQLite::Database& database, const std::vector<TableShape>& tables, bool only) {
     try {
+        SQLite::Transaction reading(database);  // one, so that the file is not locked for each query
         SQLite::Statement schema(database, "SELECT type, name FROM sqlite_schema");
         while (schema.executeStep()) {
             const std::string type = schema.getColumn(0);
@@ -89,7 +146,10 @@ void CheckShape(SQLite::Database& database, const std::vector<TableShape>& table
                 throw DatabaseError(type + " " + name + " does not belong there", false);
             }
         }
-        for (const TableShape& table : tables) CheckTable(database, table);
+        // The plain table_info keeps quiet about computed columns.
+        SQLite::Statement columns(database, "SELECT name FROM pragma_table_xinfo(?)");
+        for (const TableShape& table : tables) CheckTable(columns, table);
+        reading.commit();
     } catch (const SQLite::Exception& failure) {
         throw ToDatabaseError(failure);
     }

@@ -1,7 +1,12 @@
 #pragma once
 
 #include <SQLiteCpp/SQLiteCpp.h>
+#include <sqlite3.h>
 
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -24,6 +29,9 @@ class DatabaseError : public std::runtime_error {
     bool notADatabase_;
 };
 
+/// What every database begins with: a file with another beginning is none.
+inline constexpr std::string_view kDatabaseMagic("SQLite format 3\0", 16);
+
 enum class DatabaseAccess { ReadOnly, ReadWrite };
 
 /// What a database must hold to be one of ours: a table with exactly these columns, in this order.
@@ -34,12 +42,50 @@ struct TableShape {
 
 /// Opens an existing database that may come from anywhere: no extension, trigger or view of it ever
 /// runs, its schema is not trusted, and a corrupt one gives an error at the reading instead of nonsense.
-/// Throws DatabaseError.
+/// To be used by one thread. Throws DatabaseError.
 SQLite::Database OpenDatabase(const Path& path, DatabaseAccess access);
 
 /// Checks that the tables are there with their columns. With `only`, nothing else may stand in the
 /// database; in any case it may hold no trigger and no view. Throws DatabaseError with the reason.
 void CheckShape(SQLite::Database& database, const std::vector<TableShape>& tables, bool only);
+
+/// The values of one row, while it is visited. Columns count from 0.
+class RowView {
+  public:
+    explicit RowView(sqlite3_value** values) : values_(values) {}
+
+    [[nodiscard]] bool IsText(std::size_t column) const {
+        return sqlite3_value_type(values_[column]) == SQLITE_TEXT;
+    }
+
+    /// The value if it is a whole number, or any number; else nothing.
+    [[nodiscard]] std::optional<std::int64_t> Whole(std::size_t column) const {
+        if (sqlite3_value_type(values_[column]) != SQLITE_INTEGER) return std::nullopt;
+        return sqlite3_value_int64(values_[column]);
+    }
+    [[nodiscard]] std::optional<double> Number(std::size_t column) const {
+        const int type = sqlite3_value_type(values_[column]);
+        if (type != SQLITE_FLOAT && type != SQLITE_INTEGER) return std::nullopt;
+        return sqlite3_value_double(values_[column]);
+    }
+
+    /// The value in letters, whatever it is; Null is empty.
+    [[nodiscard]] std::string_view Letters(std::size_t column) const {
+        // The bytes are counted behind the conversion to UTF-8, not before.
+        const void* letters = sqlite3_value_text(values_[column]);
+        const int count = sqlite3_value_bytes(values_[column]);
+        return {static_cast<const char*>(letters), static_cast<std::size_t>(count)};
+    }
+
+  private:
+    sqlite3_value** values_;
+};
+
+/// Hands the given columns of every row of a table to `visit`, in the order of `order`, which must be that
+/// of the table itself. For tables of many rows: it takes half the time of a query that gives each row back.
+/// Throws DatabaseError, and what `visit` throws.
+void VisitRows(SQLite::Database& database, const std::string& table, const std::string& columns,
+               const std::string& order, const std::function<void(const RowView&)>& visit);
 
 /// The reason of an SQLite failure as a DatabaseError.
 DatabaseError ToDatabaseError(const SQLite::Exception& failure);

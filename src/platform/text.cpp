@@ -122,11 +122,6 @@ bool EqualNoCase(std::string_view a, std::string_view b) {
                       [](char x, char y) { return FoldLetter(x) == FoldLetter(y); });
 }
 
-bool LessNoCase(std::string_view a, std::string_view b) {
-    return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
-                                        [](char x, char y) { return FoldLetter(x) < FoldLetter(y); });
-}
-
 std::string_view TrimBlanks(std::string_view text) {
     constexpr std::string_view kBlanks = " \t\r\n";
     const std::size_t first = text.find_first_not_of(kBlanks);

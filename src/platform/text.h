@@ -13,9 +13,6 @@ constexpr char FoldLetter(char c) { return c >= 'A' && c <= 'Z' ? static_cast<ch
 /// Text comparison without regard to ASCII letter case, as names are compared everywhere.
 bool EqualNoCase(std::string_view a, std::string_view b);
 
-/// Strict order without regard to ASCII letter case.
-bool LessNoCase(std::string_view a, std::string_view b);
-
 std::string_view TrimBlanks(std::string_view text);
 
 /// True if the whole of `text` matches `pattern`, without regard to case. Wild cards: `*` any run of

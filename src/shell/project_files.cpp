@@ -115,12 +115,23 @@ bool ProjectFiles::OpenProject(const std::string& path) {
     return opened;
 }
 
+std::string ProjectFiles::ReadProject(const std::string& path) const {
+    const FileSystem& files = state_.host.files;
+    try {
+        return files.Read(path, kLargestProject);
+    } catch (const FileTooLarge&) {
+        // A large text is no project, rather than one too large.
+        if (files.ReadStart(path, kDatabaseMagic.size()) == kDatabaseMagic) throw;
+        throw DatabaseError("file is not a database", true);
+    }
+}
+
 bool ProjectFiles::LoadProject(const std::string& path) {
     CloseWorkCopyQuietly();
     const std::string failed = "Error loading from " + path + ": ";
     try {
         if (IsWorkCopy(path)) throw FileError("it is the program's own work copy");
-        WriteWorkCopy(state_.host.files.Read(path, kLargestProject));
+        WriteWorkCopy(ReadProject(path));
         OpenWorkCopy(true);
         NameProject(path);
         return true;

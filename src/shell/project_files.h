@@ -45,6 +45,7 @@ class ProjectFiles {
     void ReopenAfterFailedSave();
     void DiscardWorkCopy(const std::string& path);
     void WriteWorkCopy(const std::string& content);
+    [[nodiscard]] std::string ReadProject(const std::string& path) const;
     bool LoadProject(const std::string& path);
     [[nodiscard]] bool IsWorkCopy(const std::string& path) const;
     void NameProject(const std::string& path);

@@ -21,9 +21,17 @@ class ConfinedFiles : public NativeFileSystem {
         Check(path);
         return NativeFileSystem::Read(path, limit);
     }
+    [[nodiscard]] std::string ReadStart(const Path& path, std::size_t count) const override {
+        Check(path);
+        return NativeFileSystem::ReadStart(path, count);
+    }
     void Write(const Path& path, std::string_view content) override {
         Check(path);
         NativeFileSystem::Write(path, content);
+    }
+    void WritePrivate(const Path& path, std::string_view content) override {
+        Check(path);
+        NativeFileSystem::WritePrivate(path, content);
     }
     void Flush(const Path& path) override { Check(path); }
     void Rename(const Path& from, const Path& to) override {

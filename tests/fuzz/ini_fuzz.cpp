@@ -19,12 +19,15 @@ class MemoryFiles : public FileSystem {
         return files_.contains(path) ? FileKind::Regular : FileKind::Missing;
     }
     [[nodiscard]] std::string Read(const Path& path, std::size_t limit) const override {
-        const auto file = files_.find(path);
-        if (file == files_.end()) throw FileError("No such file or directory");
-        if (file->second.size() > limit) throw FileError("File too large");
-        return file->second;
+        const std::string& content = Content(path);
+        if (content.size() > limit) throw FileTooLarge();
+        return content;
+    }
+    [[nodiscard]] std::string ReadStart(const Path& path, std::size_t count) const override {
+        return Content(path).substr(0, count);
     }
     void Write(const Path& path, std::string_view content) override { files_[path] = content; }
+    void WritePrivate(const Path& path, std::string_view content) override { Write(path, content); }
     void Flush(const Path& /*path*/) override {}
     void Rename(const Path& from, const Path& to) override {
         files_[to] = files_.at(from);
@@ -37,6 +40,12 @@ class MemoryFiles : public FileSystem {
     [[nodiscard]] Path Resolve(const Path& path) const override { return path; }
 
   private:
+    [[nodiscard]] const std::string& Content(const Path& path) const {
+        const auto file = files_.find(path);
+        if (file == files_.end()) throw FileError("No such file or directory");
+        return file->second;
+    }
+
     std::map<Path, std::string> files_;
 };
 

@@ -18,12 +18,25 @@ std::string FaultyFileSystem::Read(const Path& path, std::size_t limit) const {
     return inner_.Read(path, limit);
 }
 
+std::string FaultyFileSystem::ReadStart(const Path& path, std::size_t count) const {
+    CountOrFail();
+    return inner_.ReadStart(path, count);
+}
+
 void FaultyFileSystem::Write(const Path& path, std::string_view content) {
     if (GoesWrong()) {
         if (plan_.bytes > 0) inner_.Write(path, content.substr(0, plan_.bytes));
         Fail();
     }
     inner_.Write(path, content);
+}
+
+void FaultyFileSystem::WritePrivate(const Path& path, std::string_view content) {
+    if (GoesWrong()) {
+        if (plan_.bytes > 0) inner_.WritePrivate(path, content.substr(0, plan_.bytes));
+        Fail();
+    }
+    inner_.WritePrivate(path, content);
 }
 
 void FaultyFileSystem::Flush(const Path& path) {

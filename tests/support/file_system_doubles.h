@@ -15,7 +15,7 @@ class FaultyFileSystem : public FileSystem {
         /// Which operation goes wrong, counted from 0; -1 for none. What comes after it works again.
         int operation = -1;
 
-        /// If it is a Write, so many bytes of the content reach the file first, as on a disk that runs
+        /// If it writes, so many bytes of the content reach the file first, as on a disk that runs
         /// full. With 0 the file is not touched.
         std::size_t bytes = 0;
 
@@ -34,7 +34,9 @@ class FaultyFileSystem : public FileSystem {
 
     [[nodiscard]] FileKind Kind(const Path& path) const override { return inner_.Kind(path); }
     [[nodiscard]] std::string Read(const Path& path, std::size_t limit) const override;
+    [[nodiscard]] std::string ReadStart(const Path& path, std::size_t count) const override;
     void Write(const Path& path, std::string_view content) override;
+    void WritePrivate(const Path& path, std::string_view content) override;
     void Flush(const Path& path) override;
     void Rename(const Path& from, const Path& to) override;
     void Remove(const Path& path) override;

@@ -3,11 +3,13 @@
 #include <stdlib.h>  // NOLINT(modernize-deprecated-headers): mkdtemp
 
 #include <algorithm>
-#include <cstdint>
+#include <cstddef>
 #include <fstream>
-#include <iterator>
+#include <functional>
+#include <sstream>
 #include <stdexcept>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 namespace kelvor::test {
@@ -33,7 +35,9 @@ TestHome::TestHome() {
 std::string ReadFile(const Path& path) {
     std::ifstream file(path, std::ios::binary);
     if (!file) throw std::runtime_error("cannot read " + path.string());
-    return {std::istreambuf_iterator<char>(file), {}};
+    std::ostringstream content;
+    content << file.rdbuf();
+    return std::move(content).str();
 }
 
 void WriteFile(const Path& path, const std::string& content) {
@@ -47,10 +51,7 @@ std::string Checksum(const Path& folder) {
     for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
         std::string line = entry.path().lexically_relative(folder).string();
         if (entry.is_regular_file()) {
-            std::uint64_t hash = 14695981039346656037ULL;
-            for (const char c : ReadFile(entry.path())) {
-                hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211ULL;
-            }
+            const std::size_t hash = std::hash<std::string>()(ReadFile(entry.path()));
             line += " " + std::to_string(entry.file_size()) + " " + std::to_string(hash);
         }
         lines.push_back(line);

@@ -1,8 +1,13 @@
 #include "make_data/database_maker.h"
 
 #include <algorithm>
+#include <cmath>
+#include <cstdint>
 #include <functional>
+#include <limits>
+#include <set>
 #include <string>
+#include <system_error>
 #include <vector>
 
 #include "catalogue/schema.h"
@@ -32,11 +37,29 @@ std::size_t ColumnOf(const TextTable& table, std::string_view column) {
     return static_cast<std::size_t>(found - table.columns.begin());
 }
 
+[[noreturn]] void RefuseCell(const TextTable& table, const std::string& cell, const char* fault) {
+    throw TextTableError(table.name + ": \"" + cell + "\" " + fault);
+}
+
+/// What a cell holds that must hold a number.
+double Number(const TextTable& table, const std::string& cell) {
+    if (!IsNumeric(cell)) RefuseCell(table, cell, "is no number");
+    return ParseNumber(cell);
+}
+
+/// What a cell holds that must hold a whole number, of a size that the program reads.
+int Whole(const TextTable& table, const std::string& cell) {
+    const double number = Number(table, cell);
+    if (std::trunc(number) != number) RefuseCell(table, cell, "is no whole number");
+    if (std::fabs(number) > std::numeric_limits<std::int16_t>::max()) {
+        RefuseCell(table, cell, "is too large");
+    }
+    return static_cast<int>(number);
+}
+
 /// A cell that must hold a whole number, or be Null for `otherwise`.
 int WholeCell(const TextTable& table, const std::optional<std::string>& cell, int otherwise) {
-    if (!cell) return otherwise;
-    if (!IsNumeric(*cell)) throw TextTableError(table.name + ": \"" + *cell + "\" is no number");
-    return static_cast<int>(ParseNumber(*cell));
+    return cell ? Whole(table, *cell) : otherwise;
 }
 
 /// A new database, made in one transaction. Nothing of the moment or the machine goes into it.
@@ -60,10 +83,11 @@ void BindCell(SQLite::Statement& insert, int place, const ColumnDefinition& colu
     if (!cell) return;
     if (column.type.starts_with("TEXT")) {
         insert.bind(place, *cell);
-        return;
+    } else if (column.type.starts_with("INTEGER")) {
+        insert.bind(place, Whole(table, *cell));
+    } else {
+        insert.bind(place, Number(table, *cell));
     }
-    if (!IsNumeric(*cell)) throw TextTableError(table.name + ": \"" + *cell + "\" is no number");
-    insert.bind(place, ParseNumber(*cell));
 }
 
 std::string InsertStatement(const TableDefinition& definition) {
@@ -88,19 +112,33 @@ void FillTable(SQLite::Database& database, const TableDefinition& definition, co
     }
 }
 
+/// A help text without a variable would never be shown: its name is misspelt.
+void CheckHelpFiles(const Path& helpFolder, const std::set<std::string>& variables) {
+    std::error_code missing;
+    for (const auto& entry : std::filesystem::directory_iterator(helpFolder, missing)) {
+        const Path& file = entry.path();
+        if (file.extension() != ".txt" || variables.contains(file.stem().string())) continue;
+        throw TextTableError(file.filename().string() + ": there is no variable " + file.stem().string());
+    }
+}
+
 /// The variables with their help texts, each of which is a file of its own.
 TextTable ReadVariables(const Path& folder) {
     TextTable table = ReadTable(folder, "Variable");
     const std::size_t name = ColumnOf(table, "Name");
     table.columns.emplace_back("HelpText");
     const NativeFileSystem files;
+    std::set<std::string> variables;
     for (auto& row : table.rows) {
-        const Path help = folder / "help" / (row[name].value_or("") + ".txt");
+        const std::string variable = row[name].value_or("");
+        const Path help = folder / "help" / (variable + ".txt");
         std::optional<std::string> text;
         if (files.Kind(help) == FileKind::Regular) text = files.Read(help, kLargestTable);
         while (text && text->ends_with('\n')) text->pop_back();
         row.push_back(text);
+        variables.insert(variable);
     }
+    CheckHelpFiles(folder / "help", variables);
     return table;
 }
 
@@ -132,7 +170,7 @@ void FillDefaults(SQLite::Database& database, const TextTable& defaults) {
         const auto cell = [&](const char* column) { return row[ColumnOf(defaults, column)]; };
         update.reset();
         update.clearBindings();
-        if (const auto number = cell("RValue")) update.bind(1, ParseNumber(*number));
+        if (const auto number = cell("RValue")) update.bind(1, Number(defaults, *number));
         if (const auto text = cell("SValue")) update.bind(2, *text);
         update.bind(3, cell("Name").value_or(""));
         update.bind(4, WholeCell(defaults, cell("Dim1"), 1));

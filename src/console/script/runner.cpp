@@ -182,6 +182,9 @@ constexpr std::array kCommands = {
 constexpr std::array<std::string_view, 7> kAwaitedCommands = {"chart",   "report", "print", "previews",
                                                               "preview", "export", "table"};
 
+/// Some editors begin a UTF-8 text with it. It is no part of the first command.
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
 const Command& FindCommand(const std::string& name) {
     static constexpr Command kAwaited{"", 0, kAnyNumber, NotAvailableYet};
     const auto command =
@@ -213,6 +216,7 @@ void RunLine(const std::string& line, Driver& driver, Output& output) {
 ScriptEnd RunScript(std::istream& script, Driver& driver, Output& output, std::ostream& errors) {
     std::string line;
     for (int number = 1; !driver.HasEnded() && std::getline(script, line); ++number) {
+        if (number == 1 && line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());
         try {
             RunLine(line, driver, output);
         } catch (const ScriptError& error) {

@@ -16,6 +16,7 @@ constexpr std::size_t kUsualCells = 100'000;
 
 /// Below, at or above 0 as `a` stands before, with or after `b` in the work copy's order of names.
 int CompareNames(std::string_view a, std::string_view b) {
+    if (a == b) return 0;  // as most names of a work copy are with the one before
     const auto [x, y] = std::mismatch(a.begin(), a.end(), b.begin(), b.end(),
                                       [](char c, char d) { return FoldLetter(c) == FoldLetter(d); });
     if (x == a.end() || y == b.end()) return static_cast<int>(x != a.end()) - static_cast<int>(y != b.end());
@@ -51,45 +52,50 @@ void ProjectStore::Load(const std::vector<CellBounds>& bounds) {
     cells_.reserve(std::min(expected, kUsualCells));  // a damaged catalogue may ask for any number
     variables_.reserve(bounds.size());
     byName_.reserve(bounds.size());
-    workCopy_->ReadRows([this](CellKey key, CellValue value) { AddCell(std::move(key), std::move(value)); });
+    workCopy_->ReadRows([this](const WorkCopy::Row& row) { AddCell(row); });
     MarkBlocks();
     for (const CellBounds& variable : bounds) CheckBounds(variable);
 }
 
-void ProjectStore::AddCell(CellKey key, CellValue value) {
+void ProjectStore::AddCell(const WorkCopy::Row& row) {
     // The rows come in key order, so a variable's cells follow each other. In a damaged work copy that has
     // them in another order no change would find its row.
-    const int order = variables_.empty() ? 1 : CompareNames(key.name, variables_.back().name);
+    const int order = variables_.empty() ? 1 : CompareNames(row.name, variables_.back().name);
     if (order < 0 ||
-        (order == 0 && std::pair(key.dim1, key.dim2) <= std::pair(cells_.back().dim1, cells_.back().dim2))) {
+        (order == 0 && std::pair(row.dim1, row.dim2) <= std::pair(cells_.back().dim1, cells_.back().dim2))) {
         throw DatabaseError("rows out of order", false);
     }
     if (order > 0) {
-        byName_.emplace(key.name, static_cast<std::uint32_t>(variables_.size()));
-        variables_.push_back({std::move(key.name), static_cast<std::uint32_t>(cells_.size()), 0, 0});
+        byName_.emplace(row.name, static_cast<std::uint32_t>(variables_.size()));
+        variables_.push_back({std::string(row.name), static_cast<std::uint32_t>(cells_.size()), 0, 0});
     }
     ++variables_.back().count;
-    cells_.push_back(
-        {static_cast<std::uint32_t>(variables_.size() - 1), key.dim1, key.dim2, std::move(value), false});
+    Cell& cell = cells_.emplace_back();
+    cell.variable = static_cast<std::uint32_t>(variables_.size() - 1);
+    cell.dim1 = row.dim1;
+    cell.dim2 = row.dim2;
+    if (row.value.IsFilled()) cell.value = row.value;
 }
 
 void ProjectStore::MarkBlocks() {
     for (Variable& variable : variables_) {
         const int width = cells_[variable.first + variable.count - 1].dim2;
+        std::pair<int, int> expected(1, 1);
         bool full = true;
         for (std::uint32_t i = 0; full && i < variable.count; ++i) {
             const Cell& cell = cells_[variable.first + i];
-            const int place = static_cast<int>(i);
-            full = cell.dim1 == place / width + 1 && cell.dim2 == place % width + 1;
+            full = std::pair(cell.dim1, cell.dim2) == expected;
+            expected = cell.dim2 < width ? std::pair(cell.dim1, cell.dim2 + 1) : std::pair(cell.dim1 + 1, 1);
         }
         variable.width = full ? width : 0;
     }
 }
 
 void ProjectStore::CheckBounds(const CellBounds& bounds) const {
+    const Variable* variable = FindVariable(bounds.name);
     for (int dim1 = 1; dim1 <= bounds.dim1; ++dim1) {
         for (int dim2 = 1; dim2 <= bounds.dim2; ++dim2) {
-            if (!Index(bounds.name, dim1, dim2)) {
+            if (variable == nullptr || !Index(*variable, dim1, dim2)) {
                 throw DatabaseError("cell " + CellText(bounds.name, dim1, dim2) + " is missing", false);
             }
         }
@@ -128,14 +134,18 @@ const ProjectStore::Variable* ProjectStore::FindVariable(std::string_view name) 
 
 std::optional<std::uint32_t> ProjectStore::Index(std::string_view name, int dim1, int dim2) const {
     const Variable* variable = FindVariable(name);
-    if (variable == nullptr || dim1 < 1 || dim2 < 1) return std::nullopt;
-    if (variable->width > 0) {
-        const std::int64_t place = std::int64_t{dim1 - 1} * variable->width + dim2 - 1;
-        if (dim2 > variable->width || place >= variable->count) return std::nullopt;
-        return variable->first + static_cast<std::uint32_t>(place);
+    return variable == nullptr ? std::nullopt : Index(*variable, dim1, dim2);
+}
+
+std::optional<std::uint32_t> ProjectStore::Index(const Variable& variable, int dim1, int dim2) const {
+    if (dim1 < 1 || dim2 < 1) return std::nullopt;
+    if (variable.width > 0) {
+        const std::int64_t place = std::int64_t{dim1 - 1} * variable.width + dim2 - 1;
+        if (dim2 > variable.width || place >= variable.count) return std::nullopt;
+        return variable.first + static_cast<std::uint32_t>(place);
     }
-    const auto begin = cells_.begin() + variable->first;
-    const auto end = begin + variable->count;
+    const auto begin = cells_.begin() + variable.first;
+    const auto end = begin + variable.count;
     const auto cell = std::lower_bound(
         begin, end, std::pair(dim1, dim2),
         [](const Cell& c, const std::pair<int, int>& key) { return std::pair(c.dim1, c.dim2) < key; });
@@ -264,11 +274,11 @@ void ProjectStore::ForEachFilled(const std::function<void(const CellKey&, const 
 std::vector<std::string> ProjectStore::CompareWithWorkCopy() {
     std::vector<std::string> differences;
     std::size_t rows = 0;
-    workCopy_->ReadRows([&](const CellKey& key, const CellValue& value) {
+    workCopy_->ReadRows([&](const WorkCopy::Row& row) {
         ++rows;
-        const CellValue* cell = FindCell(key.name, key.dim1, key.dim2);
-        if (cell == nullptr || !(*cell == value))
-            differences.push_back(CellText(key.name, key.dim1, key.dim2));
+        const CellValue* cell = FindCell(row.name, row.dim1, row.dim2);
+        if (cell == nullptr || !(*cell == row.value))
+            differences.push_back(CellText(row.name, row.dim1, row.dim2));
     });
     if (rows != cells_.size()) differences.emplace_back("number of rows");
     return differences;

@@ -147,11 +147,12 @@ class ProjectStore {
     };
 
     void Load(const std::vector<CellBounds>& bounds);
-    void AddCell(CellKey key, CellValue value);
+    void AddCell(const WorkCopy::Row& row);
     void MarkBlocks();
     void CheckBounds(const CellBounds& bounds) const;
 
     [[nodiscard]] const Variable* FindVariable(std::string_view name) const;
+    [[nodiscard]] std::optional<std::uint32_t> Index(const Variable& variable, int dim1, int dim2) const;
     [[nodiscard]] std::optional<std::uint32_t> Index(std::string_view name, int dim1, int dim2) const;
     [[nodiscard]] std::uint32_t RequireIndex(std::string_view name, int dim1, int dim2) const;
 

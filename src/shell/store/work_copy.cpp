@@ -3,7 +3,6 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
-#include <utility>
 
 #include "platform/sqlite.h"
 
@@ -45,22 +44,17 @@ SQLite::Database OpenProject(const Path& path, bool checkPages) {
     return database;
 }
 
-int Subscript(const SQLite::Column& column) {
-    const std::int64_t value = column.getInt64();
-    if (!column.isInteger() || value < 1 || value > std::numeric_limits<std::int16_t>::max()) {
+int Subscript(const RowView& row, std::size_t column) {
+    const std::int64_t value = row.Whole(column).value_or(0);
+    if (value < 1 || value > std::numeric_limits<std::int16_t>::max()) {
         throw DatabaseError("a cell has a subscript out of range", false);
     }
     return static_cast<int>(value);
 }
 
-std::optional<double> Number(const SQLite::Column& column) {
-    if (!column.isFloat() && !column.isInteger()) return std::nullopt;
-    const double value = column.getDouble();
-    return std::isfinite(value) ? std::optional(value) : std::nullopt;
-}
-
-std::optional<std::string> Text(const SQLite::Column& column) {
-    return column.isText() ? std::optional(column.getString()) : std::nullopt;
+std::optional<double> FiniteNumber(const RowView& row, std::size_t column) {
+    const std::optional<double> value = row.Number(column);
+    return value && std::isfinite(*value) ? value : std::nullopt;
 }
 
 void Run(const std::function<void()>& action) {
@@ -76,16 +70,18 @@ void Run(const std::function<void()>& action) {
 WorkCopy::WorkCopy(const Path& path, bool checkPages)
     : database_(OpenProject(path, checkPages)), update_(database_, kUpdate) {}
 
-void WorkCopy::ReadRows(const std::function<void(CellKey, CellValue)>& visit) {
-    Run([&] {
-        SQLite::Statement rows(
-            database_, "SELECT Name, Dim1, Dim2, RValue, SValue FROM Project ORDER BY Name, Dim1, Dim2");
-        while (rows.executeStep()) {
-            CellKey key{rows.getColumn(0).getString(), Subscript(rows.getColumn(1)),
-                        Subscript(rows.getColumn(2))};
-            visit(std::move(key), {Number(rows.getColumn(3)), Text(rows.getColumn(4))});
-        }
-    });
+void WorkCopy::ReadRows(const std::function<void(const Row&)>& visit) {
+    Row row;
+    VisitRows(database_, "Project", "Name, Dim1, Dim2, RValue, SValue", "Name, Dim1, Dim2",
+              [&](const RowView& columns) {
+                  row.name = columns.Letters(0);
+                  row.dim1 = Subscript(columns, 1);
+                  row.dim2 = Subscript(columns, 2);
+                  row.value.number = FiniteNumber(columns, 3);
+                  row.value.text.reset();
+                  if (columns.IsText(4)) row.value.text = columns.Letters(4);
+                  visit(row);
+              });
 }
 
 void WorkCopy::Update(std::string_view name, int dim1, int dim2, const CellValue& value) {

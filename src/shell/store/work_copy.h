@@ -41,8 +41,16 @@ class WorkCopy {
     /// damage, as is due for a file from outside.
     WorkCopy(const Path& path, bool checkPages);
 
+    /// A row, while it is visited.
+    struct Row {
+        std::string_view name;
+        int dim1 = 1;
+        int dim2 = 1;
+        CellValue value;
+    };
+
     /// Calls `visit` for each row in key order. A number that is none, NaN or infinite counts as Null.
-    void ReadRows(const std::function<void(CellKey, CellValue)>& visit);
+    void ReadRows(const std::function<void(const Row&)>& visit);
 
     void Update(std::string_view name, int dim1, int dim2, const CellValue& value);
 

@@ -4,11 +4,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <map>
 #include <string>
 
 #include "catalogue/list_database.h"
 #include "catalogue_checks.h"
 #include "make_data/database_maker.h"
+#include "make_data/text_table.h"
 #include "shell/calculations.h"
 #include "support/test_home.h"
 
@@ -20,6 +22,7 @@ using testing::IsEmpty;
 using testing::StartsWith;
 
 const Path kData = Path(KELVOR_SOURCE_FOLDER) / "data";
+const char* const kDefaultColumns = "Name\tDim1\tDim2\tRValue\tSValue";
 
 class CatalogueTest : public testing::Test {
   protected:
@@ -224,11 +227,73 @@ TEST(MakeDatabasesTest, TheBoundsOfTheArraysStand) {
     }
 }
 
-TEST(MakeDatabasesTest, ADefaultForACellThatIsNoneIsRefused) {
-    TemporaryFolder folder;
-    std::filesystem::copy(kData, folder / "data", std::filesystem::copy_options::recursive);
-    WriteFile(folder / "data/template/defaults.tsv", "Name\tDim1\tDim2\tRValue\tSValue\nNOSUCH\t1\t1\t5\t\n");
-    EXPECT_ANY_THROW(MakeTemplate(folder / "data", folder / "kvrwork.tpl"));
+/// A copy of the text tables, to be broken in one place.
+class BrokenTablesTest : public testing::Test {
+  protected:
+    BrokenTablesTest() {
+        std::filesystem::copy(kData, folder_ / "data", std::filesystem::copy_options::recursive);
+    }
+
+    /// Replaces a table below data/ by one of a single row.
+    void WriteTable(const std::string& file, const std::string& columns, const std::string& row) {
+        WriteFile(folder_ / ("data/" + file), columns + "\n" + row + "\n");
+    }
+
+    /// Why the databases cannot be made; empty if they can.
+    std::string Fault() {
+        try {
+            MakeDatabases(folder_ / "data", folder_ / "home");
+            return {};
+        } catch (const TextTableError& failure) {
+            return failure.what();
+        }
+    }
+
+    TemporaryFolder folder_;
+};
+
+TEST_F(BrokenTablesTest, ADefaultForACellThatIsNoneIsRefused) {
+    EXPECT_EQ(Fault(), "");
+    WriteTable("template/defaults.tsv", kDefaultColumns, "NOSUCH\t1\t1\t5\t");
+    EXPECT_EQ(Fault(), "defaults.tsv: no cell NOSUCH");
+}
+
+TEST_F(BrokenTablesTest, ADefaultThatIsNoNumberIsRefused) {
+    WriteTable("template/defaults.tsv", kDefaultColumns, "SN\t1\t1\tfive\t");
+    EXPECT_EQ(Fault(), "defaults.tsv: \"five\" is no number");
+}
+
+TEST_F(BrokenTablesTest, ASubscriptThatIsNoWholeNumberIsRefused) {
+    for (const auto& [subscript, fault] : std::map<std::string, std::string>{
+             {"2.5", "is no whole number"}, {"one", "is no number"}, {"40000", "is too large"}}) {
+        WriteTable("template/defaults.tsv", kDefaultColumns, "LDLayerNumber\t" + subscript + "\t1\t5\t");
+        EXPECT_EQ(Fault(), "defaults.tsv: \"" + subscript + "\" " + fault);
+    }
+    WriteTable("template/defaults.tsv", kDefaultColumns, "LDLayerNumber\t2.0\t1\t5\t");
+    EXPECT_EQ(Fault(), "");
+}
+
+TEST_F(BrokenTablesTest, ABoundOrAnOrderThatIsNoWholeNumberIsRefused) {
+    const auto makeTemplate = [this] { MakeTemplate(folder_ / "data", folder_ / "kvrwork.tpl"); };
+    const std::string variables = ReadFile(folder_ / "data/catalogue/Variable.tsv");
+    std::string broken = variables;
+    const std::size_t bounds = broken.find("\t6\t1\t");
+    ASSERT_NE(bounds, std::string::npos);
+    WriteFile(folder_ / "data/catalogue/Variable.tsv", broken.replace(bounds, 3, "\t2.5\t"));
+    EXPECT_EQ(Fault(), "Variable.tsv: \"2.5\" is no whole number");
+    EXPECT_THROW(makeTemplate(), TextTableError);
+    WriteFile(folder_ / "data/catalogue/Variable.tsv", variables);
+    WriteTable("catalogue/RecentFiles.tsv", "FileName\tOpenDate\tSortOrder", "\t\t2.5");
+    EXPECT_EQ(Fault(), "RecentFiles.tsv: \"2.5\" is no whole number");
+}
+
+TEST_F(BrokenTablesTest, AHelpTextWithoutItsVariableIsRefused) {
+    std::filesystem::rename(folder_ / "data/catalogue/help/SN.txt", folder_ / "data/catalogue/help/SNN.txt");
+    EXPECT_EQ(Fault(), "SNN.txt: there is no variable SNN");
+    std::filesystem::rename(folder_ / "data/catalogue/help/SNN.txt", folder_ / "data/catalogue/help/sn.txt");
+    EXPECT_EQ(Fault(), "sn.txt: there is no variable sn");
+    std::filesystem::remove(folder_ / "data/catalogue/help/sn.txt");
+    EXPECT_EQ(Fault(), "") << "a variable may have no help text";
 }
 
 TEST(ListDatabaseTest, AListComesInItsOrder) {

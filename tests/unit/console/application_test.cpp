@@ -202,6 +202,19 @@ TEST_F(ConsoleTest, AnEmptyScriptIsStatusZero) {
     }
 }
 
+TEST_F(ConsoleTest, AByteOrderMarkBeforeTheFirstCommandIsSkippedAndNowhereElse) {
+    const std::string mark = "\xEF\xBB\xBF";
+    const std::string answer = R"({"cell":{"name":"SN","dim1":1,"dim2":1,"rvalue":4.5,"svalue":"4.5"}})";
+    EXPECT_EQ(Report(Obey(mark + "set SN 4.5\nget SN\n")), "0\n" + answer + "\n");
+    EXPECT_EQ(Report(Obey(mark + "# a comment\nset SN 4.5\nget SN\n")), "0\n" + answer + "\n");
+    EXPECT_EQ(Report(Obey(mark)), "0\n");
+    WriteFile(File("marked.kvs"), mark + "set SN 4.5\r\nget SN\r\n");
+    EXPECT_EQ(Report(Obey("", {"--script", File("marked.kvs")})), "0\n" + answer + "\n");
+    EXPECT_EQ(Report(Obey("set SN 4.5\n" + mark + "get SN\n")),
+              "2\nline 2: " + mark + "get: unknown command\n");
+    EXPECT_EQ(Report(Obey(mark + mark + "get SN\n")), "2\nline 1: " + mark + "get: unknown command\n");
+}
+
 // --- The start -----------------------------------------------------------------------------------
 
 TEST_F(ConsoleTest, AStartThatFailsGivesItsMessageAndStatusOne) {

@@ -20,7 +20,9 @@ class FaultyFileSystemTest : public testing::Test {
     [[nodiscard]] std::vector<std::function<void(FileSystem&)>> Operations() const {
         return {
             [this](FileSystem& files) { (void)files.Read(file_, 100); },
+            [this](FileSystem& files) { (void)files.ReadStart(file_, 2); },
             [this](FileSystem& files) { files.Write(folder_ / "written", "content"); },
+            [this](FileSystem& files) { files.WritePrivate(folder_ / "private", "content"); },
             [this](FileSystem& files) { files.Flush(file_); },
             [this](FileSystem& files) { files.MakeDirectory(folder_ / "made"); },
             [this](FileSystem& files) { files.CopyPermissions(file_, file_); },
@@ -83,6 +85,9 @@ TEST_F(FaultyFileSystemTest, AFullDiskTakesTheFirstBytes) {
     FaultyFileSystem all(native_, {.operation = 0, .bytes = 100});
     EXPECT_THROW(all.Write(file_, "content"), FileError);
     EXPECT_EQ(ReadFile(file_), "content");
+    FaultyFileSystem secret(native_, {.operation = 0, .bytes = 3});
+    EXPECT_THROW(secret.WritePrivate(file_, "secret"), FileError);
+    EXPECT_EQ(ReadFile(file_), "sec");
 }
 
 using FaultyFileSystemDeathTest = FaultyFileSystemTest;

@@ -71,6 +71,7 @@ TEST_F(FileSystemTest, AFileIsReadUpToTheLimit) {
     EXPECT_EQ(files_.Read(file_, 7), "content");
     EXPECT_EQ(Failure([&] { (void)files_.Read(file_, 6); }), Reason(EFBIG));
     EXPECT_EQ(Failure([&] { (void)files_.Read(file_, 0); }), Reason(EFBIG));
+    EXPECT_THROW((void)files_.Read(file_, 6), FileTooLarge);
     EXPECT_EQ(files_.Read(folder_ / "link", 7), "content");
     WriteFile(file_, "");
     EXPECT_EQ(files_.Read(file_, 0), "");
@@ -78,6 +79,18 @@ TEST_F(FileSystemTest, AFileIsReadUpToTheLimit) {
     for (int i = 0; i < 1000000; ++i) bytes.push_back(static_cast<char>(i * 7 % 256));
     WriteFile(file_, bytes);
     EXPECT_EQ(files_.Read(file_, 1000000), bytes);
+}
+
+TEST_F(FileSystemTest, TheStartOfAFileOfAnySizeIsRead) {
+    EXPECT_EQ(files_.ReadStart(file_, 3), "con");
+    EXPECT_EQ(files_.ReadStart(file_, 7), "content");
+    EXPECT_EQ(files_.ReadStart(file_, 1000), "content");
+    EXPECT_EQ(files_.ReadStart(file_, 0), "");
+    EXPECT_EQ(files_.ReadStart(folder_ / "link", 3), "con");
+    WriteFile(file_, "");
+    EXPECT_EQ(files_.ReadStart(file_, 3), "");
+    std::filesystem::resize_file(file_, 8UL * 1024 * 1024 * 1024);  // takes no room: nothing stands in it
+    EXPECT_EQ(files_.ReadStart(file_, 3), std::string(3, '\0'));
 }
 
 TEST_F(FileSystemTest, WhatIsNoRegularFileIsNotRead) {
@@ -88,6 +101,10 @@ TEST_F(FileSystemTest, WhatIsNoRegularFileIsNotRead) {
     // Nobody writes into the pipe: a reader that waited would wait forever.
     EXPECT_EQ(Failure([&] { (void)files_.Read(folder_ / "pipe", 10); }), "Not a regular file");
     EXPECT_EQ(Failure([&] { (void)files_.Read("/dev/zero", 10); }), "Not a regular file");
+    EXPECT_EQ(Failure([&] { (void)files_.ReadStart(folder_ / "none", 10); }), Reason(ENOENT));
+    EXPECT_EQ(Failure([&] { (void)files_.ReadStart(folder_.path(), 10); }), Reason(EISDIR));
+    EXPECT_EQ(Failure([&] { (void)files_.ReadStart(folder_ / "pipe", 10); }), "Not a regular file");
+    EXPECT_EQ(Failure([&] { (void)files_.ReadStart("/dev/zero", 10); }), "Not a regular file");
 }
 
 TEST_F(FileSystemTest, AFileIsMadeOrEmptiedAndWritten) {
@@ -103,6 +120,35 @@ TEST_F(FileSystemTest, AFileIsMadeOrEmptiedAndWritten) {
     const std::string zeros("a\0b\0", 4);
     files_.Write(file_, zeros);
     EXPECT_EQ(ReadFile(file_), zeros);
+}
+
+/// The umask of a user who lets everybody read and write.
+class OpenUmask {
+  public:
+    OpenUmask() : former_(::umask(0)) {}
+    OpenUmask(const OpenUmask&) = delete;
+    OpenUmask& operator=(const OpenUmask&) = delete;
+    ~OpenUmask() { ::umask(former_); }
+
+  private:
+    mode_t former_;
+};
+
+TEST_F(FileSystemTest, APrivateFileIsOpenToItsOwnerAloneWhateverStoodThere) {
+    const OpenUmask open;
+    const Path target = folder_ / "private";
+    files_.WritePrivate(target, "abc");
+    EXPECT_EQ(ReadFile(target), "abc");
+    EXPECT_EQ(std::filesystem::status(target).permissions(), perms(0600));
+    std::filesystem::permissions(target, perms(0666));
+    files_.WritePrivate(target, "x");
+    EXPECT_EQ(ReadFile(target), "x");
+    EXPECT_EQ(std::filesystem::status(target).permissions(), perms(0600));
+    files_.WritePrivate(folder_ / "link", "in the place of the link");
+    EXPECT_FALSE(std::filesystem::is_symlink(folder_ / "link"));
+    EXPECT_EQ(ReadFile(file_), "content");
+    EXPECT_EQ(Failure([&] { files_.WritePrivate(folder_ / "none" / "file", "x"); }), Reason(ENOENT));
+    EXPECT_NE(Failure([&] { files_.WritePrivate(folder_.path(), "x"); }), "");
 }
 
 TEST_F(FileSystemTest, WhatCannotBeWrittenHasAReason) {
@@ -361,6 +407,22 @@ TEST_F(ReplaceFileDeathTest, AKillAtAnyMomentLeavesTheOldFileOrTheNewOneWhole) {
         // What the killed process left behind is in nobody's way.
         ReplaceFile(files_, target_, new_);
         EXPECT_EQ(ReadFile(target_), new_) << operation;
+    }
+}
+
+TEST_F(ReplaceFileDeathTest, WhatAPrivateFileGetsIsAtNoMomentOpenToOthers) {
+    const OpenUmask open;
+    std::filesystem::create_directory(folder_ / "private");
+    const Path target = folder_ / "private" / "target";
+    WriteFile(target, old_);
+    std::filesystem::permissions(target, perms(0600));
+    const int operations = OperationsFor(target);
+    for (int operation = 0; operation < operations; ++operation) {
+        FaultyFileSystem killing(files_, {.operation = operation, .bytes = 5, .kill = true});
+        EXPECT_EXIT(ReplaceFile(killing, target, new_), testing::KilledBySignal(SIGKILL), "");
+        for (const auto& entry : std::filesystem::directory_iterator(folder_ / "private")) {
+            EXPECT_EQ(entry.status().permissions(), perms(0600)) << operation << " " << entry.path();
+        }
     }
 }
 

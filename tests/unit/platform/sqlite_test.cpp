@@ -4,8 +4,10 @@
 #include <sqlite3.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -266,6 +268,79 @@ TEST_F(SqliteTest, EveryTableOfAShapeIsLookedAt) {
     EXPECT_THROW(CheckShape(database, {{"First", {"C"}}, {"Second", {"B"}}}, true), DatabaseError);
     EXPECT_THROW(CheckShape(database, {{"First", {"A"}}}, true), DatabaseError);
     EXPECT_NO_THROW(CheckShape(database, {{"First", {"A"}}}, false));
+}
+
+// --- reading many rows ------------------------------------------------------------------------------
+
+TEST_F(SqliteTest, EveryRowIsVisitedInTheOrderOfItsTable) {
+    Make(
+        "CREATE TABLE Cell (Name TEXT COLLATE NOCASE, Place INTEGER, PRIMARY KEY (Name, Place)) WITHOUT "
+        "ROWID;"
+        "INSERT INTO Cell VALUES ('b', 2), ('C', 1), ('b', 1), ('A', 10), ('A', 9);"
+        "CREATE TABLE Line (Name TEXT PRIMARY KEY); INSERT INTO Line VALUES ('z'), ('y'), ('x')");
+    SQLite::Database database = OpenDatabase(file_, DatabaseAccess::ReadOnly);
+    std::vector<std::string> cells;
+    VisitRows(database, "Cell", "Name, Place", "Name, Place", [&](const RowView& row) {
+        cells.push_back(std::string(row.Letters(0)) + std::to_string(row.Whole(1).value_or(-1)));
+    });
+    EXPECT_EQ(cells, (std::vector<std::string>{"A9", "A10", "b1", "b2", "C1"}));
+    std::string lines;
+    VisitRows(database, "Line", "Name", "rowid", [&](const RowView& row) { lines += row.Letters(0); });
+    EXPECT_EQ(lines, "zyx") << "as they were inserted, not as the index of the key has them";
+}
+
+TEST_F(SqliteTest, AVisitedValueIsWhatItIs) {
+    Make(
+        "CREATE TABLE Cell (Value); INSERT INTO Cell VALUES (7), (2.5), ('7'), (NULL), (x'4142'), ('a' || "
+        "char(0) || 'b'), (9223372036854775807)");
+    SQLite::Database database = OpenDatabase(file_, DatabaseAccess::ReadOnly);
+    std::vector<std::optional<std::int64_t>> wholes;
+    std::vector<std::optional<double>> numbers;
+    std::vector<std::string> letters;
+    std::vector<bool> texts;
+    VisitRows(database, "Cell", "Value", "rowid", [&](const RowView& row) {
+        wholes.push_back(row.Whole(0));
+        numbers.push_back(row.Number(0));
+        texts.push_back(row.IsText(0));
+        letters.emplace_back(row.Letters(0));
+    });
+    constexpr auto kNone = std::nullopt;
+    EXPECT_EQ(wholes, (std::vector<std::optional<std::int64_t>>{7, kNone, kNone, kNone, kNone, kNone,
+                                                                9223372036854775807}));
+    EXPECT_EQ(numbers, (std::vector<std::optional<double>>{7.0, 2.5, kNone, kNone, kNone, kNone, 0x1p63}));
+    EXPECT_EQ(texts, (std::vector<bool>{false, false, true, false, false, true, false}));
+    EXPECT_EQ(letters, (std::vector<std::string>{"7", "2.5", "7", "", "AB", std::string("a\0b", 3),
+                                                 "9223372036854775807"}));
+}
+
+TEST_F(SqliteTest, WhatAVisitThrowsArrivesAndEndsTheVisit) {
+    MakeNumbers(100);
+    SQLite::Database database = OpenDatabase(file_, DatabaseAccess::ReadWrite);
+    int visited = 0;
+    const auto visitFive = [&] {
+        VisitRows(database, "Number", "Id", "rowid", [&](const RowView&) {
+            if (++visited == 5) throw std::out_of_range("enough");
+        });
+    };
+    EXPECT_THROW(visitFive(), std::out_of_range);
+    EXPECT_EQ(visited, 5);
+    visitFive();
+    EXPECT_EQ(visited, 105) << "another visit of the same database is whole";
+    EXPECT_EQ(database.exec("DELETE FROM Number"), 100) << "nothing is left open";
+}
+
+TEST_F(SqliteTest, ATableThatCannotBeVisitedIsAFailure) {
+    MakeNumbers(5000);
+    const auto visit = [&](const std::string& table, const std::string& column) {
+        SQLite::Database database = OpenDatabase(file_, DatabaseAccess::ReadOnly);
+        VisitRows(database, table, column, "rowid", [](const RowView&) {});
+    };
+    EXPECT_NO_THROW(visit("Number", "Id"));
+    EXPECT_THROW(visit("NoSuch", "Id"), DatabaseError);
+    EXPECT_THROW(visit("Number", "NoSuch"), DatabaseError);
+    std::string damaged = ReadFile(file_);
+    WriteFile(file_, damaged.replace(damaged.size() / 2 / 4096 * 4096, 4096, 4096, '\xA5'));
+    EXPECT_THROW(visit("Number", "Text"), DatabaseError);
 }
 
 TEST_F(SqliteTest, AFailureOfTheLibraryBecomesAReason) {

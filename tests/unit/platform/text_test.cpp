@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <random>
 #include <string>
 #include <string_view>
@@ -284,23 +283,6 @@ TEST(TextTest, TextsAreEqualWithoutRegardToCase) {
             EXPECT_EQ(NameHash()(row.a), NameHash()(row.b)) << row.a << " and " << row.b;
         }
     }
-}
-
-TEST(TextTest, TextsHaveOneOrderWithoutRegardToCase) {
-    // Each is less than all that follow.
-    constexpr std::array<std::string_view, 9> kAscending = {"",  "1",  "10", "2",      "_a",
-                                                            "A", "aB", "b",  "FLEXE18"};
-    for (std::size_t i = 0; i < kAscending.size(); ++i) {
-        for (std::size_t j = 0; j < kAscending.size(); ++j) {
-            EXPECT_EQ(LessNoCase(kAscending[i], kAscending[j]), i < j)
-                << kAscending[i] << " and " << kAscending[j];
-        }
-    }
-    EXPECT_FALSE(LessNoCase("ABC", "abc"));
-    EXPECT_FALSE(LessNoCase("abc", "ABC"));
-    EXPECT_TRUE(LessNoCase("ABC", "abd"));
-    EXPECT_TRUE(LessNoCase("abc", "ABD"));
-    EXPECT_TRUE(LessNoCase("ABC", "abcd"));
 }
 
 TEST(TextTest, FoldingTouchesTheCapitalsAlone) {

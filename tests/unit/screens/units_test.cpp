@@ -1,5 +1,6 @@
 #include "screens/units/units.h"
 
+#include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -28,6 +29,32 @@ TEST_F(UnitsTest, InEnglishEveryFactorIsOne) {
         EXPECT_EQ(units_.UnitFactor(pair.english), 1.0);
     }
     EXPECT_EQ(units_.UnitFactor("furlong"), 1.0);
+}
+
+TEST_F(UnitsTest, InEnglishACatalogueWithoutUnitPairsChangesNothing) {
+    const TestHome bareHome;
+    SQLite::Database((bareHome / "DataBase/Kelvor.mdb").string(), SQLite::OPEN_READWRITE)
+        .exec("DELETE FROM \"Convert\"");
+    TestHost bareHost;
+    Program bare(bareHost.host(), bareHome.home());
+    ASSERT_EQ(bare.Start(""), StartResult::Running);
+    ASSERT_TRUE(bare.state().dbCatalogue->unitPairs().empty());
+    Units& bareUnits = *bare.state().units;
+
+    for (const UnitPair& pair : program_.program.state().dbCatalogue->unitPairs()) {
+        EXPECT_EQ(bareUnits.UnitFactor(pair.english), 1.0) << pair.english;
+        EXPECT_EQ(bareUnits.UnitFactor(pair.metric), 1.0) << pair.metric;
+    }
+    EXPECT_EQ(bareUnits.UnitFactor("furlong"), 1.0);
+    EXPECT_EQ(bareUnits.UnitFactor(""), 1.0);
+    for (const Variable& variable : program_.program.state().dbCatalogue->variables()) {
+        SCOPED_TRACE(variable.name);
+        units_.SetDisplayValue(variable.name, 1, 1, "12.7");
+        bareUnits.SetDisplayValue(variable.name, 1, 1, "12.7");
+        EXPECT_EQ(*bare.state().dbWork.FindCell(variable.name, 1, 1), Cell(variable.name));
+        EXPECT_EQ(bareUnits.GetDisplayValue(variable.name), units_.GetDisplayValue(variable.name));
+        EXPECT_EQ(bareUnits.UnitLabel(variable.name), units_.UnitLabel(variable.name));
+    }
 }
 
 TEST_F(UnitsTest, InMetricTheFactorIsThatOfThePair) {

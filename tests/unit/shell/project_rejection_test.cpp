@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 
 #include "unit/shell/child_process.h"
@@ -18,6 +19,7 @@ using testing::MatchesRegex;
 using testing::StartsWith;
 
 constexpr std::size_t kPageSize = 4096;
+constexpr std::uintmax_t kAboveAnyProject = 64UL * 1024 * 1024 + 1;
 
 /// Makes a file that is no project. It stands as a copy of a good project when this is called.
 using Maker = std::function<void(const Path&)>;
@@ -71,9 +73,14 @@ std::vector<Rejected> OtherFiles() {
         {"one byte", Content("S"), kNotAKvorFile},
         {"noise", Content(std::string(8192, '\xA5')), kNotAKvorFile},
         {"another magic", Content("SQLite format 2" + std::string(4081, '\0')), kNotAKvorFile},
-        {"a file above any size",
-         [](const Path& path) { std::filesystem::resize_file(path, 64UL * 1024 * 1024 + 1); },
-         "File too large"},
+        {"a text above any size",
+         [](const Path& path) {
+             WriteFile(path, "Station\tThickness\n");
+             std::filesystem::resize_file(path, kAboveAnyProject);
+         },
+         kNotAKvorFile},
+        {"a database above any size",
+         [](const Path& path) { std::filesystem::resize_file(path, kAboveAnyProject); }, "File too large"},
         {"no file", instead([](const Path& /*path*/) {}), "No such file or directory"},
         {"a folder", instead([](const Path& path) { std::filesystem::create_directory(path); }),
          "Is a directory"},

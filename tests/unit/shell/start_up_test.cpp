@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <functional>
 
 #include "unit/shell/child_process.h"
@@ -26,6 +27,7 @@ struct Start {
     std::vector<Message> messages;
     bool waiting = false;
     bool projectOpen = false;
+    std::size_t formsOpen = 0;
     std::string projectFile;
     std::string caption;
     bool reportsUnavailable = false;
@@ -46,6 +48,7 @@ class StartUpTest : public testing::Test {
             start.messages = host.record.messages;
             start.waiting = host.dialogs.waiting();
             start.projectOpen = program.state().dbWork.IsOpen();
+            start.formsOpen = program.state().formRegistry.InOpeningOrder().size();
             start.projectFile = program.state().sProjectFile;
             start.caption = program.state().caption;
             start.reportsUnavailable = program.state().bReportsUnavailable;
@@ -86,6 +89,7 @@ TEST_F(StartUpTest, WithoutACommandLineAFreshProjectIsOpen) {
     EXPECT_EQ(start.result, StartResult::Running);
     EXPECT_THAT(start.messages, IsEmpty());
     EXPECT_TRUE(start.projectOpen);
+    EXPECT_EQ(start.formsOpen, 1U) << "the screen from which the others are opened";
     EXPECT_EQ(start.projectFile, "");
     EXPECT_FALSE(start.waiting);
     EXPECT_FALSE(start.reportsUnavailable);
@@ -151,7 +155,7 @@ TEST_F(StartUpTest, ARefusedProjectOnTheCommandLineLeavesTheProgramWithoutAProje
     EXPECT_FALSE(start.waiting);
 }
 
-TEST_F(StartUpTest, AnAbsentFileOnTheCommandLineLeavesNoProjectAndTheWaitCursor) {
+TEST_F(StartUpTest, AnAbsentFileOnTheCommandLineLeavesNoProjectNoFormAndTheWaitCursor) {
     const std::string path = folder_ / "no such.kvr";
     const std::string folder = folder_ / "folder.kvr";
     std::filesystem::create_directory(folder);
@@ -167,6 +171,9 @@ TEST_F(StartUpTest, AnAbsentFileOnTheCommandLineLeavesNoProjectAndTheWaitCursor)
         EXPECT_EQ(start.messages[0].title, "Opening file");
         EXPECT_EQ(start.messages[0].icon, MessageIcon::None);
         EXPECT_FALSE(start.projectOpen);
+        EXPECT_EQ(start.formsOpen, 0U);
+        EXPECT_EQ(start.projectFile, "");
+        EXPECT_EQ(start.caption, "");
         EXPECT_TRUE(start.waiting);
         EXPECT_EQ(start.homeInTheEnd, before);
     }

@@ -15,8 +15,8 @@ class WorkCopyTest : public testing::Test {
     /// The cell at (1, 1) as the file has it.
     CellValue Read(WorkCopy& workCopy, const std::string& name) {
         CellValue found;
-        workCopy.ReadRows([&](const CellKey& key, const CellValue& value) {
-            if (key.name == name && key.dim1 == 1 && key.dim2 == 1) found = value;
+        workCopy.ReadRows([&](const WorkCopy::Row& row) {
+            if (row.name == name && row.dim1 == 1 && row.dim2 == 1) found = row.value;
         });
         return found;
     }

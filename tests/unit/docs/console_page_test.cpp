@@ -1,0 +1,49 @@
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+
+#include "console/application.h"
+#include "shell/calculations.h"
+#include "support/test_home.h"
+
+namespace kelvor::test {
+namespace {
+
+class ConsolePageTest : public testing::Test {
+  protected:
+    /// The block of code that follows a mark of the page.
+    [[nodiscard]] std::string Block(const std::string& mark, const std::string& language) const {
+        const std::string opening = "<!-- " + mark + " -->\n```" + language + "\n";
+        const std::size_t begin = page_.find(opening);
+        if (begin == std::string::npos) return "no block " + mark;
+        const std::size_t start = begin + opening.size();
+        return page_.substr(start, page_.find("```", start) - start);
+    }
+
+    const std::string page_ = ReadFile(Path(KELVOR_SOURCE_FOLDER) / "docs/console.md");
+};
+
+TEST_F(ConsolePageTest, TheCommandsThatItShowsPrintTheObjectsThatItShows) {
+    const TestHome home;
+    std::string words[] = {"kelvor-cli", "--home", home.path().string(), "--json"};
+    char* arguments[] = {words[0].data(), words[1].data(), words[2].data(), words[3].data()};
+    std::istringstream commands(Block("commands", ""));
+    std::ostringstream output;
+    std::ostringstream errors;
+    EXPECT_EQ(RunConsole(4, arguments, commands, output, errors), 0);
+    EXPECT_EQ(errors.str(), "");
+    EXPECT_EQ(output.str(), Block("their output", "json"));
+}
+
+TEST_F(ConsolePageTest, EveryKeyThatIsServedIsListed) {
+    const auto isListed = [this](const std::string& command, std::string_view key) {
+        return page_.find("| `" + command + "` | `" + std::string(key) + "` |") != std::string::npos;
+    };
+    const Dispatch calculations = JoinCalculations();
+    for (const std::string_view key : calculations.FieldKeys()) EXPECT_TRUE(isListed("calc", key)) << key;
+    for (const std::string_view key : calculations.CellKeys()) EXPECT_TRUE(isListed("calccell", key)) << key;
+}
+
+}  // namespace
+}  // namespace kelvor::test
