@@ -1,5 +1,5 @@
-// Shows the program's main window, says so, and ends. With --timings it goes on: how long a screen takes to open,
-// and how long a key takes until the field that it was typed into is painted again, in milliseconds.
+// Shows the program's main window, says so, and ends. With --timings it goes on: how long a screen takes to
+// open, and how long a key takes until the field that it was typed into is painted again, in milliseconds.
 //
 // Usage: kelvor-bench-window HOME [--timings]
 

@@ -21,9 +21,10 @@ ListDatabase::ListDatabase(const Path& path) : database_(OpenLists(path)) {}
 std::vector<std::string> ListDatabase::Values(std::string_view list, bool metric) {
     try {
         std::vector<std::string> values;
-        SQLite::Statement rows(database_,
-                               "SELECT Value FROM \"Value\" WHERE Name = ? AND "
-                               "(UnitSystem IS NULL OR UnitSystem = '' OR UnitSystem = ?) ORDER BY Sort, rowid");
+        SQLite::Statement rows(
+            database_,
+            "SELECT Value FROM \"Value\" WHERE Name = ? AND "
+            "(UnitSystem IS NULL OR UnitSystem = '' OR UnitSystem = ?) ORDER BY Sort, rowid");
         rows.bind(1, std::string(list));
         rows.bind(2, metric ? "M" : "E");
         while (rows.executeStep()) {

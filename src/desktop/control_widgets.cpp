@@ -23,6 +23,9 @@ namespace {
 constexpr qsizetype kFewestPlaces = 14;  // 10,000,000,000
 constexpr qsizetype kPlacesOfText = 30;
 
+/// More than anybody types, and than a cell takes: a box that cut a text would disagree with the form.
+constexpr int kLongestText = 1 << 24;
+
 /// The lines and the width that an indicator needs, whatever it says.
 const char* const kWidestIndicator = "Press Solve For to Recalculate";
 constexpr int kIndicatorLines = 4;
@@ -44,6 +47,7 @@ QWidget* MakeTextBox(const Control& control, QWidget* parent) {
     auto* box = new QLineEdit(parent);
     box->setMinimumWidth(BoxWidth(control, *box));
     box->setAlignment((IsTextField(control) ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+    box->setMaxLength(kLongestText);
     box->setAcceptDrops(false);  // a text dropped on a field without the focus would be nobody's edit
     return box;
 }

@@ -1,10 +1,14 @@
 #include "desktop/event_door.h"
 
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <exception>
 
 namespace kelvor {
 
 void EventDoor::Raise(const UserEvent& event) {
+    // What an input method still holds back belongs to the field that is about to be left.
+    if (!busy_ && event.kind != UserEvent::Kind::Type) QGuiApplication::inputMethod()->commit();
     Perform([&](Program& program) { program.Raise(event); });
 }
 

@@ -32,6 +32,10 @@ class EventDoor {
     void NoteRefusal();
     [[nodiscard]] bool wasRefused() const { return refused_; }
 
+    /// True from a press of Space that clicked a button until the key is let go. What the keyboard repeats
+    /// meanwhile must not reach whatever has the focus by then.
+    bool spaceHeld = false;
+
     [[nodiscard]] Program& program() { return program_; }
 
   private:

@@ -20,11 +20,12 @@ namespace kelvor {
 namespace {
 
 /// The model's name of a key that has one.
-const char* KeyName(int key) {
-    switch (key) {
+const char* KeyName(const QKeyEvent& key) {
+    switch (key.key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            return "Enter";
+            // With Shift it moves on, also where Enter alone selects.
+            return key.modifiers().testFlag(Qt::ShiftModifier) ? "Tab" : "Enter";
         case Qt::Key_Tab:
             return "Tab";
         case Qt::Key_Backtab:
@@ -54,6 +55,13 @@ const char* KeyNameOutsideBox(int key) {
         default:
             return nullptr;
     }
+}
+
+/// A character that Alt goes with; not one that a keyboard makes with AltGr.
+bool IsLetterWithAlt(const QKeyEvent& key) {
+    const Qt::KeyboardModifiers keys = key.modifiers();
+    const bool altAlone = keys.testFlag(Qt::AltModifier) && !keys.testFlag(Qt::ControlModifier);
+    return altAlone && !key.text().isEmpty() && key.text().at(0).isPrint();
 }
 
 bool IsPlain(const QKeyEvent& key) {
@@ -176,9 +184,12 @@ void FormView::Sync() {
 void FormView::SyncFocus() {
     if (form_ == nullptr) return;
     QWidget* widget = form_->focus == nullptr ? this : widgets_.value(form_->focus);
-    const bool moved = std::exchange(shownFocus_, form_->focus) != form_->focus;
+    const bool moved =
+        std::exchange(shownFocus_, form_->focus) != form_->focus || shownSelections_ != form_->selections;
+    shownSelections_ = form_->selections;
     const QWidget* focus = QApplication::focusWidget();
-    const bool inside = focus != nullptr && widget != this && widget->isAncestorOf(focus);  // a cell is edited
+    const bool inside =
+        focus != nullptr && widget != this && widget->isAncestorOf(focus);  // a cell is edited
     if (!widget->hasFocus() && !inside) widget->setFocus(Qt::OtherFocusReason);
     auto* box = qobject_cast<QLineEdit*>(widget);
     if (moved && box != nullptr) box->selectAll();
@@ -224,6 +235,9 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
 
 bool FormView::Filter(const Control& control, QEvent& event) {
     switch (event.type()) {
+        case QEvent::KeyRelease:
+            NoteKeyRelease(static_cast<QKeyEvent&>(event));
+            return false;
         case QEvent::KeyPress:
             return control.grid ? HandleGridKey(control, static_cast<QKeyEvent&>(event))
                                 : HandleKey(static_cast<QKeyEvent&>(event));
@@ -307,8 +321,10 @@ bool FormView::HandleGridKey(const Control& control, const QKeyEvent& key) {
     const auto* grid = dynamic_cast<const GridView*>(widgets_.value(&control));
     const bool editing = grid != nullptr && grid->editor() != nullptr;
     const bool list = editing && qobject_cast<const QComboBox*>(grid->editor()) != nullptr;
-    const char* name = KeyName(key.key());
+    const char* name = KeyName(key);
+    if (door_.spaceHeld && key.key() == Qt::Key_Space && key.isAutoRepeat()) return true;
     if (IsAccessKey(key) || HandleTabKey(key)) return HandleKey(key);
+    if (IsLetterWithAlt(key)) return true;
     if (!IsPlain(key)) return false;
     if (name == nullptr && key.key() == Qt::Key_Delete && !editing) name = "Delete";
     const bool leaves = key.key() == Qt::Key_Up || key.key() == Qt::Key_Down;
@@ -326,14 +342,22 @@ void FormView::CloseCellEditor(const Control& control) {
     SyncFocus();
 }
 
+void FormView::NoteKeyRelease(const QKeyEvent& key) {
+    if (key.key() == Qt::Key_Space && !key.isAutoRepeat()) door_.spaceHeld = false;
+}
+
 bool FormView::HandleKey(const QKeyEvent& key) {
+    if (door_.spaceHeld && key.key() == Qt::Key_Space && key.isAutoRepeat()) return true;
     if (HandleTabKey(key)) return true;
     if (IsAccessKey(key)) {
-        Raise(UserEvent::Kind::Key, std::string("Alt+") + static_cast<char>(key.key()));
+        if (!key.isAutoRepeat()) {
+            Raise(UserEvent::Kind::Key, std::string("Alt+") + static_cast<char>(key.key()));
+        }
         return true;
     }
+    if (IsLetterWithAlt(key)) return true;  // no access key of this form, and no text either
     if (!IsPlain(key)) return false;
-    const char* name = KeyName(key.key());
+    const char* name = KeyName(key);
     const Control* focus = form_->focus;
     const bool inBox = focus != nullptr && focus->IsField();
     if (name == nullptr && !inBox) name = KeyNameOutsideBox(key.key());
@@ -342,6 +366,7 @@ bool FormView::HandleKey(const QKeyEvent& key) {
         name = KeyNameOutsideBox(key.key());
     }
     if (name == nullptr) return false;
+    if (key.key() == Qt::Key_Space) door_.spaceHeld = true;
     Raise(UserEvent::Kind::Key, name);
     return true;
 }

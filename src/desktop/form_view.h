@@ -59,6 +59,7 @@ class FormView : public QWidget {
     bool HandleGridKey(const Control& control, const QKeyEvent& key);
     void CloseCellEditor(const Control& control);
     bool HandleTabKey(const QKeyEvent& key);
+    void NoteKeyRelease(const QKeyEvent& key);
     [[nodiscard]] bool IsAccessKey(const QKeyEvent& key) const;
 
     /// Asks the model for the focus. True if the control has it then.
@@ -72,6 +73,7 @@ class FormView : public QWidget {
     QHash<const QObject*, const Control*> controls_;
     QTabWidget* tabs_ = nullptr;
     const Control* shownFocus_ = nullptr;  // the control that had the focus when it was shown last
+    int shownSelections_ = 0;              // and how often a box had been selected as a whole by then
 };
 
 }  // namespace kelvor

@@ -25,13 +25,21 @@ constexpr int kMostRowsShown = 12;
 constexpr int kLettersOfNumber = 12;
 constexpr int kLettersOfText = 26;
 
+/// The caption, and the unit below it.
+QString HeadingOf(const GridColumn& column) {
+    const QString caption = ToQt(column.caption);
+    return column.unit.empty() ? caption : caption + "\n" + ToQt(column.unit);
+}
+
 bool IsText(const GridColumn& column) { return column.picture.empty() || column.picture == "@"; }
 
 }  // namespace
 
 // --- The cells ------------------------------------------------------------------------------------------
 
-int CellModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : control_.grid->rows; }
+int CellModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : control_.grid->rows;
+}
 
 int CellModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(control_.grid->columns.size());
@@ -56,7 +64,7 @@ QVariant CellModel::data(const QModelIndex& index, int role) const {
 
 QVariant CellModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (role != Qt::DisplayRole) return {};
-    return orientation == Qt::Horizontal ? QVariant(ToQt(ColumnAt(section).caption)) : QVariant(section + 1);
+    return orientation == Qt::Horizontal ? QVariant(HeadingOf(ColumnAt(section))) : QVariant(section + 1);
 }
 
 Qt::ItemFlags CellModel::flags(const QModelIndex& index) const {
@@ -66,8 +74,8 @@ Qt::ItemFlags CellModel::flags(const QModelIndex& index) const {
 
 // --- Editing ----------------------------------------------------------------------------------------------
 
-/// Makes the line or the list in which a cell is edited. What is typed goes to the form at once, so that there
-/// is nothing to hand over at the end.
+/// Makes the line or the list in which a cell is edited. What is typed goes to the form at once, so that
+/// there is nothing to hand over at the end.
 class GridView::Delegate : public QStyledItemDelegate {
   public:
     explicit Delegate(GridView& view) : QStyledItemDelegate(&view), view_(view) {}
@@ -132,13 +140,18 @@ GridView::GridView(const Control& control, GridHooks hooks, QWidget* parent)
 }
 
 void GridView::SizeColumns() {
+    const int letter = fontMetrics().horizontalAdvance(u'0');
     int width = verticalHeader()->sizeHint().width() + 2 * frameWidth();
+    int lines = 0;
     for (int i = 0; i < cells_.columnCount(); ++i) {
         const int letters = IsText(cells_.ColumnAt(i)) ? kLettersOfText : kLettersOfNumber;
-        setColumnWidth(i, (letters + 2) * fontMetrics().horizontalAdvance(u'0'));
+        setColumnWidth(i, (letters + 2) * letter);
         width += columnWidth(i);
+        const QRect room(0, 0, columnWidth(i) - 2 * letter, QWIDGETSIZE_MAX);
+        const QString longest = ToQt(cells_.ColumnAt(i).caption) + "\n" + QString(1, u'M');
+        lines = std::max(lines, fontMetrics().boundingRect(room, Qt::TextWordWrap, longest).height());
     }
-    const int lines = 2 * fontMetrics().lineSpacing() + fontMetrics().lineSpacing() / 2;
+    lines += fontMetrics().lineSpacing() / 2;
     horizontalHeader()->setFixedHeight(lines);
     const int rows = std::min(cells_.rowCount(), kMostRowsShown);
     if (cells_.rowCount() > rows) width += verticalScrollBar()->sizeHint().width();
@@ -155,11 +168,13 @@ void GridView::Show() {
     const GridData& grid = *control_.grid;
     const QModelIndex cursor = cells_.index(grid.row - 1, static_cast<int>(grid.column));
     const bool ended = editor_ != nullptr && (!grid.typed || currentIndex() != cursor);
-    const bool untouched = editor_ != nullptr && currentIndex() == cursor && !editor_->property("typed").toBool();
+    const bool untouched =
+        editor_ != nullptr && currentIndex() == cursor && !editor_->property("typed").toBool();
     if (ended && !untouched) EndEdit();
     if (editor_ != nullptr && grid.typed) editor_->setProperty("typed", true);
     if (currentIndex() != cursor) setCurrentIndex(cursor);
     cells_.Refresh();
+    emit cells_.headerDataChanged(Qt::Horizontal, 0, cells_.columnCount() - 1);
     showing_ = false;
 }
 
@@ -173,11 +188,13 @@ void GridView::EndEdit() {
     editor_.clear();
 }
 
-// --- Keys and clicks ----------------------------------------------------------------------------------------
+// --- Keys and clicks
+// ----------------------------------------------------------------------------------------
 
 void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTableView::currentChanged(current, previous);
-    if (!showing_ && model() != nullptr && current.isValid()) hooks_.moveTo(current.row() + 1, cells_.ColumnAt(current.column()));
+    if (!showing_ && model() != nullptr && current.isValid())
+        hooks_.moveTo(current.row() + 1, cells_.ColumnAt(current.column()));
 }
 
 void GridView::keyPressEvent(QKeyEvent* event) {

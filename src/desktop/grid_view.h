@@ -44,9 +44,9 @@ class CellModel : public QAbstractTableModel {
     const GridHooks& hooks_;
 };
 
-/// A grid that works like a spreadsheet: arrows, Tab and Enter move, typing replaces, F2 edits, Delete empties,
-/// Ctrl+C and Ctrl+V take blocks of cells, Ctrl+Delete deletes the row. The model owns the cursor and what is
-/// being typed.
+/// A grid that works like a spreadsheet: arrows, Tab and Enter move, typing replaces, F2 edits, Delete
+/// empties, Ctrl+C and Ctrl+V take blocks of cells, Ctrl+Delete deletes the row. The model owns the cursor
+/// and what is being typed.
 class GridView : public QTableView {
   public:
     GridView(const Control& control, GridHooks hooks, QWidget* parent);

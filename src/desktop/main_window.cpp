@@ -43,6 +43,13 @@ class FormWindow : public QMdiSubWindow {
     EventDoor& door_;
 };
 
+/// Every form stays in front of the hub; one that did not would be lost behind it.
+void DropStayOnTop(QMdiSubWindow& frame) {
+    for (QAction* action : frame.systemMenu()->actions()) {
+        if (action->isCheckable()) frame.systemMenu()->removeAction(action);
+    }
+}
+
 QMdiSubWindow* FrameOf(const FormView& view) { return qobject_cast<QMdiSubWindow*>(view.parentWidget()); }
 
 }  // namespace
@@ -175,6 +182,7 @@ FormView& MainWindow::OpenView(Form& form) {
     auto* frame = new FormWindow(*view, door_);
     frame->setWindowTitle(view->windowTitle());
     frame->setWindowIcon(windowIcon());
+    DropStayOnTop(*frame);
     area_->addSubWindow(frame, form.type().isHub ? kHubFlags : kFormFlags);
     views_.insert(&form, view);
     if (form.type().isHub) hubFrame_ = frame;

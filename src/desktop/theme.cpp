@@ -57,7 +57,8 @@ void ApplyColours(QWidget& widget, const Control& control, QPalette::ColorRole g
     } else if (IsReadOnlyCopy(control)) {
         palette.setColor(ground, ScreenColour(colours::kButtonFace, palette));
     }
-    if (!IsPaletteColour(control.foreColor)) palette.setColor(text, ScreenTextColour(control.foreColor, palette));
+    if (!IsPaletteColour(control.foreColor))
+        palette.setColor(text, ScreenTextColour(control.foreColor, palette));
     if (widget.palette() != palette) widget.setPalette(palette);
 }
 

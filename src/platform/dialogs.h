@@ -84,6 +84,7 @@ class ScriptedDialogs : public Dialogs {
     explicit ScriptedDialogs(DialogObserver* observer = nullptr) : observer_(observer) {}
 
     void QueueAnswer(std::string answer) { answers_.push_back(std::move(answer)); }
+    void DropAnswers() { answers_.clear(); }
 
     Answer ShowMessage(const Message& message) override;
     std::optional<std::string> AskText(const InputRequest& request) override;

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "platform/text.h"
 #include "screens/forms/form_events.h"
 
 namespace kelvor {
@@ -32,9 +33,10 @@ std::vector<MenuTitle> MenuTitles() {
 }
 
 std::vector<MenuEntry> MenuEntries(bool metric) {
+    // New and Open have no key of their own: they drop an unnamed project without a question.
     return {
-        {"MenuFile", "NewProj", "&New Project", false, "Ctrl+N"},
-        {"MenuFile", "MenuFileOpen", "&Open Project...", false, "Ctrl+O"},
+        {"MenuFile", "NewProj", "&New Project"},
+        {"MenuFile", "MenuFileOpen", "&Open Project..."},
         {"MenuFile", "MenuFilePrint", "&Print", true, "Ctrl+P"},
         {"MenuFile", "MenuFileSave", "&Save Project...", false, "Ctrl+S"},
         {"MenuFile", "MenuFileSaveAs", "Save Project &As...", false, "Ctrl+Shift+S"},
@@ -45,6 +47,12 @@ std::vector<MenuEntry> MenuEntries(bool metric) {
         {"MenuHelp", "MenuAbout", "A&bout Kelvor", true},
         {"MenuHelp", "MenuTopics", "Help &Topics", true},
     };
+}
+
+std::optional<HubTab> HubTabNamed(std::string_view screen) {
+    if (EqualNoCase(screen, "InfForm")) return HubTab::ProjectId;
+    if (EqualNoCase(screen, "EcFa")) return HubTab::LifeCycleCosting;
+    return std::nullopt;
 }
 
 FormType HubForm() {

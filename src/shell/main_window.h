@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,6 +39,9 @@ enum class HubTab { ProjectId, Traffic, Design, Overlays, LifeCycleCosting, Repo
 
 inline constexpr int kHubTabs = 8;
 inline constexpr const char* kHubForm = "TabForm";
+
+/// The tab of the hub that goes by the name of a screen; nothing for any other name.
+std::optional<HubTab> HubTabNamed(std::string_view screen);
 
 /// `TabForm`: the hub with its strip of eight tabs.
 FormType HubForm();

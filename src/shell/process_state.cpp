@@ -23,7 +23,7 @@ CalcContext ProcessState::MakeCalcContext() {
 }
 
 ScreenContext ProcessState::MakeScreenContext() {
-    return {MakeCalcContext(), *dbCatalogue, *units,   calculations, formRegistry,
+    return {MakeCalcContext(), *dbCatalogue,    *units,    calculations, formRegistry,
             balance,           bProjectChanged, *dbCustom, forms};
 }
 

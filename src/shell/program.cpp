@@ -73,6 +73,7 @@ bool Program::Perform(const UserEvent& event) {
     if (IsOutsideModalForm(event)) return true;
     switch (event.kind) {
         case UserEvent::Kind::OpenForm: {
+            if (const auto tab = HubTabNamed(event.name)) return SwitchTab(static_cast<int>(*tab));
             ScreenContext context = state_.MakeScreenContext();
             return FormEvents(context).Open(event.name);
         }
@@ -122,6 +123,8 @@ bool Program::PerformOnCurrentForm(const UserEvent& event) {
     ScreenContext context = state_.MakeScreenContext();
     Form* form = context.forms.CurrentForm;
     if (form == nullptr) return false;
+    // A screen that was kept open over a failed open has no project to work on.
+    if (!state_.dbWork.IsOpen() && !form->type().isHub) return true;
     FormEvents events(context);
     if (event.kind == UserEvent::Kind::Type) {
         events.Type(event.text);

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QInputMethodEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
@@ -221,13 +222,67 @@ TEST_F(WindowTest, EnterHeldDownGoesRoundAndChangesNothing) {
     OpenFlexibleDesign();
     TypeFlexibleInputs();
     const auto before = Shown("FLEXE18");
-    for (int i = 0; i < 300; ++i) {
+    for (int i = 0; i < 303; ++i) {  // thirty rounds of ten stops, and three
         QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, kNone, "\r", true);
         QApplication::sendEvent(QApplication::focusWidget(), &held);
     }
     EXPECT_THAT(Messages(), IsEmpty());
     EXPECT_EQ(Shown("FLEXE18"), before);
+    EXPECT_EQ(FocusName(), "FLEXE18");  // from Solve For over Layer Determ. and OK
     EXPECT_NE(window().FindView("DeF"), nullptr);
+}
+
+TEST_F(WindowTest, AltWithALetterThatIsNoAccessKeyTypesNothing) {
+    OpenFlexibleDesign();
+    TypeFlexibleInputs();
+    Press(Qt::Key_E, Qt::AltModifier);
+    QKeyEvent letter(QEvent::KeyPress, Qt::Key_Z, Qt::AltModifier, "z");
+    QApplication::sendEvent(QApplication::focusWidget(), &letter);
+    EXPECT_EQ(Shown("FLEXPT"), "2.50");
+}
+
+TEST_F(WindowTest, SpaceHeldDownOnAButtonClicksItOnce) {
+    OpenFlexibleDesign();
+    TypeFlexibleInputs();
+    Press(Qt::Key_T, Qt::AltModifier);
+    Press(Qt::Key_S, Qt::AltModifier);
+    for (int i = 0; i < 3; ++i) Press(Qt::Key_Tab);
+    ASSERT_EQ(FocusName(), "Command1");
+    for (int i = 0; i < 20; ++i) {
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, kNone, " ", i > 0);
+        QApplication::sendEvent(QApplication::focusWidget(), &held);
+    }
+    EXPECT_EQ(FocusName(), "FLEXPT") << "the field that had the focus before";
+    EXPECT_EQ(Shown("FLEXPT"), "2.50");
+    QKeyEvent released(QEvent::KeyRelease, Qt::Key_Space, kNone, " ");
+    QApplication::sendEvent(QApplication::focusWidget(), &released);
+    Type(" ");
+    EXPECT_EQ(Shown("FLEXPT"), " ");
+}
+
+TEST_F(WindowTest, AfterASaveOrASolveTheNextCharacterReplacesTheValue) {
+    OpenFlexibleDesign();
+    TypeFlexibleInputs();
+    Press(Qt::Key_T, Qt::AltModifier);
+    for (int i = 0; i < 2; ++i) Press(Qt::Key_S, Qt::AltModifier);
+    Type("7");
+    EXPECT_EQ(Shown("SN"), "7");
+    responder.AnswerFileDialogWith((home / "road.kvr").string());
+    QTest::keyClick(&window(), Qt::Key_S, Qt::ControlModifier);
+    ComeToFront();
+    Type("6");
+    EXPECT_EQ(Shown("SN"), "6");
+}
+
+TEST_F(WindowTest, WhatAnInputMethodHoldsBackIsStoredWithItsField) {
+    OpenFlexibleDesign();
+    Press(Qt::Key_Return);
+    QInputMethodEvent held;
+    held.setCommitString("90");
+    QApplication::sendEvent(QApplication::focusWidget(), &held);
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Shown("FLEXREL"), "90.00");
+    EXPECT_EQ(state().dbWork.GetVar("FLEXREL"), 90.0);
 }
 
 TEST_F(WindowTest, ClosingWhileABoxIsOpenDoesNothing) {

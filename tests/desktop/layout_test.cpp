@@ -136,7 +136,8 @@ TEST_F(LayoutTest, EveryFormFitsIntoTheWindowAsItStarts) {
     });
 }
 
-// --- The audit itself ---------------------------------------------------------------------------------------
+// --- The audit itself
+// ---------------------------------------------------------------------------------------
 
 class BadForm : public QWidget {
   public:

@@ -1,5 +1,5 @@
-// Two thousand random keys, clicks and menu choices: nothing falls over, and the windows go on showing what the
-// model holds.
+// Two thousand random keys, clicks and menu choices: nothing falls over, and the windows go on showing what
+// the model holds.
 
 #include <QApplication>
 #include <QLabel>
@@ -78,6 +78,7 @@ class MonkeyTest : public DesktopTest {
                 QTest::keyClick(&Target(), Any(kControlKeys), Qt::ControlModifier);
                 break;
             case 4:
+                if (Upto(20) == 0) responder.AnswerFileDialogWith((home / "bad.kvr").string());
                 if (Upto(3) == 0) window().FindAction(Any(kMenus))->trigger();
                 break;
             default:
@@ -98,6 +99,8 @@ class MonkeyTest : public DesktopTest {
                 if (const auto* option = qobject_cast<const QRadioButton*>(widget)) {
                     ASSERT_EQ(option->isChecked(), control->value) << control->name;
                 }
+                ASSERT_EQ(widget->testAttribute(Qt::WA_ForceDisabled), !control->enabled) << control->name;
+                ASSERT_EQ(widget->isHidden(), !control->visible) << control->name;
             }
         }
         ASSERT_EQ(window().CurrentView(), window().FindView(state().formRegistry.CurrentForm->name()));
@@ -107,6 +110,7 @@ class MonkeyTest : public DesktopTest {
 };
 
 TEST_F(MonkeyTest, TwoThousandEventsDoNoHarm) {
+    WriteFile(home / "bad.kvr", "no project");
     for (int i = 0; i < kEvents; ++i) {
         SCOPED_TRACE("event " + std::to_string(i));
         DoAnything();

@@ -8,8 +8,8 @@ namespace {
 
 QPalette MakePalette(const QColor& window, const QColor& base, const QColor& button, const QColor& text,
                      const QColor& faint, const QColor& highlight) {
-    QPalette palette(text, button, button.lighter(120), button.darker(140), button.darker(115), text, Qt::white,
-                     base, window);
+    QPalette palette(text, button, button.lighter(120), button.darker(140), button.darker(115), text,
+                     Qt::white, base, window);
     palette.setColor(QPalette::Highlight, highlight);
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::ToolTipBase, base);

@@ -159,7 +159,8 @@ void WindowDriver::OpenForm(const std::string& name) {
     OnModel([&] { ModelDriver::OpenForm(name); });
 }
 
-// --- Menus --------------------------------------------------------------------------------------------------
+// --- Menus
+// --------------------------------------------------------------------------------------------------
 
 void WindowDriver::New() { ChooseMenu("NewProj", 0); }
 
@@ -195,7 +196,8 @@ void WindowDriver::ChooseMenu(const std::string& name, int /*index*/) {
     ClickEntry(*menu, *entry);
 }
 
-// --- Forms ----------------------------------------------------------------------------------------------------
+// --- Forms
+// ----------------------------------------------------------------------------------------------------
 
 FormView& WindowDriver::View() {
     ComeToFront();
@@ -249,7 +251,8 @@ void WindowDriver::SwitchTab(int tab) {
     throw ScriptError("there are no tabs");
 }
 
-// --- Controls -----------------------------------------------------------------------------------------------
+// --- Controls
+// -----------------------------------------------------------------------------------------------
 
 void WindowDriver::Click(QWidget& widget) {
     if (!widget.isVisibleTo(&desktop_.window()) || !widget.isEnabled()) return;
@@ -334,7 +337,8 @@ void WindowDriver::Choose(const std::string& control, const std::string& item) {
     QApplication::processEvents();
 }
 
-// --- Grids --------------------------------------------------------------------------------------------------
+// --- Grids
+// --------------------------------------------------------------------------------------------------
 
 GridView& WindowDriver::FindGridView() {
     auto* grid = dynamic_cast<GridView*>(View().findChild<QTableView*>());
@@ -412,7 +416,8 @@ std::vector<GridCellReport> WindowDriver::GridCells() {
     return cells;
 }
 
-// --- Reading ------------------------------------------------------------------------------------------------
+// --- Reading
+// ------------------------------------------------------------------------------------------------
 
 PropertyValue WindowDriver::Read(const std::string& control, const std::string& property) {
     const QWidget& widget = Widget(control);

@@ -43,7 +43,8 @@ std::string ReplaceAll(std::string text, const std::string& from, const std::str
 
 std::string WindowOutput(const std::string& name) {
     const TestHome home;
-    std::istringstream script(ReplaceAll(ReadFile(kScripts / (name + ".kvs")), "{HOME}", home.path().string()));
+    std::istringstream script(
+        ReplaceAll(ReadFile(kScripts / (name + ".kvs")), "{HOME}", home.path().string()));
     std::ostringstream printed;
     std::ostringstream errors;
     JsonOutput output(printed);

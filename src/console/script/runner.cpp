@@ -167,7 +167,8 @@ constexpr std::array kCommands = {
     Command{"choose", 1, 2, Choose},
     Command{"tab", 1, 1, [](const Context& c) { c.driver.SwitchTab(c.arguments.Subscript(0)); }},
     Command{"menu", 1, 2, ChooseMenu},
-    Command{"cell", 3, 3, [](const Context& c) {
+    Command{"cell", 3, 3,
+            [](const Context& c) {
                 c.driver.EditCell(c.arguments.Subscript(0), c.arguments[1], c.arguments[2]);
             }},
     Command{"row", 1, 1, [](const Context& c) { c.driver.MoveToRow(c.arguments.Subscript(0)); }},

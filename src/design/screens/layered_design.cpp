@@ -127,7 +127,8 @@ FormType LayeredDesignForm() {
 }
 
 void OpenLayeredDesign(ScreenContext& context, Form& caller, const std::string& variable) {
-    if (Form* form = OpenSideScreen(context, kForm, caller, variable)) form->SetHiddenText("SNCarry", variable);
+    if (Form* form = OpenSideScreen(context, kForm, caller, variable))
+        form->SetHiddenText("SNCarry", variable);
 }
 
 }  // namespace kelvor

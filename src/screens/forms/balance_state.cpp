@@ -52,7 +52,15 @@ std::string FieldText(const ScreenContext& context, const Form& form, const Cont
                                          form.dim2().value_or(1));
 }
 
+void RefreshUnits(const ScreenContext& context, GridData& grid) {
+    for (GridColumn& column : grid.columns) {
+        const std::string unit = context.units.UnitLabel(column.variable);
+        column.unit = IsNoUnit(unit) ? "" : unit;
+    }
+}
+
 void RefreshControl(const ScreenContext& context, const Form& form, Control& control) {
+    if (control.grid) RefreshUnits(context, *control.grid);
     if (control.IsField()) control.toolTip = FieldHint(context, control);
     if (control.kind == ControlKind::TextBox && !control.tag.empty()) {
         control.text = FieldText(context, form, control);
@@ -63,9 +71,7 @@ void RefreshControl(const ScreenContext& context, const Form& form, Control& con
 
 /// The value of a solved field held within its limits; stored again if it was not.
 void ClampToRange(ScreenContext& context, const std::string& variable) {
-    const std::string shown = context.units.GetDisplayValue(variable);
-    if (shown.empty()) return;  // nothing was found, so there is nothing to hold
-    const double value = ParseNumber(shown);
+    const double value = ParseNumber(context.units.GetDisplayValue(variable));
     const Range range = context.units.VariableRange(variable);
     if (range.high && value > *range.high) {
         context.units.SetDisplayNumber(variable, 1, 1, *range.high);
@@ -88,7 +94,8 @@ void RecalcColumn(ScreenContext& context, const Field& output, const Variable& v
 }
 
 /// A form that showed a warning keeps it: only a solve clears it. Otherwise its flag tells.
-void LoadBalance(const ScreenContext& context, Form& form, BalanceFlag flag, Indicator which, SolveState before) {
+void LoadBalance(const ScreenContext& context, Form& form, BalanceFlag flag, Indicator which,
+                 SolveState before) {
     const bool warns = before == SolveState::Warning || !context.balance.Get(flag);
     SetSolveForState(form, warns ? SolveState::Warning : SolveState::Resting, {}, {}, {}, which);
 }

@@ -40,9 +40,8 @@ bool Control::IsField() const {
 }
 
 bool Control::TakesFocus() const {
-    const bool focusable =
-        kind == ControlKind::TextBox || kind == ControlKind::ComboBox || kind == ControlKind::Grid ||
-        IsButton() || IsChoice();
+    const bool focusable = kind == ControlKind::TextBox || kind == ControlKind::ComboBox ||
+                           kind == ControlKind::Grid || IsButton() || IsChoice();
     return focusable && enabled && visible && tabStop;
 }
 

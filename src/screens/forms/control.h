@@ -41,14 +41,15 @@ inline constexpr Colour kRed = "#FF0000";   // and one that is not
 struct GridColumn {
     std::string variable;
     std::string caption;
+    std::string unit;  // in the active system; empty if it is not worth showing
     std::string picture;
     std::string list;                // the name of the list that it offers; empty: it takes what is typed
     std::vector<std::string> items;  // the entries of that list
     bool locked = false;             // shows computed values and takes none
 };
 
-/// What a grid shows, and where its cursor is. It holds no values: a cell is the project's cell of the column's
-/// variable, with the row as first subscript and the form's own second one.
+/// What a grid shows, and where its cursor is. It holds no values: a cell is the project's cell of the
+/// column's variable, with the row as first subscript and the form's own second one.
 struct GridData {
     std::vector<GridColumn> columns;
     int rows = 0;  // as many as the variables have cells

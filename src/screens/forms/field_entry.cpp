@@ -101,6 +101,12 @@ void FieldGotFocus(Form& form, Control& control) {
     form.SetFieldChanged(false);
     form.SetHiddenText("SolveForField", control.tag);
     FindControlIndex(form, control.name);
+    SelectAll(form);
+}
+
+void SelectAll(Form& form) {
+    form.caret.reset();
+    ++form.selections;
 }
 
 void FindControlIndex(Form& form, std::string_view controlName) {
@@ -125,6 +131,7 @@ bool FieldLostFocus(ScreenContext& context, Form& form, Control& control) {
 }
 
 void RestoreField(ScreenContext& context, Form& form, Control& control) {
+    SelectAll(form);
     if (!form.fieldChanged()) return;
     control.text = context.units.GetDisplayValue(control.tag, 1, form.dim2().value_or(1));
     form.SetFieldChanged(false);

@@ -10,6 +10,9 @@ void FieldChange(Form& form, Control& control);
 /// A field got the focus: it is not changed yet, and it is the one that Solve For and help mean.
 void FieldGotFocus(Form& form, Control& control);
 
+/// The text of the box in focus is selected as a whole: the next character replaces it.
+void SelectAll(Form& form);
+
 /// Notes a control's place in the form as that of the current field.
 void FindControlIndex(Form& form, std::string_view controlName);
 

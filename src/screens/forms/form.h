@@ -66,6 +66,8 @@ class Form {
     std::string caption;
     Control* focus = nullptr;
     std::optional<std::size_t> iCurrentField;  // the field that had the focus last
+    std::optional<std::size_t> caret;  // in the box in focus; nothing: its text is selected as a whole
+    int selections = 0;  // how often a box was selected as a whole; a view shows that it is again
     std::array<SolveState, 2> solveState{SolveState::Resting, SolveState::Resting};
     int page = 0;  // of the tab strip
     bool modal = false;

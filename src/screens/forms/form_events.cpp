@@ -97,6 +97,10 @@ void FormEvents::FocusFirstField(Form& form) {
 
 bool FormEvents::Close(Form& form) {
     if (form.type().isHub) return false;
+    if (!context_.calc.store.IsOpen()) {
+        Unload(form);
+        return true;
+    }
     if (form.focus != nullptr && !LoseFocus(form, *form.focus)) return false;
     if (!ConfirmScreenClose(context_, form)) return false;
     Unload(form);
@@ -127,6 +131,7 @@ void FormEvents::UnloadAll() {
 
 bool FormEvents::LoseFocus(Form& form, Control& control) {
     bool accepted = true;
+    if (!context_.calc.store.IsOpen()) return accepted;
     if (control.grid) return CommitCell(form, control);
     if (!control.IsField()) return accepted;
     Handle(FormEvent::LostFocus, form, &control, [&] { accepted = FieldLostFocus(context_, form, control); });
@@ -173,15 +178,46 @@ void FormEvents::Type(const std::string& text) {
     if (control.kind != ControlKind::TextBox && control.kind != ControlKind::ComboBox) return;
     if (control.locked || (control.text.empty() && text.empty())) return;
     control.text = text;
+    form->caret = text.size();
     Handle(FormEvent::Change, *form, &control, [&] { FieldChange(*form, control); });
 }
 
 void FormEvents::TypeCharacter(Form& form, char character) {
     if (form.focus == nullptr) return;
-    // A field that was not typed in yet is selected as a whole, so the first character replaces it.
-    const std::string shown = form.focus->grid ? form.focus->grid->typed.value_or("") : form.focus->text;
-    const std::string kept = form.fieldChanged() ? shown : "";
-    Type(kept + character);
+    if (form.focus->grid) {
+        Type(form.focus->grid->typed.value_or("") + character);
+        return;
+    }
+    const std::size_t place = std::min(form.caret.value_or(0), form.focus->text.size());
+    std::string text = form.caret ? form.focus->text : "";
+    Type(text.insert(place, 1, character));
+    form.caret = place + 1;
+}
+
+/// Empties a box that is selected as a whole, else takes the character behind the cursor.
+void FormEvents::DeleteCharacter(Form& form) {
+    if (form.focus == nullptr) return;
+    if (form.focus->grid) {
+        if (!form.fieldChanged()) Type("");
+        CommitCell(form, *form.focus);
+        return;
+    }
+    const std::size_t place = form.caret.value_or(0);
+    if (form.caret && place >= form.focus->text.size()) return;
+    std::string text = form.caret ? form.focus->text : "";
+    if (form.caret) text.erase(place, 1);
+    Type(text);
+    form.caret = place;
+}
+
+/// Left and Right in a box: a selection is left at its end on that side.
+void FormEvents::MoveCaret(Form& form, int step) {
+    const std::size_t end = form.focus->text.size();
+    if (!form.caret) {
+        form.caret = step < 0 ? 0 : end;
+    } else if (step < 0 ? *form.caret > 0 : *form.caret < end) {
+        form.caret = step < 0 ? *form.caret - 1 : *form.caret + 1;
+    }
 }
 
 bool FormEvents::Key(const std::string& key) {
@@ -220,9 +256,7 @@ bool FormEvents::NamedKey(Form& form, const std::string& key) {
     } else if (key == "F1") {
         if (Control* help = form.Find(kHelpButton)) Press(form, *help);
     } else if (key == "Delete") {
-        // A field that was not typed in yet is selected as a whole; else the cursor stands at its end.
-        if (!form.fieldChanged()) Type("");
-        if (form.focus != nullptr && form.focus->grid) CommitCell(form, *form.focus);
+        DeleteCharacter(form);
     } else if (key == "Up" || key == "Left") {
         Step(form, key, -1);
     } else if (key == "Down" || key == "Right") {
@@ -250,6 +284,8 @@ void FormEvents::Step(Form& form, const std::string& key, int step) {
         StepOption(form, *form.focus, step);
     } else if (form.focus->kind == ControlKind::ComboBox && (key == "Up" || key == "Down")) {
         StepItem(*form.focus, step);
+    } else if (form.focus->kind == ControlKind::TextBox && (key == "Left" || key == "Right")) {
+        MoveCaret(form, step);
     }
 }
 
@@ -313,7 +349,7 @@ bool FormEvents::Choose(Form& form, Control& control, const std::string& item) {
 
 void FormEvents::AfterUnitSwitch() {
     Form* form = Current();
-    if (form == nullptr || form->type().isHub) return;
+    if (form == nullptr || form->type().isHub || !context_.calc.store.IsOpen()) return;
     FillValueItems(context_, *form);
     RefreshScreen(context_, *form);
     if (form->focus != nullptr) GetFocus(*form, *form->focus);

@@ -50,8 +50,8 @@ class FormEvents {
     /// Moves the focus to a button and clicks it, if the focus stays there.
     void Press(Form& form, Control& button);
 
-    /// What a user does to the form's grid. Each is false if the form has no such grid, column or row. An edit
-    /// takes the same way as a typed field: validated, written, recalculated.
+    /// What a user does to the form's grid. Each is false if the form has no such grid, column or row. An
+    /// edit takes the same way as a typed field: validated, written, recalculated.
     bool EditCell(Form& form, int row, const std::string& variable, const std::string& text);
     bool MoveToCell(Form& form, int row, const std::string& variable);
     bool DeleteRow(Form& form, int row);
@@ -85,6 +85,8 @@ class FormEvents {
     void ActivateFront();
     void Click(Form& form, Control& control);
     void TypeCharacter(Form& form, char character);
+    void DeleteCharacter(Form& form);
+    static void MoveCaret(Form& form, int step);
     bool NamedKey(Form& form, const std::string& key);
 
     void Restore(Form& form);

@@ -113,8 +113,8 @@ void FormEvents::NoteCurrentCell(Form& form) {
     context_.values.dim2 = form.dim2().value_or(1);
 }
 
-/// Moves the cursor by a key; Tab and Enter go on to the next row at the end of one, and leave the grid at its
-/// ends.
+/// Moves the cursor by a key; Tab and Enter go on to the next row at the end of one, and leave the grid at
+/// its ends.
 void FormEvents::StepCell(Form& form, Control& control, const std::string& key) {
     if (!CommitCell(form, control)) return;
     const GridData& grid = *control.grid;

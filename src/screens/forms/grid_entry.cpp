@@ -29,7 +29,8 @@ std::string GridReadCell(const ScreenContext& context, const Form& form, int row
 void GridWriteCell(ScreenContext& context, const Form& form, int row, const GridColumn& column,
                    const std::string& text) {
     const std::string* item = column.list.empty() ? nullptr : FindItem(column, text);
-    context.units.SetDisplayValue(column.variable, row, SecondSubscript(form), item != nullptr ? *item : text);
+    context.units.SetDisplayValue(column.variable, row, SecondSubscript(form),
+                                  item != nullptr ? *item : text);
 }
 
 void GridChange(ScreenContext& context, Form& form) {

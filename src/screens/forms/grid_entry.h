@@ -18,7 +18,8 @@ void GridChange(ScreenContext& context, Form& form);
 
 /// True if a text may be stored in a column; else its message was shown. A number must be one and lie within
 /// the range of the active unit system; a list takes its entries alone; any cell takes an empty text.
-bool GridBeforeColUpdate(ScreenContext& context, Form& form, const GridColumn& column, const std::string& text);
+bool GridBeforeColUpdate(ScreenContext& context, Form& form, const GridColumn& column,
+                         const std::string& text);
 
 /// The edit of a cell is over.
 void GridAfterColUpdate(Form& form);

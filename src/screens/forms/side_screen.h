@@ -10,7 +10,8 @@ namespace kelvor {
 /// the hidden boxes FormName, the caller, and FieldName, the field; both are empty if nobody called it.
 
 /// Opens a side screen for a field of a form. Null if it did not open: a value being typed was refused.
-Form* OpenSideScreen(ScreenContext& context, const std::string& sideScreen, Form& caller, const std::string& field);
+Form* OpenSideScreen(ScreenContext& context, const std::string& sideScreen, Form& caller,
+                     const std::string& field);
 
 /// Tells the caller, when a side screen closes, whether a value was taken over: its indicator then warns, and
 /// the focus goes back to the field.

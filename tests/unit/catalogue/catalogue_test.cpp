@@ -80,10 +80,10 @@ INSTANTIATE_TEST_SUITE_P(
                "VALUES ('DeF', 'DEPTH', 20, 'O', 'NoSuchKey')"},
         Damage{"order",
                "UPDATE Variable SET HelpHead = 'x', HelpText = 'x' WHERE Name IN ('SSN', 'LDLayerStructNo');"
-               "INSERT INTO Screen (Name) VALUES ('LayDet');"
+               "INSERT INTO Screen (Name) VALUES ('NotYet');"
                "INSERT INTO Field (Screen, Name, Seq, Class, Type, Equation) VALUES "
-               "('LayDet', 'SSN', 20, NULL, 'O', 'SSN'),"
-               "('LayDet', 'LDLayerStructNo', 21, 'C', 'O', 'LDLayerStructNo')"},
+               "('NotYet', 'SSN', 20, NULL, 'O', 'SSN'),"
+               "('NotYet', 'LDLayerStructNo', 21, 'C', 'O', 'LDLayerStructNo')"},
         Damage{"missing term", "DELETE FROM Field WHERE Screen = 'OvWT' AND Name = 'OLJ'"},
         Damage{"first pair", "UPDATE \"Convert\" SET rowid = 1000 WHERE English = 'in'"},
         Damage{"pair twice", "INSERT INTO \"Convert\" VALUES ('psi', 'kPa', 6.9)"},
@@ -301,9 +301,9 @@ TEST(ListDatabaseTest, AListComesInItsOrder) {
     SQLite::Database((home / "DataBase/custom.tpl").string(), SQLite::OPEN_READWRITE)
         .exec("UPDATE \"Value\" SET Sort = 0 WHERE Name = 'AxleType' AND Value = 'Tridem'");
     ListDatabase lists(home / "DataBase/custom.tpl");
-    EXPECT_THAT(lists.Values("axletype"), testing::ElementsAre("Tridem", "Single", "Tandem"));
-    EXPECT_THAT(lists.Values("NoSuch"), IsEmpty());
-    EXPECT_THAT(lists.Values("O'Brien"), IsEmpty());
+    EXPECT_THAT(lists.Values("axletype", false), testing::ElementsAre("Tridem", "Single", "Tandem"));
+    EXPECT_THAT(lists.Values("NoSuch", false), IsEmpty());
+    EXPECT_THAT(lists.Values("O'Brien", false), IsEmpty());
 }
 
 }  // namespace

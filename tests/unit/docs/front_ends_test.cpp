@@ -23,9 +23,8 @@ std::set<std::string> ForbiddenNames(ProcessState& state) {
     std::set<std::string> names;
     for (const std::string& name : state.formRegistry.TypeNames()) names.insert(Folded(name));
     for (const Variable& variable : state.dbCatalogue->variables()) names.insert(Folded(variable.name));
-    // Keys of the JSON output too: the subscripts of a cell.
-    names.erase("dim1");
-    names.erase("dim2");
+    // Keys of the JSON output too: the subscripts of a cell, and the place in a grid.
+    for (const char* key : {"dim1", "dim2", "column"}) names.erase(key);
     return names;
 }
 

@@ -2,11 +2,16 @@
 #include <gtest/gtest.h>
 
 #include <SQLiteCpp/SQLiteCpp.h>
+#include <bit>
 #include <cmath>
+#include <cstdint>
+#include <initializer_list>
+#include <memory>
 #include <random>
 #include <string>
 #include <vector>
 
+#include "screens/forms/balance_state.h"
 #include "screens/forms/form.h"
 #include "support/test_host.h"
 
@@ -16,6 +21,11 @@ namespace {
 using Kind = UserEvent::Kind;
 using testing::ElementsAre;
 using testing::IsEmpty;
+
+/// A number to its last bit.
+std::string Bits(const std::optional<double>& number) {
+    return number ? std::to_string(std::bit_cast<std::uint64_t>(*number)) : "null";
+}
 
 class FormsTest : public testing::Test {
   protected:
@@ -31,6 +41,8 @@ class FormsTest : public testing::Test {
     std::vector<std::string> Messages() { return program_.host.record.TakeTexts(); }
 
     TestProgram program_;
+    std::unique_ptr<ScreenContext> context_ =
+        std::make_unique<ScreenContext>(program_.program.state().MakeScreenContext());
 };
 
 TEST_F(FormsTest, EveryFieldOfEveryFormIsBoundToTheCatalogue) {
@@ -72,8 +84,8 @@ TEST_F(FormsTest, TabGoesThroughEveryInputInReadingOrderAndRound) {
         Raise(Kind::Key, "Tab");
     }
     EXPECT_THAT(order, ElementsAre("FLEXE18", "FLEXREL", "FLEXDEV", "RM", "SN", "FLEXPO", "FLEXPT",
-                                   "Command1", "cmdAction", "FLEXE18"));
-    Raise(Kind::Key, "BackTab");
+                                   "Command1", "Command2", "cmdAction"));
+    EXPECT_EQ(form.focus->name, "FLEXE18");
     Raise(Kind::Key, "BackTab");
     EXPECT_EQ(form.focus->name, "cmdAction");
     EXPECT_THAT(Messages(), IsEmpty());
@@ -81,7 +93,11 @@ TEST_F(FormsTest, TabGoesThroughEveryInputInReadingOrderAndRound) {
 
 TEST_F(FormsTest, EnterOnAButtonMovesOn) {
     Form& form = Open("DeF");
-    Raise(Kind::Focus, "Command1");
+    Raise(Kind::Focus, "FLEXPT");
+    Raise(Kind::Key, "Enter");
+    EXPECT_EQ(form.focus->name, "Command1") << "in the last field as in any";
+    Raise(Kind::Key, "Enter");
+    EXPECT_EQ(form.focus->name, "Command2");
     Raise(Kind::Key, "Enter");
     EXPECT_EQ(form.focus->name, "cmdAction");
     Raise(Kind::Key, "Enter");
@@ -109,9 +125,9 @@ TEST_F(FormsTest, WhatMakesNoSenseIsTold) {
 
 TEST_F(FormsTest, ADisabledControlTakesNeitherFocusNorClick) {
     Form& form = Open("DeF");
-    EXPECT_TRUE(Raise(Kind::Press, "Command2"));
+    EXPECT_TRUE(Raise(Kind::Press, "cmdbCS"));
     EXPECT_EQ(form.focus->name, "FLEXE18");
-    EXPECT_EQ(form.Find("Command2")->toolTip, "comes later");
+    EXPECT_EQ(form.Find("cmdbCS")->toolTip, "comes later");
     Raise(Kind::Key, "F1");
     EXPECT_EQ(form.focus->name, "FLEXE18");
     Raise(Kind::Focus, "SolveForField");
@@ -205,8 +221,8 @@ TEST_F(FormsTest, TwentySwitchesOfTheUnitsLeaveEveryCellAsItWas) {
     const auto snapshot = [&] {
         std::string all;
         program_.store().ForEachFilled([&](const CellKey& key, const CellValue& value) {
-            all += CellText(key.name, key.dim1, key.dim2) + "=" + std::to_string(value.number.value_or(-1)) +
-                   value.text.value_or("") + "\n";
+            all += CellText(key.name, key.dim1, key.dim2) + "=" + Bits(value.number) + " " +
+                   value.text.value_or("null") + "\n";
         });
         return all;
     };
@@ -233,26 +249,148 @@ TEST_F(FormsTest, WithNoProjectOpenScreensDoNothing) {
     EXPECT_TRUE(Raise(Kind::Menu, "MenuUnitsMetric"));
 }
 
+TEST_F(FormsTest, AScreenKeptOverAFailedOpenDoesNothingButClose) {
+    Form* form = &Open("DeF");
+    Raise(Kind::Type, {}, "5000000");
+    Raise(Kind::Focus, "SN");
+    WriteFile(program_.home / "bad.kvr", "no project");
+    program_.host.dialogs.QueueAnswer("no");  // keeps the screen, whose values are not balanced
+    program_.program.OpenProject((program_.home / "bad.kvr").string());
+    ASSERT_EQ(program_.program.state().formRegistry.Find("DeF"), form);
+    (void)Messages();
+    program_.program.state().bProjectChanged = false;
+    Raise(Kind::ActivateForm, "DeF");
+    Raise(Kind::Focus, "SN");
+    Raise(Kind::Type, {}, "4");
+    Raise(Kind::Key, "Enter");
+    Raise(Kind::Press, "Command1");
+    Raise(Kind::Press, "Command2");
+    Raise(Kind::Menu, "MenuUnitsMetric");
+    EXPECT_THAT(Messages(), IsEmpty());
+    EXPECT_FALSE(program_.program.state().bProjectChanged);
+    Raise(Kind::CloseForm, "DeF");
+    EXPECT_EQ(program_.program.state().formRegistry.Find("DeF"), nullptr);
+}
+
+TEST_F(FormsTest, TheLimitsThemselvesPass) {
+    Open("DeF");
+    for (const auto& [text, number] : {std::pair{"50", 50.0}, std::pair{"99.99", 99.99}}) {
+        Raise(Kind::Focus, "FLEXREL");
+        Raise(Kind::Type, {}, text);
+        Raise(Kind::Key, "Enter");
+        EXPECT_EQ(program_.Get("FLEXREL"), number);
+    }
+    EXPECT_THAT(Messages(), IsEmpty());
+}
+
+TEST_F(FormsTest, MillimetresTypedIntoAFieldAreStoredAsInches) {
+    Form& form = Open("DeF");
+    Raise(Kind::Menu, "MenuUnitsMetric");
+    Raise(Kind::Focus, "SN");
+    Raise(Kind::Type, {}, "12.7");
+    Raise(Kind::Key, "Enter");
+    EXPECT_EQ(*program_.store().FindCell("SN", 1, 1), (CellValue{0.5, "12.7"}));
+    Raise(Kind::Menu, "MenuUnitsEnglish");
+    EXPECT_EQ(form.Find("SN")->text, "0.50");
+}
+
+TEST_F(FormsTest, ALabelThatBeginsLikeAWarningCountsAsOne) {
+    Form& form = Open("DeF");
+    SetSolveForState(form, SolveState::Solved, "WARNING!s per mile", "3");
+    program_.host.dialogs.QueueAnswer("no");
+    Raise(Kind::CloseForm, "DeF");
+    EXPECT_EQ(Messages().size(), 1U);
+    SetSolveForState(form, SolveState::Solved, "WARNING per mile", "3");
+    Raise(Kind::CloseForm, "DeF");
+    EXPECT_THAT(Messages(), IsEmpty());
+}
+
+TEST_F(FormsTest, AFieldWithoutATagIsLeftAlone) {
+    Form& form = Open("DeF");
+    form.SetHiddenText("Dim1", "");
+    form.SetHiddenText("SolveForSide", "kept");
+    RefreshScreen(*context_, form);
+    EXPECT_EQ(form.HiddenText("SolveForSide"), "kept");
+}
+
+TEST_F(FormsTest, OnTheHubASwitchOfUnitsTouchesNothingElse) {
+    Raise(Kind::SwitchTab, {}, {}, 2);
+    const Form& hub = *program_.program.state().formRegistry.CurrentForm;
+    const Control* focus = hub.focus;
+    Raise(Kind::Menu, "MenuUnitsMetric");
+    EXPECT_TRUE(program_.program.state().units->bMetric());
+    EXPECT_EQ(hub.page, 2);
+    EXPECT_EQ(hub.focus, focus);
+    EXPECT_EQ(program_.program.state().formRegistry.CurrentForm, &hub);
+}
+
+TEST_F(FormsTest, AButtonBringsAnOpenScreenToTheFront) {
+    const auto& registry = program_.program.state().formRegistry;
+    for (int i = 0; i < 2; ++i) {
+        Raise(Kind::SwitchTab, {}, {}, 2);
+        Raise(Kind::Choose, "oDeF");
+        Raise(Kind::Press, "Command4");
+        EXPECT_EQ(registry.CurrentForm->name(), "DeF");
+        EXPECT_EQ(registry.InOpeningOrder().size(), 2U);
+    }
+}
+
+TEST_F(FormsTest, TheNamesOfTwoTabsOpenThem) {
+    Open("DeF");
+    EXPECT_TRUE(Raise(Kind::OpenForm, "EcFa"));
+    EXPECT_EQ(program_.program.state().formRegistry.CurrentForm->page, 4);
+    EXPECT_TRUE(Raise(Kind::OpenForm, "InfForm"));
+    EXPECT_EQ(program_.program.state().formRegistry.CurrentForm->page, 0);
+}
+
+TEST_F(FormsTest, CharactersGoWhereTheCursorIs) {
+    Form& form = Open("DeF");
+    const auto keys = [&](std::initializer_list<const char*> names) {
+        for (const char* name : names) Raise(Kind::Key, name);
+        return form.focus->text;
+    };
+    Raise(Kind::Type, {}, "5000");
+    Raise(Kind::Key, "Enter");
+    Raise(Kind::Key, "BackTab");
+    EXPECT_EQ(keys({"Left", "1"}), "15,000");
+    EXPECT_EQ(keys({"Right", "2", "Delete"}), "152000");
+    Raise(Kind::Key, "Esc");
+    EXPECT_EQ(keys({"Right", "7"}), "5,0007");
+    Raise(Kind::Key, "Esc");
+    EXPECT_EQ(keys({"7"}), "7") << "after Esc the value is selected as a whole";
+    Raise(Kind::Key, "Esc");
+    EXPECT_EQ(keys({"Delete"}), "");
+}
+
 /// One random act of a user who has no idea.
 UserEvent RandomEvent(std::mt19937& random, const Form* current) {
     static const std::vector<std::string> kKeys = {"Enter", "Tab",   "BackTab", "Esc", "Space", "F1",
-                                                   "Alt+S", "Alt+O", "Alt+D",   "5",   ".",     "x"};
+                                                   "Alt+S", "Alt+O", "Alt+D",   "5",   ".",     "x",
+                                                   "Up",    "Down",  "Left",    "F2",  "Right", "Delete"};
     static const std::vector<std::string> kTexts = {"5000", "95", "0.45",  "4.2", "2.5",      "",
                                                     "abc",  "-1", "1e308", "1e9", "5,000,000"};
     static const std::vector<std::string> kMenus = {"MenuUnitsMetric", "MenuUnitsEnglish", "MenuFilePrint",
-                                                    "NewProj"};
+                                                    "NewProj", "MenuFileOpen"};
+    static const std::vector<std::string> kForms = {"TabForm", "DeF", "LayDet"};
+    static const std::vector<std::string> kColumns = {"LDLayerMat", "LDLayerThick", "LDLayerStructNo", ""};
     const auto pick = [&](std::size_t count) {
         return std::uniform_int_distribution<std::size_t>(0, count - 1)(random);
     };
     std::string control = "TabForm";
     if (current != nullptr) control = current->controls()[pick(current->controls().size())]->name;
-    switch (pick(10)) {
+    switch (pick(12)) {
         case 0:
-            return {Kind::OpenForm, "DeF", {}, 0};
+            return {Kind::OpenForm, kForms[pick(3)], {}, 0};
         case 1:
-            return {Kind::ActivateForm, pick(2) == 0 ? "TabForm" : "DeF", {}, 0};
+            return {Kind::ActivateForm, kForms[pick(3)], {}, 0};
         case 2:
-            return {Kind::CloseForm, "DeF", {}, 0};
+            return {Kind::CloseForm, kForms[pick(3)], {}, 0};
+        case 10:
+            return {pick(3) == 0 ? Kind::MoveToCell : Kind::EditCell, kColumns[pick(4)],
+                    kTexts[pick(kTexts.size())], static_cast<int>(pick(8))};
+        case 11:
+            if (pick(2) == 0) return {Kind::DeleteRow, {}, {}, static_cast<int>(pick(8))};
+            return {Kind::PasteCells, {}, "1\t0.5\nx\t3\n\"", 0};
         case 3:
             return {Kind::Focus, control, {}, 0};
         case 4:
@@ -266,22 +404,27 @@ UserEvent RandomEvent(std::mt19937& random, const Form* current) {
             return pick(2) == 0 ? UserEvent{Kind::Choose, control, {}, 0}
                                 : UserEvent{Kind::SwitchTab, {}, {}, static_cast<int>(pick(9))};
         default:
-            // A new project now and then only: it copies the template.
-            return {Kind::Menu, kMenus[pick(20) == 0 ? 3 : pick(3)], {}, 0};
+            // A project now and then only: it copies the template.
+            return {Kind::Menu, kMenus[pick(20) == 0 ? 3 + pick(2) : pick(3)], {}, 0};
     }
 }
 
 TEST_F(FormsTest, AHundredThousandRandomEventsDoNoHarm) {
     std::mt19937 random(20260103);
     FormRegistry& forms = program_.program.state().formRegistry;
+    WriteFile(program_.home / "bad.kvr", "no project");
+    const std::string answers[] = {"yes", "no", "ok", (program_.home / "bad.kvr").string()};
     for (int i = 0; i < 100'000; ++i) {
+        program_.host.dialogs.QueueAnswer(answers[random() % 4]);
         program_.program.Raise(RandomEvent(random, forms.CurrentForm));
+        program_.host.dialogs.DropAnswers();
         program_.host.record.messages.clear();
         program_.host.record.answers.clear();
         ASSERT_NE(forms.CurrentForm, nullptr);
         const Control* focus = forms.CurrentForm->focus;
         ASSERT_TRUE(focus == nullptr || forms.CurrentForm->CanFocus(*focus)) << "event " << i;
     }
+    program_.program.NewProject();
     EXPECT_TRUE(program_.store().CompareWithWorkCopy().empty());
     program_.store().ForEachFilled([](const CellKey& key, const CellValue& value) {
         EXPECT_TRUE(std::isfinite(value.number.value_or(0.0))) << key.name;
