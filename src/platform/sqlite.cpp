@@ -34,6 +34,10 @@ void CheckLength(SQLite::Database& database, const Path& path) {
     if (!error && length % pageSize != 0) throw DatabaseError("file ends in the middle of a page", false);
 }
 
+[[noreturn]] void Refuse(const std::string& type, const std::string& name) {
+    throw DatabaseError(type + " " + name + " does not belong there", false);
+}
+
 /// `query` gives the columns of the table that is bound to it.
 void CheckTable(SQLite::Statement& query, const TableShape& shape) {
     const std::string name(shape.name);
@@ -143,7 +147,7 @@ void CheckShape(SQLite::Database& database, const std::vector<TableShape>& table
                 return EqualNoCase(table.name, name);
             });
             if (type == "trigger" || type == "view" || (only && !(known && type == "table"))) {
-                throw DatabaseError(type + " " + name + " does not belong there", false);
+                Refuse(type, name);
             }
         }
         // The plain table_info keeps quiet about computed columns.

@@ -7,6 +7,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <nlohmann/json.hpp>
 #include <sstream>
@@ -31,11 +32,18 @@ struct ConsoleEnd {
     std::string errors;
 };
 
+/// The words as a program takes them.
+std::vector<char*> Pointers(std::vector<std::string>& words) {
+    std::vector<char*> pointers(words.size());
+    std::transform(words.begin(), words.end(), pointers.begin(),
+                   [](std::string& word) { return word.data(); });
+    return pointers;
+}
+
 /// The whole of kelvor-cli, in this process.
 ConsoleEnd RunInProcess(std::vector<std::string> words, const std::string& input) {
     words.insert(words.begin(), "kelvor-cli");
-    std::vector<char*> arguments;
-    for (std::string& word : words) arguments.push_back(word.data());
+    std::vector<char*> arguments = Pointers(words);
     std::istringstream in(input);
     std::ostringstream out;
     std::ostringstream errors;
@@ -62,8 +70,7 @@ class RunningCli {
         if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0)
             throw std::runtime_error("no socket");
         words.insert(words.begin(), KELVOR_CLI);
-        std::vector<char*> arguments;
-        for (std::string& word : words) arguments.push_back(word.data());
+        std::vector<char*> arguments = Pointers(words);
         arguments.push_back(nullptr);
         process_ = ::fork();
         if (process_ == 0) {
@@ -433,7 +440,7 @@ constexpr BadCommand kBadCommands[] = {
     {"set SN \"5\\", "a quote is not closed"},
     {"set SN \"5\"5", "a blank must follow a closing quote"},
     {"set SN 5\"5\"", "a quote stands inside a word"},
-    {"set SN \"\\q\"", "unknown escape \\q"},
+    {R"(set SN "\q")", "unknown escape \\q"},
     {"show", "show: too few words"},
     {"show SN x", "show: \"x\" is no subscript"},
     {"dump SN RM", "dump: too many words"},

@@ -124,7 +124,7 @@ TEST_F(StartUpTest, TheProjectOnTheCommandLineOpens) {
     const std::vector<std::string> commandLines = {path, "  " + path + "  ", "\"" + path + "\"",
                                                    "  \"" + path + "\" ",
                                                    // Quotes are dropped wherever they stand.
-                                                   folder_.path().string() + "/\"my\" pl\"an.kvr"};
+                                                   folder_.path().string() + R"(/"my" pl"an.kvr)"};
     for (const std::string& commandLine : commandLines) {
         SCOPED_TRACE(commandLine);
         const Start start = Run(commandLine);
