@@ -42,4 +42,8 @@ SolveCount CountSolve(BenchProgram& program);
 /// and of peak memory.
 std::vector<Comparison> CompareStarts(const Path& home);
 
+/// Starts the window and an empty one in turns, without a display, and compares them; then how long a screen
+/// takes to open and a key to be seen. Nothing if the window was not built.
+std::vector<Comparison> CompareWindows(const Path& home);
+
 }  // namespace kelvor::bench

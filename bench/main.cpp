@@ -65,7 +65,9 @@ std::vector<Comparison> Compare(const std::vector<Pair>& pairs, const MedianRepo
 bool RunBenchmarks() {
     const TemporaryHome home;
     // Before this process grows; see the note on fork at the starts.
-    const std::vector<Comparison> starts = CompareStarts(home.path());
+    std::vector<Comparison> starts = CompareStarts(home.path());
+    const std::vector<Comparison> windows = CompareWindows(home.path());
+    starts.insert(starts.end(), windows.begin(), windows.end());
     BenchProgram program(home.path());
     const std::vector<Pair> pairs = RegisterAll(program, home.path());
     MedianReporter reporter;

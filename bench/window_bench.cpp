@@ -1,0 +1,48 @@
+#include <stdlib.h>  // NOLINT(modernize-deprecated-headers): setenv
+
+#include <sstream>
+
+#include "benchmarks.h"
+#include "child_program.h"
+
+namespace kelvor::bench {
+
+namespace {
+
+constexpr int kStarts = 21;
+
+/// What the window may cost beside an empty one, in time and in memory.
+constexpr double kLongestRatio = 3.0;
+
+constexpr double kOpeningSeconds = 0.030;
+constexpr double kKeySeconds = 0.005;
+
+/// A time beside the longest that a user shall wait.
+Comparison Wait(const std::string& name, double milliseconds, double longestSeconds) {
+    return {name, Quantity::Time, milliseconds / 1e3, longestSeconds, 1.0};
+}
+
+}  // namespace
+
+std::vector<Comparison> CompareWindows(const Path& home) {
+    const Path programs = ExecutableFolder();
+    const std::string program = (programs / "kelvor-bench-window").string();
+    if (!std::filesystem::exists(program)) return {};  // built without the toolkit
+    ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    const BothStarted runs =
+        StartInTurns({program, home.string()}, {(programs / "kelvor-bench-empty-window").string()}, kStarts);
+    std::istringstream answer(Start({program, home.string(), "--timings"}).answer);
+    std::string shown;
+    double opening = 0.0;
+    double key = 0.0;
+    answer >> shown >> opening >> key;
+    return {
+        {"window, start to shown, beside an empty one", Quantity::Time, Median(runs.ours, &Started::seconds),
+         Median(runs.reference, &Started::seconds), kLongestRatio},
+        {"window, peak memory, beside an empty one", Quantity::Memory, Median(runs.ours, &Started::peakBytes),
+         Median(runs.reference, &Started::peakBytes), kLongestRatio},
+        Wait("a design screen opened, beside 30 ms", opening, kOpeningSeconds),
+        Wait("a key to the painted field, beside 5 ms", key, kKeySeconds)};
+}
+
+}  // namespace kelvor::bench
