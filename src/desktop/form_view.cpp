@@ -84,6 +84,11 @@ FormView::FormView(Form& form, EventDoor& door, QWidget* parent)
     Sync();
 }
 
+/// What is inside goes after this; it must not report its end to what is no more.
+FormView::~FormView() {
+    for (QObject* inside : findChildren<QObject*>()) inside->disconnect(this);
+}
+
 void FormView::MakeWidgets() {
     for (const auto& control : form_->controls()) {
         QWidget* widget = control->grid ? MakeGrid(*control) : MakeWidget(*control, this);

@@ -17,6 +17,9 @@ namespace kelvor {
 class FormView : public QWidget {
   public:
     FormView(Form& form, EventDoor& door, QWidget* parent = nullptr);
+    FormView(const FormView&) = delete;
+    FormView& operator=(const FormView&) = delete;
+    ~FormView() override;
 
     /// Null once the form has been closed.
     [[nodiscard]] Form* form() const { return form_; }

@@ -55,6 +55,8 @@ QVariant CellModel::data(const QModelIndex& index, int role) const {
             return QVariant::fromValue((IsText(column) ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
         case Qt::BackgroundRole:
             return column.locked ? QVariant(ScreenColour(colours::kLightCyan, QPalette())) : QVariant();
+        case Qt::ToolTipRole:
+            return ToQt(column.hint);
         case Qt::AccessibleTextRole:
             return ToQt(column.caption) + " " + ToQt(hooks_.read(index.row() + 1, column));
         default:
@@ -98,6 +100,12 @@ class GridView::Delegate : public QStyledItemDelegate {
 
     void setModelData(QWidget* /*editor*/, QAbstractItemModel* /*model*/,
                       const QModelIndex& /*index*/) const override {}
+
+  protected:
+    /// Keys are the form's: they move the cursor of the model.
+    bool eventFilter(QObject* editor, QEvent* event) override {
+        return event->type() != QEvent::KeyPress && QStyledItemDelegate::eventFilter(editor, event);
+    }
 
   private:
     QWidget* MakeLine(const GridColumn& column, QWidget* parent) const {

@@ -239,7 +239,9 @@ void MainWindow::SyncActiveWindow() {
 
 void MainWindow::SyncStatus() {
     const Form* form = program_.state().formRegistry.CurrentForm;
-    const QString hint = form == nullptr || form->focus == nullptr ? QString() : ToQt(form->focus->toolTip);
+    const Control* focus = form == nullptr ? nullptr : form->focus;
+    QString hint;
+    if (focus != nullptr) hint = ToQt(focus->grid ? focus->grid->current().hint : focus->toolTip);
     if (hint_->text() != hint) hint_->setText(hint);
 }
 

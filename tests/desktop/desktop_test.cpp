@@ -12,6 +12,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QTabBar>
+#include <QTableView>
 #include <QTest>
 
 #include "desktop/desktop_fixture.h"
@@ -44,7 +45,8 @@ class WindowTest : public DesktopTest {
 
     void Type(const char* text) {
         if (!window().isActiveWindow()) ComeToFront();
-        QTest::keyClicks(QApplication::focusWidget(), text);
+        // The first character may open a line for the rest.
+        for (const char* c = text; *c != '\0'; ++c) QTest::keyClick(QApplication::focusWidget(), *c);
     }
 
     void TypeAndEnter(const char* text) {
@@ -310,6 +312,81 @@ TEST_F(WindowTest, EscShowsTheStoredValueAgain) {
     EXPECT_EQ(Shown("FLEXE18"), "5,000,000");
     Type("8");
     EXPECT_EQ(Shown("FLEXE18"), "8") << "the value is selected as a whole again";
+}
+
+// --- Grids -----------------------------------------------------------------------------------------------
+
+class GridWindowTest : public WindowTest {
+  protected:
+    GridWindowTest() {
+        OpenFlexibleDesign();
+        Press(Qt::Key_L, Qt::AltModifier);
+    }
+
+    QTableView& Table() { return Find<QTableView>("Grid"); }
+
+    std::string Cell(int row, int column) {
+        return Table().model()->data(Table().model()->index(row - 1, column)).toString().toStdString();
+    }
+};
+
+TEST_F(GridWindowTest, ALayerIsTypedByKeysAlone) {
+    EXPECT_EQ(FocusName(), "Grid");
+    Press(Qt::Key_Right);
+    TypeAndEnter("0.44");
+    TypeAndEnter("1");
+    Type("4");
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(Cell(1, 4), "1.76");
+    EXPECT_EQ(Shown("SSN"), "1.76");
+    EXPECT_EQ(Find<QLabel>("Hint").text(), "Layer Struct No, SNi: computed");
+    Press(Qt::Key_Left);
+    Press(Qt::Key_F2);
+    Press(Qt::Key_Home);
+    Type("1");
+    Press(Qt::Key_Down);
+    EXPECT_EQ(Cell(1, 3), "14.0");
+    EXPECT_EQ(Table().currentIndex().row(), 1);
+    Press(Qt::Key_Up);
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(Cell(1, 3), "");
+    EXPECT_EQ(Shown("SSN"), "0.00");
+    EXPECT_THAT(Messages(), IsEmpty());
+}
+
+TEST_F(GridWindowTest, ARefusedCellStaysUnderTheCursor) {
+    Press(Qt::Key_Right);
+    TypeAndEnter("much");
+    EXPECT_THAT(Messages(), ElementsAre("Please enter valid numeric value."));
+    ComeToFront();
+    EXPECT_EQ(Table().currentIndex().column(), 1);
+    EXPECT_EQ(Cell(1, 1), "");
+    TypeAndEnter("0.2");
+    EXPECT_EQ(Cell(1, 1), "0.200");
+}
+
+TEST_F(GridWindowTest, EscLeavesTheCellAsItWas) {
+    Press(Qt::Key_Right);
+    Type("0.2");
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(Cell(1, 1), "");
+    EXPECT_EQ(FocusName(), "Grid");
+    Press(Qt::Key_Return);
+    EXPECT_EQ(state().dbWork.GetVarDim("LDLayerCoef", 1, 1), 0.0);
+}
+
+TEST_F(GridWindowTest, ABlockOfFiftyRowsIsPastedAndCopiedAsPlainNumbers) {
+    QString block;
+    for (int row = 1; row <= 50; ++row) block += "0.1\t1\t10.5\t7\t8\n";
+    Press(Qt::Key_Right);
+    QApplication::clipboard()->setText(block);
+    Press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_THAT(Messages(), IsEmpty());
+    EXPECT_EQ(Cell(6, 3), "10.5");
+    EXPECT_EQ(Shown("SSN"), "6.30");
+    Table().selectAll();
+    Press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(QApplication::clipboard()->text().startsWith("\t0.100\t1.00\t10.5\t1.05\t"));
 }
 
 // --- The frame --------------------------------------------------------------------------------------------

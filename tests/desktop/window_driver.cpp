@@ -297,6 +297,7 @@ void WindowDriver::TypeInto(QWidget& box, const std::string& text) {
 
 void WindowDriver::Type(const std::string& text) {
     (void)View();
+    if (auto* grid = dynamic_cast<GridView*>(&FocusWidget())) QTest::keyClick(grid, Qt::Key_F2);
     if (auto* box = qobject_cast<QLineEdit*>(&FocusWidget())) TypeInto(*box, text);
 }
 

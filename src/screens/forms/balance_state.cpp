@@ -52,15 +52,16 @@ std::string FieldText(const ScreenContext& context, const Form& form, const Cont
                                          form.dim2().value_or(1));
 }
 
-void RefreshUnits(const ScreenContext& context, GridData& grid) {
+void RefreshColumns(const ScreenContext& context, GridData& grid) {
     for (GridColumn& column : grid.columns) {
         const std::string unit = context.units.UnitLabel(column.variable);
         column.unit = IsNoUnit(unit) ? "" : unit;
+        column.hint = ColumnHint(context, column);
     }
 }
 
 void RefreshControl(const ScreenContext& context, const Form& form, Control& control) {
-    if (control.grid) RefreshUnits(context, *control.grid);
+    if (control.grid) RefreshColumns(context, *control.grid);
     if (control.IsField()) control.toolTip = FieldHint(context, control);
     if (control.kind == ControlKind::TextBox && !control.tag.empty()) {
         control.text = FieldText(context, form, control);

@@ -42,6 +42,7 @@ struct GridColumn {
     std::string variable;
     std::string caption;
     std::string unit;  // in the active system; empty if it is not worth showing
+    std::string hint;  // what a cell wants
     std::string picture;
     std::string list;                // the name of the list that it offers; empty: it takes what is typed
     std::vector<std::string> items;  // the entries of that list

@@ -21,17 +21,26 @@ std::string RangeText(const Range& range, const std::string& picture) {
     return "at most " + text(*range.high);
 }
 
+std::string HintOf(const ScreenContext& context, const std::string& name, bool computed) {
+    const Variable* variable = context.catalogue.FindVariable(name);
+    if (variable == nullptr) return {};
+    if (computed) return variable->desc + ": computed";
+    const Range range = context.units.VariableRange(name);
+    if (!range.low && !range.high) return variable->desc;
+    const std::string unit = context.units.UnitLabel(name);
+    return variable->desc + ": " + RangeText(range, variable->format) +
+           (IsNoUnit(unit) ? std::string() : " " + unit);
+}
+
 }  // namespace
 
 std::string FieldHint(const ScreenContext& context, const Control& field) {
-    const Variable* variable = context.catalogue.FindVariable(field.tag);
-    if (variable == nullptr) return {};
-    if (field.locked) return variable->desc + ": computed";
-    const Range range = context.units.VariableRange(field.tag);
-    if (!range.low && !range.high) return variable->desc;
-    const std::string unit = context.units.UnitLabel(field.tag);
-    return variable->desc + ": " + RangeText(range, variable->format) +
-           (IsNoUnit(unit) ? std::string() : " " + unit);
+    return HintOf(context, field.tag, field.locked);
+}
+
+std::string ColumnHint(const ScreenContext& context, const GridColumn& column) {
+    const std::string hint = HintOf(context, column.variable, column.locked);
+    return column.list.empty() ? hint : hint + ", from the list";
 }
 
 }  // namespace kelvor

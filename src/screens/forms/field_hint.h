@@ -10,4 +10,7 @@ namespace kelvor {
 /// it allows in the active unit system, or that its value is computed.
 std::string FieldHint(const ScreenContext& context, const Control& field);
 
+/// The same for the cells of a column.
+std::string ColumnHint(const ScreenContext& context, const GridColumn& column);
+
 }  // namespace kelvor
