@@ -29,6 +29,13 @@ struct Look {
     QPalette palette;
 };
 
+/// A script may say where it switches: `units {UNITS}`. One that does not is switched at its end.
+std::string WithUnits(std::string script, const std::string& units) {
+    const std::string mark = "{UNITS}";
+    const std::size_t at = script.find(mark);
+    return at == std::string::npos ? script : script.replace(at, mark.size(), units);
+}
+
 void TakePicture(const Path& script, const char* units, const Look& look, const Path& folder) {
     const TestHome home;
     std::ostringstream printed;
@@ -40,7 +47,7 @@ void TakePicture(const Path& script, const char* units, const Look& look, const 
     desktop.window().resize(desktop.window().StartSize());
     WindowDriver driver(desktop, responder);
 
-    std::ifstream commands(script);
+    std::istringstream commands(WithUnits(ReadFile(script), units));
     if (RunScript(commands, driver, output, std::cerr) != ScriptEnd::Done) {
         throw std::runtime_error(script.string() + " does not run through: " + printed.str());
     }

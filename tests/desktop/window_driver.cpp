@@ -59,7 +59,7 @@ ControlKind KindOf(const QWidget& widget) {
 
 /// A caption without the mark that the view put in, and with the line ends of the model.
 std::string CaptionText(const QWidget& widget, QString text) {
-    const qsizetype mark = widget.property(kAddedMarkProperty).value<qsizetype>();
+    const auto mark = widget.property(kAddedMarkProperty).value<qsizetype>();
     if (mark >= 0 && mark < text.size() && text[mark] == u'&') text.remove(mark, 1);
     return FromQt(text.replace("\n", "\r\n"));
 }

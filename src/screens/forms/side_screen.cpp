@@ -12,7 +12,7 @@ constexpr double kTrue = -1.0;
 
 Form* OpenSideScreen(ScreenContext& context, const std::string& sideScreen, Form& caller,
                      const std::string& field) {
-    const std::string callerName = caller.name();
+    const std::string& callerName = caller.name();
     FormEvents(context).Open(sideScreen);
     Form* form = context.forms.Find(sideScreen);
     if (form == nullptr || context.forms.CurrentForm != form) return nullptr;
