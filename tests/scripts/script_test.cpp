@@ -6,36 +6,17 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
-#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
 #include <string>
 #include <vector>
 
+#include "support/script_files.h"
 #include "support/test_home.h"
 
 namespace kelvor::test {
 namespace {
-
-const Path kScripts = Path(KELVOR_SOURCE_FOLDER) / "tests/scripts";
-
-std::vector<std::string> ScriptNames() {
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(kScripts)) {
-        if (entry.path().extension() != ".kvs") continue;
-        names.push_back(entry.path().lexically_relative(kScripts).replace_extension().string());
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
-std::string ReplaceAll(std::string text, const std::string& from, const std::string& to) {
-    for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size())) {
-        text.replace(at, from.size(), to);
-    }
-    return text;
-}
 
 std::string Prefixed(const std::string& text, const std::string& prefix) {
     std::istringstream lines(text);
@@ -48,7 +29,7 @@ std::string Prefixed(const std::string& text, const std::string& prefix) {
 std::string RunScriptFile(const std::string& name) {
     const TestHome home;
     const std::string script =
-        ReplaceAll(ReadFile(kScripts / (name + ".kvs")), "{HOME}", home.path().string());
+        ReplaceAll(ReadFile(ScriptFolder() / (name + ".kvs")), "{HOME}", home.path().string());
     WriteFile(home / "script.kvs", script);
     const std::string command = "cd '" + home.path().string() + "' && '" KELVOR_CLI "' --json --home '" +
                                 home.path().string() + "' --script script.kvs > out.txt 2> err.txt";
@@ -61,7 +42,7 @@ std::string RunScriptFile(const std::string& name) {
 class ScriptTest : public testing::TestWithParam<std::string> {};
 
 TEST_P(ScriptTest, PrintsWhatIsExpected) {
-    const Path expected = kScripts / (GetParam() + ".expected");
+    const Path expected = ScriptFolder() / (GetParam() + ".expected");
     const std::string actual = RunScriptFile(GetParam());
     if (std::getenv("KELVOR_RENEW_EXPECTED") != nullptr) WriteFile(expected, actual);
     EXPECT_EQ(actual, ReadFile(expected));
