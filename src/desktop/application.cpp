@@ -12,7 +12,6 @@ namespace kelvor {
 
 namespace {
 
-constexpr int kStatusLeft = 0;
 constexpr int kStatusStopped = 1;
 
 int Stopped(const std::string& reason) {

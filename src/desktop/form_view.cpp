@@ -290,10 +290,6 @@ bool FormView::FilterTabBar(QEvent& event) {
     return true;
 }
 
-void FormView::keyPressEvent(QKeyEvent* event) {
-    if (form_ == nullptr || !HandleKey(*event)) QWidget::keyPressEvent(event);
-}
-
 bool FormView::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride && form_ != nullptr &&
         IsAccessKey(static_cast<QKeyEvent&>(*event))) {

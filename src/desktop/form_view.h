@@ -41,7 +41,6 @@ class FormView : public QWidget {
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;

@@ -175,12 +175,11 @@ void GridView::Show() {
     showing_ = true;
     const GridData& grid = *control_.grid;
     const QModelIndex cursor = cells_.index(grid.row - 1, static_cast<int>(grid.column));
-    const bool ended = editor_ != nullptr && (!grid.typed || currentIndex() != cursor);
-    const bool untouched =
-        editor_ != nullptr && currentIndex() == cursor && !editor_->property("typed").toBool();
-    if (ended && !untouched) EndEdit();
-    if (editor_ != nullptr && grid.typed) editor_->setProperty("typed", true);
-    if (currentIndex() != cursor) setCurrentIndex(cursor);
+    const bool moved = currentIndex() != cursor;
+    const bool taken = typedInEditor_ && !grid.typed;  // stored, refused or dropped
+    if (moved || taken) EndEdit();
+    typedInEditor_ = grid.typed.has_value();
+    if (moved) setCurrentIndex(cursor);
     cells_.Refresh();
     emit cells_.headerDataChanged(Qt::Horizontal, 0, cells_.columnCount() - 1);
     showing_ = false;

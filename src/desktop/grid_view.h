@@ -80,6 +80,7 @@ class GridView : public QTableView {
     GridHooks hooks_;
     CellModel cells_;
     QPointer<QWidget> editor_;
+    bool typedInEditor_ = false;  // when it was shown last
     bool showing_ = false;
 };
 

@@ -1,6 +1,5 @@
 #include "desktop/main_window.h"
 
-#include <QActionGroup>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMenuBar>

@@ -20,9 +20,6 @@ struct MenuEntry {
     bool checked = false;
 };
 
-/// What is said of a thing that Kelvor cannot do yet.
-inline constexpr const char* kComesLater = "comes later";
-
 /// The menus of the main window, in their order: name and caption.
 struct MenuTitle {
     std::string name;

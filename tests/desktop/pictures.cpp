@@ -7,7 +7,6 @@
 #include <QPixmap>
 #include <algorithm>
 #include <cstdio>
-#include <fstream>
 #include <iostream>
 #include <sstream>
 #include <stdexcept>

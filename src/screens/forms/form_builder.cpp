@@ -13,8 +13,6 @@ namespace {
 constexpr std::array<std::string_view, 6> kNoUnits = {"No Units", "18 kip ESAL's", "80kN ESAL's",
                                                       "ESN",      "MSN",           ""};
 
-const char* const kComesLater = "comes later";
-
 /// Every form has these, hidden: what the common routines keep on it.
 constexpr std::array<std::string_view, 2> kHiddenState = {"FieldChanged", "SolveForField"};
 

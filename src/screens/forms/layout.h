@@ -33,6 +33,9 @@ struct FieldItem {
     bool list = false;  // a drop-down list instead of a text box
 };
 
+/// What is said of a thing that Kelvor cannot do yet.
+inline constexpr const char* kComesLater = "comes later";
+
 /// A button or an option.
 struct ButtonItem {
     std::string name;
