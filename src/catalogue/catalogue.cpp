@@ -126,7 +126,7 @@ const Variable* Catalogue::FindVariable(std::string_view name) const {
     return found == variableByName_.end() ? nullptr : &variables_[found->second];
 }
 
-std::optional<std::string> Catalogue::HelpText(std::string_view name) {
+std::optional<std::string> Catalogue::HelpText(std::string_view name) const {
     try {
         SQLite::Statement row(database_, "SELECT HelpText FROM Variable WHERE Name = ?");
         row.bind(1, std::string(name));

@@ -89,7 +89,7 @@ class Catalogue {
     [[nodiscard]] const Variable* FindVariable(std::string_view name) const;
 
     /// The explanation of a variable for its help page; nothing if it has none.
-    [[nodiscard]] std::optional<std::string> HelpText(std::string_view name);
+    [[nodiscard]] std::optional<std::string> HelpText(std::string_view name) const;
 
     /// A screen's fields that have a variable, in Seq order.
     [[nodiscard]] std::vector<const Field*> FieldsOfScreen(std::string_view screen) const;
@@ -121,7 +121,7 @@ class Catalogue {
     void ReadScreens();
     void ReadUnitPairs();
 
-    SQLite::Database database_;
+    mutable SQLite::Database database_;  // a query needs it so, also one that only reads
     std::vector<Variable> variables_;
     std::unordered_map<std::string, std::size_t, NameHash, NameEqual> variableByName_;
     std::vector<Field> fields_;

@@ -224,6 +224,12 @@ std::vector<ControlReport> ModelDriver::Controls() {
     return reports;
 }
 
+ChartData ModelDriver::Chart(const std::string& control) {
+    const Control& c = FindControl(control);
+    if (!c.chart) throw ScriptError(control + " is no chart");
+    return *c.chart;
+}
+
 std::optional<std::string> ModelDriver::FocusName() {
     const Form* form = program_.state().formRegistry.CurrentForm;
     if (form == nullptr || form->focus == nullptr) return std::nullopt;

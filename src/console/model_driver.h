@@ -48,6 +48,7 @@ class ModelDriver : public Driver {
     std::vector<GridCellReport> GridCells() override;
     PropertyValue Read(const std::string& control, const std::string& property) override;
     std::vector<ControlReport> Controls() override;
+    ChartData Chart(const std::string& control) override;
     std::optional<std::string> FocusName() override;
     void QueueAnswer(const std::string& text) override;
     bool HasEnded() override;

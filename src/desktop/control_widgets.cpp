@@ -102,6 +102,8 @@ void MirrorLabel(const Control& control, QLabel& label) {
     const QString text = label.buddy() != nullptr ? caption.text : PlainLabelText(control.text);
     label.setProperty(kAddedMarkProperty, label.buddy() != nullptr ? caption.addedMark : qsizetype{-1});
     if (label.text() != text) label.setText(text);
+    // A paragraph is as high as its lines; the layouts above it do not ask for that.
+    if (label.wordWrap()) label.setMinimumHeight(label.heightForWidth(label.minimumWidth()));
     ApplyColours(label, control, QPalette::Window, QPalette::WindowText);
 }
 
@@ -182,6 +184,7 @@ QWidget* MakeWidget(const Control& control, QWidget* parent) {
         case ControlKind::Frame:
             return new QGroupBox(parent);
         case ControlKind::Grid:
+        case ControlKind::Chart:
             break;  // it needs more than its control
     }
     return nullptr;

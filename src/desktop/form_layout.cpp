@@ -75,7 +75,11 @@ class LayoutMaker {
             case LayoutKind::Indicator:
                 to.addWidget(find_(node.name));
                 break;
+            case LayoutKind::Table:
+                AddTable(to, node);
+                break;
             case LayoutKind::Grid:
+            case LayoutKind::Chart:
                 to.addWidget(find_(node.name), 1);
                 break;
             case LayoutKind::Buttons:
@@ -134,23 +138,36 @@ class LayoutMaker {
         to.addWidget(frame);
     }
 
+    void AddTable(QBoxLayout& to, const LayoutNode& node) {
+        auto* grid = new QGridLayout;
+        grid->setHorizontalSpacing(3 * form_.fontMetrics().averageCharWidth());
+        for (std::size_t row = 0; row < node.table.size(); ++row) {
+            for (std::size_t column = 0; column < node.table[row].size(); ++column) {
+                QWidget* cell = find_(TableCellName(node.name, row + 1, column + 1));
+                const Qt::Alignment side = column == 0 ? Qt::AlignLeft : Qt::AlignRight;
+                grid->addWidget(cell, static_cast<int>(row), static_cast<int>(column), side);
+            }
+        }
+        to.addLayout(grid);
+    }
+
     /// Label, box and unit, one field a row; the boxes of a group are of one width.
     void AddFields(QBoxLayout& to, const LayoutNode& node) {
         auto* grid = new QGridLayout;
         grid->setHorizontalSpacing(form_.fontMetrics().averageCharWidth());
         int width = 0;
         for (const FieldItem& field : node.fields) {
-            QWidget* box = find_(field.variable);
+            QWidget* box = find_(field.Box());
             width = std::max({width, box->minimumWidth(), box->minimumSizeHint().width()});
         }
         for (std::size_t i = 0; i < node.fields.size(); ++i) {
+            const FieldItem& field = node.fields[i];
             const int row = static_cast<int>(i);
-            const std::string& variable = node.fields[i].variable;
-            grid->addWidget(find_(FieldLabelName(variable)), row, 0);
-            QWidget* box = find_(variable);
-            box->setFixedWidth(width);
-            grid->addWidget(box, row, 1);
-            grid->addWidget(find_(UnitLabelName(variable)), row, 2);
+            grid->addWidget(find_(field.Label()), row, 0);
+            find_(field.Box())->setFixedWidth(width);
+            grid->addWidget(find_(field.Box()), row, 1);
+            if (!field.choice.empty()) grid->addWidget(find_(field.choice), row, 1);
+            grid->addWidget(find_(field.Unit()), row, 2);
         }
         grid->setColumnMinimumWidth(kFieldColumns - 1,
                                     form_.fontMetrics().horizontalAdvance(QString(kUnitLetters, u'M')));

@@ -10,6 +10,7 @@
 #include <QTabBar>
 #include <utility>
 
+#include "desktop/chart_view.h"
 #include "desktop/control_widgets.h"
 #include "desktop/form_layout.h"
 #include "desktop/grid_view.h"
@@ -91,7 +92,9 @@ FormView::~FormView() {
 
 void FormView::MakeWidgets() {
     for (const auto& control : form_->controls()) {
-        QWidget* widget = control->grid ? MakeGrid(*control) : MakeWidget(*control, this);
+        QWidget* widget = control->grid    ? MakeGrid(*control)
+                          : control->chart ? MakeChart(*control, this)
+                                           : MakeWidget(*control, this);
         widget->setObjectName(ToQt(control->name));
         widget->setVisible(control->visible);
         widgets_.insert(control.get(), widget);
@@ -178,7 +181,7 @@ void FormView::Sync() {
     }
     for (const auto& control : form_->controls()) {
         if (control->labelOf.empty()) continue;
-        NameField(*FindWidget(control->labelOf), *control, form_->Find(UnitLabelName(control->labelOf)));
+        NameField(*FindWidget(control->labelOf), *control, form_->FindUnitOf(control->labelOf));
     }
     if (tabs_ != nullptr && tabs_->currentIndex() != form_->page) {
         const QSignalBlocker quiet(tabs_);

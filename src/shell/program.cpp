@@ -5,6 +5,7 @@
 #include "design/calc/equation_screens.h"
 #include "design/calc/solve_for.h"
 #include "design/screens/design_forms.h"
+#include "screens/forms/field_help.h"
 #include "screens/forms/form_events.h"
 #include "screens/forms/grid_entry.h"
 #include "shell/project_files.h"
@@ -37,6 +38,7 @@ class EventScope {
 
 Program::Program(Host host, Home home) : state_(host, std::move(home)) {
     state_.formRegistry.Declare({HubForm()});
+    state_.formRegistry.Declare(HelpForms());
     state_.formRegistry.Declare(DesignForms());
 }
 

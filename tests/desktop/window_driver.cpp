@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QGraphicsView>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -20,6 +21,7 @@
 #include <map>
 
 #include "console/script/command_line.h"
+#include "desktop/chart_view.h"
 #include "desktop/control_widgets.h"
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
@@ -47,6 +49,7 @@ bool IsTypable(const std::string& text) {
 }
 
 ControlKind KindOf(const QWidget& widget) {
+    if (qobject_cast<const QGraphicsView*>(&widget) != nullptr) return ControlKind::Chart;
     if (qobject_cast<const QTableView*>(&widget) != nullptr) return ControlKind::Grid;
     if (qobject_cast<const QLineEdit*>(&widget) != nullptr) return ControlKind::TextBox;
     if (qobject_cast<const QComboBox*>(&widget) != nullptr) return ControlKind::ComboBox;
@@ -445,6 +448,11 @@ std::vector<ControlReport> WindowDriver::Controls() {
                            IsEnabled(widget), !widget.isHidden()});
     }
     return reports;
+}
+
+ChartData WindowDriver::Chart(const std::string& control) {
+    if (!FindControl(control).chart) throw ScriptError(control + " is no chart");
+    return DrawnChart(Widget(control));
 }
 
 std::optional<std::string> WindowDriver::FocusName() {

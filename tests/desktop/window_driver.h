@@ -48,6 +48,7 @@ class WindowDriver : public ModelDriver {
     std::vector<GridCellReport> GridCells() override;
     PropertyValue Read(const std::string& control, const std::string& property) override;
     std::vector<ControlReport> Controls() override;
+    ChartData Chart(const std::string& control) override;
     std::optional<std::string> FocusName() override;
 
   private:

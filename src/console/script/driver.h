@@ -5,6 +5,7 @@
 #include <variant>
 #include <vector>
 
+#include "screens/forms/chart.h"
 #include "shell/store/work_copy.h"
 
 namespace kelvor {
@@ -89,6 +90,9 @@ class Driver {
 
     virtual PropertyValue Read(const std::string& control, const std::string& property) = 0;
     virtual std::vector<ControlReport> Controls() = 0;
+
+    /// The data sheet of a chart of the current screen.
+    virtual ChartData Chart(const std::string& control) = 0;
 
     /// The control that has the focus; nothing if none has it.
     virtual std::optional<std::string> FocusName() = 0;

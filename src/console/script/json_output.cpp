@@ -73,6 +73,18 @@ void JsonOutput::Grid(const std::vector<GridCellReport>& cells) {
     Print(stream_, {{"grid", list}});
 }
 
+void JsonOutput::Chart(const ChartData& chart) {
+    Json series = Json::array();
+    for (const ChartSeries& one : chart.series) series.push_back({{"name", one.name}, {"color", one.colour}});
+    Json rows = Json::array();
+    for (const ChartRow& row : chart.rows) {
+        Json cells = Json::array();
+        for (const std::optional<double>& cell : row.cells) cells.push_back(OrNull(cell));
+        rows.push_back({{"label", row.label}, {"cells", cells}});
+    }
+    Print(stream_, {{"chart", {{"title", chart.title}, {"series", series}, {"rows", rows}}}});
+}
+
 void JsonOutput::Forms(const std::vector<std::string>& names) { Print(stream_, {{"forms", names}}); }
 
 void JsonOutput::Focus(const std::optional<std::string>& control) {

@@ -18,6 +18,7 @@ class Output : public DialogObserver {
                           const PropertyValue& value) = 0;
     virtual void Controls(const std::vector<ControlReport>& controls) = 0;
     virtual void Grid(const std::vector<GridCellReport>& cells) = 0;
+    virtual void Chart(const ChartData& chart) = 0;
     virtual void Forms(const std::vector<std::string>& names) = 0;
     virtual void Focus(const std::optional<std::string>& control) = 0;
 };
@@ -34,6 +35,7 @@ class JsonOutput : public Output {
                   const PropertyValue& value) override;
     void Controls(const std::vector<ControlReport>& controls) override;
     void Grid(const std::vector<GridCellReport>& cells) override;
+    void Chart(const ChartData& chart) override;
     void Forms(const std::vector<std::string>& names) override;
     void Focus(const std::optional<std::string>& control) override;
     void OnMessage(const Message& message, Answer answer) override;
@@ -56,6 +58,7 @@ class PlainOutput : public Output {
                   const PropertyValue& value) override;
     void Controls(const std::vector<ControlReport>& controls) override;
     void Grid(const std::vector<GridCellReport>& cells) override;
+    void Chart(const ChartData& chart) override;
     void Forms(const std::vector<std::string>& names) override;
     void Focus(const std::optional<std::string>& control) override;
     void OnMessage(const Message& message, Answer answer) override;

@@ -63,6 +63,21 @@ void PlainOutput::Grid(const std::vector<GridCellReport>& cells) {
     }
 }
 
+void PlainOutput::Chart(const ChartData& chart) {
+    stream_ << "chart " << Quoted(chart.title) << ":";
+    for (const ChartSeries& series : chart.series) {
+        stream_ << " " << Quoted(series.name) << " " << series.colour;
+    }
+    stream_ << '\n';
+    for (const ChartRow& row : chart.rows) {
+        stream_ << "  " << row.label << ":";
+        for (const std::optional<double>& cell : row.cells) {
+            stream_ << " " << (cell ? ExactNumberText(*cell) : "empty");
+        }
+        stream_ << '\n';
+    }
+}
+
 void PlainOutput::Forms(const std::vector<std::string>& names) {
     stream_ << "forms:";
     for (const std::string& name : names) stream_ << " " << name;

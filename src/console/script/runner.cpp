@@ -175,12 +175,13 @@ constexpr std::array kCommands = {
     Command{"delete-row", 1, 1, [](const Context& c) { c.driver.DeleteRow(c.arguments.Subscript(0)); }},
     Command{"grid", 0, 0, [](const Context& c) { c.output.Grid(c.driver.GridCells()); }},
     Command{"read", 1, 2, Read},
+    Command{"chart", 1, 1, [](const Context& c) { c.output.Chart(c.driver.Chart(c.arguments[0])); }},
     Command{"controls", 0, 0, [](const Context& c) { c.output.Controls(c.driver.Controls()); }},
     Command{"answer", 1, 1, [](const Context& c) { c.driver.QueueAnswer(c.arguments[0]); }},
 };
 
-/// The commands of charts and reports.
-constexpr std::array<std::string_view, 7> kAwaitedCommands = {"chart",   "report", "print", "previews",
+/// The commands of reports.
+constexpr std::array<std::string_view, 6> kAwaitedCommands = {"report",  "print",  "previews",
                                                               "preview", "export", "table"};
 
 /// Some editors begin a UTF-8 text with it. It is no part of the first command.

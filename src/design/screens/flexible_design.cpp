@@ -1,7 +1,7 @@
 #include "design/screens/flexible_design.h"
 
 #include "design/screens/layered_design.h"
-#include "platform/number_text.h"
+#include "design/screens/serviceability.h"
 #include "screens/forms/balance_state.h"
 #include "screens/forms/form.h"
 
@@ -9,16 +9,8 @@ namespace kelvor {
 
 namespace {
 
-/// Solves, unless the serviceability at the end is not below the one at the start.
 void SolveClick(ScreenContext& context, Form& form, Control* /*button*/) {
-    const double initial = ParseNumber(form.HiddenText("FLEXPO"));
-    const double terminal = ParseNumber(form.HiddenText("FLEXPT"));
-    if (!(initial > terminal)) {
-        context.calc.dialogs.ShowMessage(
-            {.text = "          Error:   Pt  >=  Po          ", .title = "Values"});
-        return;
-    }
-    SolveForClick(context, form, BalanceFlag::DeF);
+    if (CheckServiceability(context, form, "FLEXPO", "FLEXPT")) SolveForClick(context, form);
 }
 
 void LayersClick(ScreenContext& context, Form& form, Control* /*button*/) {
@@ -39,7 +31,7 @@ FormType FlexibleDesignForm() {
             Rows({SolveForFrame("Frame2", "SolveFor", "Command1"),
                   Buttons({{"Command2", "&Layer Determ."}, {"cmdbCS", "&Cross Section", true}})}),
         }),
-        Buttons({{"cmdAction", "&OK", false}, {"SSHelp", "Hel&p", true}}),
+        Buttons({{"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}}),
         Hidden({"SolveForSide", "Dim1", "Dim2"}),
     });
     type.handlers = {
@@ -47,6 +39,7 @@ FormType FlexibleDesignForm() {
         {FormEvent::Click, "Command2", HandlerOrder::Instead, LayersClick},
     };
     type.balance = BalanceFlag::DeF;
+    type.helpRoutes = {{"RM", "H_SRM"}, {"SN", "H_SN"}};
     return type;
 }
 

@@ -112,7 +112,7 @@ FormType LayeredDesignForm() {
         Columns({Fields({{.variable = "SN", .label = "Required Structural Number", .locked = true},
                          {.variable = "SSN"}}),
                  Verdict("Res")}),
-        Buttons({{"cmdAction", "&OK"}, {"SSHelp", "Hel&p", true}}),
+        Buttons({{"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}}),
         Hidden({"SNCarry", "FieldName", "FormName", "Dim1", "Dim2", "Column"}),
     });
     type.handlers = {
@@ -123,11 +123,12 @@ FormType LayeredDesignForm() {
         {FormEvent::RowDeleted, "", HandlerOrder::After, RowDeleted},
         {FormEvent::Unload, "", HandlerOrder::Before, Closing},
     };
+    type.helpRoutes = {{"LDLayerCoef", "H_LDLayerCoef"}};
     return type;
 }
 
 void OpenLayeredDesign(ScreenContext& context, Form& caller, const std::string& variable) {
-    if (Form* form = OpenSideScreen(context, kForm, caller, variable))
+    if (Form* form = OpenSideScreen(context, kForm, MakeCall(caller, variable)))
         form->SetHiddenText("SNCarry", variable);
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "design/calc/equation_screens.h"
 #include "design/calc/solve_for.h"
 #include "platform/number_picture.h"
 #include "platform/number_text.h"
@@ -47,9 +48,15 @@ Control* CurrentField(Form& form) {
     return form.iCurrentField ? form.controls()[*form.iCurrentField].get() : nullptr;
 }
 
+/// The indicator of the equation that a field stands in: a screen with two has the second one on its far
+/// half.
+Indicator IndicatorOf(const Form& form, const Field& field) {
+    const EquationScreen* equation = FindEquation(form.tag, field.seq.value_or(0));
+    return equation == nullptr || equation->firstTerm == 1 ? Indicator::First : Indicator::Second;
+}
+
 std::string FieldText(const ScreenContext& context, const Form& form, const Control& box) {
-    return context.units.GetDisplayValue(box.tag, form.dim2() ? 1 : form.dim1().value_or(1),
-                                         form.dim2().value_or(1));
+    return context.units.GetDisplayValue(box.tag, form.dim1().value_or(1), form.dim2().value_or(1));
 }
 
 void RefreshColumns(const ScreenContext& context, GridData& grid) {
@@ -83,8 +90,23 @@ void ClampToRange(ScreenContext& context, const std::string& variable) {
 
 void ShowSolvedField(const ScreenContext& context, Form& form, const Field& field) {
     const Variable* variable = context.catalogue.FindVariable(field.name);
+    const Indicator which = IndicatorOf(form, field);
+    form.solvedFor[static_cast<std::size_t>(which)] = field.name;
     SetSolveForState(form, SolveState::Solved, variable->desc, context.units.GetDisplayValue(field.name),
-                     context.units.UnitLabel(field.name));
+                     context.units.UnitLabel(field.name), which);
+}
+
+/// The field of the last focus, if the indicator of its equation may show it; else null.
+const Field* FieldToShow(const ScreenContext& context, Form& form) {
+    const Control* current = CurrentField(form);
+    if (current == nullptr) return nullptr;
+    const Field* field = FindScreenField(context, form, current->name);
+    if (field == nullptr || !field->solveFor) return nullptr;
+    const Indicator which = IndicatorOf(form, *field);
+    const Control* indicator = IndicatorLabel(form, which);
+    const bool warns = form.solveState[static_cast<std::size_t>(which)] == SolveState::Warning;
+    if (indicator == nullptr || warns || indicator->text == kAtRestWithoutBlank) return nullptr;
+    return ParseNumber(context.units.GetDisplayValue(field->name)) == 0.0 ? nullptr : field;
 }
 
 void RecalcColumn(ScreenContext& context, const Field& output, const Variable& variable, int row) {
@@ -107,14 +129,16 @@ struct IndicatorLook {
     Control control;
 };
 
-/// Solves for a field that can be solved for, and shows what came of it.
-void SolveForField(ScreenContext& context, Form& form, const Field& field, BalanceFlag flag) {
-    Control& indicator = *IndicatorLabel(form, Indicator::First);
-    const IndicatorLook before{form.solveState[0], indicator};
-    const int result = SolveForVariable(context.calc, form.name(), field.seq.value_or(0));
+/// Solves for a field that can be solved for, and shows what came of it on the indicator of its equation.
+void SolveForField(ScreenContext& context, Form& form, const Field& field) {
+    const auto which = static_cast<std::size_t>(IndicatorOf(form, field));
+    Control& indicator = *IndicatorLabel(form, IndicatorOf(form, field));
+    const IndicatorLook before{form.solveState[which], indicator};
+    form.SetHiddenText("SolveForSide", std::to_string(which + 1));
+    const int result = SolveForVariable(context.calc, form.tag, field.seq.value_or(0));
     RefreshScreen(context, form);
     if (result != 0) {
-        form.solveState[0] = before.state;
+        form.solveState[which] = before.state;
         indicator = before.control;
         return;
     }
@@ -122,7 +146,8 @@ void SolveForField(ScreenContext& context, Form& form, const Field& field, Balan
     context.bProjectChanged = true;
     ShowSolvedField(context, form, field);
     RecalcOutputs(context, form, "", 0);
-    context.balance.Set(flag, true);
+    const auto flag = which == 0 ? form.type().balance : form.type().secondBalance;
+    if (flag) context.balance.Set(*flag, true);
 }
 
 }  // namespace
@@ -150,14 +175,21 @@ void SetSolveForState(Form& form, SolveState state, const std::string& label, co
 }
 
 void ShowSolved(ScreenContext& context, Form& form) {
-    Control* indicator = IndicatorLabel(form, Indicator::First);
-    const Control* current = CurrentField(form);
-    if (indicator == nullptr || current == nullptr) return;
-    if (form.solveState[0] == SolveState::Warning || indicator->text == kAtRestWithoutBlank) return;
-    const Field* field = FindScreenField(context, form, current->name);
-    if (field == nullptr || !field->solveFor) return;
-    if (ParseNumber(context.units.GetDisplayValue(field->name)) == 0.0) return;
-    ShowSolvedField(context, form, *field);
+    const Field* shown = FieldToShow(context, form);
+    if (shown != nullptr) ShowSolvedField(context, form, *shown);
+    // The other half of a screen keeps what it shows, in the units of now.
+    for (const Indicator which : {Indicator::First, Indicator::Second}) {
+        const auto place = static_cast<std::size_t>(which);
+        if (form.solveState[place] != SolveState::Solved) continue;
+        const Field* field = FindScreenField(context, form, form.solvedFor[place]);
+        if (field != nullptr && field != shown) ShowSolvedField(context, form, *field);
+    }
+}
+
+void WarnOfChange(const ScreenContext& context, Form& form, const std::string& variable) {
+    const Field* field = FindScreenField(context, form, variable);
+    SetSolveForState(form, SolveState::Warning, {}, {}, {},
+                     field == nullptr ? Indicator::First : IndicatorOf(form, *field));
 }
 
 void RefreshScreen(ScreenContext& context, Form& form) {
@@ -191,14 +223,14 @@ void RecalcAllOutputs(ScreenContext& context, Form& form) {
     RefreshScreen(context, form);
 }
 
-void SolveForClick(ScreenContext& context, Form& form, BalanceFlag flag) {
+void SolveForClick(ScreenContext& context, Form& form) {
     Control* current = CurrentField(form);
     if (current == nullptr) return;
     Dialogs& dialogs = context.calc.dialogs;
     dialogs.SetWaitCursor(true);
     const Field* field = FindScreenField(context, form, current->name);
     if (field != nullptr && field->solveFor) {
-        SolveForField(context, form, *field, flag);
+        SolveForField(context, form, *field);
     } else {
         const Variable* variable = context.catalogue.FindVariable(current->name);
         dialogs.ShowMessage({.text = "Cannot solve for: " + (variable == nullptr ? "" : variable->desc)});

@@ -15,8 +15,11 @@ void SetSolveForState(Form& form, SolveState state, const std::string& label = {
                       const std::string& value = {}, const std::string& unit = {},
                       Indicator which = Indicator::First);
 
-/// Writes the value of the field that had the focus last into the indicator, if that field can be solved
-/// for and its value is not 0. A warning is left alone: only a solve clears it.
+/// Shows the warning on the indicator of the equation that a variable's field stands in.
+void WarnOfChange(const ScreenContext& context, Form& form, const std::string& variable);
+
+/// Writes the value of the field that had the focus last into the indicator of its equation, if that field
+/// can be solved for and its value is not 0. A warning is left alone: only a solve clears it.
 void ShowSolved(ScreenContext& context, Form& form);
 
 /// Moves the stored values and the units of the active system to the controls, then ShowSolved.
@@ -29,9 +32,10 @@ void RecalcOutputs(ScreenContext& context, Form& form, std::string_view changedN
 /// Recalculates every filled cell of a screen's computed columns.
 void RecalcAllOutputs(ScreenContext& context, Form& form);
 
-/// Solves for the field that had the focus before the button. A solved value is held within the field's
+/// Solves for the field that had the focus before the button: on a screen with two equations that field tells
+/// which one. A solved value is held within the field's
 /// limits. Messages are shown; a refused or failed solve leaves the indicator as it was.
-void SolveForClick(ScreenContext& context, Form& form, BalanceFlag flag);
+void SolveForClick(ScreenContext& context, Form& form);
 
 /// What a form does when it is made.
 void InitScreen(ScreenContext& context, Form& form);

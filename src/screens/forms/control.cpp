@@ -24,6 +24,8 @@ const char* NameOf(ControlKind kind) {
             return "Image";
         case ControlKind::Grid:
             return "Grid";
+        case ControlKind::Chart:
+            return "Chart";
     }
     return "";
 }

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "screens/forms/chart.h"
+
 namespace kelvor {
 
 enum class ControlKind {
@@ -17,6 +19,7 @@ enum class ControlKind {
     Frame,
     Image,
     Grid,
+    Chart,
 };
 
 const char* NameOf(ControlKind kind);
@@ -74,6 +77,7 @@ struct Control {
     std::string toolTip;
     std::vector<std::string> items;  // of a list
     std::optional<GridData> grid;    // of a grid
+    std::optional<ChartData> chart;  // of a chart
     bool enabled = true;
     bool visible = true;
     bool locked = false;  // shows a value and takes none
@@ -82,10 +86,12 @@ struct Control {
     bool bold = false;
     Colour backColor = colours::kButtonFace;
     Colour foreColor = colours::kWindowText;
-    char accessKey = '\0';  // pressed with Alt: moves the focus here, and clicks a button
-    std::string labelOf;    // of a caption: the control it describes
-    int page = -1;          // of the tab strip; -1: on every page
-    int group = 0;          // of option buttons: one of a group is selected; the innermost frame or page
+    char accessKey = '\0';   // pressed with Alt: moves the focus here, and clicks a button
+    std::string labelOf;     // of a caption: the control it describes
+    std::string unitOf;      // of a unit label: the box it stands behind
+    bool onlyItems = false;  // of a list: it takes nothing but its items
+    int page = -1;           // of the tab strip; -1: on every page
+    int group = 0;           // of option buttons: one of a group is selected; the innermost frame or page
 
     /// A box whose Tag is a variable.
     [[nodiscard]] bool IsField() const;

@@ -27,6 +27,19 @@ bool Contains(const std::array<std::string_view, Count>& names, std::string_view
 
 std::string LimitText(const std::optional<double>& limit) { return limit ? NumberToText(*limit) : ""; }
 
+/// True for a box that takes what is no number.
+bool TakesText(const ScreenContext& context, const Control& control) {
+    if (control.kind == ControlKind::ComboBox || Contains(kFreeTexts, control.tag)) return true;
+    const Variable* variable = context.catalogue.FindVariable(control.tag);
+    return variable != nullptr && variable->IsText();
+}
+
+/// False for a text that a list which takes nothing but its items does not offer.
+bool IsOffered(const Control& control) {
+    if (!control.onlyItems || control.text.empty()) return true;
+    return std::find(control.items.begin(), control.items.end(), control.text) != control.items.end();
+}
+
 /// Empties the box of a refused value.
 bool Refuse(Form& form, Control& control) {
     control.text.clear();
@@ -36,7 +49,7 @@ bool Refuse(Form& form, Control& control) {
 
 /// Stores nothing at the field's cell.
 void EmptyCell(ScreenContext& context, const Form& form, const Control& control) {
-    context.calc.store.SetCell(control.tag, 1, form.dim2().value_or(1), {});
+    context.calc.store.SetCell(control.tag, form.dim1().value_or(1), form.dim2().value_or(1), {});
 }
 
 void AdviseOnConcrete(ScreenContext& context, const Control& control, const Range& range, double value) {
@@ -75,10 +88,11 @@ void StoreField(ScreenContext& context, Form& form, Control& control) {
     if (control.text.empty()) {
         EmptyCell(context, form, control);
     } else {
-        context.units.SetDisplayValue(control.tag, 1, form.dim2().value_or(1), control.text);
+        context.units.SetDisplayValue(control.tag, form.dim1().value_or(1), form.dim2().value_or(1),
+                                      control.text);
     }
     RecalcOutputs(context, form, control.tag, 0);
-    if (IsInEquation(context, form, control)) SetSolveForState(form, SolveState::Warning);
+    if (IsInEquation(context, form, control)) WarnOfChange(context, form, control.tag);
 }
 
 }  // namespace
@@ -114,8 +128,11 @@ void FindControlIndex(Form& form, std::string_view controlName) {
 }
 
 bool FieldLostFocus(ScreenContext& context, Form& form, Control& control) {
-    const bool isText = !control.text.empty() && !IsNumeric(control.text);
-    if (isText && control.kind != ControlKind::ComboBox && !Contains(kFreeTexts, control.tag)) {
+    if (!IsOffered(control)) {
+        context.calc.dialogs.ShowMessage({.text = "Please select item from the list", .title = "List"});
+        return Refuse(form, control);
+    }
+    if (!control.text.empty() && !IsNumeric(control.text) && !TakesText(context, control)) {
         context.calc.dialogs.ShowMessage({.text = "Please enter valid numeric value.", .title = "Value"});
         if (form.fieldChanged()) context.bProjectChanged = true;
         EmptyCell(context, form, control);
@@ -133,7 +150,8 @@ bool FieldLostFocus(ScreenContext& context, Form& form, Control& control) {
 void RestoreField(ScreenContext& context, Form& form, Control& control) {
     SelectAll(form);
     if (!form.fieldChanged()) return;
-    control.text = context.units.GetDisplayValue(control.tag, 1, form.dim2().value_or(1));
+    control.text =
+        context.units.GetDisplayValue(control.tag, form.dim1().value_or(1), form.dim2().value_or(1));
     form.SetFieldChanged(false);
 }
 

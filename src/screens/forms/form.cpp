@@ -69,6 +69,15 @@ Control* Form::FindGrid() {
     return found == controls_.end() ? nullptr : found->get();
 }
 
+Control* Form::FindUnitOf(std::string_view box) {
+    const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const auto& control) {
+        return !control->unitOf.empty() && EqualNoCase(control->unitOf, box);
+    });
+    return found == controls_.end() ? nullptr : found->get();
+}
+
+void Form::AssignAccessKeys() { kelvor::AssignAccessKeys(controls_); }
+
 std::string Form::HiddenText(std::string_view name) const {
     const Control* control = Find(name);
     return control == nullptr ? std::string() : control->text;

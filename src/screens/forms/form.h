@@ -10,11 +10,19 @@
 #include "catalogue/catalogue.h"
 #include "screens/forms/control.h"
 #include "screens/forms/form_type.h"
+#include "shell/store/work_copy.h"
 
 namespace kelvor {
 
 /// What the Solve For indicator says.
 enum class SolveState { Resting = 0, Warning = 1, Solved = 2 };
+
+/// What a side screen tells the form it was opened from when it closes.
+struct SideScreenReturn {
+    std::string field;        // the variable for which it was opened
+    int row = 0;              // of the grid, if it was opened for a cell of one
+    bool valueTaken = false;  // that variable has a new value
+};
 
 /// An open form: its controls in the order of the declaration, which is the reading order and the tab
 /// order, and where the focus is.
@@ -39,7 +47,13 @@ class Form {
     /// The form's grid; null if it has none.
     [[nodiscard]] Control* FindGrid();
 
+    /// The label with the unit behind a box; null if there is none.
+    [[nodiscard]] Control* FindUnitOf(std::string_view box);
+
     [[nodiscard]] const std::vector<std::unique_ptr<Control>>& controls() const { return controls_; }
+
+    /// Gives keys to what has got its text, or its list, since the form was made.
+    void AssignAccessKeys();
 
     /// The place of a control in the collection, counted from 0; nothing for a name that is none.
     [[nodiscard]] std::optional<std::size_t> IndexOf(std::string_view name) const;
@@ -71,8 +85,10 @@ class Form {
     std::array<SolveState, 2> solveState{SolveState::Resting, SolveState::Resting};
     int page = 0;  // of the tab strip
     bool modal = false;
-    bool valueFromHelp = false;  // a side screen has sent a value back
-    std::string returnTo;        // the control for which a side screen was opened; empty if none was
+    std::optional<SideScreenReturn> returned;  // until the form is activated again
+    std::array<std::string, 2> solvedFor;      // the variables that the indicators show
+    CellValue valueAtOpening;                  // of a side screen: of the field it was opened for
+    bool workedOut = false;                    // of a side screen: it has worked out a value for that field
 
   private:
     const FormType& type_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <set>
 #include <string>
 #include <utility>
 
@@ -31,6 +32,69 @@ char MarkedKey(const std::string& caption) {
     return '\0';
 }
 
+using Controls = std::vector<std::unique_ptr<Control>>;
+
+bool SharePage(const Control& one, const Control& other) {
+    return one.page == other.page || one.page == -1 || other.page == -1;
+}
+
+/// The letters of a text that may be an access key, in its order.
+std::string KeyLetters(const std::string& text) {
+    std::string letters;
+    for (const char c : text) {
+        const char key = ToUpper(c);
+        const bool isLetter = (key >= 'A' && key <= 'Z') || (key >= '0' && key <= '9');
+        if (isLetter && kMenuKeys.find(key) == std::string_view::npos) letters.push_back(key);
+    }
+    return letters;
+}
+
+/// Hands out access keys: as many controls as can be get one, and one that has one by its caption keeps it.
+class KeyGiver {
+  public:
+    explicit KeyGiver(Controls& controls) : controls_(controls) {}
+
+    /// False if every letter of the control's text is needed elsewhere on its page.
+    bool Give(Control& control) {
+        std::set<char> tried;
+        return Give(control, tried);
+    }
+
+  private:
+    /// Where a letter is taken by one that can do with another letter, that one changes.
+    bool Give(Control& control, std::set<char>& tried) {
+        for (const char key : KeyLetters(control.text)) {
+            if (!tried.insert(key).second) continue;
+            Control* holder = HolderOf(key, control);
+            if (holder != nullptr && (given_.count(holder) == 0 || !Give(*holder, tried))) continue;
+            control.accessKey = key;
+            given_.insert(&control);
+            return true;
+        }
+        return false;
+    }
+
+    [[nodiscard]] Control* HolderOf(char key, const Control& wanted) const {
+        const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const auto& control) {
+            return control->accessKey == key && control.get() != &wanted && SharePage(*control, wanted);
+        });
+        return found == controls_.end() ? nullptr : found->get();
+    }
+
+    Controls& controls_;
+    std::set<const Control*> given_;
+};
+
+/// True for a button, and for the label of a box that takes the focus.
+bool WantsAccessKey(const Controls& controls, const Control& control) {
+    if (control.accessKey != '\0' || control.tag == "SolveFor") return false;
+    if (control.IsButton() || control.IsChoice()) return true;
+    return !control.labelOf.empty() &&
+           std::any_of(controls.begin(), controls.end(), [&](const std::unique_ptr<Control>& box) {
+               return box->name == control.labelOf && box->tabStop;
+           });
+}
+
 class Builder {
   public:
     Builder(const FormType& type, const Catalogue& catalogue) : type_(type), catalogue_(catalogue) {}
@@ -38,7 +102,7 @@ class Builder {
     std::vector<std::unique_ptr<Control>> Build() {
         AddNode(type_.layout);
         for (const std::string_view name : kHiddenState) AddHidden(std::string(name));
-        AssignAccessKeys();
+        AssignAccessKeys(controls_);
         return std::move(controls_);
     }
 
@@ -73,6 +137,12 @@ class Builder {
                 break;
             case LayoutKind::Grid:
                 AddGrid(node);
+                break;
+            case LayoutKind::Table:
+                AddTable(node);
+                break;
+            case LayoutKind::Chart:
+                Add(ControlKind::Chart, node.name).chart = node.chart;
                 break;
             case LayoutKind::Indicator:
                 AddIndicator(node.name);
@@ -137,27 +207,38 @@ class Builder {
         }
     }
 
+    void AddTable(const LayoutNode& node) {
+        for (std::size_t row = 0; row < node.table.size(); ++row) {
+            for (std::size_t column = 0; column < node.table[row].size(); ++column) {
+                Control& cell = Add(ControlKind::Label, TableCellName(node.name, row + 1, column + 1));
+                cell.text = node.table[row][column];
+                cell.bold = row == 0;
+            }
+        }
+    }
+
     /// A field's label, its box and its unit, from the catalogue.
     void AddField(const FieldItem& item) {
         const Variable* variable = catalogue_.FindVariable(item.variable);
-        Control& label = Add(ControlKind::Label, FieldLabelName(item.variable));
+        Control& label = Add(ControlKind::Label, item.Label());
         label.text = !item.label.empty() || variable == nullptr ? item.label : variable->desc;
-        label.labelOf = item.variable;
+        label.labelOf = item.Box();
 
-        Control& box = Add(item.list ? ControlKind::ComboBox : ControlKind::TextBox, item.variable);
-        box.tag = item.variable;
-        box.picture = variable == nullptr ? "" : variable->format;
+        Control& box = Add(item.list ? ControlKind::ComboBox : ControlKind::TextBox, item.Box());
         box.backColor = colours::kWindow;
-        if (item.locked || IsOutput(item.variable)) {
-            box.locked = true;
-            box.tabStop = false;
-            if (IsOutput(item.variable)) box.backColor = colours::kLightCyan;
-        }
+        if (!item.choice.empty()) AddChoice(item);
+        Control& unit = Add(ControlKind::Label, item.Unit());
+        unit.unitOf = item.Box();
+        const bool output = item.computed || IsOutput(item.variable);
+        if (item.locked || output) LockBox(box, output);
+        if (!item.variable.empty()) BindBox(box, unit, item.variable, variable);
+    }
 
-        Control& unit = Add(ControlKind::Label, UnitLabelName(item.variable));
-        unit.tag = "u" + item.variable;
-        // A label without a unit stays blank through every switch.
-        unit.text = variable == nullptr || IsNoUnit(variable->units) ? "" : variable->units;
+    void AddChoice(const FieldItem& item) {
+        Control& list = Add(ControlKind::ComboBox, item.choice);
+        list.backColor = colours::kWindow;
+        list.onlyItems = true;
+        list.visible = false;
     }
 
     void AddGrid(const LayoutNode& node) {
@@ -193,29 +274,6 @@ class Builder {
                            [&](const Field* field) { return EqualNoCase(field->name, variable); });
     }
 
-    /// Gives every label of a field, and every button without a key of its own, a letter of its text that
-    /// is still free on the same page and opens no menu.
-    void AssignAccessKeys() {
-        for (const auto& control : controls_) {
-            const bool wantsKey = !control->labelOf.empty() || control->IsButton() || control->IsChoice();
-            if (!wantsKey || control->accessKey != '\0' || control->tag == "SolveFor") continue;
-            for (const char c : control->text) {
-                const char key = ToUpper(c);
-                const bool isLetter = (key >= 'A' && key <= 'Z') || (key >= '0' && key <= '9');
-                if (!isLetter || kMenuKeys.find(key) != std::string_view::npos) continue;
-                if (IsTaken(key, control->page)) continue;
-                control->accessKey = key;
-                break;
-            }
-        }
-    }
-
-    [[nodiscard]] bool IsTaken(char key, int page) const {
-        return std::any_of(controls_.begin(), controls_.end(), [&](const std::unique_ptr<Control>& control) {
-            return control->accessKey == key && (control->page == page || control->page == -1 || page == -1);
-        });
-    }
-
     const FormType& type_;
     const Catalogue& catalogue_;
     std::vector<std::unique_ptr<Control>> controls_;
@@ -225,6 +283,27 @@ class Builder {
 };
 
 }  // namespace
+
+void BindBox(Control& box, Control& unit, const std::string& name, const Variable* variable) {
+    box.tag = name;
+    box.picture = variable == nullptr ? "" : variable->format;
+    unit.tag = UnitLabelName(name);
+    // A label without a unit stays blank through every switch.
+    unit.text = variable == nullptr || IsNoUnit(variable->units) ? "" : variable->units;
+}
+
+void LockBox(Control& box, bool computed) {
+    box.locked = true;
+    box.tabStop = false;
+    if (computed) box.backColor = colours::kLightCyan;
+}
+
+void AssignAccessKeys(std::vector<std::unique_ptr<Control>>& controls) {
+    KeyGiver giver(controls);
+    for (const auto& control : controls) {
+        if (WantsAccessKey(controls, *control)) giver.Give(*control);
+    }
+}
 
 bool IsNoUnit(std::string_view unit) {
     return std::any_of(kNoUnits.begin(), kNoUnits.end(),

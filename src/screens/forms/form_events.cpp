@@ -1,11 +1,14 @@
 #include "screens/forms/form_events.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "screens/forms/balance_state.h"
 #include "screens/forms/field_entry.h"
+#include "screens/forms/field_help.h"
 #include "screens/forms/grid_entry.h"
+#include "screens/forms/side_screen.h"
 
 namespace kelvor {
 
@@ -44,21 +47,23 @@ void FormEvents::Handle(FormEvent event, Form& form, Control* control, const std
 
 // --- Opening, activating, closing -------------------------------------------------------------------
 
-bool FormEvents::Open(std::string_view name) {
+bool FormEvents::Open(std::string_view name, const SideScreenCall* call) {
     if (!context_.calc.store.IsOpen()) return context_.forms.FindType(name) != nullptr;
     if (!Commit()) return true;
     if (Form* open = context_.forms.Find(name)) {
+        if (call != nullptr) NoteCall(*open, *call);
         Activate(*open);
         return true;
     }
     const FormType* type = context_.forms.FindType(name);
     if (type == nullptr) return false;
     Form& form = context_.forms.Add(*type, context_.catalogue);
+    if (call != nullptr) NoteCall(form, *call);
     Handle(FormEvent::Load, form, nullptr, [&] {
         InitScreen(context_, form);
         FillValueItems(context_, form);
     });
-    form.valueFromHelp = false;
+    form.AssignAccessKeys();
     Activate(form);
     return true;
 }
@@ -67,32 +72,42 @@ void FormEvents::Activate(Form& form) {
     if (Current() == &form || !Commit()) return;
     context_.forms.BringToFront(form);
     Handle(FormEvent::Activate, form, nullptr, [&] {
+        const auto returned = std::exchange(form.returned, std::nullopt);
         LoadScreen(context_, form);
-        FocusOnActivation(form);
-        if (!form.valueFromHelp) return;
-        form.valueFromHelp = false;
-        SetSolveForState(form, SolveState::Warning);
+        if (returned) {
+            TakeReturn(form, *returned);
+        } else {
+            FocusFirstField(form);
+        }
     });
     context_.forms.CurrentForm = &form;
     NoteCurrentCell(form);
 }
 
-/// The first field, but after a side screen the control for which that was opened.
-void FormEvents::FocusOnActivation(Form& form) {
-    Control* caller = form.returnTo.empty() ? nullptr : form.Find(form.returnTo);
-    if (caller != nullptr) RecalcOutputs(context_, form, "", 0);
-    form.returnTo.clear();
+/// After a side screen: what it has changed is recalculated and warned of, and the focus goes to the field
+/// for which it was opened.
+void FormEvents::TakeReturn(Form& form, const SideScreenReturn& returned) {
+    Control* grid = returned.row > 0 ? form.FindGrid() : nullptr;
+    if (grid != nullptr && returned.valueTaken) {
+        Handle(FormEvent::CellChanged, form, grid, [&] { RecalcOutputs(context_, form, "", returned.row); });
+    }
+    RecalcOutputs(context_, form, "", 0);
     FocusFirstField(form);
+    Control* caller = grid != nullptr ? grid : form.FindField(returned.field);
     if (caller != nullptr && form.CanFocus(*caller)) GetFocus(form, *caller);
+    if (returned.valueTaken) WarnOfChange(context_, form, returned.field);
 }
 
+/// A form without a field that takes the focus has it on its first button.
 void FormEvents::FocusFirstField(Form& form) {
     form.focus = nullptr;
+    Control* first = form.NextInTabOrder(nullptr, true);
     for (const auto& control : form.controls()) {
         if (!form.CanFocus(*control) || control->IsButton()) continue;
-        GetFocus(form, *control);
-        return;
+        first = control.get();
+        break;
     }
+    if (first != nullptr) GetFocus(form, *first);
 }
 
 bool FormEvents::Close(Form& form) {
@@ -134,12 +149,15 @@ bool FormEvents::LoseFocus(Form& form, Control& control) {
     if (!context_.calc.store.IsOpen()) return accepted;
     if (control.grid) return CommitCell(form, control);
     if (!control.IsField()) return accepted;
+    const bool changed = form.fieldChanged();
     Handle(FormEvent::LostFocus, form, &control, [&] { accepted = FieldLostFocus(context_, form, control); });
+    if (accepted && changed) Handle(FormEvent::Stored, form, &control, [] {});
     return accepted;
 }
 
 void FormEvents::GetFocus(Form& form, Control& control) {
     form.focus = &control;
+    if (control.grid) FindControlIndex(form, control.name);
     if (!control.IsField()) return;
     Handle(FormEvent::GotFocus, form, &control, [&] { FieldGotFocus(form, control); });
 }
@@ -245,6 +263,8 @@ bool FormEvents::NamedKey(Form& form, const std::string& key) {
         Tab(form, true);
     } else if (key == "BackTab") {
         Tab(form, false);
+    } else if (key == "Esc" && form.type().isHelp) {
+        Close(form);
     } else if (key == "Esc") {
         Restore(form);
     } else if (key == "Space") {
@@ -331,6 +351,7 @@ void FormEvents::Click(Form& form, Control& control) {
     }
     Handle(FormEvent::Click, form, &control, [&] {
         if (EqualNoCase(control.name, kOkButton)) Close(form);
+        if (EqualNoCase(control.name, kHelpButton)) OpenFieldHelp(context_, form);
     });
 }
 
@@ -351,7 +372,7 @@ void FormEvents::AfterUnitSwitch() {
     Form* form = Current();
     if (form == nullptr || form->type().isHub || !context_.calc.store.IsOpen()) return;
     FillValueItems(context_, *form);
-    RefreshScreen(context_, *form);
+    Handle(FormEvent::UnitsSwitched, *form, nullptr, [&] { RefreshScreen(context_, *form); });
     if (form->focus != nullptr) GetFocus(*form, *form->focus);
 }
 

@@ -8,6 +8,8 @@
 
 namespace kelvor {
 
+struct SideScreenCall;
+
 /// What a user does to the open forms, and what the forms then do: focus, typing, keys, clicks, opening and
 /// closing. One object serves one event.
 class FormEvents {
@@ -15,8 +17,9 @@ class FormEvents {
     explicit FormEvents(ScreenContext& context) : context_(context) {}
 
     /// Opens the form of a name, or brings it to the front, unless the current form refuses the value being
-    /// typed; with no project open it does nothing. False if there is no such form.
-    bool Open(std::string_view name);
+    /// typed; with no project open it does nothing. A side screen is told for which field it opens. False if
+    /// there is no such form.
+    bool Open(std::string_view name, const SideScreenCall* call = nullptr);
 
     /// Closes a form as its close box does: the value being typed is committed, then the form may ask. False
     /// if it stays open.
@@ -80,7 +83,7 @@ class FormEvents {
     bool MoveGridCursor(Form& form, Control& control, int row, std::size_t column);
     void StepCell(Form& form, Control& control, const std::string& key);
     void NoteCurrentCell(Form& form);
-    void FocusOnActivation(Form& form);
+    void TakeReturn(Form& form, const SideScreenReturn& returned);
     void FocusFirstField(Form& form);
     void ActivateFront();
     void Click(Form& form, Control& control);

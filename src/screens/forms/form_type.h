@@ -18,10 +18,12 @@ enum class FormEvent {
     Change,
     GotFocus,
     LostFocus,
+    Stored,  // of a field: a changed value has been stored
     Click,
     CellChanged,  // of a grid: the cell under its cursor was written
     RowChanged,   // its cursor has moved to another row
     RowDeleted,
+    UnitsSwitched,
     Unload,
 };
 
@@ -34,6 +36,12 @@ struct Handler {
     std::string control;
     HandlerOrder order;
     void (*run)(ScreenContext& context, Form& form, Control* control);
+};
+
+/// A field whose help is a screen of its own.
+struct HelpRoute {
+    std::string variable;
+    std::string form;
 };
 
 /// The equations whose balance is kept while their screens are closed.
@@ -63,7 +71,9 @@ struct FormType {
     std::vector<Handler> handlers;
     std::optional<BalanceFlag> balance;        // of the indicator SolveFor
     std::optional<BalanceFlag> secondBalance;  // of SolveFor2
+    std::vector<HelpRoute> helpRoutes;         // any other field has the general help
     bool modal = false;                        // while it is open, the user works in it alone
+    bool isHelp = false;                       // helps with one field of another form; Esc closes it
     bool isHub = false;  // the form with the tabs: always open, and Enter selects its options
 };
 

@@ -81,6 +81,22 @@ LayoutNode Grid(std::string name, std::vector<FieldItem> columns) {
 
 LayoutNode Verdict(std::string name) { return Leaf(LayoutKind::Verdict, std::move(name), {}); }
 
+LayoutNode Table(std::string name, std::vector<std::vector<std::string>> rows) {
+    LayoutNode node = Leaf(LayoutKind::Table, std::move(name), {});
+    node.table = std::move(rows);
+    return node;
+}
+
+std::string TableCellName(const std::string& table, std::size_t row, std::size_t column) {
+    return table + std::to_string(row) + "_" + std::to_string(column);
+}
+
+LayoutNode Chart(std::string name, ChartData data) {
+    LayoutNode node = Leaf(LayoutKind::Chart, std::move(name), {});
+    node.chart = std::move(data);
+    return node;
+}
+
 LayoutNode Buttons(std::vector<ButtonItem> buttons) {
     LayoutNode node;
     node.kind = LayoutKind::Buttons;
@@ -91,18 +107,22 @@ LayoutNode Buttons(std::vector<ButtonItem> buttons) {
 LayoutNode Hidden(std::vector<std::string> names) {
     LayoutNode node;
     node.kind = LayoutKind::Hidden;
-    for (std::string& name : names) node.fields.push_back({std::move(name), {}, false, false});
+    for (std::string& name : names) node.fields.push_back({.variable = std::move(name)});
     return node;
 }
+
+std::string FieldItem::Label() const { return labelName.empty() ? FieldLabelName(Box()) : labelName; }
+std::string FieldItem::Unit() const { return unitName.empty() ? UnitLabelName(Box()) : unitName; }
 
 std::string FieldLabelName(const std::string& variable) { return "Lab" + variable; }
 std::string UnitLabelName(const std::string& variable) { return "u" + variable; }
 
-LayoutNode SolveForFrame(std::string frame, std::string indicator, std::string button) {
+LayoutNode SolveForFrame(std::string frame, std::string indicator, std::string button, std::string caption) {
     LayoutNode label;
     label.kind = LayoutKind::Indicator;
     label.name = std::move(indicator);
-    return Frame(std::move(frame), "Solve For", {label, Buttons({{std::move(button), "&Solve For", false}})});
+    return Frame(std::move(frame), "Solve For",
+                 {label, Buttons({{std::move(button), std::move(caption), false}})});
 }
 
 }  // namespace kelvor

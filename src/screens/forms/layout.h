@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,18 +20,30 @@ enum class LayoutKind {
     Text,       // a paragraph
     Picture,    // an image
     Grid,       // a table of the project's cells
+    Table,      // a table of fixed texts, the first row its headings
+    Chart,      // a chart with its data sheet
     Verdict,    // a line in bold letters that says how things stand
     Indicator,  // the Solve For indicator above its button
     Buttons,    // buttons in a row
     Hidden,     // boxes that the user never sees
 };
 
-/// One field of a form: the variable it is bound to, and what its declaration says beyond the catalogue.
+/// One field of a form: the variable it is bound to, and what its declaration says beyond the catalogue. A
+/// field without a variable is bound when its form opens; it names its controls.
 struct FieldItem {
     std::string variable = {};
     std::string label = {};  // empty: the variable's description
     bool locked = false;
-    bool list = false;  // a drop-down list instead of a text box
+    bool list = false;           // a drop-down list instead of a text box
+    bool computed = false;       // worked out by the form itself: locked, and looks like an output
+    std::string box = {};        // the name of the box; empty: the variable's
+    std::string labelName = {};  // of the label before the box; empty: FieldLabelName
+    std::string unitName = {};   // of the unit behind it; empty: UnitLabelName
+    std::string choice = {};     // a list that may take the place of the box; hidden at first
+
+    [[nodiscard]] const std::string& Box() const { return box.empty() ? variable : box; }
+    [[nodiscard]] std::string Label() const;
+    [[nodiscard]] std::string Unit() const;
 };
 
 /// What is said of a thing that Kelvor cannot do yet.
@@ -51,6 +64,8 @@ struct LayoutNode {
     std::vector<LayoutNode> children;
     std::vector<FieldItem> fields;
     std::vector<ButtonItem> buttons;
+    std::vector<std::vector<std::string>> table;  // the rows of a table of texts
+    std::optional<ChartData> chart;
 };
 
 LayoutNode Pages(std::string name, std::vector<LayoutNode> pages);
@@ -67,6 +82,13 @@ LayoutNode Picture(std::string name, std::string file);
 
 /// A table with a column for each variable; an item that is a list offers the list of the variable's name.
 LayoutNode Grid(std::string name, std::vector<FieldItem> columns);
+
+/// A table of fixed texts with its headings in the first row. Its labels are called by the name, the row and
+/// the column, both from 1: Guide1_1.
+LayoutNode Table(std::string name, std::vector<std::vector<std::string>> rows);
+std::string TableCellName(const std::string& table, std::size_t row, std::size_t column);
+
+LayoutNode Chart(std::string name, ChartData data);
 LayoutNode Buttons(std::vector<ButtonItem> buttons);
 LayoutNode Hidden(std::vector<std::string> names);
 
@@ -75,6 +97,7 @@ std::string FieldLabelName(const std::string& variable);
 std::string UnitLabelName(const std::string& variable);
 
 /// The frame "Solve For" with the indicator and its button.
-LayoutNode SolveForFrame(std::string frame, std::string indicator, std::string button);
+LayoutNode SolveForFrame(std::string frame, std::string indicator, std::string button,
+                         std::string caption = "&Solve For");
 
 }  // namespace kelvor

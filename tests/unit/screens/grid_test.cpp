@@ -240,7 +240,7 @@ TEST_F(GridTest, TabLeavesTheGridAtItsEnds) {
     EXPECT_EQ(form_->focus->name, "cmdAction");
     Raise(Kind::MoveToCell, "LDLayerMat", {}, 1);
     Raise(Kind::Key, "BackTab");
-    EXPECT_EQ(form_->focus->name, "cmdAction");
+    EXPECT_EQ(form_->focus->name, "SSHelp");
 }
 
 // --- Blocks of cells --------------------------------------------------------------------------------------

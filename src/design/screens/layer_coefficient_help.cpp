@@ -1,0 +1,71 @@
+#include "design/screens/layer_coefficient_help.h"
+
+#include <cmath>
+#include <utility>
+
+#include "platform/number_text.h"
+#include "screens/forms/field_help.h"
+#include "screens/forms/form.h"
+
+namespace kelvor {
+
+namespace {
+
+constexpr double kPsiPerKsi = 1000.0;
+constexpr int kLeastModulus = 100;  // ksi
+constexpr int kGreatestModulus = 500;
+constexpr int kModulusStep = 20;
+
+ChartData CoefficientChart() {
+    ChartData chart;
+    chart.title = "Fig 2.5 AASHTO Guide";
+    chart.across = {.title = "Elastic Modulus, Eac (ksi), of   Asphalt Concrete (at 68\u00B0F)",
+                    .least = kLeastModulus,
+                    .greatest = kGreatestModulus,
+                    .step = 100.0,
+                    .picture = "0"};
+    chart.up = {
+        .title = "Layer Coefficient, a", .least = 0.1, .greatest = 0.5, .step = 0.1, .picture = "0.0"};
+    chart.series = {{"Layer Coefficient, a", "#1F5FBF"}};
+    for (int ksi = kLeastModulus; ksi <= kGreatestModulus; ksi += kModulusStep) {
+        chart.rows.push_back({std::to_string(ksi), {AsphaltCoefficient(ksi)}});
+    }
+    return chart;
+}
+
+void Load(ScreenContext& context, Form& form, Control* /*control*/) { ShowCalledField(context, form); }
+
+FormType CoefficientHelp(const char* name, const char* caption, std::vector<std::string> hidden) {
+    FormType type;
+    type.name = name;
+    type.tag = name;
+    type.caption = caption;
+    type.isHelp = true;
+    type.layout = Rows({
+        Chart("Chart1", CoefficientChart()),
+        Text("LabCurve",
+             "The curve is the published fit a = 0.171 ln(E) - 1.784, with E in psi (100 ksi is 690 MPa)."),
+        Fields({{.box = "TextBox", .labelName = "Label", .unitName = "Units"}}),
+        Buttons({{"cmdAction", "&OK"}}),
+        Hidden(std::move(hidden)),
+    });
+    type.handlers = {{FormEvent::Load, "", HandlerOrder::After, Load},
+                     {FormEvent::Unload, "", HandlerOrder::Before, CloseValueHelp}};
+    return type;
+}
+
+}  // namespace
+
+double AsphaltCoefficient(double modulusKsi) { return 0.171 * std::log(modulusKsi * kPsiPerKsi) - 1.784; }
+
+FormType LayerCoefficientHelp() {
+    return CoefficientHelp("H_LDLayerCoef", "Help Screen for Layer Coefficient",
+                           {"FieldName", "FormName", "Column", "Dim1", "Dim2"});
+}
+
+FormType OverlayCoefficientHelp() {
+    return CoefficientHelp("H_ACACOLLC", "Help Screen for AC Overlay Layer Coefficient",
+                           {"FieldName", "FormName", "Dim1", "Dim2"});
+}
+
+}  // namespace kelvor

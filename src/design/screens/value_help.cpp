@@ -1,0 +1,37 @@
+#include "design/screens/value_help.h"
+
+#include "screens/forms/field_help.h"
+#include "screens/forms/form.h"
+
+namespace kelvor {
+
+namespace {
+
+void Load(ScreenContext& context, Form& form, Control* /*control*/) {
+    ShowCalledField(context, form, "Help Screen for ");
+}
+
+FormType PlainValueHelp(const char* name) {
+    FormType type;
+    type.name = name;
+    type.tag = name;
+    type.caption = "Help Screen";
+    type.isHelp = true;
+    type.layout = Rows({
+        Verdict("HelpHead"),
+        Text("HelpText", ""),
+        Fields({{.box = "TextBox", .labelName = "Label", .unitName = "Units"}}),
+        Buttons({{"cmdAction", "&OK"}}),
+        Hidden({"FieldName", "FormName", "Dim1", "Dim2"}),
+    });
+    type.handlers = {{FormEvent::Load, "", HandlerOrder::After, Load},
+                     {FormEvent::Unload, "", HandlerOrder::Before, CloseValueHelp}};
+    return type;
+}
+
+}  // namespace
+
+FormType StructuralNumberHelp() { return PlainValueHelp("H_SN"); }
+FormType SoilModulusHelp() { return PlainValueHelp("H_SRMII"); }
+
+}  // namespace kelvor
