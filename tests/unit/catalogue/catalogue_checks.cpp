@@ -187,7 +187,7 @@ class Checker {
         }
     }
 
-    static std::vector<std::string> Sentences(const std::string& text) {
+    static std::set<std::string> Sentences(const std::string& text) {
         std::vector<std::string> sentences(1);
         for (std::size_t i = 0; i < text.size(); ++i) {
             const bool ends =
@@ -195,11 +195,12 @@ class Checker {
             if (text[i] != '\n') sentences.back().push_back(text[i]);
             if (ends) sentences.emplace_back();
         }
-        std::erase_if(sentences, [](std::string& sentence) {
+        std::set<std::string> different;
+        for (std::string& sentence : sentences) {
             sentence.erase(0, sentence.find_first_not_of(' '));
-            return sentence.empty();
-        });
-        return sentences;
+            if (!sentence.empty()) different.insert(sentence);
+        }
+        return different;
     }
 
     Catalogue& catalogue_;
