@@ -1,6 +1,7 @@
 #include "catalogue_checks.h"
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <optional>
 #include <set>
@@ -111,12 +112,13 @@ class Checker {
         // Whatever is allowed in English is allowed in metric units too.
         const UnitPair* pair = catalogue_.FindPairByEnglish(variable.units);
         if (pair == nullptr) return;
+        const double slack = 1e-7;  // for the rounding of the factor
         if (variable.high && variable.highMetric &&
-            *variable.high * pair->factor > *variable.highMetric * 1.0000001) {
+            *variable.high * pair->factor > *variable.highMetric + slack * std::fabs(*variable.highMetric)) {
             Fault("metric limits", where);
         }
         if (variable.low && variable.lowMetric &&
-            *variable.low * pair->factor < *variable.lowMetric * 0.9999999) {
+            *variable.low * pair->factor < *variable.lowMetric - slack * std::fabs(*variable.lowMetric)) {
             Fault("metric limits", where);
         }
     }

@@ -100,7 +100,7 @@ TEST_F(AxleEsalTest, AShrinkingTrafficIsCompoundedToo) {
     EXPECT_NEAR(Calc(1, 18.0).rigid.value(), 1.0 + 0.9 + 0.81, 1e-12);
 }
 
-TEST_F(AxleEsalTest, ADayCountsAsOneOf365AndAQuarterAMonthAsOneOfTwelve) {
+TEST_F(AxleEsalTest, ADayIsOneOf365AndAQuarterAMonthOneOfTwelve) {
     ExpectStandardAxle(365.25, 1);
     ExpectStandardAxle(12.0, 2);
     ExpectStandardAxle(1.0, 3);
@@ -201,6 +201,15 @@ TEST_F(AxleEsalTest, TheTypeIsReadFromTheExactWord) {
         EXPECT_EQ(codeOf(word), 0) << word;
     }
     EXPECT_EQ(AxleTypeCode(store(), 8), 0) << "an empty row";
+}
+
+TEST_F(AxleEsalTest, TheListOffersTheWordsInTheOrderOfTheirCodes) {
+    std::int16_t code = 0;
+    for (const std::string& word : program_.program.state().dbCustom->Values("AxleType", false)) {
+        store().SetCell("AxleType", 1, 1, {std::nullopt, word});
+        EXPECT_EQ(AxleTypeCode(store(), 1), ++code) << word;
+    }
+    EXPECT_EQ(code, 3);
 }
 
 TEST_F(AxleEsalTest, ARowBeyondTheLastStopsTheProgram) {
