@@ -3,29 +3,29 @@
 #include <array>
 
 #include "design/calc/layered_structure.h"
+#include "traffic/calc/traffic_keys.h"
 
 namespace kelvor {
 
 namespace {
 
-constexpr std::array<std::string_view, 40> kAwaitedFieldKeys = {
-    "TrRE18T",    "TrFE18T",       "TrRE18Tv",      "TrFE18Tv",  "TrRE18tt",      "TrFE18tt",   "BOLEFFDEPTH",
-    "BOLDEPTH",   "BOLFUTDEPTH",   "UBOLEFFDEPTH",  "UBOLDEPTH", "UBOLFUTDEPTH",  "ACACEFFSN",  "ACACTHICK",
-    "ACACFUTSN",  "ACCSEFFSN",     "ACCSTHICK",     "ACCSFUTSN", "ACACPCEFFD",    "ACACPCOLT",  "ACPCEFFD",
-    "ACPCOLT",    "EXISTEFSNSUM",  "SNEFFTOT",      "AVGNDTRM",  "AVGNDTEFFEP",   "AVGBACKL",   "AVGSTATK",
-    "AVGBACKLC",  "AVGSTATKC",     "AVGNDTEC",      "AVGNDTE",   "DISCOUNTRATE",  "ItemTotal2", "ItemTotal3",
-    "ItemTotal4", "PrWorthTotal3", "PrWorthTotal4", "PWCostM",   "MaintItemCost",
+constexpr std::array<std::string_view, 34> kAwaitedFieldKeys = {
+    "BOLEFFDEPTH", "BOLDEPTH",   "BOLFUTDEPTH",   "UBOLEFFDEPTH",  "UBOLDEPTH", "UBOLFUTDEPTH",  "ACACEFFSN",
+    "ACACTHICK",   "ACACFUTSN",  "ACCSEFFSN",     "ACCSTHICK",     "ACCSFUTSN", "ACACPCEFFD",    "ACACPCOLT",
+    "ACPCEFFD",    "ACPCOLT",    "EXISTEFSNSUM",  "SNEFFTOT",      "AVGNDTRM",  "AVGNDTEFFEP",   "AVGBACKL",
+    "AVGSTATK",    "AVGBACKLC",  "AVGSTATKC",     "AVGNDTEC",      "AVGNDTE",   "DISCOUNTRATE",  "ItemTotal2",
+    "ItemTotal3",  "ItemTotal4", "PrWorthTotal3", "PrWorthTotal4", "PWCostM",   "MaintItemCost",
 };
 
-constexpr std::array<std::string_view, 19> kAwaitedCellKeys = {
-    "TrRE18",   "TrFE18", "InitialItemCost", "InitialItem", "RehabItemCost", "PWCostR", "EXISTEFSN", "NDTRM",
-    "NDTEFFEP", "AREA",   "BACKL",           "DYNK",        "STATK",         "NDTE",    "AREAC",     "BACKLC",
-    "DYNKC",    "STATKC", "NDTEC",
+constexpr std::array<std::string_view, 17> kAwaitedCellKeys = {
+    "InitialItemCost", "InitialItem", "RehabItemCost", "PWCostR", "EXISTEFSN", "NDTRM",
+    "NDTEFFEP",        "AREA",        "BACKL",         "DYNK",    "STATK",     "NDTE",
+    "AREAC",           "BACKLC",      "DYNKC",         "STATKC",  "NDTEC",
 };
 
 }  // namespace
 
-Dispatch JoinCalculations() { return Dispatch({LayeredStructureKeys()}); }
+Dispatch JoinCalculations() { return Dispatch({LayeredStructureKeys(), TrafficKeys()}); }
 
 std::span<const std::string_view> AwaitedFieldKeys() { return kAwaitedFieldKeys; }
 std::span<const std::string_view> AwaitedCellKeys() { return kAwaitedCellKeys; }

@@ -10,8 +10,9 @@ namespace kelvor {
 
 /// Plain values that screens leave for the calculations which ask for them.
 struct FormValues {
-    int gridRow = 1;  // the row under the cursor of the grid in which the user works
-    int dim2 = 1;     // the second subscript that the current screen shows
+    int gridRow = 1;              // the row under the cursor of the grid in which the user works
+    int dim2 = 1;                 // the second subscript that the current screen shows
+    bool trafficInTrucks = true;  // traffic factors: trucks a day are given, and not all vehicles a day
 };
 
 /// All that a calculation may see and touch.

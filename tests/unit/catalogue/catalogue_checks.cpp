@@ -1,6 +1,7 @@
 #include "catalogue_checks.h"
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <optional>
 #include <set>
@@ -111,12 +112,13 @@ class Checker {
         // Whatever is allowed in English is allowed in metric units too.
         const UnitPair* pair = catalogue_.FindPairByEnglish(variable.units);
         if (pair == nullptr) return;
+        const double slack = 1e-7;  // for the rounding of the factor
         if (variable.high && variable.highMetric &&
-            *variable.high * pair->factor > *variable.highMetric * 1.0000001) {
+            *variable.high * pair->factor > *variable.highMetric + slack * std::fabs(*variable.highMetric)) {
             Fault("metric limits", where);
         }
         if (variable.low && variable.lowMetric &&
-            *variable.low * pair->factor < *variable.lowMetric * 0.9999999) {
+            *variable.low * pair->factor < *variable.lowMetric - slack * std::fabs(*variable.lowMetric)) {
             Fault("metric limits", where);
         }
     }
@@ -187,7 +189,7 @@ class Checker {
         }
     }
 
-    static std::vector<std::string> Sentences(const std::string& text) {
+    static std::set<std::string> Sentences(const std::string& text) {
         std::vector<std::string> sentences(1);
         for (std::size_t i = 0; i < text.size(); ++i) {
             const bool ends =
@@ -195,11 +197,12 @@ class Checker {
             if (text[i] != '\n') sentences.back().push_back(text[i]);
             if (ends) sentences.emplace_back();
         }
-        std::erase_if(sentences, [](std::string& sentence) {
+        std::set<std::string> different;
+        for (std::string& sentence : sentences) {
             sentence.erase(0, sentence.find_first_not_of(' '));
-            return sentence.empty();
-        });
-        return sentences;
+            if (!sentence.empty()) different.insert(sentence);
+        }
+        return different;
     }
 
     Catalogue& catalogue_;

@@ -90,6 +90,15 @@ INSTANTIATE_TEST_SUITE_P(
                "UPDATE Variable SET HelpText = HelpText || ' See the Guide.'"
                " WHERE Name IN ('SN', 'RM', 'MR', 'EC')"}));
 
+TEST_F(CatalogueTest, ThreeHelpTextsMayShareASentence) {
+    SQLite::Database(file().string(), SQLite::OPEN_READWRITE)
+        .exec(
+            "UPDATE Variable SET HelpText = HelpText || ' See the Guide. See the Guide.'"
+            " WHERE Name IN ('SN', 'RM', 'MR')");
+    Catalogue catalogue(file());
+    EXPECT_THAT(CheckCatalogue(catalogue, JoinCalculations()), IsEmpty());
+}
+
 TEST_F(CatalogueTest, AFactorThatIsNotAboveZeroIsRefused) {
     SQLite::Database(file().string(), SQLite::OPEN_READWRITE)
         .exec("UPDATE \"Convert\" SET Factor = 0 WHERE English = 'psi'");
@@ -161,6 +170,27 @@ TEST_F(CatalogueTest, EachLimitStandsOnItsOwn) {
     EXPECT_EQ(catalogue.FindVariable("AREA")->high, 7.0);
     EXPECT_EQ(catalogue.FindVariable("AREA")->low, std::nullopt);
     EXPECT_EQ(catalogue.FindVariable("AREA")->highMetric, std::nullopt);
+}
+
+TEST_F(CatalogueTest, TheDataOfTheSubgradeMayBeAbsentAndReachAsFarAsTheGuidesTables) {
+    Catalogue catalogue(file());
+    struct Row {
+        const char* name;
+        double largest;  // English units: the end of the range in the Guide, or of the scale
+    };
+    for (const Row& row : {Row{"MRSG", 40000}, Row{"MRSB", 2000000}, Row{"SBD", 18}, Row{"SGD", 10},
+                           Row{"LS", 4}, Row{"CBR", 100}, Row{"RVAL", 100}}) {
+        for (const std::string& name : {std::string(row.name), "EXIST" + std::string(row.name)}) {
+            const Variable* variable = catalogue.FindVariable(name);
+            if (variable == nullptr) continue;  // CBR and R-value serve both pavements
+            const double factor = catalogue.FindPairByEnglish(variable->units)->factor;
+            EXPECT_EQ(variable->low, 0.0) << name;
+            EXPECT_EQ(variable->lowMetric, 0.0) << name;
+            EXPECT_GE(variable->high, row.largest) << name;
+            EXPECT_GE(variable->highMetric.value_or(0.0), variable->high.value_or(0.0) * factor) << name;
+            EXPECT_TRUE(catalogue.HelpText(name).has_value()) << name;
+        }
+    }
 }
 
 // --- The databases that the build makes ------------------------------------------------------------------

@@ -1,0 +1,32 @@
+#include "traffic/calc/traffic_factors.h"
+
+#include "traffic/calc/axle_esal.h"
+
+namespace kelvor {
+
+namespace {
+
+Real TrucksOfDay(const CalcContext& context) {
+    const ProjectStore& store = context.store;
+    if (context.forms.trafficInTrucks) return store.GetVar("TrInADTT");
+    return store.GetVar("TrInADT") * (store.GetVar("TrInPerTruck") / Real(100.0));
+}
+
+/// `factor` names the ESALs of one truck.
+void CalcFactorEsal(CalcContext& context, std::string_view target, std::string_view factor) {
+    const Real trucks = TrucksOfDay(context);
+    const Real esal = trucks * context.store.GetVar(factor) * 365.25 * GrowthFactor(context.store);
+    context.store.SetVar(target, DesignLanePart(context.store, esal).value());
+}
+
+}  // namespace
+
+void CalcFactorEsalFlexible(CalcContext& context, std::string_view target) {
+    CalcFactorEsal(context, target, "TrInFESAL");
+}
+
+void CalcFactorEsalRigid(CalcContext& context, std::string_view target) {
+    CalcFactorEsal(context, target, "TrInRESAL");
+}
+
+}  // namespace kelvor
