@@ -99,8 +99,10 @@ void Catalogue::ReadFields() {
 }
 
 void Catalogue::ReadScreens() {
-    VisitRows(database_, "Screen", "Name, Dim2, Sf1Y, Layout, Title, Title1, Title2", "rowid",
-              [this](const RowView& row) {
+    VisitRows(database_, "Screen",
+              "Name, Dim2, Sf1Y, Layout, Title, Title1, Title2, LeftX, LeftY, ScreenLeft, RightX, RightY, "
+              "ScreenRight",
+              "rowid", [this](const RowView& row) {
                   Screen screen;
                   screen.name = Text(row, 0);
                   screen.dim2 = Whole(row, 1);
@@ -109,6 +111,8 @@ void Catalogue::ReadScreens() {
                   screen.title = Text(row, 4);
                   screen.title1 = Text(row, 5);
                   screen.title2 = Text(row, 6);
+                  screen.left = {row.Number(7), row.Number(8), Text(row, 9)};
+                  screen.right = {row.Number(10), row.Number(11), Text(row, 12)};
                   screens_.push_back(std::move(screen));
               });
 }
@@ -119,6 +123,15 @@ void Catalogue::ReadUnitPairs() {
         if (!factor || *factor <= 0.0) throw DatabaseError("a unit factor is not above 0", false);
         unitPairs_.push_back({Text(row, 0), Text(row, 1), *factor});
     });
+}
+
+std::vector<ScreenLabel> Catalogue::LabelsOfScreen(std::string_view screen) const {
+    std::vector<ScreenLabel> labels;
+    VisitRows(database_, "Label", "Screen, Label, x, y", "rowid", [&](const RowView& row) {
+        if (!EqualNoCase(Text(row, 0), screen)) return;
+        labels.push_back({Text(row, 1), row.Number(2).value_or(0.0), row.Number(3).value_or(1.0)});
+    });
+    return labels;
 }
 
 const Variable* Catalogue::FindVariable(std::string_view name) const {

@@ -52,6 +52,20 @@ struct Field {
     [[nodiscard]] bool IsOutput() const { return EqualNoCase(type, "O"); }
 };
 
+/// A page button of a screen: where it stands in the coarse grid of a built screen, and where it leads.
+struct PageButton {
+    std::optional<double> x;  // missing: there is no such button
+    std::optional<double> y;
+    std::string screen;
+};
+
+/// A fixed text of a built screen.
+struct ScreenLabel {
+    std::string text;
+    double x = 0.0;
+    double y = 1.0;
+};
+
 struct Screen {
     std::string name;
     std::optional<int> dim2;
@@ -60,6 +74,8 @@ struct Screen {
     std::string title;
     std::string title1;
     std::string title2;
+    PageButton left;
+    PageButton right;
 };
 
 /// A pair of unit names; a metric value is the English one times the factor.
@@ -102,6 +118,9 @@ class Catalogue {
 
     [[nodiscard]] const std::vector<Screen>& screens() const { return screens_; }
     [[nodiscard]] const Screen* FindScreen(std::string_view name) const;
+
+    /// The fixed texts of a built screen, in the order of the catalogue.
+    [[nodiscard]] std::vector<ScreenLabel> LabelsOfScreen(std::string_view screen) const;
 
     /// The unit pairs in the order of the catalogue; the first of a name counts.
     [[nodiscard]] const std::vector<UnitPair>& unitPairs() const { return unitPairs_; }

@@ -103,7 +103,7 @@ void MirrorLabel(const Control& control, QLabel& label) {
     label.setProperty(kAddedMarkProperty, label.buddy() != nullptr ? caption.addedMark : qsizetype{-1});
     if (label.text() != text) label.setText(text);
     // A paragraph is as high as its lines; the layouts above it do not ask for that.
-    if (label.wordWrap()) label.setMinimumHeight(label.heightForWidth(label.minimumWidth()));
+    if (label.wordWrap()) label.setMinimumHeight(std::max(0, label.heightForWidth(label.minimumWidth())));
     ApplyColours(label, control, QPalette::Window, QPalette::WindowText);
 }
 

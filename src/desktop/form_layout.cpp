@@ -4,6 +4,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTabBar>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -18,14 +19,17 @@ namespace {
 /// Units of measure up to this many letters leave the columns where they are when the system changes.
 constexpr int kUnitLetters = 6;
 constexpr int kFieldColumns = 3;
+constexpr int kGridRows = 8;  // of a built screen, for its grid
 constexpr int kParagraphLetters = 60;
 constexpr double kHeadingScale = 2.4;
 
 class LayoutMaker {
   public:
-    LayoutMaker(QWidget& form, const WidgetFinder& find) : form_(form), find_(find) {}
+    LayoutMaker(const Form& model, QWidget& form, const WidgetFinder& find)
+        : model_(model), form_(form), find_(find) {}
 
-    void MakeRoot(const LayoutNode& layout) {
+    void MakeRoot() {
+        const LayoutNode& layout = model_.type().layout;
         auto* root = new QVBoxLayout(&form_);
         if (layout.kind != LayoutKind::Rows) {
             Add(*root, layout);
@@ -77,6 +81,9 @@ class LayoutMaker {
                 break;
             case LayoutKind::Table:
                 AddTable(to, node);
+                break;
+            case LayoutKind::Placed:
+                AddPlaced(to);
                 break;
             case LayoutKind::Grid:
             case LayoutKind::Chart:
@@ -136,6 +143,34 @@ class LayoutMaker {
         onPage_ = outer;
         rows->addStretch(1);
         to.addWidget(frame);
+    }
+
+    /// The controls of a built screen, in its coarse grid of letters and rows.
+    void AddPlaced(QBoxLayout& to) {
+        auto* canvas = new QWidget(&form_);
+        QSize extent(0, 0);
+        for (const auto& control : model_.controls()) {
+            if (!control->place) continue;
+            QWidget* widget = find_(control->name);
+            widget->setParent(canvas);
+            widget->setGeometry(PlaceOf(*control, *widget));
+            extent = extent.expandedTo({widget->geometry().right() + 1, widget->geometry().bottom() + 1});
+        }
+        canvas->setFixedSize(extent);
+        to.addWidget(canvas);
+    }
+
+    [[nodiscard]] QRect PlaceOf(const Control& control, const QWidget& widget) const {
+        const CoarsePlace& place = *control.place;
+        const int letter = form_.fontMetrics().averageCharWidth();
+        const int row = QLineEdit().sizeHint().height() + form_.fontMetrics().lineSpacing() / 4;
+        const int text = form_.fontMetrics().horizontalAdvance(ToQt(control.text)) + 2 * letter;
+        const int padding = control.IsButton() ? 6 * letter : 0;
+        QSize size(place.width > 0.0 ? qRound(place.width * letter) : text + padding,
+                   QLineEdit().sizeHint().height());
+        if (place.height == 0.0) size.setHeight(kGridRows * row);
+        size = size.expandedTo(widget.minimumSize());
+        return {QPoint(qRound(place.x * letter), qRound((place.y - 1.0) * row)), size};
     }
 
     void AddTable(QBoxLayout& to, const LayoutNode& node) {
@@ -218,6 +253,7 @@ class LayoutMaker {
         to.addLayout(row);
     }
 
+    const Form& model_;
     QWidget& form_;
     const WidgetFinder& find_;
     QTabWidget* tabs_ = nullptr;
@@ -226,9 +262,9 @@ class LayoutMaker {
 
 }  // namespace
 
-QTabWidget* LayOutForm(const LayoutNode& layout, QWidget& form, const WidgetFinder& find) {
-    LayoutMaker maker(form, find);
-    maker.MakeRoot(layout);
+QTabWidget* LayOutForm(const Form& model, QWidget& form, const WidgetFinder& find) {
+    LayoutMaker maker(model, form, find);
+    maker.MakeRoot();
     return maker.tabs();
 }
 

@@ -5,7 +5,7 @@
 #include <functional>
 #include <string>
 
-#include "screens/forms/layout.h"
+#include "screens/forms/form.h"
 
 namespace kelvor {
 
@@ -15,6 +15,6 @@ using WidgetFinder = std::function<QWidget*(const std::string& name)>;
 /// Lays the widgets of a form out as its declaration says. One set of rules serves every form: labels, boxes
 /// and units in aligned columns, groups framed, the form's own buttons in a row at its foot.
 /// Returns the tab strip; null if the form has none.
-QTabWidget* LayOutForm(const LayoutNode& layout, QWidget& form, const WidgetFinder& find);
+QTabWidget* LayOutForm(const Form& model, QWidget& form, const WidgetFinder& find);
 
 }  // namespace kelvor

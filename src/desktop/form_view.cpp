@@ -78,8 +78,7 @@ FormView::FormView(Form& form, EventDoor& door, QWidget* parent)
     setWindowTitle(ToQt(form.caption));
     setAccessibleName(ToQt(form.caption));
     MakeWidgets();
-    tabs_ =
-        LayOutForm(form.type().layout, *this, [this](const std::string& name) { return FindWidget(name); });
+    tabs_ = LayOutForm(form, *this, [this](const std::string& name) { return FindWidget(name); });
     SetBuddies();
     ConnectWidgets();
     Sync();

@@ -33,6 +33,11 @@ QString HeadingOf(const GridColumn& column) {
 
 bool IsText(const GridColumn& column) { return column.picture.empty() || column.picture == "@"; }
 
+int LettersOf(const GridColumn& column) {
+    if (column.letters > 0.0) return qRound(column.letters);
+    return (IsText(column) ? kLettersOfText : kLettersOfNumber) + 2;
+}
+
 }  // namespace
 
 // --- The cells ------------------------------------------------------------------------------------------
@@ -152,8 +157,7 @@ void GridView::SizeColumns() {
     int width = verticalHeader()->sizeHint().width() + 2 * frameWidth();
     int lines = 0;
     for (int i = 0; i < cells_.columnCount(); ++i) {
-        const int letters = IsText(cells_.ColumnAt(i)) ? kLettersOfText : kLettersOfNumber;
-        setColumnWidth(i, (letters + 2) * letter);
+        setColumnWidth(i, LettersOf(cells_.ColumnAt(i)) * letter);
         width += columnWidth(i);
         const QRect room(0, 0, columnWidth(i) - 2 * letter, QWIDGETSIZE_MAX);
         const QString longest = ToQt(cells_.ColumnAt(i).caption) + "\n" + QString(1, u'M');

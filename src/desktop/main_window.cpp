@@ -86,7 +86,7 @@ void MainWindow::BuildMenus() {
     for (const MenuTitle& title : MenuTitles()) {
         QMenu* menu = AddMenu(title);
         for (const MenuEntry& entry : entries) {
-            if (entry.menu == title.name) AddEntry(*menu, entry);
+            if (entry.menu == title.name && !entry.hidden) AddEntry(*menu, entry);
         }
         if (title.name == kWindowMenu) windowMenu_ = menu;
     }

@@ -13,6 +13,10 @@ namespace {
 constexpr std::pair<const char*, const char*> kDesignScreens[] = {
     {"oDeR", "DeR"}, {"oDeF", "DeF"}, {"oDeS", "DeS"}};
 
+/// Where screens that have no designed form are tried: each builds the screen that its caption names.
+constexpr std::pair<const char*, const char*> kBuiltScreens[] = {
+    {"Sub1", "DeF"}, {"Sub2", "DeR"}, {"Sub3", "DeS"}, {"Sub4", "LayDet"}, {"Sub5", "H_SRM"}};
+
 void OpenDesignScreen(ScreenContext& context, Form& form, Control* /*button*/) {
     for (const auto& [option, screen] : kDesignScreens) {
         const Control* choice = form.Find(option);
@@ -34,7 +38,7 @@ std::vector<MenuTitle> MenuTitles() {
 
 std::vector<MenuEntry> MenuEntries(bool metric) {
     // New and Open have no key of their own: they drop an unnamed project without a question.
-    return {
+    std::vector<MenuEntry> entries = {
         {"MenuFile", "NewProj", "&New Project"},
         {"MenuFile", "MenuFileOpen", "&Open Project..."},
         {"MenuFile", "MenuFilePrint", "&Print", true, "Ctrl+P"},
@@ -47,6 +51,10 @@ std::vector<MenuEntry> MenuEntries(bool metric) {
         {"MenuHelp", "MenuAbout", "A&bout Kelvor", true},
         {"MenuHelp", "MenuTopics", "Help &Topics", true},
     };
+    for (const auto& [name, screen] : kBuiltScreens) {
+        entries.push_back({.menu = "Menu", .name = name, .caption = screen, .hidden = true});
+    }
+    return entries;
 }
 
 std::optional<HubTab> HubTabNamed(std::string_view screen) {

@@ -18,6 +18,7 @@ struct MenuEntry {
     std::string shortcut = {};  // a key that chooses it without the menu
     bool checkable = false;
     bool checked = false;
+    bool hidden = false;  // stands in no menu; a script may choose it
 };
 
 /// The menus of the main window, in their order: name and caption.

@@ -8,6 +8,7 @@
 #include "screens/forms/field_help.h"
 #include "screens/forms/form_events.h"
 #include "screens/forms/grid_entry.h"
+#include "screens/forms/screen_builder.h"
 #include "shell/project_files.h"
 
 namespace kelvor {
@@ -39,6 +40,7 @@ class EventScope {
 Program::Program(Host host, Home home) : state_(host, std::move(home)) {
     state_.formRegistry.Declare({HubForm()});
     state_.formRegistry.Declare(HelpForms());
+    state_.formRegistry.Declare({BlankForm()});
     state_.formRegistry.Declare(DesignForms());
 }
 
@@ -168,6 +170,10 @@ bool Program::ChooseMenu(const std::string& name) {
         std::find_if(entries.begin(), entries.end(), [&](const MenuEntry& e) { return e.name == name; });
     if (entry == entries.end() || name.empty()) return false;
     if (entry->comesLater) return true;
+    if (entry->hidden) {
+        ScreenContext context = state_.MakeScreenContext();
+        OpenBuiltScreen(context, entry->caption);
+    }
     if (name == "MenuUnitsEnglish" || name == "MenuUnitsMetric") SwitchUnits(name == "MenuUnitsMetric");
     if (name == "MenuFileExit") return Exit(), true;
     ProjectFiles files(state_);

@@ -97,11 +97,9 @@ FormType CompositeKHelp() {
     type.caption = "Effective Modulus of Subgrade Reaction";
     type.isHelp = true;
     type.layout = Rows({
-        Columns(
-            {Frame("Frame1", "Soil and Subbase",
-                   {Fields(
-                       {{"MRSG"}, {"MRSB"}, {"SBD"}, {"SGD"}, {"LS"}, {.variable = "K", .computed = true}})}),
-             Frame("Frame2", "Guidance", {GuidanceTable()})}),
+        Frame("Frame1", "Soil and Subbase",
+              {Fields({{"MRSG"}, {"MRSB"}, {"SBD"}, {"SGD"}, {"LS"}, {.variable = "K", .computed = true}})}),
+        Frame("Frame2", "Guidance", {GuidanceTable()}),
         Buttons({{"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}}),
         Hidden({"FieldName", "FormName"}),
     });

@@ -45,7 +45,7 @@ FormType CoefficientHelp(const char* name, const char* caption, std::vector<std:
         Chart("Chart1", CoefficientChart()),
         Text("LabCurve",
              "The curve is the published fit a = 0.171 ln(E) - 1.784, with E in psi (100 ksi is 690 MPa)."),
-        Fields({{.box = "TextBox", .labelName = "Label", .unitName = "Units"}}),
+        Fields({{.label = "Value", .box = "TextBox", .labelName = "Label", .unitName = "Units"}}),
         Buttons({{"cmdAction", "&OK"}}),
         Hidden(std::move(hidden)),
     });

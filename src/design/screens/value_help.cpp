@@ -20,7 +20,7 @@ FormType PlainValueHelp(const char* name) {
     type.layout = Rows({
         Verdict("HelpHead"),
         Text("HelpText", ""),
-        Fields({{.box = "TextBox", .labelName = "Label", .unitName = "Units"}}),
+        Fields({{.label = "Value", .box = "TextBox", .labelName = "Label", .unitName = "Units"}}),
         Buttons({{"cmdAction", "&OK"}}),
         Hidden({"FieldName", "FormName", "Dim1", "Dim2"}),
     });

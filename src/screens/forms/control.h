@@ -49,6 +49,7 @@ struct GridColumn {
     std::string picture;
     std::string list;                // the name of the list that it offers; empty: it takes what is typed
     std::vector<std::string> items;  // the entries of that list
+    double letters = 0.0;            // its width on a built screen; 0: by its picture
     bool locked = false;             // shows computed values and takes none
 };
 
@@ -67,6 +68,15 @@ struct GridData {
     [[nodiscard]] std::optional<std::size_t> Find(std::string_view variable) const;
 };
 
+/// A place on a built screen, in the units of its coarse grid: letters across from the left edge, and rows
+/// down from 1.
+struct CoarsePlace {
+    double x = 0.0;
+    double y = 1.0;
+    double width = 0.0;   // 0: as wide as its text
+    double height = 1.0;  // 0: down to the foot of the form
+};
+
 /// One element of a form, as the model holds it. A front end mirrors it and decides nothing.
 struct Control {
     ControlKind kind = ControlKind::Label;
@@ -75,9 +85,10 @@ struct Control {
     std::string text;     // of a box; the caption of a label, button or frame
     std::string picture;  // the number picture of a field; sizes its box
     std::string toolTip;
-    std::vector<std::string> items;  // of a list
-    std::optional<GridData> grid;    // of a grid
-    std::optional<ChartData> chart;  // of a chart
+    std::vector<std::string> items;    // of a list
+    std::optional<GridData> grid;      // of a grid
+    std::optional<ChartData> chart;    // of a chart
+    std::optional<CoarsePlace> place;  // on a built screen
     bool enabled = true;
     bool visible = true;
     bool locked = false;  // shows a value and takes none

@@ -76,6 +76,13 @@ Control* Form::FindUnitOf(std::string_view box) {
     return found == controls_.end() ? nullptr : found->get();
 }
 
+Control& Form::Add(ControlKind kind, std::string name) {
+    controls_.push_back(std::make_unique<Control>());
+    controls_.back()->kind = kind;
+    controls_.back()->name = std::move(name);
+    return *controls_.back();
+}
+
 void Form::AssignAccessKeys() { kelvor::AssignAccessKeys(controls_); }
 
 std::string Form::HiddenText(std::string_view name) const {

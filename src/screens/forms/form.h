@@ -52,6 +52,9 @@ class Form {
 
     [[nodiscard]] const std::vector<std::unique_ptr<Control>>& controls() const { return controls_; }
 
+    /// Makes a control more, at the end of the collection.
+    Control& Add(ControlKind kind, std::string name);
+
     /// Gives keys to what has got its text, or its list, since the form was made.
     void AssignAccessKeys();
 

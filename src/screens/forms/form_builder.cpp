@@ -61,15 +61,21 @@ class KeyGiver {
     }
 
   private:
-    /// Where a letter is taken by one that can do with another letter, that one changes.
+    /// Where no letter is free, one whose holder can do with another changes hands.
     bool Give(Control& control, std::set<char>& tried) {
-        for (const char key : KeyLetters(control.text)) {
-            if (!tried.insert(key).second) continue;
-            Control* holder = HolderOf(key, control);
-            if (holder != nullptr && (given_.count(holder) == 0 || !Give(*holder, tried))) continue;
+        const std::string letters = KeyLetters(control.text);
+        const auto take = [&](char key) {
             control.accessKey = key;
             given_.insert(&control);
             return true;
+        };
+        for (const char key : letters) {
+            if (key != control.accessKey && HolderOf(key, control) == nullptr) return take(key);
+        }
+        for (const char key : letters) {
+            Control* holder = HolderOf(key, control);
+            if (given_.count(holder) == 0 || !tried.insert(key).second) continue;
+            if (Give(*holder, tried)) return take(key);
         }
         return false;
     }
@@ -159,6 +165,9 @@ class Builder {
             case LayoutKind::Hidden:
                 for (const FieldItem& field : node.fields) AddHidden(field.variable);
                 break;
+            case LayoutKind::Placed:
+                AddBuiltParts();
+                break;
             case LayoutKind::Columns:
             case LayoutKind::Rows:
                 break;
@@ -188,6 +197,18 @@ class Builder {
         label.tag = "SolveFor";
         label.backColor = colours::kResting;
         label.foreColor = colours::kBlack;
+    }
+
+    /// What a built screen may have; it shows what its catalogue rows name.
+    void AddBuiltParts() {
+        Control& grid = Add(ControlKind::Grid, "Grid");
+        grid.backColor = colours::kWindow;
+        grid.grid.emplace();
+        grid.visible = false;
+        AddButton(ControlKind::CommandButton, {"PrevPage", "&Back"});
+        controls_.back()->visible = false;
+        AddButton(ControlKind::CommandButton, {"NextPage", "&Next"});
+        controls_.back()->visible = false;
     }
 
     void AddHidden(const std::string& name) {
@@ -301,6 +322,8 @@ void LockBox(Control& box, bool computed) {
 void AssignAccessKeys(std::vector<std::unique_ptr<Control>>& controls) {
     KeyGiver giver(controls);
     for (const auto& control : controls) {
+        const bool lost = KeyLetters(control->text).find(control->accessKey) == std::string::npos;
+        if (!control->labelOf.empty() && lost) control->accessKey = '\0';
         if (WantsAccessKey(controls, *control)) giver.Give(*control);
     }
 }

@@ -52,7 +52,11 @@ FormType ValueHelp(const std::string& name, const std::string& box, std::vector<
     type.layout = Rows({
         Verdict("HelpHead"),
         Text("HelpText", ""),
-        Fields({{.box = box, .labelName = "Label", .unitName = "Units", .choice = "ComboBox"}}),
+        Fields({{.label = "Value",
+                 .box = box,
+                 .labelName = "Label",
+                 .unitName = "Units",
+                 .choice = "ComboBox"}}),
         Buttons({{"Command1", "&OK"}, {"SSHelp", "&Limits"}}),
         Hidden(std::move(hidden)),
     });

@@ -97,6 +97,8 @@ LayoutNode Chart(std::string name, ChartData data) {
     return node;
 }
 
+LayoutNode Placed() { return Leaf(LayoutKind::Placed, {}, {}); }
+
 LayoutNode Buttons(std::vector<ButtonItem> buttons) {
     LayoutNode node;
     node.kind = LayoutKind::Buttons;

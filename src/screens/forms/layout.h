@@ -22,6 +22,7 @@ enum class LayoutKind {
     Grid,       // a table of the project's cells
     Table,      // a table of fixed texts, the first row its headings
     Chart,      // a chart with its data sheet
+    Placed,     // the controls that have a place in a coarse grid
     Verdict,    // a line in bold letters that says how things stand
     Indicator,  // the Solve For indicator above its button
     Buttons,    // buttons in a row
@@ -88,6 +89,7 @@ LayoutNode Grid(std::string name, std::vector<FieldItem> columns);
 LayoutNode Table(std::string name, std::vector<std::vector<std::string>> rows);
 std::string TableCellName(const std::string& table, std::size_t row, std::size_t column);
 
+LayoutNode Placed();
 LayoutNode Chart(std::string name, ChartData data);
 LayoutNode Buttons(std::vector<ButtonItem> buttons);
 LayoutNode Hidden(std::vector<std::string> names);
