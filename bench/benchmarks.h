@@ -8,13 +8,15 @@
 
 namespace kelvor::bench {
 
-/// A pair of registered benchmarks that the summary compares.
+/// A pair of registered benchmarks that the summary compares; or one, beside the longest time that it may
+/// take.
 struct Pair {
     std::string name;  // for the summary
     std::string ours;  // the names of the two benchmarks
     std::string reference;
     Measure measure = Measure::Cpu;
     std::optional<double> limit;
+    std::optional<double> longestSeconds = {};
 };
 
 /// Each of the following registers benchmarks and gives the pairs to compare. The program and the home
@@ -29,6 +31,9 @@ std::vector<Pair> RegisterSolves(BenchProgram& program);
 /// A write through to the work copy inside an event, and the end of an event that wrote one cell, both
 /// against SQLite alone.
 std::vector<Pair> RegisterWrites(BenchProgram& program, const Path& home);
+
+/// All ESALs of a spectrum of axles once a parameter of the traffic has changed.
+std::vector<Pair> RegisterSpectrum(BenchProgram& program);
 
 /// How often one solve for the structural number reads the store, and what it does meanwhile.
 struct SolveCount {
