@@ -3,18 +3,20 @@
 #include <array>
 
 #include "design/calc/layered_structure.h"
+#include "lcc/calc/economic_factors.h"
 
 namespace kelvor {
 
 namespace {
 
-constexpr std::array<std::string_view, 40> kAwaitedFieldKeys = {
-    "TrRE18T",    "TrFE18T",       "TrRE18Tv",      "TrFE18Tv",  "TrRE18tt",      "TrFE18tt",   "BOLEFFDEPTH",
-    "BOLDEPTH",   "BOLFUTDEPTH",   "UBOLEFFDEPTH",  "UBOLDEPTH", "UBOLFUTDEPTH",  "ACACEFFSN",  "ACACTHICK",
-    "ACACFUTSN",  "ACCSEFFSN",     "ACCSTHICK",     "ACCSFUTSN", "ACACPCEFFD",    "ACACPCOLT",  "ACPCEFFD",
-    "ACPCOLT",    "EXISTEFSNSUM",  "SNEFFTOT",      "AVGNDTRM",  "AVGNDTEFFEP",   "AVGBACKL",   "AVGSTATK",
-    "AVGBACKLC",  "AVGSTATKC",     "AVGNDTEC",      "AVGNDTE",   "DISCOUNTRATE",  "ItemTotal2", "ItemTotal3",
-    "ItemTotal4", "PrWorthTotal3", "PrWorthTotal4", "PWCostM",   "MaintItemCost",
+constexpr std::array<std::string_view, 39> kAwaitedFieldKeys = {
+    "TrRE18T",       "TrFE18T",     "TrRE18Tv",      "TrFE18Tv",     "TrRE18tt",     "TrFE18tt",
+    "BOLEFFDEPTH",   "BOLDEPTH",    "BOLFUTDEPTH",   "UBOLEFFDEPTH", "UBOLDEPTH",    "UBOLFUTDEPTH",
+    "ACACEFFSN",     "ACACTHICK",   "ACACFUTSN",     "ACCSEFFSN",    "ACCSTHICK",    "ACCSFUTSN",
+    "ACACPCEFFD",    "ACACPCOLT",   "ACPCEFFD",      "ACPCOLT",      "EXISTEFSNSUM", "SNEFFTOT",
+    "AVGNDTRM",      "AVGNDTEFFEP", "AVGBACKL",      "AVGSTATK",     "AVGBACKLC",    "AVGSTATKC",
+    "AVGNDTEC",      "AVGNDTE",     "ItemTotal2",    "ItemTotal3",   "ItemTotal4",   "PrWorthTotal3",
+    "PrWorthTotal4", "PWCostM",     "MaintItemCost",
 };
 
 constexpr std::array<std::string_view, 19> kAwaitedCellKeys = {
@@ -25,7 +27,7 @@ constexpr std::array<std::string_view, 19> kAwaitedCellKeys = {
 
 }  // namespace
 
-Dispatch JoinCalculations() { return Dispatch({LayeredStructureKeys()}); }
+Dispatch JoinCalculations() { return Dispatch({LayeredStructureKeys(), EconomicFactorKeys()}); }
 
 std::span<const std::string_view> AwaitedFieldKeys() { return kAwaitedFieldKeys; }
 std::span<const std::string_view> AwaitedCellKeys() { return kAwaitedCellKeys; }

@@ -38,6 +38,7 @@ class Form {
 
     /// The form's grid; null if it has none.
     [[nodiscard]] Control* FindGrid();
+    [[nodiscard]] const Control* FindGrid() const;
 
     [[nodiscard]] const std::vector<std::unique_ptr<Control>>& controls() const { return controls_; }
 

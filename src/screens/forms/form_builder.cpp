@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <set>
 #include <string>
 #include <utility>
 
@@ -83,6 +84,12 @@ class Builder {
             case LayoutKind::Options:
                 for (const ButtonItem& option : node.buttons) AddButton(ControlKind::OptionButton, option);
                 break;
+            case LayoutKind::Checks:
+                for (const ButtonItem& box : node.buttons) AddButton(ControlKind::CheckBox, box);
+                break;
+            case LayoutKind::Choice:
+                AddChoice(node);
+                break;
             case LayoutKind::Buttons:
                 for (const ButtonItem& button : node.buttons) AddButton(ControlKind::CommandButton, button);
                 break;
@@ -108,9 +115,17 @@ class Builder {
 
     void AddFrame(const LayoutNode& node) {
         Add(ControlKind::Frame, node.name).text = node.title;
-        const int outer = std::exchange(group_, ++groups_);
+        const int outer = group_;
+        if (!node.sharesOptions) group_ = ++groups_;
         for (const LayoutNode& child : node.children) AddNode(child);
         group_ = outer;
+    }
+
+    void AddChoice(const LayoutNode& node) {
+        Control& label = Add(ControlKind::Label, FieldLabelName(node.name));
+        label.text = node.title;
+        label.labelOf = node.name;
+        Add(ControlKind::ComboBox, node.name).backColor = colours::kWindow;
     }
 
     void AddIndicator(const std::string& name) {
@@ -194,26 +209,55 @@ class Builder {
     }
 
     /// Gives every label of a field, and every button without a key of its own, a letter of its text that
-    /// is still free on the same page and opens no menu.
+    /// is free on the same page and opens no menu: the first one, unless another control needs that more.
     void AssignAccessKeys() {
         for (const auto& control : controls_) {
             const bool wantsKey = !control->labelOf.empty() || control->IsButton() || control->IsChoice();
             if (!wantsKey || control->accessKey != '\0' || control->tag == "SolveFor") continue;
-            for (const char c : control->text) {
-                const char key = ToUpper(c);
-                const bool isLetter = (key >= 'A' && key <= 'Z') || (key >= '0' && key <= '9');
-                if (!isLetter || kMenuKeys.find(key) != std::string_view::npos) continue;
-                if (IsTaken(key, control->page)) continue;
-                control->accessKey = key;
-                break;
-            }
+            std::set<char> tried;
+            if (!TakeFreeKey(*control)) MakeRoom(*control, tried);
         }
     }
 
-    [[nodiscard]] bool IsTaken(char key, int page) const {
-        return std::any_of(controls_.begin(), controls_.end(), [&](const std::unique_ptr<Control>& control) {
-            return control->accessKey == key && (control->page == page || control->page == -1 || page == -1);
-        });
+    bool TakeFreeKey(Control& control) {
+        for (const char key : KeysOf(control)) {
+            if (HolderOf(key, control.page) != nullptr) continue;
+            control.accessKey = key;
+            return true;
+        }
+        return false;
+    }
+
+    /// Takes a letter from a control that can do with another one.
+    bool MakeRoom(Control& control, std::set<char>& tried) {
+        for (const char key : KeysOf(control)) {
+            Control* holder = HolderOf(key, control.page);
+            if (!tried.insert(key).second || holder == nullptr || MarkedKey(holder->text) != '\0') continue;
+            if (!TakeFreeKey(*holder) && !MakeRoom(*holder, tried)) continue;
+            control.accessKey = key;
+            return true;
+        }
+        return false;
+    }
+
+    static std::string KeysOf(const Control& control) {
+        std::string keys;
+        for (const char c : control.text) {
+            const char key = ToUpper(c);
+            const bool isLetter = (key >= 'A' && key <= 'Z') || (key >= '0' && key <= '9');
+            if (isLetter && kMenuKeys.find(key) == std::string_view::npos) keys += key;
+        }
+        return keys;
+    }
+
+    /// The control that has a key on a page; null if it is free there.
+    [[nodiscard]] Control* HolderOf(char key, int page) const {
+        const auto holder =
+            std::find_if(controls_.begin(), controls_.end(), [&](const std::unique_ptr<Control>& control) {
+                const bool meets = control->page == page || control->page == -1 || page == -1;
+                return control->accessKey == key && meets;
+            });
+        return holder == controls_.end() ? nullptr : holder->get();
     }
 
     const FormType& type_;

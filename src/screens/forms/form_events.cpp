@@ -45,14 +45,13 @@ void FormEvents::Handle(FormEvent event, Form& form, Control* control, const std
 // --- Opening, activating, closing -------------------------------------------------------------------
 
 bool FormEvents::Open(std::string_view name) {
-    if (!context_.calc.store.IsOpen()) return context_.forms.FindType(name) != nullptr;
-    if (!Commit()) return true;
+    const FormType* type = context_.forms.FindType(name);
+    if (type == nullptr) return false;
+    if ((type->needsProject && !context_.calc.store.IsOpen()) || !Commit()) return true;
     if (Form* open = context_.forms.Find(name)) {
         Activate(*open);
         return true;
     }
-    const FormType* type = context_.forms.FindType(name);
-    if (type == nullptr) return false;
     Form& form = context_.forms.Add(*type, context_.catalogue);
     Handle(FormEvent::Load, form, nullptr, [&] {
         InitScreen(context_, form);
@@ -131,6 +130,7 @@ void FormEvents::UnloadAll() {
 
 bool FormEvents::LoseFocus(Form& form, Control& control) {
     bool accepted = true;
+    if (control.grid && control.grid->texts) return CommitCell(form, control);
     if (!context_.calc.store.IsOpen()) return accepted;
     if (control.grid) return CommitCell(form, control);
     if (!control.IsField()) return accepted;
@@ -349,7 +349,7 @@ bool FormEvents::Choose(Form& form, Control& control, const std::string& item) {
 
 void FormEvents::AfterUnitSwitch() {
     Form* form = Current();
-    if (form == nullptr || form->type().isHub || !context_.calc.store.IsOpen()) return;
+    if (form == nullptr || !context_.calc.store.IsOpen()) return;
     FillValueItems(context_, *form);
     RefreshScreen(context_, *form);
     if (form->focus != nullptr) GetFocus(*form, *form->focus);

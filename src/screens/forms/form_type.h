@@ -64,6 +64,7 @@ struct FormType {
     std::optional<BalanceFlag> balance;        // of the indicator SolveFor
     std::optional<BalanceFlag> secondBalance;  // of SolveFor2
     bool modal = false;                        // while it is open, the user works in it alone
+    bool needsProject = true;                  // it shows values of the project, and works on nothing else
     bool isHub = false;  // the form with the tabs: always open, and Enter selects its options
 };
 
