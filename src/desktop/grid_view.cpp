@@ -152,6 +152,7 @@ GridView::GridView(const Control& control, GridHooks hooks, QWidget* parent)
     horizontalHeader()->setDefaultAlignment(Qt::AlignCenter | Qt::Alignment(Qt::TextWordWrap));
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setStretchLastSection(control.grid->texts.has_value());
     verticalHeader()->setSectionsClickable(false);
     SizeColumns();
 }

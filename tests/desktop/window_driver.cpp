@@ -302,7 +302,9 @@ void WindowDriver::TypeInto(QWidget& box, const std::string& text) {
 void WindowDriver::Type(const std::string& text) {
     (void)View();
     if (auto* grid = dynamic_cast<GridView*>(&FocusWidget())) QTest::keyClick(grid, Qt::Key_F2);
-    if (auto* box = qobject_cast<QLineEdit*>(&FocusWidget())) TypeInto(*box, text);
+    QWidget* focus = &FocusWidget();
+    if (const auto* list = qobject_cast<const QComboBox*>(focus)) focus = list->lineEdit();
+    if (auto* box = qobject_cast<QLineEdit*>(focus)) TypeInto(*box, text);
 }
 
 void WindowDriver::Key(const std::string& key) {

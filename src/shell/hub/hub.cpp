@@ -33,6 +33,7 @@ void UpdateOffers(ScreenContext& context, Form& hub) {
     OfferTrafficRoutes(context, hub);
     UpdateOverlayReportOptions(context, hub);
     OfferReports(context, hub);
+    OfferListButtons(hub);
 }
 
 void FocusOnFirst(ScreenContext& context, Form& hub) {

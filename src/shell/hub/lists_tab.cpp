@@ -28,13 +28,6 @@ constexpr std::size_t kIdPlace = 3;
 std::string Chosen(const Form& hub) { return hub.Find(kCombo)->text; }
 GridData& GridOf(Form& hub) { return *hub.Find(kGrid)->grid; }
 
-/// The buttons need a list to work on.
-void OfferListButtons(Form& hub) {
-    for (const char* button : {kAdd, kDelete, kRestore, kSort}) {
-        Offer(hub, button, !Chosen(hub).empty(), kNoList);
-    }
-}
-
 /// Does something to the lists. What fails leaves them as they are, and is not told.
 void Try(const std::function<void()>& act) {
     try {
@@ -147,6 +140,12 @@ void LoadListsTab(ScreenContext& context, Form& hub) {
     grid.rows = 0;
     hub.Find(kCombo)->toolTip = "The list to work on";
     EnterListsTab(context, hub);
+}
+
+void OfferListButtons(Form& hub) {
+    for (const char* button : {kAdd, kDelete, kRestore, kSort}) {
+        Offer(hub, button, !Chosen(hub).empty(), kNoList);
+    }
 }
 
 void EnterListsTab(ScreenContext& context, Form& hub) {

@@ -38,6 +38,9 @@ void LoadCostTab(Form& hub);
 /// The grid of the lists has rows of its own.
 void LoadListsTab(ScreenContext& context, Form& hub);
 
+/// The buttons of the lists need a list to work on.
+void OfferListButtons(Form& hub);
+
 /// Reads the names of the lists, and the one that is chosen, again.
 void EnterListsTab(ScreenContext& context, Form& hub);
 
