@@ -1,6 +1,7 @@
 #include "catalogue/list_database.h"
 
 #include "catalogue/schema.h"
+#include "platform/text.h"
 
 namespace kelvor {
 
@@ -12,6 +13,30 @@ SQLite::Database OpenLists(const Path& path) {
     for (const TableDefinition& table : ListTables()) shapes.push_back(table.Shape());
     CheckShape(database, shapes, false);
     return database;
+}
+
+const char* const kColumns = "Name, Sort, \"Value\", UnitSystem, ShowValue, ShowUnits, Description";
+
+std::string TextOf(const SQLite::Column& column) {
+    return column.isNull() ? std::string() : column.getString();
+}
+
+/// The entries of the lists that a description means, by their place in a table, in the order of the list.
+std::vector<std::int64_t> RowsLike(SQLite::Database& database, const std::string& table,
+                                   const std::string& description) {
+    std::vector<std::int64_t> ids;
+    SQLite::Statement rows(database, "SELECT rowid, Description FROM \"" + table + "\" ORDER BY Sort, rowid");
+    while (rows.executeStep()) {
+        if (rows.getColumn(1).isNull() || !Like(rows.getColumn(1).getString(), description)) continue;
+        ids.push_back(rows.getColumn(0).getInt64());
+    }
+    return ids;
+}
+
+void DeleteById(SQLite::Database& database, std::int64_t id) {
+    SQLite::Statement row(database, "DELETE FROM \"Value\" WHERE rowid = ?");
+    row.bind(1, id);
+    row.exec();
 }
 
 }  // namespace
@@ -32,6 +57,98 @@ std::vector<std::string> ListDatabase::Values(std::string_view list, bool metric
             values.push_back(value.isNull() ? std::string() : value.getString());
         }
         return values;
+    } catch (const SQLite::Exception& failure) {
+        throw ToDatabaseError(failure);
+    }
+}
+
+std::vector<std::string> ListDatabase::Descriptions() {
+    try {
+        std::vector<std::string> descriptions;
+        SQLite::Statement rows(database_,
+                               "SELECT Description FROM \"Value\" WHERE Description IS NOT NULL AND "
+                               "Description <> '' GROUP BY Description");
+        while (rows.executeStep()) descriptions.push_back(rows.getColumn(0).getString());
+        return descriptions;
+    } catch (const SQLite::Exception& failure) {
+        throw ToDatabaseError(failure);
+    }
+}
+
+std::vector<ListRow> ListDatabase::Rows(const std::string& description) {
+    try {
+        std::vector<ListRow> found;
+        SQLite::Statement row(database_, "SELECT Name, Sort, \"Value\" FROM \"Value\" WHERE rowid = ?");
+        for (const std::int64_t id : RowsLike(database_, "Value", description)) {
+            row.reset();
+            row.bind(1, id);
+            if (!row.executeStep()) continue;
+            const auto sort = row.getColumn(1);
+            found.push_back({id, TextOf(row.getColumn(0)),
+                             sort.isNull() ? std::nullopt : std::optional(sort.getDouble()),
+                             TextOf(row.getColumn(2))});
+        }
+        return found;
+    } catch (const SQLite::Exception& failure) {
+        throw ToDatabaseError(failure);
+    }
+}
+
+void ListDatabase::AddRow(const std::string& description) {
+    const std::vector<ListRow> rows = Rows(description);
+    const double last = rows.empty() ? 0.0 : rows.back().sort.value_or(0.0);
+    Change([&] {
+        SQLite::Statement insert(database_,
+                                 "INSERT INTO \"Value\" (Sort, Description, Name) VALUES (?, ?, ?)");
+        insert.bind(1, last + 1.0);
+        insert.bind(2, description);
+        insert.bind(3, rows.empty() ? std::string() : rows.back().name);
+        insert.exec();
+    });
+}
+
+void ListDatabase::DeleteRows(const std::string& description, const ListRow& row) {
+    if (!row.sort || row.value.find('\'') != std::string::npos) return;
+    const std::vector<ListRow> rows = Rows(description);
+    Change([&] {
+        for (const ListRow& other : rows) {
+            const bool sameValue = !row.value.empty() && EqualNoCase(other.value, row.value);
+            if (other.sort == row.sort || sameValue) DeleteById(database_, other.id);
+        }
+    });
+}
+
+void ListDatabase::Restore(const std::string& description) {
+    Change([&] {
+        for (const std::int64_t id : RowsLike(database_, "Value", description)) DeleteById(database_, id);
+        SQLite::Statement insert(database_, std::string("INSERT INTO \"Value\" (") + kColumns + ") SELECT " +
+                                                kColumns + " FROM ValueDefault WHERE rowid = ?");
+        for (const std::int64_t id : RowsLike(database_, "ValueDefault", description)) {
+            insert.reset();
+            insert.bind(1, id);
+            insert.exec();
+        }
+    });
+}
+
+void ListDatabase::Write(const ListRow& row) {
+    Change([&] {
+        SQLite::Statement update(database_,
+                                 "UPDATE \"Value\" SET Name = ?, Sort = ?, \"Value\" = ? WHERE rowid = ?");
+        update.bind(1, row.name);
+        if (row.sort) update.bind(2, *row.sort);
+        if (!row.value.empty()) update.bind(3, row.value);
+        update.bind(4, row.id);
+        update.exec();
+    });
+}
+
+/// One transaction: all of it, or nothing.
+void ListDatabase::Change(const std::function<void()>& statements) {
+    try {
+        SQLite::Transaction transaction(database_, SQLite::TransactionBehavior::IMMEDIATE);
+        statements();
+        transaction.commit();
     } catch (const SQLite::Exception& failure) {
         throw ToDatabaseError(failure);
     }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstdint>
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -7,6 +10,14 @@
 #include "platform/sqlite.h"
 
 namespace kelvor {
+
+/// An entry of a drop-down list.
+struct ListRow {
+    std::int64_t id = 0;         // its place in the table
+    std::string name;            // by which the screens know the list
+    std::optional<double> sort;  // its place in the list
+    std::string value;           // what the list offers
+};
 
 /// The drop-down lists, which the user may edit: a database of its own, so that they outlive an
 /// update of the catalogue.
@@ -19,7 +30,32 @@ class ListDatabase {
     /// both. Throws DatabaseError.
     [[nodiscard]] std::vector<std::string> Values(std::string_view list, bool metric);
 
+    // What maintains the lists knows them by their description, with wild cards and without regard to case.
+    // Each throws DatabaseError.
+
+    /// The descriptions of all lists.
+    [[nodiscard]] std::vector<std::string> Descriptions();
+
+    /// The entries of a list in their order, whatever their unit system.
+    [[nodiscard]] std::vector<ListRow> Rows(const std::string& description);
+
+    /// Adds an entry behind the last one, with that one's name and without a value. On an empty list it
+    /// is the first, with no name.
+    void AddRow(const std::string& description);
+
+    /// Deletes the entries of a list that have the place or the value of a row. A row without a place is left
+    /// alone, and so is one with an apostrophe in its value.
+    void DeleteRows(const std::string& description, const ListRow& row);
+
+    /// Puts a list back to its delivered entries; added ones go.
+    void Restore(const std::string& description);
+
+    /// Writes name, place and value of an entry.
+    void Write(const ListRow& row);
+
   private:
+    void Change(const std::function<void()>& statements);
+
     SQLite::Database database_;
 };
 

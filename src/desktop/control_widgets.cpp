@@ -11,6 +11,7 @@
 #include <QStyle>
 #include <algorithm>
 
+#include "desktop/picture_view.h"
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
 #include "screens/forms/form_builder.h"
@@ -58,6 +59,8 @@ QWidget* MakeComboBox(const Control& control, QWidget* parent) {
     list->setInsertPolicy(QComboBox::NoInsert);
     list->setMinimumWidth(BoxWidth(control, *list));
     list->setAcceptDrops(false);
+    list->lineEdit()->setAcceptDrops(false);
+    list->setCompleter(nullptr);  // what is typed stays as typed
     return list;
 }
 
@@ -169,8 +172,9 @@ void MirrorCommon(const Control& control, QWidget& widget) {
 QWidget* MakeWidget(const Control& control, QWidget* parent) {
     switch (control.kind) {
         case ControlKind::Label:
-        case ControlKind::Image:
             return MakeLabel(control, parent);
+        case ControlKind::Image:
+            return new PictureView(control.text, parent);
         case ControlKind::TextBox:
             return MakeTextBox(control, parent);
         case ControlKind::ComboBox:

@@ -74,6 +74,12 @@ class LayoutMaker {
             case LayoutKind::Text:
                 AddText(to, node);
                 break;
+            case LayoutKind::Checks:
+                AddChecks(to, node);
+                break;
+            case LayoutKind::Choice:
+                AddChoice(to, node);
+                break;
             case LayoutKind::Picture:
             case LayoutKind::Verdict:
             case LayoutKind::Indicator:
@@ -213,6 +219,22 @@ class LayoutMaker {
     void AddOptions(QBoxLayout& to, const LayoutNode& node) {
         for (const ButtonItem& option : node.buttons) to.addWidget(find_(option.name));
         to.addSpacing(form_.fontMetrics().lineSpacing() / 2);
+    }
+
+    /// Check boxes stand below the option that they belong to, further in.
+    void AddChecks(QBoxLayout& to, const LayoutNode& node) {
+        auto* rows = new QVBoxLayout;
+        rows->setContentsMargins(form_.fontMetrics().lineSpacing() * 3 / 2, 0, 0, 0);
+        for (const ButtonItem& box : node.buttons) rows->addWidget(find_(box.name));
+        to.addLayout(rows);
+    }
+
+    void AddChoice(QBoxLayout& to, const LayoutNode& node) {
+        auto* row = new QHBoxLayout;
+        row->addWidget(find_(FieldLabelName(node.name)));
+        row->addWidget(find_(node.name));
+        row->addStretch(1);
+        to.addLayout(row);
     }
 
     void AddHeading(QBoxLayout& to, const LayoutNode& node) {

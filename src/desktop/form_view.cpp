@@ -253,7 +253,7 @@ bool FormView::Filter(const Control& control, QEvent& event) {
             return event.isAccepted() && IsAccessKey(static_cast<QKeyEvent&>(event));
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
-            return door_.wasRefused() || (control.IsField() && !RequestFocus(control));
+            return door_.wasRefused() || (control.IsBox() && !RequestFocus(control));
         case QEvent::FocusIn:
             OnFocusIn(control, static_cast<QFocusEvent&>(event).reason());
             return false;
@@ -362,7 +362,7 @@ bool FormView::HandleKey(const QKeyEvent& key) {
     if (!IsPlain(key)) return false;
     const char* name = KeyName(key);
     const Control* focus = form_->focus;
-    const bool inBox = focus != nullptr && focus->IsField();
+    const bool inBox = focus != nullptr && focus->IsBox();
     if (name == nullptr && !inBox) name = KeyNameOutsideBox(key.key());
     const bool inList = inBox && focus->kind == ControlKind::ComboBox;
     if (name == nullptr && inList && (key.key() == Qt::Key_Up || key.key() == Qt::Key_Down)) {

@@ -50,6 +50,15 @@ int CellModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(control_.grid->columns.size());
 }
 
+void CellModel::Refresh() {
+    if (std::exchange(shownRows_, control_.grid->rows) != control_.grid->rows) {
+        beginResetModel();
+        endResetModel();
+    } else if (rowCount() > 0) {
+        emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+    }
+}
+
 QVariant CellModel::data(const QModelIndex& index, int role) const {
     const GridColumn& column = ColumnAt(index.column());
     switch (role) {
@@ -148,6 +157,7 @@ GridView::GridView(const Control& control, GridHooks hooks, QWidget* parent)
     horizontalHeader()->setDefaultAlignment(Qt::AlignCenter | Qt::Alignment(Qt::TextWordWrap));
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setStretchLastSection(control.grid->texts.has_value());
     verticalHeader()->setSectionsClickable(false);
     SizeColumns();
 }
@@ -165,8 +175,9 @@ void GridView::SizeColumns() {
     }
     lines += fontMetrics().lineSpacing() / 2;
     horizontalHeader()->setFixedHeight(lines);
-    const int rows = std::min(cells_.rowCount(), kMostRowsShown);
-    if (cells_.rowCount() > rows) width += verticalScrollBar()->sizeHint().width();
+    // A list may grow.
+    const int rows = control_.grid->texts ? kMostRowsShown : std::min(cells_.rowCount(), kMostRowsShown);
+    if (control_.grid->texts || cells_.rowCount() > rows) width += verticalScrollBar()->sizeHint().width();
     setMinimumSize(width, lines + rows * verticalHeader()->defaultSectionSize() + 2 * frameWidth());
 }
 
@@ -178,13 +189,13 @@ void GridView::OpenEditor(QWidget& editor) {
 void GridView::Show() {
     showing_ = true;
     const GridData& grid = *control_.grid;
+    cells_.Refresh();
     const QModelIndex cursor = cells_.index(grid.row - 1, static_cast<int>(grid.column));
     const bool moved = currentIndex() != cursor;
     const bool taken = typedInEditor_ && !grid.typed;  // stored, refused or dropped
     if (moved || taken) EndEdit();
     typedInEditor_ = grid.typed.has_value();
     if (moved) setCurrentIndex(cursor);
-    cells_.Refresh();
     emit cells_.headerDataChanged(Qt::Horizontal, 0, cells_.columnCount() - 1);
     showing_ = false;
 }
@@ -237,6 +248,7 @@ void GridView::contextMenuEvent(QContextMenuEvent* event) {
 void GridView::Copy() const {
     QModelIndexList cells = selectedIndexes();
     if (cells.isEmpty()) cells << currentIndex();
+    if (!cells.constFirst().isValid()) return;  // there are no rows
     std::sort(cells.begin(), cells.end());
     std::vector<std::vector<std::string>> rows;
     int last = -1;

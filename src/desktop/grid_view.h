@@ -33,7 +33,7 @@ class CellModel : public QAbstractTableModel {
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
 
     /// Everything may have changed.
-    void Refresh() { emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1)); }
+    void Refresh();
 
     [[nodiscard]] const GridColumn& ColumnAt(int column) const {
         return control_.grid->columns[static_cast<std::size_t>(column)];
@@ -42,6 +42,7 @@ class CellModel : public QAbstractTableModel {
   private:
     const Control& control_;
     const GridHooks& hooks_;
+    int shownRows_ = control_.grid->rows;
 };
 
 /// A grid that works like a spreadsheet: arrows, Tab and Enter move, typing replaces, F2 edits, Delete

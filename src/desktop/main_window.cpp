@@ -2,9 +2,10 @@
 
 #include <QCloseEvent>
 #include <QLabel>
-#include <QMenuBar>
+#include <QMimeData>
 #include <QScreen>
 #include <QStatusBar>
+#include <QUrl>
 #include <algorithm>
 
 #include "desktop/app_icon.h"
@@ -17,8 +18,6 @@ namespace {
 /// The size of the window at start, in letters of the system's font.
 constexpr int kStartColumns = 150;
 constexpr int kStartLines = 46;
-
-const char* const kWindowMenu = "MenuWindow";
 
 /// The hub lies behind all others and has no frame; the others stay in front of it.
 constexpr Qt::WindowFlags kHubFlags = Qt::SubWindow | Qt::FramelessWindowHint;
@@ -70,7 +69,9 @@ MainWindow::MainWindow(Program& program)
     hint_->setTextFormat(Qt::PlainText);
     hint_->setContentsMargins(fontMetrics().averageCharWidth(), 0, 0, 0);
     statusBar()->addWidget(hint_, 1);
-    BuildMenus();
+    menus_ = new MenuBar(door_, this);
+    setMenuBar(menus_);
+    setAcceptDrops(true);
     resize(StartSize().boundedTo(screen()->availableSize()));
     Sync();
 }
@@ -79,74 +80,12 @@ QSize MainWindow::StartSize() const {
     return {kStartColumns * fontMetrics().averageCharWidth(), kStartLines * fontMetrics().lineSpacing()};
 }
 
-// --- Menus ---------------------------------------------------------------------------------------------
-
-void MainWindow::BuildMenus() {
-    const std::vector<MenuEntry> entries = program_.Menus();
-    for (const MenuTitle& title : MenuTitles()) {
-        QMenu* menu = AddMenu(title);
-        for (const MenuEntry& entry : entries) {
-            if (entry.menu == title.name && !entry.hidden) AddEntry(*menu, entry);
-        }
-        if (title.name == kWindowMenu) windowMenu_ = menu;
-    }
-    connect(windowMenu_, &QMenu::aboutToShow, this, &MainWindow::FillWindowMenu);
-}
-
-QMenu* MainWindow::AddMenu(const MenuTitle& title) {
-    QMenu* menu = menuBar()->addMenu(ToQt(title.caption));
-    menu->setObjectName(ToQt(title.name));
-    menu->setToolTipsVisible(true);
-    return menu;
-}
-
-void MainWindow::AddEntry(QMenu& menu, const MenuEntry& entry) {
-    if (entry.name.empty()) {
-        menu.addSeparator();
-        return;
-    }
-    QAction* action = menu.addAction(ToQt(entry.caption));
-    action->setObjectName(ToQt(entry.name));
-    action->setCheckable(entry.checkable);
-    if (!entry.shortcut.empty()) action->setShortcut(QKeySequence::fromString(ToQt(entry.shortcut)));
-    if (entry.comesLater) {
-        action->setEnabled(false);
-        action->setToolTip(ToQt(kComesLater));
-    }
-    connect(action, &QAction::triggered, this, [this, name = entry.name] {
-        door_.Raise({UserEvent::Kind::Menu, name, {}, 0});
-        SyncMenus();
-    });
-}
-
-void MainWindow::FillWindowMenu() {
-    windowMenu_->clear();
-    const FormRegistry& forms = program_.state().formRegistry;
-    int number = 0;
-    for (const Form* form : forms.InOpeningOrder()) {
-        const QString caption = ToQt(form->caption).replace("&", "&&");
-        QAction* action = windowMenu_->addAction(QStringLiteral("&%1 %2").arg(++number).arg(caption));
-        action->setObjectName(ToQt(form->name()));
-        action->setCheckable(true);
-        action->setChecked(form == forms.CurrentForm);
-        connect(action, &QAction::triggered, this, [this, name = form->name()] {
-            door_.Raise({UserEvent::Kind::ActivateForm, name, {}, 0});
-        });
-    }
-}
-
-void MainWindow::SyncMenus() {
-    for (const MenuEntry& entry : program_.Menus()) {
-        if (QAction* action = FindAction(entry.name)) action->setChecked(entry.checked);
-    }
-}
-
-QAction* MainWindow::FindAction(const std::string& name) const {
-    return name.empty() ? nullptr : menuBar()->findChild<QAction*>(ToQt(name));
+QAction* MainWindow::FindAction(const std::string& name, int index) const {
+    return menus_->FindAction(name, index);
 }
 
 QAction* MainWindow::FindWindowAction(const std::string& form) const {
-    return windowMenu_->findChild<QAction*>(ToQt(form));
+    return menus_->FindWindowAction(form);
 }
 
 // --- From the model to the windows -----------------------------------------------------------------------
@@ -154,7 +93,7 @@ QAction* MainWindow::FindWindowAction(const std::string& form) const {
 void MainWindow::Sync() {
     const std::string& caption = program_.state().caption;
     setWindowTitle(caption.empty() ? QStringLiteral("Kelvor") : ToQt(caption));
-    SyncMenus();
+    menus_->Sync();
     SyncForms();
     SyncModality();
     SyncActiveWindow();
@@ -266,6 +205,29 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         door_.Raise({UserEvent::Kind::Menu, "MenuFileExit", {}, 0});
     }
     event->setAccepted(program_.ended() || !stopReason_.empty());
+}
+
+/// The one project file that is being dragged; empty if it is anything else.
+QString MainWindow::DraggedFile(const QMimeData& dragged) {
+    const QList<QUrl> urls = dragged.urls();
+    return urls.size() == 1 && urls.constFirst().isLocalFile() ? urls.constFirst().toLocalFile() : QString();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (!DraggedFile(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+/// The sender waits for the end of the drop, so what follows comes after it.
+void MainWindow::dropEvent(QDropEvent* event) {
+    const std::string file = FromQt(DraggedFile(*event->mimeData()));
+    if (file.empty()) return;
+    event->acceptProposedAction();
+    QMetaObject::invokeMethod(
+        this,
+        [this, file] {
+            door_.Raise({UserEvent::Kind::OpenFile, {}, file, 0});
+        },
+        Qt::QueuedConnection);
 }
 
 void MainWindow::OnStop(const std::string& reason) {

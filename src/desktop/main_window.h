@@ -5,10 +5,11 @@
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QMenu>
+#include <QMimeData>
 
 #include "desktop/event_door.h"
 #include "desktop/form_view.h"
+#include "desktop/menu_bar.h"
 
 namespace kelvor {
 
@@ -33,7 +34,7 @@ class MainWindow : public QMainWindow {
     [[nodiscard]] FormView* CurrentView() const;
 
     /// The action of a menu entry; null if there is none of that name.
-    [[nodiscard]] QAction* FindAction(const std::string& name) const;
+    [[nodiscard]] QAction* FindAction(const std::string& name, int index = 0) const;
 
     /// The entry of the Window menu for an open form; null if it is not open.
     [[nodiscard]] QAction* FindWindowAction(const std::string& form) const;
@@ -44,13 +45,10 @@ class MainWindow : public QMainWindow {
   protected:
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
   private:
-    void BuildMenus();
-    QMenu* AddMenu(const MenuTitle& title);
-    void AddEntry(QMenu& menu, const MenuEntry& entry);
-    void FillWindowMenu();
-    void SyncMenus();
     void SyncForms();
     void SyncModality();
     void SyncActiveWindow();
@@ -60,12 +58,13 @@ class MainWindow : public QMainWindow {
     void Place(QMdiSubWindow& window);
     void OnSubWindowActivated(QMdiSubWindow* window);
     void OnStop(const std::string& reason);
+    static QString DraggedFile(const QMimeData& dragged);
 
     Program& program_;
     EventDoor door_;
     QMdiArea* area_;
     QLabel* hint_;  // what the field in focus wants
-    QMenu* windowMenu_ = nullptr;
+    MenuBar* menus_ = nullptr;
     QMdiSubWindow* hubFrame_ = nullptr;
     QHash<Form*, FormView*> views_;
     std::string stopReason_;

@@ -34,6 +34,11 @@ struct FileRequest {
     std::string filter;
 };
 
+struct HelpRequest {
+    Path file;
+    std::string page = {};  // the name of the form it tells of; empty: the contents
+};
+
 /// Everything that asks the user something. Each call returns when the user has answered.
 class Dialogs {
   public:
@@ -51,6 +56,10 @@ class Dialogs {
     virtual std::optional<Path> AskFile(const FileRequest& request) = 0;
 
     virtual void SetWaitCursor(bool on) = 0;
+
+    /// Opens the help file beside the program, and returns at once. A front end without windows shows none,
+    /// and a failure is not told.
+    virtual void ShowHelp(const HelpRequest& /*request*/) {}
 };
 
 /// The answer of a box whose default button is pressed.

@@ -3,18 +3,20 @@
 #include <array>
 
 #include "design/calc/layered_structure.h"
+#include "lcc/calc/economic_factors.h"
 #include "traffic/calc/traffic_keys.h"
 
 namespace kelvor {
 
 namespace {
 
-constexpr std::array<std::string_view, 34> kAwaitedFieldKeys = {
-    "BOLEFFDEPTH", "BOLDEPTH",   "BOLFUTDEPTH",   "UBOLEFFDEPTH",  "UBOLDEPTH", "UBOLFUTDEPTH",  "ACACEFFSN",
-    "ACACTHICK",   "ACACFUTSN",  "ACCSEFFSN",     "ACCSTHICK",     "ACCSFUTSN", "ACACPCEFFD",    "ACACPCOLT",
-    "ACPCEFFD",    "ACPCOLT",    "EXISTEFSNSUM",  "SNEFFTOT",      "AVGNDTRM",  "AVGNDTEFFEP",   "AVGBACKL",
-    "AVGSTATK",    "AVGBACKLC",  "AVGSTATKC",     "AVGNDTEC",      "AVGNDTE",   "DISCOUNTRATE",  "ItemTotal2",
-    "ItemTotal3",  "ItemTotal4", "PrWorthTotal3", "PrWorthTotal4", "PWCostM",   "MaintItemCost",
+constexpr std::array<std::string_view, 33> kAwaitedFieldKeys = {
+    "BOLEFFDEPTH",   "BOLDEPTH",    "BOLFUTDEPTH",   "UBOLEFFDEPTH", "UBOLDEPTH",    "UBOLFUTDEPTH",
+    "ACACEFFSN",     "ACACTHICK",   "ACACFUTSN",     "ACCSEFFSN",    "ACCSTHICK",    "ACCSFUTSN",
+    "ACACPCEFFD",    "ACACPCOLT",   "ACPCEFFD",      "ACPCOLT",      "EXISTEFSNSUM", "SNEFFTOT",
+    "AVGNDTRM",      "AVGNDTEFFEP", "AVGBACKL",      "AVGSTATK",     "AVGBACKLC",    "AVGSTATKC",
+    "AVGNDTEC",      "AVGNDTE",     "ItemTotal2",    "ItemTotal3",   "ItemTotal4",   "PrWorthTotal3",
+    "PrWorthTotal4", "PWCostM",     "MaintItemCost",
 };
 
 constexpr std::array<std::string_view, 17> kAwaitedCellKeys = {
@@ -25,7 +27,9 @@ constexpr std::array<std::string_view, 17> kAwaitedCellKeys = {
 
 }  // namespace
 
-Dispatch JoinCalculations() { return Dispatch({LayeredStructureKeys(), TrafficKeys()}); }
+Dispatch JoinCalculations() {
+    return Dispatch({LayeredStructureKeys(), TrafficKeys(), EconomicFactorKeys()});
+}
 
 std::span<const std::string_view> AwaitedFieldKeys() { return kAwaitedFieldKeys; }
 std::span<const std::string_view> AwaitedCellKeys() { return kAwaitedCellKeys; }

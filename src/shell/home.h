@@ -14,6 +14,7 @@ struct Home {
     [[nodiscard]] Path IniFile() const { return folder / "kvor.ini"; }
     [[nodiscard]] Path DatabaseFile(const std::string& name) const { return folder / ("DataBase/" + name); }
     [[nodiscard]] Path ProjectsFolder() const { return folder / "Projects"; }
+    [[nodiscard]] Path HelpFile() const { return folder / "Help/Kelvor.hlp"; }
     [[nodiscard]] Path Template() const { return folder / kTemplateName; }
     [[nodiscard]] Path WorkCopyFile() const { return work / "kvrwork.tmp"; }
     [[nodiscard]] Path LockFile() const { return work / "kvrwork.lck"; }

@@ -1,33 +1,40 @@
 #include "shell/main_window.h"
 
-#include <utility>
-
-#include "platform/text.h"
-#include "screens/forms/form_events.h"
+#include <algorithm>
 
 namespace kelvor {
 
 namespace {
 
-/// Which option of the Design tab opens which screen, in the order in which they are looked at.
-constexpr std::pair<const char*, const char*> kDesignScreens[] = {
-    {"oDeR", "DeR"}, {"oDeF", "DeF"}, {"oDeS", "DeS"}};
+constexpr int kRecentEntries = 4;
 
-/// Where screens that have no designed form are tried: each builds the screen that its caption names.
+/// The captions of the hidden menu: each names the screen that its entry builds from the catalogue.
 constexpr std::pair<const char*, const char*> kBuiltScreens[] = {
     {"Sub1", "DeF"}, {"Sub2", "DeR"}, {"Sub3", "DeS"}, {"Sub4", "LayDet"}, {"Sub5", "H_SRM"}};
 
-void OpenDesignScreen(ScreenContext& context, Form& form, Control* /*button*/) {
-    for (const auto& [option, screen] : kDesignScreens) {
-        const Control* choice = form.Find(option);
-        if (choice == nullptr || !choice->value) continue;
-        FormEvents(context).Open(screen);
-        return;
-    }
+MenuEntry Separator(const char* name, bool visible) {
+    MenuEntry entry{"MenuFile", name, ""};
+    entry.visible = visible;
+    return entry;
 }
 
-LayoutNode EmptyPage(const std::string& title, const std::string& label) {
-    return Page(title, {Text(label, "This part of Kelvor comes later.")});
+/// A path on a menu: a single ampersand would mark an access key.
+std::string AsCaption(const std::string& path) {
+    std::string caption;
+    for (const char c : path) caption += c == '&' ? "&&" : std::string(1, c);
+    return caption;
+}
+
+MenuEntry RecentEntry(const ProcessState& state, int position) {
+    const auto item = std::find_if(state.recentMenu.begin(), state.recentMenu.end(),
+                                   [&](const RecentMenuItem& i) { return i.position == position; });
+    MenuEntry entry{"MenuFile", "mnuRecentFile", "-"};
+    entry.index = position;
+    entry.visible = item != state.recentMenu.end();
+    if (!entry.visible) return entry;
+    entry.caption = "&" + std::to_string(position + 1) + " " + AsCaption(item->path);
+    entry.toolTip = item->path;
+    return entry;
 }
 
 }  // namespace
@@ -36,7 +43,8 @@ std::vector<MenuTitle> MenuTitles() {
     return {{"MenuFile", "&File"}, {"MenuUnits", "&Units"}, {"MenuWindow", "&Window"}, {"MenuHelp", "&Help"}};
 }
 
-std::vector<MenuEntry> MenuEntries(bool metric) {
+std::vector<MenuEntry> MenuEntries(const ProcessState& state) {
+    const bool metric = state.units && state.units->bMetric();
     // New and Open have no key of their own: they drop an unnamed project without a question.
     std::vector<MenuEntry> entries = {
         {"MenuFile", "NewProj", "&New Project"},
@@ -44,51 +52,26 @@ std::vector<MenuEntry> MenuEntries(bool metric) {
         {"MenuFile", "MenuFilePrint", "&Print", true, "Ctrl+P"},
         {"MenuFile", "MenuFileSave", "&Save Project...", false, "Ctrl+S"},
         {"MenuFile", "MenuFileSaveAs", "Save Project &As...", false, "Ctrl+Shift+S"},
-        {"MenuFile", "", ""},
+        Separator("BreakLine1", !state.recentMenu.empty()),
+    };
+    for (int i = 0; i < kRecentEntries; ++i) entries.push_back(RecentEntry(state, i));
+    const std::vector<MenuEntry> others = {
+        Separator("BreakLine2", true),
         {"MenuFile", "MenuFileExit", "E&xit", false, "Ctrl+Q"},
         {"MenuUnits", "MenuUnitsEnglish", "&English", false, "", true, !metric},
         {"MenuUnits", "MenuUnitsMetric", "&Metric", false, "", true, metric},
-        {"MenuHelp", "MenuAbout", "A&bout Kelvor", true},
-        {"MenuHelp", "MenuTopics", "Help &Topics", true},
+        {"MenuHelp", "MenuAbout", "A&bout Kelvor"},
+        {"MenuHelp", "MenuTopics", "Help &Topics"},
     };
-    for (const auto& [name, screen] : kBuiltScreens) {
-        entries.push_back({.menu = "Menu", .name = name, .caption = screen, .hidden = true});
-    }
+    entries.insert(entries.end(), others.begin(), others.end());
     return entries;
 }
 
-std::optional<HubTab> HubTabNamed(std::string_view screen) {
-    if (EqualNoCase(screen, "InfForm")) return HubTab::ProjectId;
-    if (EqualNoCase(screen, "EcFa")) return HubTab::LifeCycleCosting;
+std::optional<std::string> BuiltScreenNamed(std::string_view entry) {
+    for (const auto& [name, caption] : kBuiltScreens) {
+        if (entry == name) return caption;
+    }
     return std::nullopt;
-}
-
-FormType HubForm() {
-    FormType type;
-    type.name = kHubForm;
-    type.tag = "InfForm";
-    type.caption = "Kelvor";
-    type.isHub = true;
-    type.layout = Pages(
-        "VSIndexTab",
-        {
-            EmptyPage("Project ID", "LabLater0"),
-            EmptyPage("Traffic", "LabLater1"),
-            Page("Design / Evaluation", {Options({{"oDeF", "Asphalt Pavement Design / Evaluation", false},
-                                                  {"oDeR", "Rigid Pavement Design / Evaluation"},
-                                                  {"oDeS", "Both Rigid and Asphalt Design / Evaluation"}}),
-                                         Buttons({{"Command4", "&Design", false}})}),
-            EmptyPage("Overlays", "LabLater3"),
-            EmptyPage("Life Cycle Costing", "LabLater4"),
-            EmptyPage("Reports", "LabLater5"),
-            EmptyPage("Lists", "LabLater6"),
-            Page("KVR", {Heading("ProductLabel", "Kelvor"), Text("VersionLabel", "Version " KELVOR_VERSION)}),
-        });
-    type.handlers = {
-        {FormEvent::Load, "", HandlerOrder::Instead, [](ScreenContext&, Form&, Control*) {}},
-        {FormEvent::Click, "Command4", HandlerOrder::Instead, OpenDesignScreen},
-    };
-    return type;
 }
 
 }  // namespace kelvor

@@ -5,20 +5,24 @@
 #include <string_view>
 #include <vector>
 
-#include "screens/forms/form_type.h"
+#include "shell/process_state.h"
 
 namespace kelvor {
 
 /// An entry of a menu of the main window.
 struct MenuEntry {
-    std::string menu;     // the menu it stands in
-    std::string name;     // empty: a separator
-    std::string caption;  // `&` before the letter of its access key
+    std::string menu;  // the menu it stands in
+    std::string name;
+    std::string caption;  // `&` before the letter of its access key; empty: a separator
     bool comesLater = false;
     std::string shortcut = {};  // a key that chooses it without the menu
     bool checkable = false;
     bool checked = false;
-    bool hidden = false;  // stands in no menu; a script may choose it
+    int index = 0;  // of entries that share a name
+    bool visible = true;
+    std::string toolTip = {};
+
+    [[nodiscard]] bool IsSeparator() const { return caption.empty(); }
 };
 
 /// The menus of the main window, in their order: name and caption.
@@ -29,19 +33,12 @@ struct MenuTitle {
 
 std::vector<MenuTitle> MenuTitles();
 
-/// The entries of all menus, with the unit system that is active checked.
-std::vector<MenuEntry> MenuEntries(bool metric);
+/// The entries of all menus, with the unit system that is active checked and the recent projects by their
+/// position; always the same entries in the same order, of which some are not visible.
+std::vector<MenuEntry> MenuEntries(const ProcessState& state);
 
-/// The tabs of the hub.
-enum class HubTab { ProjectId, Traffic, Design, Overlays, LifeCycleCosting, Reports, Lists, Start };
-
-inline constexpr int kHubTabs = 8;
-inline constexpr const char* kHubForm = "TabForm";
-
-/// The tab of the hub that goes by the name of a screen; nothing for any other name.
-std::optional<HubTab> HubTabNamed(std::string_view screen);
-
-/// `TabForm`: the hub with its strip of eight tabs.
-FormType HubForm();
+/// The caption of an entry of the hidden menu, Sub1 to Sub5: the name of the screen that it builds. Nothing
+/// for any other name.
+std::optional<std::string> BuiltScreenNamed(std::string_view entry);
 
 }  // namespace kelvor

@@ -18,6 +18,12 @@
 
 namespace kelvor {
 
+/// An entry of the menu of recent projects.
+struct RecentMenuItem {
+    int position = 0;  // on the menu, from 0
+    std::string path;
+};
+
 /// Everything that lives as long as the process, in one place, so that a test makes as many as it
 /// likes. Passed by reference; there are no globals.
 struct ProcessState {
@@ -46,6 +52,7 @@ struct ProcessState {
     std::string caption;       // of the main window
     bool bProjectChanged = false;
     bool bReportsUnavailable = false;
+    std::vector<RecentMenuItem> recentMenu;  // what the menu shows; the table is read when it changes
 
     ReliabilityState reliability;
     FormValues forms;

@@ -1,7 +1,5 @@
 #include "shell/program.h"
 
-#include <algorithm>
-
 #include "design/calc/equation_screens.h"
 #include "design/calc/solve_for.h"
 #include "design/screens/design_forms.h"
@@ -9,50 +7,23 @@
 #include "screens/forms/form_events.h"
 #include "screens/forms/grid_entry.h"
 #include "screens/forms/screen_builder.h"
+#include "shell/about_form.h"
+#include "shell/hub/hub.h"
 #include "shell/project_files.h"
+#include "shell/recent_files.h"
 
 namespace kelvor {
 
-namespace {
-
-/// Makes the writes between its making and its end one transaction, and keeps further events out.
-class EventScope {
-  public:
-    EventScope(ProcessState& state, bool& running) : state_(state), running_(running) {
-        running_ = true;
-        state_.dbWork.BeginEvent();
-    }
-    EventScope(const EventScope&) = delete;
-    EventScope& operator=(const EventScope&) = delete;
-    ~EventScope() {
-        state_.dbWork.EndEvent();
-        state_.formRegistry.DestroyRemoved();
-        running_ = false;
-    }
-
-  private:
-    ProcessState& state_;
-    bool& running_;
-};
-
-}  // namespace
-
 Program::Program(Host host, Home home) : state_(host, std::move(home)) {
-    state_.formRegistry.Declare({HubForm()});
+    state_.formRegistry.Declare({HubForm(), AboutForm()});
     state_.formRegistry.Declare(HelpForms());
     state_.formRegistry.Declare({BlankForm()});
     state_.formRegistry.Declare(DesignForms());
 }
 
-template <typename Action>
-bool Program::InEvent(Action action) {
-    if (running_) return true;
-    const EventScope event(state_, running_);
-    return action();
-}
-
 StartResult Program::Start(const std::string& commandLine) {
     const StartResult result = Main(state_, commandLine);
+    RebuildRecentMenu(state_);
     if (result != StartResult::Running) return result;  // an absent file leaves an empty main window
     InEvent([&] {
         ShowHub();
@@ -61,7 +32,7 @@ StartResult Program::Start(const std::string& commandLine) {
     return result;
 }
 
-std::vector<MenuEntry> Program::Menus() const { return MenuEntries(state_.units && state_.units->bMetric()); }
+std::vector<MenuEntry> Program::Menus() const { return MenuEntries(state_); }
 
 std::string Program::CellText(const Form& form, int row, const GridColumn& column) {
     return GridReadCell(state_.MakeScreenContext(), form, row, column);
@@ -87,7 +58,10 @@ bool Program::Perform(const UserEvent& event) {
         case UserEvent::Kind::SwitchTab:
             return SwitchTab(event.number);
         case UserEvent::Kind::Menu:
-            return ChooseMenu(event.name);
+            return ChooseMenu(event.name, event.number);
+        case UserEvent::Kind::OpenFile:
+            OpenFile(event.text);
+            return true;
         default:
             return PerformOnCurrentForm(event);
     }
@@ -101,6 +75,7 @@ bool Program::IsOutsideModalForm(const UserEvent& event) const {
         case UserEvent::Kind::OpenForm:
         case UserEvent::Kind::SwitchTab:
         case UserEvent::Kind::Menu:
+        case UserEvent::Kind::OpenFile:
             return true;
         case UserEvent::Kind::ActivateForm:
         case UserEvent::Kind::CloseForm:
@@ -128,8 +103,11 @@ bool Program::PerformOnCurrentForm(const UserEvent& event) {
     Form* form = context.forms.CurrentForm;
     if (form == nullptr) return false;
     // A screen that was kept open over a failed open has no project to work on.
-    if (!state_.dbWork.IsOpen() && !form->type().isHub) return true;
+    if (!state_.dbWork.IsOpen() && form->type().needsProject) return true;
     FormEvents events(context);
+    if (event.kind == UserEvent::Kind::Key && event.name == "F1" && !HasFieldHelp(*form)) {
+        return ShowHelp(HelpPageOf(*form)), true;
+    }
     if (event.kind == UserEvent::Kind::Type) {
         events.Type(event.text);
         return true;
@@ -153,46 +131,14 @@ bool Program::PerformOnCurrentForm(const UserEvent& event) {
 }
 
 bool Program::SwitchTab(int tab) {
-    if (tab < 0 || tab >= kHubTabs) return false;
+    Form* hub = state_.formRegistry.Find(kHubForm);
+    if (tab < 0 || tab >= kHubTabs || hub == nullptr) return false;
+    if (NeedsProject(static_cast<HubTab>(tab)) && !state_.dbWork.IsOpen()) return true;
     ScreenContext context = state_.MakeScreenContext();
     FormEvents events(context);
-    Form& hub = Hub();
-    events.Activate(hub);
-    if (context.forms.CurrentForm != &hub || !events.Commit()) return true;
-    hub.page = tab;
-    hub.focus = hub.NextInTabOrder(nullptr, true);
-    return true;
-}
-
-bool Program::ChooseMenu(const std::string& name) {
-    const std::vector<MenuEntry> entries = Menus();
-    const auto entry =
-        std::find_if(entries.begin(), entries.end(), [&](const MenuEntry& e) { return e.name == name; });
-    if (entry == entries.end() || name.empty()) return false;
-    if (entry->comesLater) return true;
-    if (entry->hidden) {
-        ScreenContext context = state_.MakeScreenContext();
-        OpenBuiltScreen(context, entry->caption);
-    }
-    if (name == "MenuUnitsEnglish" || name == "MenuUnitsMetric") SwitchUnits(name == "MenuUnitsMetric");
-    if (name == "MenuFileExit") return Exit(), true;
-    ProjectFiles files(state_);
-    if (name == "MenuFileSave" || name == "MenuFileSaveAs") {
-        ScreenContext context = state_.MakeScreenContext();
-        FormEvents(context).CommitAndReturn();
-        if (name == "MenuFileSave") {
-            files.Save();
-        } else {
-            files.SaveProjectAs();
-        }
-    }
-    if ((name == "NewProj" || name == "MenuFileOpen") && LeaveProject()) {
-        if (name == "NewProj") {
-            files.NewProject();
-        } else {
-            files.OpenProjectDialog();
-        }
-        ShowHub();
+    events.Activate(*hub);
+    if (context.forms.CurrentForm == hub && events.Commit()) {
+        EnterHubTab(context, *hub, static_cast<HubTab>(tab));
     }
     return true;
 }
@@ -215,87 +161,6 @@ void Program::SwitchUnits(bool metric) {
     state_.units->SetMetric(metric);
     events.AfterUnitSwitch();
     state_.host.dialogs.SetWaitCursor(false);
-}
-
-// --- Projects -----------------------------------------------------------------------------------------
-
-/// Closes the screens of the project that is being left. False if a value being typed was refused.
-bool Program::LeaveProject() {
-    ScreenContext context = state_.MakeScreenContext();
-    FormEvents events(context);
-    if (!events.Commit()) return false;
-    events.UnloadAll();
-    return true;
-}
-
-/// The hub, which is made when it is first asked for and never closed.
-Form& Program::Hub() {
-    if (Form* hub = state_.formRegistry.Find(kHubForm)) return *hub;
-    return state_.formRegistry.Add(*state_.formRegistry.FindType(kHubForm), *state_.dbCatalogue);
-}
-
-void Program::ShowHub() {
-    ScreenContext context = state_.MakeScreenContext();
-    Form& hub = Hub();
-    FormEvents(context).Activate(hub);
-    hub.page = static_cast<int>(HubTab::Start);
-    hub.focus = nullptr;
-}
-
-bool Program::NewProject() {
-    return InEvent([&] {
-        if (!LeaveProject()) return true;
-        const bool made = ProjectFiles(state_).NewProject();
-        ShowHub();
-        return made;
-    });
-}
-
-bool Program::OpenProject(const std::string& path) {
-    return InEvent([&] {
-        if (!LeaveProject()) return false;
-        const bool opened = ProjectFiles(state_).OpenProject(path);
-        ShowHub();
-        return opened;
-    });
-}
-
-bool Program::Save() {
-    return InEvent([&] {
-        ScreenContext context = state_.MakeScreenContext();
-        FormEvents(context).CommitAndReturn();
-        return ProjectFiles(state_).Save();
-    });
-}
-
-bool Program::SaveAs(const std::string& name) {
-    return InEvent([&] {
-        ScreenContext context = state_.MakeScreenContext();
-        FormEvents(context).CommitAndReturn();
-        return ProjectFiles(state_).SaveProjectAs(name);
-    });
-}
-
-bool Program::Exit() {
-    ScreenContext context = state_.MakeScreenContext();
-    if (!FormEvents(context).Commit() || !ConfirmClose()) return false;
-    ended_ = true;
-    return true;
-}
-
-/// Offers to save what was changed. False if the user stays, or if Yes saved nothing.
-bool Program::ConfirmClose() {
-    if (!state_.bProjectChanged) return true;
-    const std::string project = state_.sProjectFile.empty() ? "<unnamed project>" : state_.sProjectFile;
-    const Answer answer = state_.host.dialogs.ShowMessage(
-        {.text = "The contents of " + project + " has changed. Do you want to save your changes?",
-         .style = MessageStyle::YesNoCancel,
-         .icon = MessageIcon::Warning});
-    if (answer == Answer::Cancel) {
-        ShowHub();
-        return false;
-    }
-    return answer == Answer::No || ProjectFiles(state_).Save();
 }
 
 // --- Commands of a script -------------------------------------------------------------------------------

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "shell/event_scope.h"
 #include "shell/main_window.h"
 #include "shell/process_state.h"
 #include "shell/start_up.h"
@@ -52,18 +53,31 @@ class Program {
     int Solve(std::string_view screen, int term);
 
   private:
+    /// Does something as one event; while one runs, further ones are dropped.
     template <typename Action>
-    bool InEvent(Action action);
+    bool InEvent(Action action) {
+        if (running_) return true;
+        const EventScope event(state_, running_);
+        return action();
+    }
 
     bool Perform(const UserEvent& event);
     bool PerformOnCurrentForm(const UserEvent& event);
     [[nodiscard]] bool IsOutsideModalForm(const UserEvent& event) const;
     bool OnOpenForm(const UserEvent& event);
     bool SwitchTab(int tab);
-    bool ChooseMenu(const std::string& name);
+    bool ChooseMenu(const std::string& name, int index);
     void SwitchUnits(bool metric);
     bool LeaveProject();
-    Form& Hub();
+    void NewProjectByMenu();
+    void OpenProjectByDialog();
+    void SaveByMenu(bool underNewName);
+    bool OpenFile(const std::string& path);
+    void OpenRecentFile(int position);
+    [[nodiscard]] static bool HasFieldHelp(const Form& form);
+    [[nodiscard]] static std::string HelpPageOf(const Form& form);
+    void ShowHelp(const std::string& page);
+    void ShowAbout();
     void ShowHub();
     bool Exit();
     bool ConfirmClose();

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <string_view>
 #include <vector>
 
+#include "platform/number_text.h"
 #include "platform/sqlite.h"
 #include "platform/text.h"
 
@@ -39,7 +41,61 @@ void Record(std::vector<RecentFile>& rows, const std::string& path, const std::s
     RenumberRecentFiles(rows);
 }
 
+/// "2004-02-29 10:00:00.000" ten years earlier; the 29th of February is the 28th where there is none. A date
+/// that is none stays as it is.
+std::string TenYearsBefore(std::string date) {
+    constexpr std::size_t kYearDigits = 4;
+    constexpr int kYears = 10;
+    constexpr int kFirstYear = 1000;  // of those with four digits
+    const std::string year = date.substr(0, kYearDigits);
+    const int before = IsNumeric(year) ? static_cast<int>(ParseNumber(year)) - kYears : 0;
+    if (before < kFirstYear) return date;
+    const bool isLeap = (before % 4 == 0 && before % 100 != 0) || before % 400 == 0;
+    date.replace(0, kYearDigits, std::to_string(before));
+    constexpr std::string_view kLeapDay = "-02-29";
+    if (!isLeap && date.compare(kYearDigits, kLeapDay.size(), kLeapDay) == 0) {
+        date.replace(kYearDigits, kLeapDay.size(), "-02-28");
+    }
+    return date;
+}
+
 }  // namespace
+
+std::string RecentFileAt(ProcessState& state, int position) {
+    for (const RecentFile& row : state.dbCatalogue->RecentFiles()) {
+        if (row.sortOrder == position) return row.fileName.value_or("");
+    }
+    return {};
+}
+
+void DropRecentFile(ProcessState& state, int position) {
+    try {
+        state.dbCatalogue->EditRecentFiles([&](std::vector<RecentFile>& rows) {
+            for (RecentFile& row : rows) {
+                if (row.sortOrder != position) continue;
+                row.fileName.reset();
+                row.openDate = TenYearsBefore(row.openDate);
+            }
+            RenumberRecentFiles(rows);
+        });
+    } catch (const DatabaseError&) {  // NOLINT(bugprone-empty-catch): the list is a convenience
+    }
+    RebuildRecentMenu(state);
+}
+
+void RebuildRecentMenu(ProcessState& state) {
+    state.recentMenu.clear();
+    if (state.dbCatalogue == nullptr) return;
+    try {
+        for (const RecentFile& row : state.dbCatalogue->RecentFiles()) {
+            if (row.fileName && !row.fileName->empty()) {
+                state.recentMenu.push_back({row.sortOrder, *row.fileName});
+            }
+        }
+    } catch (const DatabaseError&) {
+        state.recentMenu.clear();
+    }
+}
 
 void AddRecentFile(ProcessState& state, const std::string& path) {
     if (state.dbCatalogue == nullptr || path.empty()) return;
@@ -49,6 +105,7 @@ void AddRecentFile(ProcessState& state, const std::string& path) {
         state.dbCatalogue->EditRecentFiles([&](std::vector<RecentFile>& rows) { Record(rows, path, now); });
     } catch (const DatabaseError&) {  // NOLINT(bugprone-empty-catch): the list is a convenience
     }
+    RebuildRecentMenu(state);
     state.host.dialogs.SetWaitCursor(false);
 }
 

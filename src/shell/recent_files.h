@@ -11,4 +11,14 @@ namespace kelvor {
 /// The match is `Like`, so a path with wild cards matches loosely. Failures are ignored.
 void AddRecentFile(ProcessState& state, const std::string& path);
 
+/// The path at a position of the menu; empty if the position is free. Throws DatabaseError.
+std::string RecentFileAt(ProcessState& state, int position);
+
+/// Frees the row at a position of the menu: it becomes ten years older and sinks to the end. Failures are
+/// ignored.
+void DropRecentFile(ProcessState& state, int position);
+
+/// Makes what the menu shows follow the table. A table that cannot be read leaves an empty menu.
+void RebuildRecentMenu(ProcessState& state);
+
 }  // namespace kelvor

@@ -20,7 +20,8 @@ struct UserEvent {
         PasteCells,    // text: tab-separated lines, for the cells from the cursor on
         Choose,        // name: an option, a check box or a list; text: the item of a list
         SwitchTab,     // number: of the hub's tab, from 0
-        Menu,          // name: of the entry
+        Menu,          // name: of the entry; number: of one that shares its name
+        OpenFile,      // text: the path of a project, dropped on the window
     };
 
     Kind kind;

@@ -23,6 +23,7 @@
 #include "console/script/command_line.h"
 #include "desktop/chart_view.h"
 #include "desktop/control_widgets.h"
+#include "desktop/picture_view.h"
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
 
@@ -57,6 +58,7 @@ ControlKind KindOf(const QWidget& widget) {
     if (qobject_cast<const QRadioButton*>(&widget) != nullptr) return ControlKind::OptionButton;
     if (qobject_cast<const QCheckBox*>(&widget) != nullptr) return ControlKind::CheckBox;
     if (qobject_cast<const QGroupBox*>(&widget) != nullptr) return ControlKind::Frame;
+    if (dynamic_cast<const PictureView*>(&widget) != nullptr) return ControlKind::Image;
     return ControlKind::Label;
 }
 
@@ -71,6 +73,7 @@ std::string TextOf(const QWidget& widget) {
     if (const auto* box = qobject_cast<const QLineEdit*>(&widget)) return FromQt(box->text());
     if (const auto* list = qobject_cast<const QComboBox*>(&widget)) return FromQt(list->currentText());
     if (const auto* frame = qobject_cast<const QGroupBox*>(&widget)) return FromQt(frame->title());
+    if (const auto* picture = dynamic_cast<const PictureView*>(&widget)) return picture->file();
     if (const auto* label = qobject_cast<const QLabel*>(&widget)) return CaptionText(widget, label->text());
     if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
         return CaptionText(widget, button->text());
@@ -192,8 +195,9 @@ void WindowDriver::ClickEntry(QMenu& menu, QAction& entry) {
     QApplication::processEvents();
 }
 
-void WindowDriver::ChooseMenu(const std::string& name, int /*index*/) {
-    QAction* entry = desktop_.window().FindAction(name);
+void WindowDriver::ChooseMenu(const std::string& name, int index) {
+    QAction* entry = desktop_.window().FindAction(name, index);
+    if (entry != nullptr && !entry->isVisible()) entry = nullptr;
     auto* menu = entry == nullptr ? nullptr : qobject_cast<QMenu*>(entry->parent());
     if (menu == nullptr) throw ScriptError("there is no menu entry " + name);
     ClickEntry(*menu, *entry);
@@ -301,7 +305,9 @@ void WindowDriver::TypeInto(QWidget& box, const std::string& text) {
 void WindowDriver::Type(const std::string& text) {
     (void)View();
     if (auto* grid = dynamic_cast<GridView*>(&FocusWidget())) QTest::keyClick(grid, Qt::Key_F2);
-    if (auto* box = qobject_cast<QLineEdit*>(&FocusWidget())) TypeInto(*box, text);
+    QWidget* focus = &FocusWidget();
+    if (const auto* list = qobject_cast<const QComboBox*>(focus)) focus = list->lineEdit();
+    if (auto* box = qobject_cast<QLineEdit*>(focus)) TypeInto(*box, text);
 }
 
 void WindowDriver::Key(const std::string& key) {

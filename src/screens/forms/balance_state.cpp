@@ -68,7 +68,7 @@ void RefreshColumns(const ScreenContext& context, GridData& grid) {
 }
 
 void RefreshControl(const ScreenContext& context, const Form& form, Control& control) {
-    if (control.grid) RefreshColumns(context, *control.grid);
+    if (control.grid && !control.grid->texts) RefreshColumns(context, *control.grid);
     if (control.IsField()) control.toolTip = FieldHint(context, control);
     if (control.kind == ControlKind::TextBox && !control.tag.empty()) {
         control.text = FieldText(context, form, control);

@@ -53,14 +53,19 @@ struct GridColumn {
     bool locked = false;             // shows computed values and takes none
 };
 
-/// What a grid shows, and where its cursor is. It holds no values: a cell is the project's cell of the
-/// column's variable, with the row as first subscript and the form's own second one.
+/// What a grid shows, and where its cursor is. Unless it has texts of its own it holds no values: a cell is
+/// the project's cell of the column's variable, with the row as first subscript and the form's own second
+/// one.
 struct GridData {
     std::vector<GridColumn> columns;
     int rows = 0;  // as many as the variables have cells
     int row = 1;   // of the cursor, from 1
     std::size_t column = 0;
     std::optional<std::string> typed;  // into the cell under the cursor, and not yet stored
+
+    /// Of a grid that shows no cells of the project: its texts, row by row, which may go on behind the
+    /// columns.
+    std::optional<std::vector<std::vector<std::string>>> texts = {};
 
     [[nodiscard]] const GridColumn& current() const { return columns[column]; }
 
@@ -107,6 +112,7 @@ struct Control {
     /// A box whose Tag is a variable.
     [[nodiscard]] bool IsField() const;
 
+    [[nodiscard]] bool IsBox() const { return kind == ControlKind::TextBox || kind == ControlKind::ComboBox; }
     [[nodiscard]] bool IsButton() const { return kind == ControlKind::CommandButton; }
     [[nodiscard]] bool IsChoice() const {
         return kind == ControlKind::OptionButton || kind == ControlKind::CheckBox;

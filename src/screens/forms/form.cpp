@@ -64,6 +64,11 @@ Control* Form::FindAccessKey(char key) {
 }
 
 Control* Form::FindGrid() {
+    const Control* grid = std::as_const(*this).FindGrid();
+    return grid == nullptr ? nullptr : Find(grid->name);
+}
+
+const Control* Form::FindGrid() const {
     const auto found = std::find_if(controls_.begin(), controls_.end(),
                                     [](const auto& control) { return control->grid.has_value(); });
     return found == controls_.end() ? nullptr : found->get();

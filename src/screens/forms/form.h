@@ -46,6 +46,7 @@ class Form {
 
     /// The form's grid; null if it has none.
     [[nodiscard]] Control* FindGrid();
+    [[nodiscard]] const Control* FindGrid() const;
 
     /// The label with the unit behind a box; null if there is none.
     [[nodiscard]] Control* FindUnitOf(std::string_view box);

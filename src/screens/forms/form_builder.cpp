@@ -159,6 +159,12 @@ class Builder {
             case LayoutKind::Options:
                 for (const ButtonItem& option : node.buttons) AddButton(ControlKind::OptionButton, option);
                 break;
+            case LayoutKind::Checks:
+                for (const ButtonItem& box : node.buttons) AddButton(ControlKind::CheckBox, box);
+                break;
+            case LayoutKind::Choice:
+                AddChoice(node);
+                break;
             case LayoutKind::Buttons:
                 for (const ButtonItem& button : node.buttons) AddButton(ControlKind::CommandButton, button);
                 break;
@@ -187,9 +193,17 @@ class Builder {
 
     void AddFrame(const LayoutNode& node) {
         Add(ControlKind::Frame, node.name).text = node.title;
-        const int outer = std::exchange(group_, ++groups_);
+        const int outer = group_;
+        if (!node.sharesOptions) group_ = ++groups_;
         for (const LayoutNode& child : node.children) AddNode(child);
         group_ = outer;
+    }
+
+    void AddChoice(const LayoutNode& node) {
+        Control& label = Add(ControlKind::Label, FieldLabelName(node.name));
+        label.text = node.title;
+        label.labelOf = node.name;
+        Add(ControlKind::ComboBox, node.name).backColor = colours::kWindow;
     }
 
     void AddIndicator(const std::string& name) {

@@ -48,15 +48,14 @@ void FormEvents::Handle(FormEvent event, Form& form, Control* control, const std
 // --- Opening, activating, closing -------------------------------------------------------------------
 
 bool FormEvents::Open(std::string_view name, const SideScreenCall* call) {
-    if (!context_.calc.store.IsOpen()) return context_.forms.FindType(name) != nullptr;
-    if (!Commit()) return true;
+    const FormType* type = context_.forms.FindType(name);
+    if (type == nullptr) return false;
+    if ((type->needsProject && !context_.calc.store.IsOpen()) || !Commit()) return true;
     if (Form* open = context_.forms.Find(name)) {
         if (call != nullptr) NoteCall(*open, *call);
         Activate(*open);
         return true;
     }
-    const FormType* type = context_.forms.FindType(name);
-    if (type == nullptr) return false;
     Form& form = context_.forms.Add(*type, context_.catalogue);
     if (call != nullptr) NoteCall(form, *call);
     Handle(FormEvent::Load, form, nullptr, [&] {
@@ -146,6 +145,7 @@ void FormEvents::UnloadAll() {
 
 bool FormEvents::LoseFocus(Form& form, Control& control) {
     bool accepted = true;
+    if (control.grid && control.grid->texts) return CommitCell(form, control);
     if (!context_.calc.store.IsOpen()) return accepted;
     if (control.grid) return CommitCell(form, control);
     if (!control.IsField()) return accepted;
@@ -370,7 +370,7 @@ bool FormEvents::Choose(Form& form, Control& control, const std::string& item) {
 
 void FormEvents::AfterUnitSwitch() {
     Form* form = Current();
-    if (form == nullptr || form->type().isHub || !context_.calc.store.IsOpen()) return;
+    if (form == nullptr || !context_.calc.store.IsOpen()) return;
     FillValueItems(context_, *form);
     Handle(FormEvent::UnitsSwitched, *form, nullptr, [&] { RefreshScreen(context_, *form); });
     if (form->focus != nullptr) GetFocus(*form, *form->focus);

@@ -22,7 +22,7 @@ Control* FindGridWith(Form& form, int row, const std::string& variable) {
 // --- Cells --------------------------------------------------------------------------------------------
 
 void FormEvents::TypeIntoCell(Form& form, Control& control, const std::string& text) {
-    if (control.grid->current().locked) return;
+    if (control.grid->current().locked || control.grid->rows == 0) return;
     control.grid->typed = text;
     GridChange(context_, form);
 }
@@ -87,7 +87,7 @@ bool FormEvents::DeleteRow(Form& form, int row) {
     if (control == nullptr) return false;
     if (!MoveFocus(form, *control)) return true;
     if (!MoveGridCursor(form, *control, row, control->grid->column)) return true;
-    if (!GridDeleteRow(context_, form, *control->grid, row)) return true;
+    if (!control->grid->texts && !GridDeleteRow(context_, form, *control->grid, row)) return true;
     Handle(FormEvent::RowDeleted, form, control, [&] {
         RecalcAllOutputs(context_, form);
         RecalcOutputs(context_, form, "", 0);
@@ -109,7 +109,7 @@ bool FormEvents::MoveGridCursor(Form& form, Control& control, int row, std::size
 /// Tells the calculations which row, and which second subscript, the user is working in.
 void FormEvents::NoteCurrentCell(Form& form) {
     const Control* control = form.FindGrid();
-    context_.values.gridRow = control == nullptr ? 1 : control->grid->row;
+    context_.values.gridRow = control == nullptr || control->grid->texts ? 1 : control->grid->row;
     context_.values.dim2 = form.dim2().value_or(1);
 }
 
@@ -122,6 +122,7 @@ void FormEvents::StepCell(Form& form, Control& control, const std::string& key) 
     const int place = (grid.row - 1) * columns + static_cast<int>(grid.column);
     const bool back = key == "BackTab" || key == "Left";
     if (key == "Up" || key == "Down") {
+        if (grid.rows == 0) return;
         const int row = std::clamp(grid.row + (key == "Up" ? -1 : 1), 1, grid.rows);
         MoveGridCursor(form, control, row, grid.column);
         return;

@@ -74,6 +74,7 @@ struct FormType {
     std::vector<HelpRoute> helpRoutes;         // any other field has the general help
     bool modal = false;                        // while it is open, the user works in it alone
     bool isHelp = false;                       // helps with one field of another form; Esc closes it
+    bool needsProject = true;                  // it shows values of the project, and works on nothing else
     bool isHub = false;  // the form with the tabs: always open, and Enter selects its options
 };
 

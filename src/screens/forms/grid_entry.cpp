@@ -20,14 +20,28 @@ const std::string* FindItem(const GridColumn& column, const std::string& text) {
     return found == column.items.end() ? nullptr : &*found;
 }
 
+/// The text of a cell of a form's grid that has texts of its own; null if it has none, or no such row.
+const std::string* OwnText(const Form& form, int row, const GridColumn& column) {
+    const Control* grid = form.FindGrid();
+    if (grid == nullptr || !grid->grid->texts || row < 1 || row > grid->grid->rows) return nullptr;
+    const auto place = grid->grid->Find(column.variable);
+    return place ? &(*grid->grid->texts)[static_cast<std::size_t>(row - 1)][*place] : nullptr;
+}
+
 }  // namespace
 
 std::string GridReadCell(const ScreenContext& context, const Form& form, int row, const GridColumn& column) {
+    if (const std::string* text = OwnText(form, row, column)) return *text;
     return context.units.GetDisplayValue(column.variable, row, SecondSubscript(form));
 }
 
-void GridWriteCell(ScreenContext& context, const Form& form, int row, const GridColumn& column,
+void GridWriteCell(ScreenContext& context, Form& form, int row, const GridColumn& column,
                    const std::string& text) {
+    GridData& grid = *form.FindGrid()->grid;
+    if (grid.texts) {
+        (*grid.texts)[static_cast<std::size_t>(row - 1)][*grid.Find(column.variable)] = text;
+        return;
+    }
     const std::string* item = column.list.empty() ? nullptr : FindItem(column, text);
     context.units.SetDisplayValue(column.variable, row, SecondSubscript(form),
                                   item != nullptr ? *item : text);
@@ -35,7 +49,7 @@ void GridWriteCell(ScreenContext& context, const Form& form, int row, const Grid
 
 void GridChange(ScreenContext& context, Form& form) {
     form.SetFieldChanged(true);
-    context.bProjectChanged = true;
+    if (!form.FindGrid()->grid->texts) context.bProjectChanged = true;
 }
 
 bool GridBeforeColUpdate(ScreenContext& context, Form& form, const GridColumn& column,

@@ -10,10 +10,10 @@ namespace kelvor {
 std::string GridReadCell(const ScreenContext& context, const Form& form, int row, const GridColumn& column);
 
 /// Stores a text, given in the active unit system, in a cell of a form's grid.
-void GridWriteCell(ScreenContext& context, const Form& form, int row, const GridColumn& column,
+void GridWriteCell(ScreenContext& context, Form& form, int row, const GridColumn& column,
                    const std::string& text);
 
-/// A cell is being edited: the project has changed.
+/// A cell is being edited: the project has changed, unless the grid shows none of it.
 void GridChange(ScreenContext& context, Form& form);
 
 /// True if a text may be stored in a column; else its message was shown. A number must be one and lie within

@@ -47,6 +47,12 @@ LayoutNode Frame(std::string name, std::string title, std::vector<LayoutNode> ch
     return node;
 }
 
+LayoutNode Section(std::string name, std::string title, std::vector<LayoutNode> children) {
+    LayoutNode node = Frame(std::move(name), std::move(title), std::move(children));
+    node.sharesOptions = true;
+    return node;
+}
+
 LayoutNode Fields(std::vector<FieldItem> fields) {
     LayoutNode node;
     node.kind = LayoutKind::Fields;
@@ -59,6 +65,16 @@ LayoutNode Options(std::vector<ButtonItem> options) {
     node.kind = LayoutKind::Options;
     node.buttons = std::move(options);
     return node;
+}
+
+LayoutNode Checks(std::vector<ButtonItem> boxes) {
+    LayoutNode node = Options(std::move(boxes));
+    node.kind = LayoutKind::Checks;
+    return node;
+}
+
+LayoutNode Choice(std::string name, std::string label) {
+    return Leaf(LayoutKind::Choice, std::move(name), std::move(label));
 }
 
 LayoutNode Heading(std::string name, std::string text) {

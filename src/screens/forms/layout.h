@@ -16,6 +16,8 @@ enum class LayoutKind {
     Frame,      // a titled group of its children
     Fields,     // label, box and unit in aligned columns
     Options,    // option buttons below each other
+    Checks,     // check boxes below each other
+    Choice,     // a drop-down list that is no field, behind its label
     Heading,    // a line in large letters
     Text,       // a paragraph
     Picture,    // an image
@@ -67,6 +69,7 @@ struct LayoutNode {
     std::vector<ButtonItem> buttons;
     std::vector<std::vector<std::string>> table;  // the rows of a table of texts
     std::optional<ChartData> chart;
+    bool sharesOptions = false;  // of a frame: its options and those around it exclude each other
 };
 
 LayoutNode Pages(std::string name, std::vector<LayoutNode> pages);
@@ -74,8 +77,15 @@ LayoutNode Columns(std::vector<LayoutNode> children);
 LayoutNode Rows(std::vector<LayoutNode> children);
 LayoutNode Page(std::string title, std::vector<LayoutNode> children);
 LayoutNode Frame(std::string name, std::string title, std::vector<LayoutNode> children);
+
+/// A frame whose options and those of the other sections of the page exclude each other.
+LayoutNode Section(std::string name, std::string title, std::vector<LayoutNode> children);
 LayoutNode Fields(std::vector<FieldItem> fields);
 LayoutNode Options(std::vector<ButtonItem> options);
+LayoutNode Checks(std::vector<ButtonItem> boxes);
+
+/// A drop-down list that is bound to no variable.
+LayoutNode Choice(std::string name, std::string label);
 LayoutNode Heading(std::string name, std::string text);
 LayoutNode Text(std::string name, std::string text);
 LayoutNode Verdict(std::string name);

@@ -1,0 +1,98 @@
+#include "desktop/menu_bar.h"
+
+#include "desktop/qt_text.h"
+#include "screens/forms/layout.h"
+
+namespace kelvor {
+
+namespace {
+
+const char* const kWindowMenu = "MenuWindow";
+
+/// A path of more letters is shortened in its middle.
+constexpr int kLettersOfPath = 70;
+
+QString ActionName(const MenuEntry& entry) {
+    return ToQt(entry.name) + (entry.index == 0 ? QString() : QString::number(entry.index));
+}
+
+}  // namespace
+
+MenuBar::MenuBar(EventDoor& door, QWidget* parent) : QMenuBar(parent), door_(door) {
+    std::vector<QMenu*> menus;
+    for (const MenuTitle& title : MenuTitles()) {
+        menus.push_back(AddMenu(title));
+        if (title.name == kWindowMenu) windowMenu_ = menus.back();
+    }
+    for (const MenuEntry& entry : door_.program().Menus()) {
+        auto* menu = findChild<QMenu*>(ToQt(entry.menu));
+        actions_.push_back(AddEntry(*menu, entry));
+    }
+    connect(windowMenu_, &QMenu::aboutToShow, this, &MenuBar::FillWindowMenu);
+}
+
+QMenu* MenuBar::AddMenu(const MenuTitle& title) {
+    QMenu* menu = addMenu(ToQt(title.caption));
+    menu->setObjectName(ToQt(title.name));
+    menu->setToolTipsVisible(true);
+    return menu;
+}
+
+QAction* MenuBar::AddEntry(QMenu& menu, const MenuEntry& entry) {
+    if (entry.IsSeparator()) return menu.addSeparator();
+    QAction* action = menu.addAction(ToQt(entry.caption));
+    action->setObjectName(ActionName(entry));
+    action->setCheckable(entry.checkable);
+    if (!entry.shortcut.empty()) action->setShortcut(QKeySequence::fromString(ToQt(entry.shortcut)));
+    connect(action, &QAction::triggered, this, [this, name = entry.name, index = entry.index] {
+        door_.Raise({UserEvent::Kind::Menu, name, {}, index});
+        Sync();
+    });
+    return action;
+}
+
+void MenuBar::FillWindowMenu() {
+    windowMenu_->clear();
+    const FormRegistry& forms = door_.program().state().formRegistry;
+    int number = 0;
+    for (const Form* form : forms.InOpeningOrder()) {
+        const QString caption = ToQt(form->caption).replace("&", "&&");
+        QAction* action = windowMenu_->addAction(QStringLiteral("&%1 %2").arg(++number).arg(caption));
+        action->setObjectName(ToQt(form->name()));
+        action->setCheckable(true);
+        action->setChecked(form == forms.CurrentForm);
+        connect(action, &QAction::triggered, this, [this, name = form->name()] {
+            door_.Raise({UserEvent::Kind::ActivateForm, name, {}, 0});
+        });
+    }
+}
+
+void MenuBar::Sync() {
+    const std::vector<MenuEntry> entries = door_.program().Menus();
+    for (std::size_t i = 0; i < entries.size(); ++i) SyncEntry(*actions_[i], entries[i]);
+}
+
+void MenuBar::SyncEntry(QAction& action, const MenuEntry& entry) {
+    action.setVisible(entry.visible);
+    if (entry.IsSeparator()) return;
+    action.setText(CaptionOf(entry));
+    action.setToolTip(entry.comesLater ? QString::fromLatin1(kComesLater) : ToQt(entry.toolTip));
+    action.setEnabled(!entry.comesLater);
+    action.setChecked(entry.checked);
+}
+
+QString MenuBar::CaptionOf(const MenuEntry& entry) const {
+    const int room = kLettersOfPath * fontMetrics().averageCharWidth();
+    return fontMetrics().elidedText(ToQt(entry.caption), Qt::ElideMiddle, room, Qt::TextShowMnemonic);
+}
+
+QAction* MenuBar::FindAction(const std::string& name, int index) const {
+    const MenuEntry entry{{}, name, {}, false, {}, false, false, index};
+    return name.empty() ? nullptr : findChild<QAction*>(ActionName(entry));
+}
+
+QAction* MenuBar::FindWindowAction(const std::string& form) const {
+    return windowMenu_->findChild<QAction*>(ToQt(form));
+}
+
+}  // namespace kelvor

@@ -1,0 +1,41 @@
+#include "desktop/picture_view.h"
+
+#include <QPainter>
+
+#include "desktop/qt_text.h"
+
+/// A library does not bring its resources in by itself. Outside the namespace, as its macro asks.
+static void LoadPictures() { Q_INIT_RESOURCE(pictures); }
+
+namespace kelvor {
+
+namespace {
+
+QString ResourceOf(const std::string& file) {
+    LoadPictures();
+    return QStringLiteral(":/pictures/") + ToQt(file);
+}
+
+/// The width of a drawing, in letters of the system's font.
+constexpr int kLettersWide = 64;
+
+}  // namespace
+
+PictureView::PictureView(const std::string& file, QWidget* parent)
+    : QWidget(parent), file_(file), drawing_(ResourceOf(file)) {
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setFocusPolicy(Qt::NoFocus);
+}
+
+QSize PictureView::sizeHint() const {
+    const QSize drawn = drawing_.defaultSize();
+    return drawn.scaled(kLettersWide * fontMetrics().averageCharWidth(), QWIDGETSIZE_MAX,
+                        Qt::KeepAspectRatio);
+}
+
+void PictureView::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    drawing_.render(&painter, rect());
+}
+
+}  // namespace kelvor

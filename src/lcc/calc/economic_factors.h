@@ -1,0 +1,10 @@
+#pragma once
+
+#include "design/calc/dispatch.h"
+
+namespace kelvor {
+
+/// The calculations of the economic factors: `DISCOUNTRATE`.
+KeyTable EconomicFactorKeys();
+
+}  // namespace kelvor

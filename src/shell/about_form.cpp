@@ -1,0 +1,27 @@
+#include "shell/about_form.h"
+
+#include "screens/forms/form.h"
+#include "screens/forms/screen_context.h"
+
+namespace kelvor {
+
+FormType AboutForm() {
+    FormType type;
+    type.name = "About";
+    type.caption = "About Kelvor";
+    type.modal = true;
+    type.needsProject = false;
+    type.layout = Rows({
+        Heading("ProductLabel", "Kelvor"),
+        Text("VersionLabel", "Version " KELVOR_VERSION),
+        Text("PurposeLabel",
+             "Design of new pavements and overlays, evaluation of deflection tests, traffic and life-cycle "
+             "cost "
+             "by the 1993 AASHTO Guide for Design of Pavement Structures."),
+        Buttons({{"cmdAction", "&OK"}}),
+    });
+    type.handlers = {{FormEvent::Load, "", HandlerOrder::Instead, [](ScreenContext&, Form&, Control*) {}}};
+    return type;
+}
+
+}  // namespace kelvor

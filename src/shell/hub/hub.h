@@ -1,0 +1,30 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "screens/forms/form_type.h"
+#include "screens/forms/screen_context.h"
+
+namespace kelvor {
+
+/// The tabs of the hub.
+enum class HubTab { ProjectId, Traffic, Design, Overlays, LifeCycleCosting, Reports, Lists, Start };
+
+inline constexpr int kHubTabs = 8;
+inline constexpr const char* kHubForm = "TabForm";
+
+/// The tab of the hub that goes by the name of a screen; nothing for any other name.
+std::optional<HubTab> HubTabNamed(std::string_view screen);
+
+/// True if a tab shows values of the project.
+bool NeedsProject(HubTab tab);
+
+/// `TabForm`: the hub with its strip of eight tabs, from which all work is reached.
+FormType HubForm();
+
+/// Brings a tab of the hub in front: its values are read again, what it offers follows the project, and the
+/// focus goes to its first control.
+void EnterHubTab(ScreenContext& context, Form& hub, HubTab tab);
+
+}  // namespace kelvor

@@ -1,0 +1,17 @@
+#include "shell/hub/offer.h"
+
+namespace kelvor {
+
+void Offer(Form& hub, std::string_view name, bool enabled, const std::string& whyNot) {
+    Control* control = hub.Find(name);
+    if (control == nullptr) return;
+    control->enabled = enabled;
+    control->toolTip = enabled ? "" : whyNot;
+    if (!enabled) control->value = false;
+}
+
+bool IsDeclared(const ScreenContext& context, std::string_view screen) {
+    return context.forms.FindType(screen) != nullptr;
+}
+
+}  // namespace kelvor

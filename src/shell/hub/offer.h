@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "screens/forms/form.h"
+#include "screens/forms/screen_context.h"
+
+namespace kelvor {
+
+/// Enables a control of the hub, or takes it off, with the mark that it may have, and says why. A name that
+/// is none is passed over.
+void Offer(Form& hub, std::string_view name, bool enabled, const std::string& whyNot);
+
+/// True if the form of a screen is declared.
+bool IsDeclared(const ScreenContext& context, std::string_view screen);
+
+}  // namespace kelvor

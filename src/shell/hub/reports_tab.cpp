@@ -1,0 +1,171 @@
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "screens/forms/form_events.h"
+#include "shell/hub/offer.h"
+#include "shell/hub/screen_data.h"
+#include "shell/hub/tabs.h"
+
+namespace kelvor {
+
+namespace {
+
+/// What a report's screen must hold before its box can be ticked.
+enum class Wants { Nothing, Data, Cells, AxleCells };
+
+struct ReportBox {
+    const char* box;
+    const char* category;
+    const char* screen;
+    Wants wants;
+};
+
+constexpr std::array kBoxes = {
+    ReportBox{"rbNDopF", "rbND", "DeF", Wants::Nothing},
+    ReportBox{"rbNDopR", "rbND", "DeR", Wants::Nothing},
+    ReportBox{"rbOVopBP", "rbOV", "OvBP", Wants::Data},
+    ReportBox{"rbOVopUP", "rbOV", "OvUP", Wants::Data},
+    ReportBox{"rbOVopWT", "rbOV", "OvWT", Wants::Data},
+    ReportBox{"rbOVopAFP", "rbOV", "OvAFP", Wants::Data},
+    ReportBox{"rbOVopAA", "rbOV", "OvAA", Wants::Data},
+    ReportBox{"rbOVopAP", "rbOV", "OvAP", Wants::Data},
+    ReportBox{"rbOVopAAP", "rbOV", "OvAAP", Wants::Data},
+    ReportBox{"rbTRopTrAx", "rbTr", "TrAx", Wants::Cells},
+    ReportBox{"rbTRopTrVe", "rbTr", "TrVe", Wants::AxleCells},
+    ReportBox{"rbTRopTrTr", "rbTr", "TrTr", Wants::Data},
+};
+
+constexpr std::array kCategories = {"rbND", "rbOV", "rbTr", "rbCost"};
+constexpr const char* kCost = "rbCost";
+constexpr const char* kCostScreen = "LcA1";
+constexpr std::array kCostScreens = {"LcA1", "LcA1_2", "LcA1_4", "LcA2", "LcA2_2", "LcA2_4"};
+
+constexpr const char* kNoData = "its screen holds no values yet";
+constexpr const char* kNoCosts = "no cost screen holds values yet";
+
+/// So many letters of a name tell the category. Their case counts: the traffic boxes differ from the traffic
+/// category in one letter, so that a click on the category clears them with all others.
+constexpr std::size_t kCategoryLetters = 4;
+
+std::string_view CategoryOf(const Control& control) {
+    return std::string_view(control.name).substr(0, kCategoryLetters);
+}
+
+/// Clears the boxes of every category but that of an option that is set.
+void SyncReportOptions(Form& hub, const Control& option) {
+    if (!option.value) return;
+    for (const auto& control : hub.controls()) {
+        if (control->kind != ControlKind::CheckBox) continue;
+        if (CategoryOf(*control) != CategoryOf(option)) control->value = false;
+    }
+}
+
+/// Selects a category. One that was not selected clears the boxes, as a click on it does.
+void SelectCategory(Form& hub, Control& category) {
+    if (category.value) return;
+    for (const char* name : kCategories) hub.Find(name)->value = false;
+    category.value = true;
+    SyncReportOptions(hub, category);
+}
+
+void CategoryClick(ScreenContext& /*context*/, Form& hub, Control* category) {
+    SyncReportOptions(hub, *category);
+}
+
+void BoxClick(ScreenContext& /*context*/, Form& hub, Control* box) {
+    SyncReportOptions(hub, *box);
+    const auto row = std::find_if(kBoxes.begin(), kBoxes.end(),
+                                  [&](const ReportBox& report) { return box->name == report.box; });
+    SelectCategory(hub, *hub.Find(row->category));
+}
+
+/// The costs have no boxes: the category is the report.
+void CostClick(ScreenContext& /*context*/, Form& hub, Control* cost) {
+    SyncReportOptions(hub, *cost);
+    for (const char* name : kCategories) {
+        if (cost->name != name) hub.Find(name)->value = false;
+    }
+}
+
+bool HoldsData(const ScreenContext& context, const ReportBox& report) {
+    switch (report.wants) {
+        case Wants::Nothing:
+            return true;
+        case Wants::Data:
+            return ScreenHasData(context, report.screen);
+        case Wants::Cells:
+            return ScreenHasCells(context, report.screen);
+        case Wants::AxleCells:
+            return ScreenHasAxleCells(context);
+    }
+    return false;
+}
+
+void OfferBox(const ScreenContext& context, Form& hub, const ReportBox& report) {
+    const bool declared = IsDeclared(context, report.screen);
+    Offer(hub, report.box, declared && HoldsData(context, report), declared ? kNoData : kComesLater);
+}
+
+void OfferCategory(const ScreenContext& context, Form& hub, std::string_view category) {
+    const bool any = std::any_of(kBoxes.begin(), kBoxes.end(), [&](const ReportBox& report) {
+        return report.category == category && IsDeclared(context, report.screen);
+    });
+    Offer(hub, category, any, kComesLater);
+}
+
+void OfferCosts(const ScreenContext& context, Form& hub) {
+    const bool declared = IsDeclared(context, kCostScreen);
+    const bool any = std::any_of(kCostScreens.begin(), kCostScreens.end(),
+                                 [&](const char* screen) { return ScreenHasCells(context, screen); });
+    Offer(hub, kCost, declared && any, declared ? kNoCosts : kComesLater);
+}
+
+/// A category above its boxes.
+LayoutNode Category(const char* frame, ButtonItem option, std::vector<ButtonItem> boxes) {
+    std::vector<LayoutNode> rows = {Options({std::move(option)})};
+    if (!boxes.empty()) rows.push_back(Checks(std::move(boxes)));
+    return Section(frame, "", std::move(rows));
+}
+
+std::vector<Handler> ReportHandlers() {
+    std::vector<Handler> handlers = {{FormEvent::Click, kCost, HandlerOrder::Instead, CostClick}};
+    for (const char* category : {"rbND", "rbOV", "rbTr"}) {
+        handlers.push_back({FormEvent::Click, category, HandlerOrder::Instead, CategoryClick});
+    }
+    for (const ReportBox& report : kBoxes) {
+        handlers.push_back({FormEvent::Click, report.box, HandlerOrder::Instead, BoxClick});
+    }
+    return handlers;
+}
+
+}  // namespace
+
+HubPage ReportsTab() {
+    const LayoutNode design =
+        Category("FrameRepND", {"rbND", " New Design"}, {{"rbNDopF", "Flexible"}, {"rbNDopR", "Rigid"}});
+    const LayoutNode overlays = Category("FrameRepOV", {"rbOV", "Overlays"},
+                                         {{"rbOVopBP", "Bonded Overlay"},
+                                          {"rbOVopUP", "Unbonded Overlay"},
+                                          {"rbOVopWT", "PCC Overlay of Asphalt (Whitetopping)"},
+                                          {"rbOVopAFP", "AC Overlay of Fractured PCC Pavement"},
+                                          {"rbOVopAA", "AC Overlay of AC Pavement"},
+                                          {"rbOVopAP", "AC Overlay of PCC Pavement"},
+                                          {"rbOVopAAP", "AC Overlay of AC/PCC Pavement"}});
+    const LayoutNode traffic = Category("FrameRepTr", {"rbTr", "Traffic"},
+                                        {{"rbTRopTrAx", "ESAL Determination by Axle Data"},
+                                         {"rbTRopTrVe", "ESAL Determination by Vehicle Type"},
+                                         {"rbTRopTrTr", "ESAL Determination by Traffic Factors"}});
+    const LayoutNode costs = Category("FrameRepCost", {"rbCost", "Cost"}, {});
+    return {Page("Reports", {Columns({Rows({design, overlays}), Rows({traffic, costs})}),
+                             Buttons({{"Command10", "&Report"}, {"cmdbExport", "&Export"}})}),
+            ReportHandlers()};
+}
+
+void OfferReports(const ScreenContext& context, Form& hub) {
+    for (const ReportBox& report : kBoxes) OfferBox(context, hub, report);
+    for (const char* category : {"rbND", "rbOV", "rbTr"}) OfferCategory(context, hub, category);
+    OfferCosts(context, hub);
+}
+
+}  // namespace kelvor

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "screens/forms/form.h"
+#include "screens/forms/screen_context.h"
+
+namespace kelvor {
+
+/// A click on one of the hub's buttons that open screens: the first option that is selected says which one.
+/// With none selected it does nothing.
+void OpenChosenScreen(ScreenContext& context, Form& hub, Control* button);
+
+/// Takes off every option whose screen is not declared, and every button all of whose options are. A button
+/// of the hub for whose click nobody cares is off too.
+void OfferDeclaredScreens(const ScreenContext& context, Form& hub);
+
+}  // namespace kelvor

@@ -1,0 +1,12 @@
+#include "shell/hub/tabs.h"
+
+namespace kelvor {
+
+HubPage StartTab() {
+    return {Page("KVR", {Picture("Image1", "pavement.svg"), Heading("ProductLabel", "Kelvor"),
+                         Text("VersionLabel", "Version " KELVOR_VERSION),
+                         Text("GuideLabel", "Pavement design by the 1993 AASHTO Guide")}),
+            {}};
+}
+
+}  // namespace kelvor

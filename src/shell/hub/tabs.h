@@ -1,0 +1,47 @@
+#pragma once
+
+#include <vector>
+
+#include "screens/forms/form.h"
+#include "screens/forms/form_type.h"
+#include "screens/forms/screen_context.h"
+
+namespace kelvor {
+
+/// What one tab adds to the hub: its page, and the routines of its controls.
+struct HubPage {
+    LayoutNode page;
+    std::vector<Handler> handlers;
+};
+
+HubPage ProjectIdTab();
+HubPage TrafficTab();
+HubPage DesignTab();
+HubPage OverlaysTab();
+HubPage CostTab();
+HubPage ReportsTab();
+HubPage ListsTab();
+HubPage StartTab();
+
+/// The routes to the ESALs need the inputs that all of them share.
+void OfferTrafficRoutes(const ScreenContext& context, Form& hub);
+
+/// Which overlays can be designed follows from what is known of the existing pavement.
+void UpdateOverlayReportOptions(const ScreenContext& context, Form& hub);
+
+/// A report can be ticked if its screen holds data.
+void OfferReports(const ScreenContext& context, Form& hub);
+
+/// The discount rate is computed, and the focus may rest on it.
+void LoadCostTab(Form& hub);
+
+/// The grid of the lists has rows of its own.
+void LoadListsTab(ScreenContext& context, Form& hub);
+
+/// The buttons of the lists need a list to work on.
+void OfferListButtons(Form& hub);
+
+/// Reads the names of the lists, and the one that is chosen, again.
+void EnterListsTab(ScreenContext& context, Form& hub);
+
+}  // namespace kelvor

@@ -1,0 +1,97 @@
+// From a fresh project every screen is reached by tabs, options, fields and buttons alone.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <set>
+
+#include "shell/hub/hub.h"
+#include "support/test_host.h"
+
+namespace kelvor::test {
+namespace {
+
+using Acts = std::vector<UserEvent>;
+
+/// The form in which a user works after some acts on a fresh program; empty if an act was not possible.
+class Walker {
+  public:
+    const std::set<std::string>& Walk() {
+        waiting_.emplace_back();
+        for (const MenuEntry& entry : TestProgram().program.Menus()) {
+            if (entry.menu == "MenuHelp") Try({{UserEvent::Kind::Menu, entry.name, {}, 0}});
+        }
+        for (int tab = 0; tab < kHubTabs; ++tab) Try({{UserEvent::Kind::SwitchTab, {}, {}, tab}});
+        while (!waiting_.empty()) {
+            const Acts acts = waiting_.front();
+            waiting_.pop_front();
+            GoOn(acts);
+        }
+        return reached_;
+    }
+
+  private:
+    /// Remembers where some acts lead, unless that was known.
+    void Try(const Acts& acts) {
+        TestProgram program;
+        for (const UserEvent& act : acts) program.program.Raise(act);
+        const Form* form = program.program.state().formRegistry.CurrentForm;
+        const std::string place = form->name() + (form->type().isHub ? std::to_string(form->page) : "");
+        if (places_.insert(place).second) waiting_.push_back(acts);
+        reached_.insert(form->name());
+    }
+
+    /// Choosing an option, or going to a field or to a cell of each column.
+    static Acts WaysInto(const Control& control) {
+        if (control.IsChoice()) return {{UserEvent::Kind::Choose, control.name, {}, 0}};
+        if (!control.grid) return {{UserEvent::Kind::Focus, control.name, {}, 0}};
+        Acts cells;
+        for (const GridColumn& column : control.grid->columns) {
+            cells.push_back({UserEvent::Kind::MoveToCell, column.variable, {}, 1});
+        }
+        return cells;
+    }
+
+    /// Each field, cell or option, followed by each button.
+    void GoOn(const Acts& acts) {
+        TestProgram program;
+        for (const UserEvent& act : acts) program.program.Raise(act);
+        const Form& form = *program.program.state().formRegistry.CurrentForm;
+        for (const auto& button : form.controls()) {
+            if (!button->IsButton() || button->name == "cmdAction" || !form.CanFocus(*button)) continue;
+            Acts plain = acts;
+            plain.push_back({UserEvent::Kind::Press, button->name, {}, 0});
+            Try(plain);
+            for (const auto& other : form.controls()) {
+                if (other->IsButton() || !form.CanFocus(*other)) continue;
+                for (const UserEvent& first : WaysInto(*other)) {
+                    Acts longer = acts;
+                    longer.push_back(first);
+                    longer.push_back(plain.back());
+                    Try(longer);
+                }
+            }
+        }
+    }
+
+    std::deque<Acts> waiting_;
+    std::set<std::string> places_;
+    std::set<std::string> reached_;
+};
+
+/// Screens to which nothing leads: the hidden menu's, and helps of fields whose screens do not exist yet.
+const std::set<std::string> kUnreached = {"Blank", "H_ACACOLLC", "H_SRMII"};
+
+TEST(ReachTest, EveryScreenThatIsDeclaredIsReached) {
+    TestProgram program;
+    std::set<std::string> expected;
+    for (const std::string& name : program.program.state().formRegistry.TypeNames()) {
+        if (kUnreached.count(name) == 0) expected.insert(name);
+    }
+    Walker walker;
+    EXPECT_EQ(walker.Walk(), expected);
+}
+
+}  // namespace
+}  // namespace kelvor::test
