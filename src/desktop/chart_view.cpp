@@ -12,13 +12,16 @@ namespace kelvor {
 
 namespace {
 
-constexpr int kChartLetters = 74;
-constexpr int kChartLines = 18;
+constexpr int kChartLetters = 90;
+constexpr int kChartLines = 22;
 constexpr qreal kLineWidth = 2.0;
 
 QValueAxis* MakeAxis(const ChartAxis& axis) {
     auto* made = new QValueAxis;
     made->setTitleText(ToQt(axis.title));
+    QFont font = made->titleFont();
+    font.setBold(false);
+    made->setTitleFont(font);
     made->setRange(axis.least, axis.greatest);
     made->setTickType(QValueAxis::TicksDynamic);
     made->setTickAnchor(axis.least);

@@ -34,7 +34,7 @@ constexpr int kIndicatorLines = 4;
 bool IsTextField(const Control& control) { return control.picture.empty() || control.picture == "@"; }
 
 bool IsIndicator(const Control& control) {
-    return control.kind == ControlKind::Label && control.backColor == colours::kResting;
+    return control.kind == ControlKind::Label && control.tag == "SolveFor";
 }
 
 int BoxWidth(const Control& control, const QWidget& box) {

@@ -20,7 +20,7 @@ namespace {
 constexpr int kUnitLetters = 6;
 constexpr int kFieldColumns = 3;
 constexpr int kGridRows = 8;  // of a built screen, for its grid
-constexpr int kParagraphLetters = 60;
+constexpr int kParagraphLetters = 84;
 constexpr double kHeadingScale = 2.4;
 
 class LayoutMaker {
@@ -176,7 +176,10 @@ class LayoutMaker {
                    QLineEdit().sizeHint().height());
         if (place.height == 0.0) size.setHeight(kGridRows * row);
         size = size.expandedTo(widget.minimumSize());
-        return {QPoint(qRound(place.x * letter), qRound((place.y - 1.0) * row)), size};
+        // A box ends where it says, also if it needs more room than it asks for.
+        const double left =
+            control.IsField() ? (place.x + place.width) * letter - size.width() : place.x * letter;
+        return {QPoint(qRound(left), qRound((place.y - 1.0) * row)), size};
     }
 
     void AddTable(QBoxLayout& to, const LayoutNode& node) {
@@ -248,7 +251,7 @@ class LayoutMaker {
     void AddText(QBoxLayout& to, const LayoutNode& node) {
         auto* text = qobject_cast<QLabel*>(find_(node.name));
         text->setWordWrap(true);
-        text->setMinimumWidth(text->fontMetrics().averageCharWidth() * kParagraphLetters);
+        text->setFixedWidth(text->fontMetrics().averageCharWidth() * kParagraphLetters);
         to.addWidget(text);
     }
 

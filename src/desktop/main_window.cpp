@@ -19,6 +19,9 @@ namespace {
 constexpr int kStartColumns = 150;
 constexpr int kStartLines = 46;
 
+/// What stands on a form's frame beside its caption, in letters: the icon, the close box, and room.
+constexpr int kCaptionMargin = 16;
+
 /// The hub lies behind all others and has no frame; the others stay in front of it.
 constexpr Qt::WindowFlags kHubFlags = Qt::SubWindow | Qt::FramelessWindowHint;
 constexpr Qt::WindowFlags kFormFlags = Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
@@ -136,7 +139,10 @@ void MainWindow::Place(QMdiSubWindow& window) {
         window.setGeometry({{0, 0}, all.expandedTo(window.minimumSizeHint())});
         return;
     }
-    window.resize(window.sizeHint());
+    const QFontMetrics metrics = window.fontMetrics();
+    const int caption =
+        metrics.horizontalAdvance(window.windowTitle()) + kCaptionMargin * metrics.averageCharWidth();
+    window.resize(window.sizeHint().expandedTo({caption, 0}));
     const QSize room = all - window.size();
     window.move(std::max(0, room.width() / 2), std::max(0, room.height() / 2));
 }

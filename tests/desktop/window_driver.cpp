@@ -196,6 +196,11 @@ void WindowDriver::ClickEntry(QMenu& menu, QAction& entry) {
 }
 
 void WindowDriver::ChooseMenu(const std::string& name, int index) {
+    if (BuiltScreenNamed(name)) {  // the hidden menu cannot be clicked
+        desktop_.window().door().Raise({UserEvent::Kind::Menu, name, {}, index});
+        QApplication::processEvents();
+        return;
+    }
     QAction* entry = desktop_.window().FindAction(name, index);
     if (entry != nullptr && !entry->isVisible()) entry = nullptr;
     auto* menu = entry == nullptr ? nullptr : qobject_cast<QMenu*>(entry->parent());
