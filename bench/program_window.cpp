@@ -1,10 +1,12 @@
 // Shows the program's main window, says so, and ends. With --timings it goes on: how long a screen takes to
-// open, and how long a key takes until the field that it was typed into is painted again, in milliseconds.
+// open, and how long a key takes until the field that it was typed into is painted again; then how long a grid of 50
+// rows by 10 columns takes to be painted, and a plain table of the toolkit with the same cells. In milliseconds.
 //
 // Usage: kelvor-bench-window HOME [--timings]
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QTableWidget>
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -12,6 +14,7 @@
 #include <vector>
 
 #include "desktop/application.h"
+#include "desktop/grid_view.h"
 #include "when_shown.h"
 
 namespace {
@@ -64,6 +67,76 @@ double TimeKeys(MainWindow& window) {
     return Median(times);
 }
 
+// --- A grid beside a plain table of the toolkit -----------------------------------------------------
+
+constexpr int kGridRows = 50;
+constexpr int kGridColumns = 10;
+constexpr QSize kTableSize(1200, 1700);
+
+/// The cells of an open project, as a form's grid reads them.
+struct GridOfProject {
+    explicit GridOfProject(Program& program) : program(program) {
+        control.kind = ControlKind::Grid;
+        control.grid.emplace();
+        control.grid->rows = kGridRows;
+        for (int i = 0; i < kGridColumns; ++i) {
+            GridColumn column;
+            column.variable = "D0F";
+            column.caption = "Deflection";
+            column.picture = "##0.00";
+            control.grid->columns.push_back(column);
+        }
+        for (int row = 1; row <= kGridRows; ++row) {
+            program.state().dbWork.SetCell("D0F", row, 1, {row + 0.25, std::nullopt});
+        }
+    }
+
+    [[nodiscard]] GridHooks Hooks() const {
+        GridHooks hooks;
+        hooks.read = [this](int row, const GridColumn& column) {
+            return program.CellText(*program.state().formRegistry.Find("TabForm"), row, column);
+        };
+        hooks.moveTo = [](int, const GridColumn&) {};
+        return hooks;
+    }
+
+    Program& program;
+    Control control;
+};
+
+double TimeRepaints(QTableView& table) {
+    table.resize(kTableSize);
+    table.show();
+    QApplication::processEvents();
+    std::vector<double> times;
+    for (int i = 0; i < kRepetitions; ++i) {
+        times.push_back(Milliseconds([&] { table.viewport()->repaint(); }));
+    }
+    return Median(times);
+}
+
+void FillPlainTable(QTableWidget& table) {
+    table.setRowCount(kGridRows);
+    table.setColumnCount(kGridColumns);
+    for (int row = 0; row < kGridRows; ++row) {
+        for (int column = 0; column < kGridColumns; ++column) {
+            auto* item = new QTableWidgetItem(QString::number(row + 1.25, 'f', 2));
+            item->setTextAlignment(static_cast<int>(Qt::AlignRight | Qt::AlignVCenter));
+            table.setItem(row, column, item);
+        }
+    }
+}
+
+void TimeGrids(Program& program) {
+    const GridOfProject cells(program);
+    GridView grid(cells.control, cells.Hooks(), nullptr);
+    QTableWidget plain;
+    FillPlainTable(plain);
+    for (int i = 0; i < kGridColumns; ++i) plain.setColumnWidth(i, grid.columnWidth(i));
+    std::printf("%.6f\n", TimeRepaints(grid));
+    std::printf("%.6f\n", TimeRepaints(plain));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -77,6 +150,7 @@ int main(int argc, char** argv) {
         if (timings) {
             std::printf("%.6f\n", TimeOpening(desktop.window()));
             std::printf("%.6f\n", TimeKeys(desktop.window()));
+            TimeGrids(desktop.program());
         }
     });
     return QApplication::exec();

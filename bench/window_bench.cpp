@@ -14,6 +14,9 @@ constexpr int kStarts = 21;
 /// What the window may cost beside an empty one, in time and in memory.
 constexpr double kLongestRatio = 3.0;
 
+/// What painting a grid may cost beside a plain table of the toolkit.
+constexpr double kLongestGridRatio = 2.0;
+
 constexpr double kOpeningSeconds = 0.030;
 constexpr double kKeySeconds = 0.005;
 
@@ -35,14 +38,18 @@ std::vector<Comparison> CompareWindows(const Path& home) {
     std::string shown;
     double opening = 0.0;
     double key = 0.0;
-    answer >> shown >> opening >> key;
+    double grid = 0.0;
+    double plainTable = 0.0;
+    answer >> shown >> opening >> key >> grid >> plainTable;
     return {
         {"window, start to shown, beside an empty one", Quantity::Time, Median(runs.ours, &Started::seconds),
          Median(runs.reference, &Started::seconds), kLongestRatio},
         {"window, peak memory, beside an empty one", Quantity::Memory, Median(runs.ours, &Started::peakBytes),
          Median(runs.reference, &Started::peakBytes), kLongestRatio},
         Wait("a design screen opened, beside 30 ms", opening, kOpeningSeconds),
-        Wait("a key to the painted field, beside 5 ms", key, kKeySeconds)};
+        Wait("a key to the painted field, beside 5 ms", key, kKeySeconds),
+        {"a grid of 50 x 10 painted, beside a plain table", Quantity::Time, grid / 1e3, plainTable / 1e3,
+         kLongestGridRatio}};
 }
 
 }  // namespace kelvor::bench
