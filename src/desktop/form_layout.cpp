@@ -80,6 +80,14 @@ class LayoutMaker {
             case LayoutKind::Choice:
                 AddChoice(to, node);
                 break;
+            case LayoutKind::Matrix:
+                AddMatrix(to, node);
+                break;
+            case LayoutKind::Box:
+                to.addWidget(FixedBox(node.fields.front()));
+                break;
+            case LayoutKind::Part:
+            case LayoutKind::Caption:
             case LayoutKind::Picture:
             case LayoutKind::Verdict:
             case LayoutKind::Indicator:
@@ -216,6 +224,30 @@ class LayoutMaker {
         grid->setColumnMinimumWidth(kFieldColumns - 1,
                                     form_.fontMetrics().horizontalAdvance(QString(kUnitLetters, u'M')));
         grid->setColumnStretch(kFieldColumns - 1, 1);
+        to.addLayout(grid);
+    }
+
+    /// A line of text is as wide as its least width; a list may grow with its entries.
+    QWidget* FixedBox(const FieldItem& field) {
+        QWidget* box = find_(field.Box());
+        if (qobject_cast<QLineEdit*>(box) != nullptr) box->setFixedWidth(box->minimumWidth());
+        return box;
+    }
+
+    /// Elements in rows and columns. What takes several rows stands at their top.
+    void AddMatrix(QBoxLayout& to, const LayoutNode& node) {
+        auto* grid = new QGridLayout;
+        grid->setHorizontalSpacing(form_.fontMetrics().averageCharWidth());
+        int columns = 0;
+        for (const LayoutNode& element : node.children) {
+            auto* cell = new QVBoxLayout;
+            Add(*cell, element);
+            const MatrixPlace& place = element.place;
+            const Qt::Alignment side = place.rows > 1 ? Qt::AlignTop : Qt::Alignment();
+            grid->addLayout(cell, place.row, place.column, place.rows, 1, side);
+            columns = std::max(columns, place.column + 1);
+        }
+        grid->setColumnStretch(columns, 1);
         to.addLayout(grid);
     }
 
