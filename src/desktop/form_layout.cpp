@@ -241,14 +241,32 @@ class LayoutMaker {
         int columns = 0;
         for (const LayoutNode& element : node.children) {
             auto* cell = new QVBoxLayout;
-            Add(*cell, element);
+            AddCell(*cell, element);
             const MatrixPlace& place = element.place;
             const Qt::Alignment side = place.rows > 1 ? Qt::AlignTop : Qt::Alignment();
             grid->addLayout(cell, place.row, place.column, place.rows, 1, side);
             columns = std::max(columns, place.column + 1);
         }
+        SetRowsApart(*grid);
         grid->setColumnStretch(columns, 1);
         to.addLayout(grid);
+    }
+
+    /// An option stands in the line of the box beside it.
+    void AddCell(QBoxLayout& cell, const LayoutNode& element) {
+        if (element.kind != LayoutKind::Options) return Add(cell, element);
+        for (const ButtonItem& option : element.buttons) cell.addWidget(find_(option.name));
+    }
+
+    /// A row without elements sets those around it apart.
+    void SetRowsApart(QGridLayout& grid) {
+        for (int row = 0; row < grid.rowCount(); ++row) {
+            bool empty = true;
+            for (int column = 0; column < grid.columnCount(); ++column) {
+                empty = empty && grid.itemAtPosition(row, column) == nullptr;
+            }
+            if (empty) grid.setRowMinimumHeight(row, form_.fontMetrics().lineSpacing() / 2);
+        }
     }
 
     void AddOptions(QBoxLayout& to, const LayoutNode& node) {

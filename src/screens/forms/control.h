@@ -65,8 +65,9 @@ struct GridColumn {
 /// one.
 struct GridData {
     std::vector<GridColumn> columns;
-    int rows = 0;  // as many as the variables have cells
-    int row = 1;   // of the cursor, from 1
+    int rows = 0;       // as many as the variables have cells
+    int rowsShown = 0;  // before it scrolls; 0: as many as most grids show
+    int row = 1;        // of the cursor, from 1
     std::size_t column = 0;
     std::optional<std::string> typed;  // into the cell under the cursor, and not yet stored
 

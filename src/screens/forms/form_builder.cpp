@@ -317,6 +317,7 @@ class Builder {
         Control& control = Add(ControlKind::Grid, node.name);
         control.backColor = colours::kWindow;
         control.grid.emplace();
+        control.grid->rowsShown = node.rowsShown;
         for (const FieldItem& item : node.fields) {
             const Variable* variable = catalogue_.FindVariable(item.variable);
             GridColumn column;

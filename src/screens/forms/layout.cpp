@@ -116,9 +116,10 @@ LayoutNode Caption(std::string name, std::string text) {
     return Leaf(LayoutKind::Caption, std::move(name), std::move(text));
 }
 
-LayoutNode Grid(std::string name, std::vector<FieldItem> columns) {
+LayoutNode Grid(std::string name, std::vector<FieldItem> columns, int rowsShown) {
     LayoutNode node = Leaf(LayoutKind::Grid, std::move(name), {});
     node.fields = std::move(columns);
+    node.rowsShown = rowsShown;
     return node;
 }
 

@@ -85,6 +85,7 @@ struct LayoutNode {
     std::optional<ChartData> chart;
     MatrixPlace place;
     double letters = 0.0;        // the width of a picture; 0: as the start page has it
+    int rowsShown = 0;           // of a grid, before it scrolls; 0: as many as most show
     std::string words;           // what a picture shows
     bool sharesOptions = false;  // of a frame: its options and those around it exclude each other
 };
@@ -112,7 +113,7 @@ LayoutNode Picture(std::string name, std::string file);
 LayoutNode SmallPicture(std::string name, std::string file, double letters, std::string words);
 
 /// A table with a column for each variable; an item that is a list offers the list of the variable's name.
-LayoutNode Grid(std::string name, std::vector<FieldItem> columns);
+LayoutNode Grid(std::string name, std::vector<FieldItem> columns, int rowsShown = 0);
 
 /// A table of fixed texts with its headings in the first row. Its labels are called by the name, the row and
 /// the column, both from 1: Guide1_1.

@@ -9,7 +9,8 @@ namespace kelvor {
 
 namespace {
 
-constexpr double kColumnLetters = 14.0;
+constexpr double kColumnLetters = 16.0;
+constexpr int kRowsShown = 10;
 
 /// A parameter that was changed meanwhile reaches every row, and then the totals.
 void Activated(ScreenContext& context, Form& form, Control* /*control*/) {
@@ -31,11 +32,13 @@ FormType AxleDataForm() {
     type.caption = "ESAL Conversion From Axle Data";
     type.layout = Rows({
         TrafficInputCopies(),
-        Grid("Grid", {{.variable = "AxleType", .list = true, .words = AxleTypes(), .letters = kColumnLetters},
-                      {.variable = "AxleWeight", .letters = kColumnLetters},
-                      {.variable = "NumOfAxles", .letters = kColumnLetters},
-                      {.variable = "RE18", .letters = kColumnLetters},
-                      {.variable = "FE18", .letters = kColumnLetters}}),
+        Grid("Grid",
+             {{.variable = "AxleType", .list = true, .words = AxleTypes(), .letters = kColumnLetters},
+              {.variable = "AxleWeight", .letters = kColumnLetters},
+              {.variable = "NumOfAxles", .letters = kColumnLetters},
+              {.variable = "RE18", .letters = kColumnLetters},
+              {.variable = "FE18", .letters = kColumnLetters}},
+             kRowsShown),
         Columns({Fields({{.variable = "RIGE18", .label = "Total Rigid ESAL"}}),
                  Fields({{.variable = "FLEXE18", .label = "Total Flexible ESAL"}})}),
         Buttons({{"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}}),
