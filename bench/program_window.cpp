@@ -1,6 +1,7 @@
 // Shows the program's main window, says so, and ends. With --timings it goes on: how long a screen takes to
-// open, and how long a key takes until the field that it was typed into is painted again; then how long a grid of 50
-// rows by 10 columns takes to be painted, and a plain table of the toolkit with the same cells. In milliseconds.
+// open, and how long a key takes until the field that it was typed into is painted again; then how long a
+// grid of 50 rows by 10 columns takes to be painted, and a plain table of the toolkit with the same cells. In
+// milliseconds.
 //
 // Usage: kelvor-bench-window HOME [--timings]
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/number_text.h"
 #include "screens/forms/balance_state.h"
 #include "screens/forms/form_builder.h"
 #include "screens/forms/side_screen.h"
@@ -139,6 +140,10 @@ void ShowCalledField(ScreenContext& context, Form& form, const std::string& capt
     box->text =
         context.units.GetDisplayValue(variable->name, form.dim1().value_or(1), form.dim2().value_or(1));
     form.valueAtOpening = CalledField(context, form);
+}
+
+void DropCommas(ScreenContext& /*context*/, Form& /*form*/, Control* control) {
+    if (control->kind == ControlKind::TextBox && IsNumeric(control->text)) std::erase(control->text, ',');
 }
 
 void CloseValueHelp(ScreenContext& context, Form& form, Control* /*control*/) {
