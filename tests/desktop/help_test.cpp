@@ -15,8 +15,15 @@
 namespace kelvor::test {
 namespace {
 
+/// Gives a home the help file that was built.
+void LinkHelp(const TestHome& home) {
+    std::filesystem::create_directory_symlink(Path(KELVOR_HOME_FOLDER) / "Help", home / "Help");
+}
+
 class HelpTest : public DesktopTest {
   protected:
+    HelpTest() { LinkHelp(home); }
+
     void Raise(const UserEvent& event) { window().door().Raise(event); }
 
     /// The name of the page that the help window shows; empty if there is no window.
@@ -98,7 +105,6 @@ TEST_F(HelpTest, TheIndexAndTheSearchFindAWord) {
 
 TEST(HelpFileTest, AMissingOrBrokenHelpFileIsNotTold) {
     const TestHome home;
-    std::filesystem::remove(home / "Help");
     QuestionRecord record;
     DialogResponder responder(record);
     DesktopProgram desktop(home.home());

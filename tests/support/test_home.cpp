@@ -30,9 +30,6 @@ TestHome::TestHome() {
     std::filesystem::copy(built / "DataBase", folder_ / "DataBase", std::filesystem::copy_options::recursive);
     std::filesystem::copy(built / "kvor.ini", folder_ / "kvor.ini");
     std::filesystem::copy(built / "kvrwork.tpl", folder_ / "kvrwork.tpl");
-    if (std::filesystem::exists(built / "Help")) {  // it comes with the windows
-        std::filesystem::create_directory_symlink(built / "Help", folder_ / "Help");
-    }
 }
 
 std::string ReadFile(const Path& path) {
