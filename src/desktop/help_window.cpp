@@ -48,6 +48,7 @@ HelpWindow::HelpWindow()
     setWindowTitle(QStringLiteral("Kelvor Help"));
     setWindowIcon(AppIcon());
     setAttribute(Qt::WA_QuitOnClose, false);  // the program ends with its main window
+    text_->document()->setDocumentMargin(fontMetrics().lineSpacing());
     text_->setAccessibleName(QStringLiteral("Page"));
     auto* sides = new QSplitter(this);
     sides->addWidget(tabs_);

@@ -8,6 +8,7 @@
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 #include "desktop/desktop_fixture.h"
 #include "desktop/help_window.h"
@@ -58,9 +59,24 @@ TEST_F(HelpTest, F1OutsideAFieldTellsOfTheScreen) {
     EXPECT_EQ(Page(), "index.html") << "a form without a page of its own";
 }
 
+TEST_F(HelpTest, TheProgramEndsWithItsMainWindow) {
+    window().FindAction("MenuTopics")->trigger();
+    ASSERT_TRUE(desktop.helpWindow()->isVisible());
+    QApplication::setQuitOnLastWindowClosed(true);
+    QTimer::singleShot(0, &window(), [this] { window().close(); });
+    bool late = false;
+    QTimer::singleShot(5000, &window(), [&] {
+        late = true;
+        QApplication::quit();
+    });
+    QApplication::exec();
+    QApplication::setQuitOnLastWindowClosed(false);
+    EXPECT_FALSE(late);
+}
+
 TEST_F(HelpTest, EveryTabAndEveryScreenOfADesignHasAPage) {
     window().FindAction("MenuTopics")->trigger();
-    for (int tab = 0; tab < 8; ++tab) EXPECT_FALSE(Text("TabForm" + std::to_string(tab) + ".html").isEmpty());
+    for (int tab = 0; tab < 7; ++tab) EXPECT_FALSE(Text("TabForm" + std::to_string(tab) + ".html").isEmpty());
     for (const char* screen : {"DeF", "DeR", "DeS", "LayDet", "H_K", "H_SRM", "FirstDesign", "Differences"}) {
         EXPECT_FALSE(Text(std::string(screen) + ".html").isEmpty()) << screen;
     }
