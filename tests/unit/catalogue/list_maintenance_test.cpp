@@ -145,11 +145,13 @@ TEST_F(ListMaintenanceTest, TextsAreStoredAsTheyStand) {
 }
 
 TEST_F(ListMaintenanceTest, AStatementThatFailsLeavesTheListAsItWas) {
-    const ListRow row = RowOf("Tandem");
-    RunSql("CREATE TRIGGER no_delete BEFORE DELETE ON Value BEGIN SELECT RAISE(ABORT, 'no'); END");
-    EXPECT_THROW(lists_.DeleteRows(kAxles, row), DatabaseError);
+    RunSql("DROP TABLE ValueDefault");
     EXPECT_THROW(lists_.Restore(kAxles), DatabaseError);
     EXPECT_THAT(Values(kAxles), ElementsAre("Single", "Tandem", "Tridem"));
+    const ListRow row = RowOf("Tandem");
+    RunSql("DROP TABLE Value");
+    EXPECT_THROW(lists_.DeleteRows(kAxles, row), DatabaseError);
+    EXPECT_THROW(lists_.AddRow(kAxles), DatabaseError);
 }
 
 }  // namespace
