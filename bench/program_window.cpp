@@ -76,7 +76,7 @@ constexpr QSize kTableSize(1200, 1700);
 
 /// The cells of an open project, as a form's grid reads them.
 struct GridOfProject {
-    explicit GridOfProject(Program& program) : program(program) {
+    explicit GridOfProject(Program& owner) : program(owner) {
         control.kind = ControlKind::Grid;
         control.grid.emplace();
         control.grid->rows = kGridRows;
@@ -88,7 +88,7 @@ struct GridOfProject {
             control.grid->columns.push_back(column);
         }
         for (int row = 1; row <= kGridRows; ++row) {
-            program.state().dbWork.SetCell("D0F", row, 1, {row + 0.25, std::nullopt});
+            owner.state().dbWork.SetCell("D0F", row, 1, {row + 0.25, std::nullopt});
         }
     }
 

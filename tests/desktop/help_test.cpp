@@ -53,7 +53,12 @@ TEST_F(HelpTest, F1OutsideAFieldTellsOfTheScreen) {
     Raise({UserEvent::Kind::OpenForm, "DeF", {}, 0});
     Raise({UserEvent::Kind::Focus, "Command1", {}, 0});
     Raise({UserEvent::Kind::Key, "F1", {}, 0});
-    EXPECT_EQ(Page(), "DeF.html");
+    EXPECT_EQ(state().formRegistry.CurrentForm->name(), "HelpForm") << "the help of the field before it";
+    EXPECT_EQ(Page(), "TabForm2.html");
+    Raise({UserEvent::Kind::Key, "Esc", {}, 0});
+    Raise({UserEvent::Kind::OpenForm, "H_SN", {}, 0});
+    Raise({UserEvent::Kind::Key, "F1", {}, 0});
+    EXPECT_EQ(Page(), "index.html") << "a form without a page of its own";
     Raise({UserEvent::Kind::OpenForm, "About", {}, 0});
     Raise({UserEvent::Kind::Key, "F1", {}, 0});
     EXPECT_EQ(Page(), "index.html") << "a form without a page of its own";
