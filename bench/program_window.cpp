@@ -122,7 +122,7 @@ void FillPlainTable(QTableWidget& table) {
     for (int row = 0; row < kGridRows; ++row) {
         for (int column = 0; column < kGridColumns; ++column) {
             auto* item = new QTableWidgetItem(QString::number(row + 1.25, 'f', 2));
-            item->setTextAlignment(static_cast<int>(Qt::AlignRight | Qt::AlignVCenter));
+            item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
             table.setItem(row, column, item);
         }
     }
