@@ -1,6 +1,7 @@
 // Shows the program's main window, says so, and ends. With --timings it goes on: how long a screen takes to
-// open, and how long a key takes until the field that it was typed into is painted again; then how long a grid of 50
-// rows by 10 columns takes to be painted, and a plain table of the toolkit with the same cells. In milliseconds.
+// open, and how long a key takes until the field that it was typed into is painted again; then how long a
+// grid of 50 rows by 10 columns takes to be painted, and a plain table of the toolkit with the same cells. In
+// milliseconds.
 //
 // Usage: kelvor-bench-window HOME [--timings]
 
@@ -75,7 +76,7 @@ constexpr QSize kTableSize(1200, 1700);
 
 /// The cells of an open project, as a form's grid reads them.
 struct GridOfProject {
-    explicit GridOfProject(Program& program) : program(program) {
+    explicit GridOfProject(Program& owner) : program(owner) {
         control.kind = ControlKind::Grid;
         control.grid.emplace();
         control.grid->rows = kGridRows;
@@ -87,7 +88,7 @@ struct GridOfProject {
             control.grid->columns.push_back(column);
         }
         for (int row = 1; row <= kGridRows; ++row) {
-            program.state().dbWork.SetCell("D0F", row, 1, {row + 0.25, std::nullopt});
+            owner.state().dbWork.SetCell("D0F", row, 1, {row + 0.25, std::nullopt});
         }
     }
 
@@ -121,7 +122,7 @@ void FillPlainTable(QTableWidget& table) {
     for (int row = 0; row < kGridRows; ++row) {
         for (int column = 0; column < kGridColumns; ++column) {
             auto* item = new QTableWidgetItem(QString::number(row + 1.25, 'f', 2));
-            item->setTextAlignment(static_cast<int>(Qt::AlignRight | Qt::AlignVCenter));
+            item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
             table.setItem(row, column, item);
         }
     }

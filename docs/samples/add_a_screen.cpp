@@ -28,7 +28,7 @@ FormType SubgradeForm() {
     type.caption = "Subgrade";
     type.layout = Rows({
         Frame("Frame1", "Subgrade", {Fields({{"MRSG"}, {"K"}})}),
-        Buttons({{"cmdAction", "&OK"}, {"SSHelp", "Hel&p", true}}),
+        Buttons({{"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}}),
     });
     type.handlers = {{FormEvent::LostFocus, "MRSG", HandlerOrder::After, ModulusLeft}};
     return type;

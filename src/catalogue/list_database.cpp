@@ -34,7 +34,7 @@ std::vector<std::int64_t> RowsLike(SQLite::Database& database, const std::string
 }
 
 void DeleteById(SQLite::Database& database, std::int64_t id) {
-    SQLite::Statement row(database, "DELETE FROM \"Value\" WHERE rowid = ?");
+    SQLite::Statement row(database, R"(DELETE FROM "Value" WHERE rowid = ?)");
     row.bind(1, id);
     row.exec();
 }
@@ -78,7 +78,7 @@ std::vector<std::string> ListDatabase::Descriptions() {
 std::vector<ListRow> ListDatabase::Rows(const std::string& description) {
     try {
         std::vector<ListRow> found;
-        SQLite::Statement row(database_, "SELECT Name, Sort, \"Value\" FROM \"Value\" WHERE rowid = ?");
+        SQLite::Statement row(database_, R"(SELECT Name, Sort, "Value" FROM "Value" WHERE rowid = ?)");
         for (const std::int64_t id : RowsLike(database_, "Value", description)) {
             row.reset();
             row.bind(1, id);
@@ -99,7 +99,7 @@ void ListDatabase::AddRow(const std::string& description) {
     const double last = rows.empty() ? 0.0 : rows.back().sort.value_or(0.0);
     Change([&] {
         SQLite::Statement insert(database_,
-                                 "INSERT INTO \"Value\" (Sort, Description, Name) VALUES (?, ?, ?)");
+                                 R"(INSERT INTO "Value" (Sort, Description, Name) VALUES (?, ?, ?))");
         insert.bind(1, last + 1.0);
         insert.bind(2, description);
         insert.bind(3, rows.empty() ? std::string() : rows.back().name);
@@ -134,7 +134,7 @@ void ListDatabase::Restore(const std::string& description) {
 void ListDatabase::Write(const ListRow& row) {
     Change([&] {
         SQLite::Statement update(database_,
-                                 "UPDATE \"Value\" SET Name = ?, Sort = ?, \"Value\" = ? WHERE rowid = ?");
+                                 R"(UPDATE "Value" SET Name = ?, Sort = ?, "Value" = ? WHERE rowid = ?)");
         update.bind(1, row.name);
         if (row.sort) update.bind(2, *row.sort);
         if (!row.value.empty()) update.bind(3, row.value);

@@ -22,6 +22,9 @@ class DesktopProgram {
 
     [[nodiscard]] Program& program() { return program_; }
 
+    /// The window of the help; null until it was asked for.
+    [[nodiscard]] HelpWindow* helpWindow() const { return dialogs_.helpWindow(); }
+
     /// Only after a start that did not fail.
     [[nodiscard]] MainWindow& window() { return *window_; }
 

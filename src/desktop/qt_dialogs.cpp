@@ -118,6 +118,11 @@ std::optional<Path> QtDialogs::AskFile(const FileRequest& request) {
     return Path(FromQt(dialog.selectedFiles().constFirst()));
 }
 
+void QtDialogs::ShowHelp(const HelpRequest& request) {
+    if (help_ == nullptr) help_ = HelpWindow::Open(request.file);
+    if (help_ != nullptr) help_->ShowPage(request.page);
+}
+
 void QtDialogs::SetWaitCursor(bool on) {
     if (on == waiting_) return;
     waiting_ = on;

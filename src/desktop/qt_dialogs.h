@@ -2,7 +2,9 @@
 
 #include <QPointer>
 #include <QWidget>
+#include <memory>
 
+#include "desktop/help_window.h"
 #include "platform/dialogs.h"
 
 namespace kelvor {
@@ -18,9 +20,14 @@ class QtDialogs : public Dialogs {
     std::optional<std::string> AskText(const InputRequest& request) override;
     std::optional<Path> AskFile(const FileRequest& request) override;
     void SetWaitCursor(bool on) override;
+    void ShowHelp(const HelpRequest& request) override;
+
+    /// The window of the help; null until it was asked for.
+    [[nodiscard]] HelpWindow* helpWindow() const { return help_.get(); }
 
   private:
     QPointer<QWidget> parent_;
+    std::unique_ptr<HelpWindow> help_;
     bool waiting_ = false;
 };
 

@@ -20,7 +20,11 @@ FormType AboutForm() {
              "by the 1993 AASHTO Guide for Design of Pavement Structures."),
         Buttons({{"cmdAction", "&OK"}}),
     });
-    type.handlers = {{FormEvent::Load, "", HandlerOrder::Instead, [](ScreenContext&, Form&, Control*) {}}};
+    type.handlers = {
+        {FormEvent::Load, "", HandlerOrder::Instead, [](ScreenContext&, Form&, Control*) {}},
+        {FormEvent::Activate, "", HandlerOrder::After,
+         [](ScreenContext&, Form& form, Control*) { form.focus = form.Find("cmdAction"); }},
+    };
     return type;
 }
 

@@ -314,6 +314,38 @@ TEST_F(WindowTest, EscShowsTheStoredValueAgain) {
     EXPECT_EQ(Shown("FLEXE18"), "8") << "the value is selected as a whole again";
 }
 
+// --- Rigid design ------------------------------------------------------------------------------------------
+
+TEST_F(WindowTest, FromTheStartToASolvedSlabWithKFromItsHelpByKeysAlone) {
+    Press(Qt::Key_PageDown, Qt::ControlModifier);  // from the start tab round to the first one
+    Press(Qt::Key_PageDown, Qt::ControlModifier);
+    Press(Qt::Key_PageDown, Qt::ControlModifier);
+    while (FocusName() != "oDeR") Press(Qt::Key_Tab);
+    Press(Qt::Key_Return);
+    Press(Qt::Key_D, Qt::AltModifier);
+    ASSERT_EQ(FocusName(), "DEPTH");
+    Press(Qt::Key_Return);
+    for (const char* value : {"5,000,000", "95", "0.35", "650", "4,000,000", "3.2"}) TypeAndEnter(value);
+    ASSERT_EQ(FocusName(), "K");
+    Press(Qt::Key_F1);
+    ASSERT_EQ(FocusName(), "MRSG");
+    TypeAndEnter("7000");
+    TypeAndEnter("15000");
+    TypeAndEnter("6");
+    Press(Qt::Key_O, Qt::AltModifier);
+    ASSERT_EQ(FocusName(), "K");
+    EXPECT_EQ(Shown("K"), "335.7");
+    Press(Qt::Key_Return);
+    for (const char* value : {"1", "4.5", "2.5"}) TypeAndEnter(value);
+    EXPECT_EQ(FocusName(), "Command1");
+    while (FocusName() != "DEPTH") Press(Qt::Key_Backtab);
+    Press(Qt::Key_S, Qt::AltModifier);
+    EXPECT_THAT(Messages(), IsEmpty());
+    // The 1993 design equation for these inputs, solved by bisection beside the program: 8.96 inches.
+    EXPECT_EQ(Shown("DEPTH"), "9.0");
+    EXPECT_EQ(Indicator(), "Slab Thickness, D\n9.0 in");
+}
+
 // --- Grids -----------------------------------------------------------------------------------------------
 
 class GridWindowTest : public WindowTest {

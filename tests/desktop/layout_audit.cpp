@@ -4,12 +4,14 @@
 #include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMap>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTableView>
 #include <algorithm>
 #include <cmath>
 
@@ -95,6 +97,23 @@ Complaints FindCutWidgets(const QWidget& form) {
         if (widget->width() >= needed.width() && widget->height() >= needed.height()) continue;
         complaints.push_back(NameOf(*widget) + " is " + SizeText(widget->size()) + " and needs " +
                              SizeText(needed));
+    }
+    return complaints;
+}
+
+Complaints FindCutHeadings(const QWidget& form) {
+    Complaints complaints;
+    for (const auto* table : form.findChildren<QTableView*>()) {
+        const QHeaderView& header = *table->horizontalHeader();
+        for (int i = 0; table->isVisibleTo(&form) && i < header.count(); ++i) {
+            const QString text = table->model()->headerData(i, Qt::Horizontal).toString();
+            const QRect room(0, 0, header.sectionSize(i) - header.fontMetrics().averageCharWidth(),
+                             QWIDGETSIZE_MAX);
+            const QRect needed =
+                header.fontMetrics().boundingRect(room, Qt::AlignCenter | Qt::TextWordWrap, text);
+            if (needed.width() <= room.width() && needed.height() <= header.height()) continue;
+            complaints.push_back("the heading " + text.toStdString() + " is cut");
+        }
     }
     return complaints;
 }

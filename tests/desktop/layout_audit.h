@@ -17,6 +17,9 @@ std::vector<QWidget*> VisibleLeaves(const QWidget& form);
 /// No widget is smaller than its content asks.
 Complaints FindCutWidgets(const QWidget& form);
 
+/// Headings of tables that have no room for their words or for their lines.
+Complaints FindCutHeadings(const QWidget& form);
+
 /// No two widgets lie over each other, and none reaches out of the form.
 Complaints FindOverlaps(const QWidget& form);
 

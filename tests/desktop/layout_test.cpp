@@ -9,6 +9,7 @@
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QTableWidget>
 #include <QTest>
 
 #include "desktop/desktop_fixture.h"
@@ -81,6 +82,7 @@ class LayoutTest : public DesktopTest {
 
     void Audit(const FormView& view) {
         EXPECT_THAT(FindCutWidgets(view), IsEmpty());
+        EXPECT_THAT(FindCutHeadings(view), IsEmpty());
         EXPECT_THAT(FindOverlaps(view), IsEmpty());
         EXPECT_THAT(FindTabOrderBreaks(view, TabOrder(view)), IsEmpty());
         EXPECT_THAT(FindDoubleAccessKeys(view, *window().menuBar()), IsEmpty());
@@ -162,6 +164,17 @@ TEST(LayoutAuditTest, FindsWhatIsCut) {
     EXPECT_THAT(FindCutWidgets(form), SizeIs(1));
     form.findChild<QLabel*>("narrow")->resize(2000, 100);
     EXPECT_THAT(FindCutWidgets(form), IsEmpty());
+}
+
+TEST(LayoutAuditTest, FindsAHeadingThatIsCut) {
+    QWidget form;
+    QTableWidget table(1, 2, &form);
+    table.setHorizontalHeaderLabels({QStringLiteral("One"), QStringLiteral("Thickness of the layer")});
+    table.resize(400, 200);
+    form.show();
+    EXPECT_THAT(FindCutHeadings(form), SizeIs(1));
+    table.setColumnWidth(1, 300);
+    EXPECT_THAT(FindCutHeadings(form), IsEmpty());
 }
 
 TEST(LayoutAuditTest, FindsWhatLiesOverAnotherOrReachesOut) {

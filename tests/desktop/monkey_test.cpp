@@ -30,8 +30,8 @@ constexpr Qt::Key kKeys[] = {
 constexpr Qt::Key kAltKeys[] = {Qt::Key_S, Qt::Key_O, Qt::Key_D, Qt::Key_A, Qt::Key_R, Qt::Key_T, Qt::Key_Q};
 constexpr Qt::Key kControlKeys[] = {Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_A, Qt::Key_C,
                                     Qt::Key_V,      Qt::Key_X,        Qt::Key_Z, Qt::Key_Tab};
-constexpr const char* kMenus[] = {"MenuUnitsEnglish", "MenuUnitsMetric", "NewProj", "MenuFileSave",
-                                  "MenuFileOpen"};
+constexpr const char* kMenus[] = {"MenuUnitsEnglish", "MenuUnitsMetric", "NewProj",     "MenuFileSave",
+                                  "MenuAbout",        "mnuRecentFile",   "MenuFileOpen"};
 constexpr const char* kAnswers[] = {"ok", "cancel", "yes", "no"};
 
 class MonkeyTest : public DesktopTest {

@@ -62,11 +62,17 @@ ControlKind KindOf(const QWidget& widget) {
     return ControlKind::Label;
 }
 
-/// A caption without the mark that the view put in, and with the line ends of the model.
+/// True for the sunken label of an indicator, whose caption has the line ends of the model.
+bool IsIndicator(const QWidget& widget) {
+    const auto* label = qobject_cast<const QLabel*>(&widget);
+    return label != nullptr && label->frameShadow() == QFrame::Sunken;
+}
+
+/// A caption without the mark that the view put in.
 std::string CaptionText(const QWidget& widget, QString text) {
     const auto mark = widget.property(kAddedMarkProperty).value<qsizetype>();
     if (mark >= 0 && mark < text.size() && text[mark] == u'&') text.remove(mark, 1);
-    return FromQt(text.replace("\n", "\r\n"));
+    return FromQt(IsIndicator(widget) ? text.replace("\n", "\r\n") : text);
 }
 
 std::string TextOf(const QWidget& widget) {

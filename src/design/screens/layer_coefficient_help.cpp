@@ -50,6 +50,7 @@ FormType CoefficientHelp(const char* name, const char* caption, std::vector<std:
         Hidden(std::move(hidden)),
     });
     type.handlers = {{FormEvent::Load, "", HandlerOrder::After, Load},
+                     {FormEvent::LostFocus, "", HandlerOrder::Before, DropCommas},
                      {FormEvent::Unload, "", HandlerOrder::Before, CloseValueHelp}};
     return type;
 }

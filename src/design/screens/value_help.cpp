@@ -25,6 +25,7 @@ FormType PlainValueHelp(const char* name) {
         Hidden({"FieldName", "FormName", "Dim1", "Dim2"}),
     });
     type.handlers = {{FormEvent::Load, "", HandlerOrder::After, Load},
+                     {FormEvent::LostFocus, "", HandlerOrder::Before, DropCommas},
                      {FormEvent::Unload, "", HandlerOrder::Before, CloseValueHelp}};
     return type;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/number_text.h"
 #include "screens/forms/balance_state.h"
 #include "screens/forms/coded_list.h"
 #include "screens/forms/field_entry.h"
@@ -136,6 +137,10 @@ void ShowCalledField(ScreenContext& context, Form& form, const std::string& capt
     if (field.locked) LockBox(*box, field.computed);
     ShowStoredValue(context, form, *box);
     form.valueAtOpening = CalledField(context, form);
+}
+
+void DropCommas(ScreenContext& /*context*/, Form& /*form*/, Control* control) {
+    if (control->kind == ControlKind::TextBox && IsNumeric(control->text)) std::erase(control->text, ',');
 }
 
 void CloseValueHelp(ScreenContext& context, Form& form, Control* /*control*/) {

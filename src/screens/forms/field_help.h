@@ -18,6 +18,9 @@ void OpenFieldHelp(ScreenContext& context, Form& form);
 /// from a list. An empty start leaves the caption as it is.
 void ShowCalledField(ScreenContext& context, Form& form, const std::string& captionStart = {});
 
+/// Before such a box is left: a number is stored without the commas that group its digits.
+void DropCommas(ScreenContext& context, Form& form, Control* control);
+
 /// The close of such a help screen: the caller is told whether the field has a new value.
 void CloseValueHelp(ScreenContext& context, Form& form, Control* control);
 

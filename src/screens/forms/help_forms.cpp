@@ -35,6 +35,7 @@ void LimitsClick(ScreenContext& context, Form& form, Control* /*button*/) {
 std::vector<Handler> ValueHelpHandlers() {
     return {
         {FormEvent::Load, "", HandlerOrder::After, Load},
+        {FormEvent::LostFocus, "", HandlerOrder::Before, DropCommas},
         {FormEvent::Unload, "", HandlerOrder::Before, CloseValueHelp},
         {FormEvent::Click, "Command1", HandlerOrder::Instead, CloseClick},
         {FormEvent::Click, "SSHelp", HandlerOrder::Instead, LimitsClick},

@@ -1,0 +1,125 @@
+#include "desktop/help_window.h"
+
+#include <QHelpContentWidget>
+#include <QHelpIndexWidget>
+#include <QHelpLink>
+#include <QHelpSearchEngine>
+#include <QHelpSearchQueryWidget>
+#include <QHelpSearchResultWidget>
+#include <QLineEdit>
+#include <QSplitter>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include "desktop/app_icon.h"
+#include "desktop/qt_text.h"
+
+namespace kelvor {
+
+namespace {
+
+const char* const kPages = "qthelp://kelvor.help/help/";
+const char* const kContents = "index.html";
+constexpr int kColumns = 120;
+constexpr int kLines = 36;
+constexpr int kTabColumns = 38;
+
+/// Reads the pages out of the help file.
+class HelpBrowser : public QTextBrowser {
+  public:
+    HelpBrowser(QHelpEngine& engine, QWidget* parent) : QTextBrowser(parent), engine_(engine) {}
+
+    QVariant loadResource(int type, const QUrl& name) override {
+        if (name.scheme() == QStringLiteral("qthelp")) return engine_.fileData(name);
+        return QTextBrowser::loadResource(type, name);
+    }
+
+  private:
+    QHelpEngine& engine_;
+};
+
+}  // namespace
+
+HelpWindow::HelpWindow()
+    : engine_(folder_.filePath(QStringLiteral("help.qhc"))),
+      tabs_(new QTabWidget(this)),
+      text_(new HelpBrowser(engine_, this)) {
+    engine_.setReadOnly(false);
+    setWindowTitle(QStringLiteral("Kelvor Help"));
+    setWindowIcon(AppIcon());
+    setAttribute(Qt::WA_QuitOnClose, false);  // the program ends with its main window
+    text_->document()->setDocumentMargin(fontMetrics().lineSpacing());
+    text_->setAccessibleName(QStringLiteral("Page"));
+    auto* sides = new QSplitter(this);
+    sides->addWidget(tabs_);
+    sides->addWidget(text_);
+    sides->setStretchFactor(1, 1);
+    setCentralWidget(sides);
+    const int letter = fontMetrics().averageCharWidth();
+    sides->setSizes({kTabColumns * letter, (kColumns - kTabColumns) * letter});
+    resize(kColumns * letter, kLines * fontMetrics().lineSpacing());
+}
+
+std::unique_ptr<HelpWindow> HelpWindow::Open(const Path& file) {
+    std::unique_ptr<HelpWindow> window(new HelpWindow);
+    if (!window->Load(file)) return nullptr;
+    window->MakeTabs();
+    return window;
+}
+
+bool HelpWindow::Load(const Path& file) {
+    return folder_.isValid() && engine_.setupData() && engine_.registerDocumentation(ToQt(file.string())) &&
+           engine_.setupData();
+}
+
+void HelpWindow::MakeTabs() {
+    tabs_->addTab(engine_.contentWidget(), QStringLiteral("&Contents"));
+    tabs_->addTab(engine_.indexWidget(), QStringLiteral("&Index"));
+    connect(engine_.contentWidget(), &QHelpContentWidget::linkActivated, text_,
+            [this](const QUrl& page) { text_->setSource(page); });
+    connect(engine_.contentModel(), &QHelpContentModel::contentsCreated, engine_.contentWidget(),
+            [this] { engine_.contentWidget()->expandToDepth(0); });
+    connect(engine_.indexWidget(), &QHelpIndexWidget::documentActivated, text_,
+            [this](const QHelpLink& link) { text_->setSource(link.url); });
+    MakeSearch();
+    AddTool(QStringLiteral("&Back"), QKeySequence::Back, &QTextBrowser::backward);
+    AddTool(QStringLiteral("&Forward"), QKeySequence::Forward, &QTextBrowser::forward);
+}
+
+void HelpWindow::MakeSearch() {
+    QHelpSearchEngine* search = engine_.searchEngine();
+    auto* page = new QWidget(this);
+    auto* rows = new QVBoxLayout(page);
+    rows->addWidget(search->queryWidget());
+    rows->addWidget(search->resultWidget(), 1);
+    tabs_->addTab(page, QStringLiteral("&Search"));
+    connect(search->queryWidget(), &QHelpSearchQueryWidget::search, this,
+            [search] { search->search(search->queryWidget()->searchInput()); });
+    connect(search->resultWidget(), &QHelpSearchResultWidget::requestShowLink, text_,
+            [this](const QUrl& found) { text_->setSource(found); });
+    search->scheduleIndexDocumentation();
+}
+
+void HelpWindow::AddTool(const QString& caption, const QKeySequence& key, void (QTextBrowser::*act)()) {
+    QToolBar* bar = findChild<QToolBar*>();
+    if (bar == nullptr) bar = addToolBar(QStringLiteral("Pages"));
+    bar->setMovable(false);
+    QAction* action = bar->addAction(caption);
+    action->setShortcut(key);
+    connect(action, &QAction::triggered, text_, [this, act] { (text_->*act)(); });
+}
+
+void HelpWindow::ShowPage(const std::string& name) {
+    const QUrl wanted(QString::fromLatin1(kPages) + ToQt(name) + ".html");
+    const bool there = !name.empty() && !engine_.fileData(wanted).isEmpty();
+    text_->setSource(there ? wanted : QUrl(QString::fromLatin1(kPages) + kContents));
+    show();
+    raise();
+    activateWindow();
+}
+
+QUrl HelpWindow::page() const { return text_->source(); }
+
+void HelpWindow::Search(const QString& words) { engine_.searchEngine()->search(words); }
+
+}  // namespace kelvor
