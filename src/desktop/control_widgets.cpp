@@ -179,7 +179,7 @@ QWidget* MakeWidget(const Control& control, QWidget* parent) {
         case ControlKind::Label:
             return MakeLabel(control, parent);
         case ControlKind::Image:
-            return new PictureView(control.text, control.letters, parent);
+            return new PictureView(control.text, parent, control.letters);
         case ControlKind::TextBox:
             return MakeTextBox(control, parent);
         case ControlKind::ComboBox:

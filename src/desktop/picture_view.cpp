@@ -21,7 +21,7 @@ constexpr double kLettersWide = 64.0;
 
 }  // namespace
 
-PictureView::PictureView(const std::string& file, double letters, QWidget* parent)
+PictureView::PictureView(const std::string& file, QWidget* parent, double letters)
     : QWidget(parent),
       file_(file),
       letters_(letters > 0.0 ? letters : kLettersWide),

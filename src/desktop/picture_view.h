@@ -10,7 +10,7 @@ namespace kelvor {
 class PictureView : public QWidget {
   public:
     /// `letters` is its width, in letters of the system's font; 0: that of the start page.
-    PictureView(const std::string& file, double letters, QWidget* parent);
+    PictureView(const std::string& file, QWidget* parent, double letters = 0.0);
 
     [[nodiscard]] const std::string& file() const { return file_; }
     [[nodiscard]] bool isDrawn() const { return drawing_.isValid(); }

@@ -221,7 +221,7 @@ class Builder {
     void AddPicture(const LayoutNode& node) {
         Control& picture = Add(ControlKind::Image, node.name);
         picture.text = node.title;
-        picture.toolTip = node.words;
+        picture.toolTip = node.shows;
         picture.letters = node.letters;
     }
 

@@ -89,10 +89,10 @@ LayoutNode Picture(std::string name, std::string file) {
     return Leaf(LayoutKind::Picture, std::move(name), std::move(file));
 }
 
-LayoutNode SmallPicture(std::string name, std::string file, double letters, std::string words) {
+LayoutNode SmallPicture(std::string name, std::string file, double letters, std::string shows) {
     LayoutNode node = Picture(std::move(name), std::move(file));
     node.letters = letters;
-    node.words = std::move(words);
+    node.shows = std::move(shows);
     return node;
 }
 

@@ -86,7 +86,7 @@ struct LayoutNode {
     MatrixPlace place;
     double letters = 0.0;        // the width of a picture; 0: as the start page has it
     int rowsShown = 0;           // of a grid, before it scrolls; 0: as many as most show
-    std::string words;           // what a picture shows
+    std::string shows;           // what a picture shows, in words
     bool sharesOptions = false;  // of a frame: its options and those around it exclude each other
 };
 
@@ -110,7 +110,7 @@ LayoutNode Verdict(std::string name);
 LayoutNode Picture(std::string name, std::string file);
 
 /// A drawing among fields, so many letters wide, with what it shows in words.
-LayoutNode SmallPicture(std::string name, std::string file, double letters, std::string words);
+LayoutNode SmallPicture(std::string name, std::string file, double letters, std::string shows);
 
 /// A table with a column for each variable; an item that is a list offers the list of the variable's name.
 LayoutNode Grid(std::string name, std::vector<FieldItem> columns, int rowsShown = 0);
