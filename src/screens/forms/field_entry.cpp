@@ -128,7 +128,7 @@ void FindControlIndex(Form& form, std::string_view controlName) {
 }
 
 bool FieldLostFocus(ScreenContext& context, Form& form, Control& control) {
-    if (!IsOffered(control)) {
+    if (form.fieldChanged() && !IsOffered(control)) {
         context.calc.dialogs.ShowMessage({.text = "Please select item from the list", .title = "List"});
         return Refuse(form, control);
     }
@@ -153,6 +153,16 @@ void RestoreField(ScreenContext& context, Form& form, Control& control) {
     control.text =
         context.units.GetDisplayValue(control.tag, form.dim1().value_or(1), form.dim2().value_or(1));
     form.SetFieldChanged(false);
+}
+
+double FieldNumber(const ScreenContext& context, const Form& form, const Control& box) {
+    if (box.text.empty()) return 0.0;
+    const bool typing = form.focus == &box && form.fieldChanged();
+    const Variable* variable = context.catalogue.FindVariable(box.tag);
+    const CellValue* cell =
+        context.calc.store.FindCell(box.tag, form.dim1().value_or(1), form.dim2().value_or(1));
+    if (typing || variable == nullptr || cell == nullptr || !cell->number) return ParseNumber(box.text);
+    return *cell->number * context.units.UnitFactor(variable->units);
 }
 
 }  // namespace kelvor

@@ -114,6 +114,7 @@ void OpenFieldHelp(ScreenContext& context, Form& form) {
     if (subject.variable.empty()) {
         Say(context, "Please select field first.");
     } else if (const HelpRoute* route = FindRoute(form.type(), subject.variable)) {
+        StoreCall(context, form, subject);
         OpenSideScreen(context, route->form, MakeCall(form, subject.variable, subject.row));
     } else {
         OpenGeneralHelp(context, form, subject);
@@ -147,7 +148,7 @@ void DropCommas(ScreenContext& /*context*/, Form& /*form*/, Control* control) {
 }
 
 void CloseValueHelp(ScreenContext& context, Form& form, Control* /*control*/) {
-    ReturnFromSideScreen(context, form, CalledField(context, form) != form.valueAtOpening);
+    ReturnFromSideScreen(context, form, !IsSameValue(CalledField(context, form), form.valueAtOpening));
 }
 
 }  // namespace kelvor

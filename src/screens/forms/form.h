@@ -92,6 +92,7 @@ class Form {
     std::optional<SideScreenReturn> returned;  // until the form is activated again
     std::array<std::string, 2> solvedFor;      // the variables that the indicators show
     CellValue valueAtOpening;                  // of a side screen: of the field it was opened for
+    bool refused = false;                      // the value that was being typed when a field was left last
     bool workedOut = false;                    // of a side screen: it has worked out a value for that field
 
   private:

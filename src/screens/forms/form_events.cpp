@@ -94,7 +94,9 @@ void FormEvents::TakeReturn(Form& form, const SideScreenReturn& returned) {
     FocusFirstField(form);
     Control* caller = grid != nullptr ? grid : form.FindField(returned.field);
     if (caller != nullptr && form.CanFocus(*caller)) GetFocus(form, *caller);
-    if (returned.valueTaken) WarnOfChange(context_, form, returned.field);
+    if (!returned.valueTaken) return;
+    if (grid == nullptr && caller != nullptr) Handle(FormEvent::Stored, form, caller, [] {});
+    WarnOfChange(context_, form, returned.field);
 }
 
 /// A form without a field that takes the focus has it on its first button.
@@ -128,8 +130,14 @@ void FormEvents::Unload(Form& form) {
 }
 
 void FormEvents::ActivateFront() {
-    if (Current() != nullptr) return;
-    if (Form* front = context_.forms.Front()) Activate(*front);
+    Form* current = Current();
+    if (current == nullptr) {
+        if (Form* front = context_.forms.Front()) Activate(*front);
+    } else if (current->returned && Commit()) {
+        // Its side screen was closed from outside: it takes the value over as if it had come in front.
+        context_.forms.CurrentForm = nullptr;
+        Activate(*current);
+    }
 }
 
 void FormEvents::UnloadAll() {
@@ -150,7 +158,10 @@ bool FormEvents::LoseFocus(Form& form, Control& control) {
     if (control.grid) return CommitCell(form, control);
     if (!control.IsField()) return accepted;
     const bool changed = form.fieldChanged();
-    Handle(FormEvent::LostFocus, form, &control, [&] { accepted = FieldLostFocus(context_, form, control); });
+    Handle(FormEvent::LostFocus, form, &control, [&] {
+        accepted = FieldLostFocus(context_, form, control);
+        form.refused = !accepted;
+    });
     if (accepted && changed) Handle(FormEvent::Stored, form, &control, [] {});
     return accepted;
 }
