@@ -377,6 +377,20 @@ bool FormEvents::Choose(Form& form, Control& control, const std::string& item) {
     return true;
 }
 
+// --- Projects ---------------------------------------------------------------------------------------------
+
+void FormEvents::ShowProject(Form& form) {
+    if (form.type().isHub || !form.type().needsProject) return;
+    if (context_.calc.store.IsOpen()) {
+        RefreshScreen(context_, form);
+        return;
+    }
+    for (const auto& control : form.controls()) {
+        if (control->IsField()) control->text.clear();
+    }
+    form.SetFieldChanged(false);
+}
+
 // --- Units ------------------------------------------------------------------------------------------------
 
 void FormEvents::AfterUnitSwitch() {
