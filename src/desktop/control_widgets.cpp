@@ -37,10 +37,15 @@ bool IsIndicator(const Control& control) {
     return control.kind == ControlKind::Label && control.tag == "SolveFor";
 }
 
+qsizetype PlacesOf(const Control& control) {
+    if (control.letters > 0.0) return static_cast<qsizetype>(control.letters);
+    if (IsTextField(control)) return kPlacesOfText;
+    return std::max(static_cast<qsizetype>(control.picture.size()), kFewestPlaces);
+}
+
 int BoxWidth(const Control& control, const QWidget& box) {
     const QFontMetrics metrics = box.fontMetrics();
-    const auto places = static_cast<qsizetype>(control.picture.size());
-    const QString widest(IsTextField(control) ? kPlacesOfText : std::max(places, kFewestPlaces), u'0');
+    const QString widest(PlacesOf(control), u'0');
     return metrics.horizontalAdvance(widest) + 2 * metrics.averageCharWidth();
 }
 
@@ -174,7 +179,7 @@ QWidget* MakeWidget(const Control& control, QWidget* parent) {
         case ControlKind::Label:
             return MakeLabel(control, parent);
         case ControlKind::Image:
-            return new PictureView(control.text, parent);
+            return new PictureView(control.text, parent, control.letters);
         case ControlKind::TextBox:
             return MakeTextBox(control, parent);
         case ControlKind::ComboBox:

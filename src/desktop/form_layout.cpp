@@ -80,6 +80,14 @@ class LayoutMaker {
             case LayoutKind::Choice:
                 AddChoice(to, node);
                 break;
+            case LayoutKind::Matrix:
+                AddMatrix(to, node);
+                break;
+            case LayoutKind::Box:
+                to.addWidget(FixedBox(node.fields.front()));
+                break;
+            case LayoutKind::Part:
+            case LayoutKind::Caption:
             case LayoutKind::Picture:
             case LayoutKind::Verdict:
             case LayoutKind::Indicator:
@@ -217,6 +225,48 @@ class LayoutMaker {
                                     form_.fontMetrics().horizontalAdvance(QString(kUnitLetters, u'M')));
         grid->setColumnStretch(kFieldColumns - 1, 1);
         to.addLayout(grid);
+    }
+
+    /// A line of text is as wide as its least width; a list may grow with its entries.
+    QWidget* FixedBox(const FieldItem& field) {
+        QWidget* box = find_(field.Box());
+        if (qobject_cast<QLineEdit*>(box) != nullptr) box->setFixedWidth(box->minimumWidth());
+        return box;
+    }
+
+    /// Elements in rows and columns. What takes several rows stands at their top.
+    void AddMatrix(QBoxLayout& to, const LayoutNode& node) {
+        auto* grid = new QGridLayout;
+        grid->setHorizontalSpacing(form_.fontMetrics().averageCharWidth());
+        int columns = 0;
+        for (const LayoutNode& element : node.children) {
+            auto* cell = new QVBoxLayout;
+            AddCell(*cell, element);
+            const MatrixPlace& place = element.place;
+            const Qt::Alignment side = place.rows > 1 ? Qt::AlignTop : Qt::Alignment();
+            grid->addLayout(cell, place.row, place.column, place.rows, 1, side);
+            columns = std::max(columns, place.column + 1);
+        }
+        SetRowsApart(*grid);
+        grid->setColumnStretch(columns, 1);
+        to.addLayout(grid);
+    }
+
+    /// An option stands in the line of the box beside it.
+    void AddCell(QBoxLayout& cell, const LayoutNode& element) {
+        if (element.kind != LayoutKind::Options) return Add(cell, element);
+        for (const ButtonItem& option : element.buttons) cell.addWidget(find_(option.name));
+    }
+
+    /// A row without elements sets those around it apart.
+    void SetRowsApart(QGridLayout& grid) {
+        for (int row = 0; row < grid.rowCount(); ++row) {
+            bool empty = true;
+            for (int column = 0; column < grid.columnCount(); ++column) {
+                empty = empty && grid.itemAtPosition(row, column) == nullptr;
+            }
+            if (empty) grid.setRowMinimumHeight(row, form_.fontMetrics().lineSpacing() / 2);
+        }
     }
 
     void AddOptions(QBoxLayout& to, const LayoutNode& node) {

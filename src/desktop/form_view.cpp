@@ -65,6 +65,13 @@ bool IsLetterWithAlt(const QKeyEvent& key) {
     return altAlone && !key.text().isEmpty() && key.text().at(0).isPrint();
 }
 
+/// A letter for a cell in which letters stand for words: the model knows which.
+bool IsLetterOfWord(const Control& control, const QKeyEvent& key) {
+    if (control.grid->current().words.empty() || key.text().size() != 1) return false;
+    const QChar letter = key.text().at(0);
+    return letter.isLetter() && letter.unicode() < 0x80;
+}
+
 bool IsPlain(const QKeyEvent& key) {
     return (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) == Qt::NoModifier;
 }
@@ -332,8 +339,8 @@ bool FormView::HandleGridKey(const Control& control, const QKeyEvent& key) {
     if (name == nullptr && key.key() == Qt::Key_Delete && !editing) name = "Delete";
     const bool leaves = key.key() == Qt::Key_Up || key.key() == Qt::Key_Down;
     if (name == nullptr && editing && !list && leaves) name = KeyNameOutsideBox(key.key());
-    if (name == nullptr) return false;
-    Raise(UserEvent::Kind::Key, name);
+    if (name == nullptr && !IsLetterOfWord(control, key)) return false;
+    Raise(UserEvent::Kind::Key, name != nullptr ? std::string(name) : FromQt(key.text()));
     if (editing && form_ != nullptr) CloseCellEditor(control);
     return true;
 }

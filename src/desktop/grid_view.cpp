@@ -20,7 +20,7 @@ namespace kelvor {
 
 namespace {
 
-/// How many rows a grid shows before it scrolls.
+/// How many rows a grid shows before it scrolls, unless its form says otherwise.
 constexpr int kMostRowsShown = 12;
 constexpr int kLettersOfNumber = 12;
 constexpr int kLettersOfText = 26;
@@ -176,7 +176,8 @@ void GridView::SizeColumns() {
     lines += fontMetrics().lineSpacing() / 2;
     horizontalHeader()->setFixedHeight(lines);
     // A list may grow.
-    const int rows = control_.grid->texts ? kMostRowsShown : std::min(cells_.rowCount(), kMostRowsShown);
+    const int most = control_.grid->rowsShown > 0 ? control_.grid->rowsShown : kMostRowsShown;
+    const int rows = control_.grid->texts ? most : std::min(cells_.rowCount(), most);
     if (control_.grid->texts || cells_.rowCount() > rows) width += verticalScrollBar()->sizeHint().width();
     setMinimumSize(width, lines + rows * verticalHeader()->defaultSectionSize() + 2 * frameWidth());
 }

@@ -16,20 +16,23 @@ QString ResourceOf(const std::string& file) {
     return QStringLiteral(":/pictures/") + ToQt(file);
 }
 
-/// The width of a drawing, in letters of the system's font.
-constexpr int kLettersWide = 64;
+/// The width of the drawing on the start page.
+constexpr double kLettersWide = 64.0;
 
 }  // namespace
 
-PictureView::PictureView(const std::string& file, QWidget* parent)
-    : QWidget(parent), file_(file), drawing_(ResourceOf(file)) {
+PictureView::PictureView(const std::string& file, QWidget* parent, double letters)
+    : QWidget(parent),
+      file_(file),
+      letters_(letters > 0.0 ? letters : kLettersWide),
+      drawing_(ResourceOf(file)) {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setFocusPolicy(Qt::NoFocus);
 }
 
 QSize PictureView::sizeHint() const {
     const QSize drawn = drawing_.defaultSize();
-    return drawn.scaled(kLettersWide * fontMetrics().averageCharWidth(), QWIDGETSIZE_MAX,
+    return drawn.scaled(qRound(letters_ * fontMetrics().averageCharWidth()), QWIDGETSIZE_MAX,
                         Qt::KeepAspectRatio);
 }
 

@@ -25,6 +25,12 @@ bool IsReadOnlyCopy(const Control& control) {
     return control.kind == ControlKind::TextBox && control.locked && control.backColor == colours::kWindow;
 }
 
+/// A box that takes nothing now has the colour of the form.
+bool IsOffBox(const Control& control) {
+    return control.kind == ControlKind::TextBox && control.visible &&
+           control.backColor == colours::kButtonFace;
+}
+
 }  // namespace
 
 bool IsDark(const QPalette& palette) {
@@ -54,7 +60,7 @@ void ApplyColours(QWidget& widget, const Control& control, QPalette::ColorRole g
     QPalette palette;
     if (!IsPaletteColour(control.backColor)) {
         palette.setColor(ground, ScreenColour(control.backColor, palette));
-    } else if (IsReadOnlyCopy(control)) {
+    } else if (IsReadOnlyCopy(control) || IsOffBox(control)) {
         palette.setColor(ground, ScreenColour(colours::kButtonFace, palette));
     }
     if (!IsPaletteColour(control.foreColor))

@@ -11,6 +11,7 @@
 #include "shell/hub/hub.h"
 #include "shell/project_files.h"
 #include "shell/recent_files.h"
+#include "traffic/screens/traffic_forms.h"
 
 namespace kelvor {
 
@@ -19,6 +20,7 @@ Program::Program(Host host, Home home) : state_(host, std::move(home)) {
     state_.formRegistry.Declare(HelpForms());
     state_.formRegistry.Declare({BlankForm()});
     state_.formRegistry.Declare(DesignForms());
+    state_.formRegistry.Declare(WithRoutesOffered(TrafficForms()));
 }
 
 StartResult Program::Start(const std::string& commandLine) {

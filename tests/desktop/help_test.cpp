@@ -82,7 +82,8 @@ TEST_F(HelpTest, TheProgramEndsWithItsMainWindow) {
 TEST_F(HelpTest, EveryTabAndEveryScreenOfADesignHasAPage) {
     window().FindAction("MenuTopics")->trigger();
     for (int tab = 0; tab < 7; ++tab) EXPECT_FALSE(Text("TabForm" + std::to_string(tab) + ".html").isEmpty());
-    for (const char* screen : {"DeF", "DeR", "DeS", "LayDet", "H_K", "H_SRM", "FirstDesign", "Differences"}) {
+    for (const char* screen : {"DeF", "DeR", "DeS", "LayDet", "H_K", "H_SRM", "TrFa", "TrAx", "TrVe", "TrTr",
+                               "FirstDesign", "Differences"}) {
         EXPECT_FALSE(Text(std::string(screen) + ".html").isEmpty()) << screen;
     }
     EXPECT_TRUE(Text("NoSuchPage.html").isEmpty());

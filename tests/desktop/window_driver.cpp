@@ -109,6 +109,13 @@ std::string BackColour(const QWidget& widget) {
     const ControlKind kind = KindOf(widget);
     const bool isBox = kind == ControlKind::TextBox || kind == ControlKind::ComboBox;
     const bool hidden = isBox && widget.isHidden();
+    const auto* line = qobject_cast<const QLineEdit*>(&widget);
+    const QPalette& palette = widget.palette();
+    if (line != nullptr && !line->isReadOnly() && widget.testAttribute(Qt::WA_SetPalette) &&
+        palette.color(QPalette::Active, QPalette::Base) ==
+            palette.color(QPalette::Active, QPalette::Window)) {
+        return std::string(colours::kButtonFace);
+    }
     return ColourName(widget, isBox ? QPalette::Base : QPalette::Window,
                       isBox && !hidden ? colours::kWindow : colours::kButtonFace);
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
 
 #include "design/calc/equation_screens.h"
 #include "design/calc/solve_for.h"
@@ -219,6 +220,24 @@ void RecalcAllOutputs(ScreenContext& context, Form& form) {
             const CellValue* cell = context.calc.store.FindCell(output->name, row, output->dim2.value_or(1));
             if (cell != nullptr && cell->number) RecalcColumn(context, *output, *variable, row);
         }
+    }
+    RefreshScreen(context, form);
+}
+
+void RecalcFilledRows(ScreenContext& context, Form& form) {
+    std::set<int> rows;
+    for (const Field* field : context.catalogue.FieldsOfScreen(form.tag)) {
+        const Variable* variable = context.catalogue.FindVariable(field->name);
+        if (!field->IsColumn() || variable == nullptr) continue;
+        for (int row = 1; row <= variable->dim1; ++row) {
+            const CellValue* cell = context.calc.store.FindCell(field->name, row, field->dim2.value_or(1));
+            if (cell != nullptr && cell->IsFilled()) rows.insert(row);
+        }
+    }
+    for (const Field* output : context.catalogue.OutputsOfScreen(form.tag)) {
+        const Variable* variable = context.catalogue.FindVariable(output->name);
+        if (!output->IsColumn() || variable == nullptr) continue;
+        for (const int row : rows) RecalcColumn(context, *output, *variable, row);
     }
     RefreshScreen(context, form);
 }

@@ -32,6 +32,9 @@ void RecalcOutputs(ScreenContext& context, Form& form, std::string_view changedN
 /// Recalculates every filled cell of a screen's computed columns.
 void RecalcAllOutputs(ScreenContext& context, Form& form);
 
+/// Recalculates the computed columns of every row of a screen in which a cell is filled.
+void RecalcFilledRows(ScreenContext& context, Form& form);
+
 /// Solves for the field that had the focus before the button: on a screen with two equations that field tells
 /// which one. A solved value is held within the field's
 /// limits. Messages are shown; a refused or failed solve leaves the indicator as it was.

@@ -40,6 +40,12 @@ inline constexpr Colour kBlue = "#0000FF";  // a verdict that is good
 inline constexpr Colour kRed = "#FF0000";   // and one that is not
 }  // namespace colours
 
+/// A word that one letter stands for: typing the letter gives the word.
+struct LetterWord {
+    char letter = '\0';
+    std::string word;
+};
+
 /// A column of a grid: one variable, whose first subscript is the row.
 struct GridColumn {
     std::string variable;
@@ -49,7 +55,8 @@ struct GridColumn {
     std::string picture;
     std::string list;                // the name of the list that it offers; empty: it takes what is typed
     std::vector<std::string> items;  // the entries of that list
-    double letters = 0.0;            // its width on a built screen; 0: by its picture
+    std::vector<LetterWord> words;   // that a letter typed into a cell stands for
+    double letters = 0.0;            // its width; 0: by its picture
     bool locked = false;             // shows computed values and takes none
 };
 
@@ -58,8 +65,9 @@ struct GridColumn {
 /// one.
 struct GridData {
     std::vector<GridColumn> columns;
-    int rows = 0;  // as many as the variables have cells
-    int row = 1;   // of the cursor, from 1
+    int rows = 0;       // as many as the variables have cells
+    int rowsShown = 0;  // before it scrolls; 0: as many as most grids show
+    int row = 1;        // of the cursor, from 1
     std::size_t column = 0;
     std::optional<std::string> typed;  // into the cell under the cursor, and not yet stored
 
@@ -102,12 +110,15 @@ struct Control {
     bool bold = false;
     Colour backColor = colours::kButtonFace;
     Colour foreColor = colours::kWindowText;
-    char accessKey = '\0';   // pressed with Alt: moves the focus here, and clicks a button
-    std::string labelOf;     // of a caption: the control it describes
-    std::string unitOf;      // of a unit label: the box it stands behind
-    bool onlyItems = false;  // of a list: it takes nothing but its items
-    int page = -1;           // of the tab strip; -1: on every page
-    int group = 0;           // of option buttons: one of a group is selected; the innermost frame or page
+    char accessKey = '\0';          // pressed with Alt: moves the focus here, and clicks a button
+    std::string labelOf;            // of a caption: the control it describes
+    std::string unitOf;             // of a unit label: the box it stands behind
+    bool onlyItems = false;         // of a list: it takes nothing but its items
+    bool coded = false;             // of a list: what is stored is the place of the word, from 1
+    std::vector<LetterWord> words;  // that a letter typed into a list stands for
+    double letters = 0.0;           // the width of a box or of a picture; 0: by its kind
+    int page = -1;                  // of the tab strip; -1: on every page
+    int group = 0;  // of option buttons: one of a group is selected; the innermost frame or page
 
     /// A box whose Tag is a variable.
     [[nodiscard]] bool IsField() const;

@@ -5,6 +5,7 @@
 
 #include "platform/number_text.h"
 #include "screens/forms/balance_state.h"
+#include "screens/forms/coded_list.h"
 
 namespace kelvor {
 
@@ -87,6 +88,8 @@ void StoreField(ScreenContext& context, Form& form, Control& control) {
     context.bProjectChanged = true;
     if (control.text.empty()) {
         EmptyCell(context, form, control);
+    } else if (control.coded) {
+        StoreCode(context, form, control);
     } else {
         context.units.SetDisplayValue(control.tag, form.dim1().value_or(1), form.dim2().value_or(1),
                                       control.text);
@@ -115,6 +118,7 @@ void FieldGotFocus(Form& form, Control& control) {
     form.SetFieldChanged(false);
     form.SetHiddenText("SolveForField", control.tag);
     FindControlIndex(form, control.name);
+    form.spelt.clear();
     SelectAll(form);
 }
 
@@ -130,7 +134,10 @@ void FindControlIndex(Form& form, std::string_view controlName) {
 bool FieldLostFocus(ScreenContext& context, Form& form, Control& control) {
     if (form.fieldChanged() && !IsOffered(control)) {
         context.calc.dialogs.ShowMessage({.text = "Please select item from the list", .title = "List"});
-        return Refuse(form, control);
+        Refuse(form, control);
+        // The list is left blank, and with it the code.
+        if (control.coded) form.SetFieldChanged(true);
+        return false;
     }
     if (!control.text.empty() && !IsNumeric(control.text) && !TakesText(context, control)) {
         context.calc.dialogs.ShowMessage({.text = "Please enter valid numeric value.", .title = "Value"});
@@ -147,11 +154,26 @@ bool FieldLostFocus(ScreenContext& context, Form& form, Control& control) {
     return true;
 }
 
+void ShowStoredValue(const ScreenContext& context, const Form& form, Control& control) {
+    const int dim1 = form.dim1().value_or(1);
+    const int dim2 = form.dim2().value_or(1);
+    if (control.coded) {
+        const CellValue* cell = context.calc.store.FindCell(control.tag, dim1, dim2);
+        control.text = WordOf(control.words, cell == nullptr ? std::nullopt : cell->number);
+    } else {
+        control.text = context.units.GetDisplayValue(control.tag, dim1, dim2);
+    }
+}
+
+void StoreCode(ScreenContext& context, const Form& form, const Control& list) {
+    context.units.SetDisplayNumber(list.tag, form.dim1().value_or(1), form.dim2().value_or(1),
+                                   CodeOf(list.words, list.text).value_or(0));
+}
+
 void RestoreField(ScreenContext& context, Form& form, Control& control) {
     SelectAll(form);
     if (!form.fieldChanged()) return;
-    control.text =
-        context.units.GetDisplayValue(control.tag, form.dim1().value_or(1), form.dim2().value_or(1));
+    ShowStoredValue(context, form, control);
     form.SetFieldChanged(false);
 }
 

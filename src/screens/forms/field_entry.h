@@ -21,6 +21,12 @@ void FindControlIndex(Form& form, std::string_view controlName);
 /// was not typed in stores nothing.
 bool FieldLostFocus(ScreenContext& context, Form& form, Control& control);
 
+/// Shows in a box the value that is stored for its field: a list of codes shows the word.
+void ShowStoredValue(const ScreenContext& context, const Form& form, Control& control);
+
+/// Stores the code of the word that a list shows.
+void StoreCode(ScreenContext& context, const Form& form, const Control& list);
+
 /// Shows the stored value again in a field that was typed in.
 void RestoreField(ScreenContext& context, Form& form, Control& control);
 

@@ -4,6 +4,8 @@
 
 #include "platform/number_text.h"
 #include "screens/forms/balance_state.h"
+#include "screens/forms/coded_list.h"
+#include "screens/forms/field_entry.h"
 #include "screens/forms/form_builder.h"
 #include "screens/forms/side_screen.h"
 
@@ -13,8 +15,7 @@ namespace {
 
 const char* const kTitle = "Help";
 
-/// Axle types are chosen from this list; their fields begin with these letters.
-const char* const kAxleTypes = "AxleType";
+/// The fields whose value is the code of an axle type begin with these letters.
 constexpr std::string_view kAxleTypeStart = "AT";
 
 /// What help is asked for.
@@ -89,15 +90,8 @@ CallerField FindCallerField(const ScreenContext& context, const Form& form) {
                           : CallerField{box->locked, box->backColor == colours::kLightCyan, box->items};
 }
 
-std::vector<std::string> ChoicesOf(const ScreenContext& context, const Variable& variable,
-                                   const CallerField& field) {
-    if (!variable.name.starts_with(kAxleTypeStart)) return field.items;
-    return context.lists.Values(kAxleTypes, context.units.bMetric());
-}
-
 /// Puts the list in the place of the box.
-Control& SwapForList(Form& form, Control& box, Control& list, std::vector<std::string> items) {
-    list.items = std::move(items);
+Control& SwapForList(Form& form, Control& box, Control& list) {
     list.visible = true;
     box.visible = false;
     for (const auto& control : form.controls()) {
@@ -133,13 +127,16 @@ void ShowCalledField(ScreenContext& context, Form& form, const std::string& capt
 
     Control& unit = *form.FindUnitOf(box->name);
     const CallerField field = FindCallerField(context, form);
-    const std::vector<std::string> choices = ChoicesOf(context, *variable, field);
+    const bool coded = variable->name.starts_with(kAxleTypeStart);
     Control* list = form.Find("ComboBox");
-    if (!choices.empty() && list != nullptr) box = &SwapForList(form, *box, *list, choices);
+    if (list != nullptr && (coded || !field.items.empty())) {
+        list->items = field.items;
+        if (coded) MakeCoded(*list, AxleTypes());
+        box = &SwapForList(form, *box, *list);
+    }
     BindBox(*box, unit, variable->name, variable);
     if (field.locked) LockBox(*box, field.computed);
-    box->text =
-        context.units.GetDisplayValue(variable->name, form.dim1().value_or(1), form.dim2().value_or(1));
+    ShowStoredValue(context, form, *box);
     form.valueAtOpening = CalledField(context, form);
 }
 
@@ -148,7 +145,11 @@ void DropCommas(ScreenContext& /*context*/, Form& /*form*/, Control* control) {
 }
 
 void CloseValueHelp(ScreenContext& context, Form& form, Control* /*control*/) {
-    ReturnFromSideScreen(context, form, !IsSameValue(CalledField(context, form), form.valueAtOpening));
+    const bool changed = !IsSameValue(CalledField(context, form), form.valueAtOpening);
+    ReturnFromSideScreen(context, form, changed);
+    Form* caller = context.forms.Find(form.HiddenText("FormName"));
+    Control* field = caller == nullptr ? nullptr : caller->FindField(form.HiddenText("FieldName"));
+    if (changed && field != nullptr && field->coded) ShowStoredValue(context, *caller, *field);
 }
 
 }  // namespace kelvor

@@ -35,7 +35,11 @@ std::string HintOf(const ScreenContext& context, const std::string& name, bool c
 }  // namespace
 
 std::string FieldHint(const ScreenContext& context, const Control& field) {
-    return HintOf(context, field.tag, field.locked);
+    if (!field.coded) return HintOf(context, field.tag, field.locked);
+    const Variable* variable = context.catalogue.FindVariable(field.tag);
+    std::string hint = variable == nullptr ? std::string() : variable->desc;
+    for (const std::string& item : field.items) hint += (&item == &field.items.front() ? ": " : ", ") + item;
+    return hint;
 }
 
 std::string ColumnHint(const ScreenContext& context, const GridColumn& column) {

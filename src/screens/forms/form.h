@@ -85,6 +85,7 @@ class Form {
     Control* focus = nullptr;
     std::optional<std::size_t> iCurrentField;  // the field that had the focus last
     std::optional<std::size_t> caret;  // in the box in focus; nothing: its text is selected as a whole
+    std::string spelt;   // what was typed into the box in focus of a word that its first letters completed
     int selections = 0;  // how often a box was selected as a whole; a view shows that it is again
     std::array<SolveState, 2> solveState{SolveState::Resting, SolveState::Resting};
     int page = 0;  // of the tab strip
@@ -93,7 +94,7 @@ class Form {
     std::array<std::string, 2> solvedFor;      // the variables that the indicators show
     CellValue valueAtOpening;                  // of a side screen: of the field it was opened for
     bool refused = false;                      // the value that was being typed when a field was left last
-    bool workedOut = false;                    // of a side screen: it has worked out a value for that field
+    bool workedOut = false;                    // of a side screen: it has a new value for its caller
 
   private:
     const FormType& type_;

@@ -7,6 +7,8 @@
 #include <string>
 #include <utility>
 
+#include "screens/forms/coded_list.h"
+
 namespace kelvor {
 
 namespace {
@@ -91,9 +93,10 @@ class KeyGiver {
     std::set<const Control*> given_;
 };
 
-/// True for a button, and for the label of a box that takes the focus.
+/// True for a button, and for a label that is seen of a box that takes the focus.
 bool WantsAccessKey(const Controls& controls, const Control& control) {
     if (control.accessKey != '\0' || control.tag == "SolveFor") return false;
+    if (control.kind == ControlKind::Label && !control.visible) return false;
     if (control.IsButton() || control.IsChoice()) return true;
     return !control.labelOf.empty() &&
            std::any_of(controls.begin(), controls.end(), [&](const std::unique_ptr<Control>& box) {
@@ -107,6 +110,7 @@ class Builder {
 
     std::vector<std::unique_ptr<Control>> Build() {
         AddNode(type_.layout);
+        for (const std::string& part : parts_) ShowPart(part);
         for (const std::string_view name : kHiddenState) AddHidden(std::string(name));
         AssignAccessKeys(controls_);
         return std::move(controls_);
@@ -132,11 +136,12 @@ class Builder {
                 AddFrame(node);
                 return;
             case LayoutKind::Heading:
+            case LayoutKind::Caption:
             case LayoutKind::Text:
                 Add(ControlKind::Label, node.name).text = node.title;
                 break;
             case LayoutKind::Picture:
-                Add(ControlKind::Image, node.name).text = node.title;
+                AddPicture(node);
                 break;
             case LayoutKind::Verdict:
                 Add(ControlKind::Label, node.name).bold = true;
@@ -174,6 +179,13 @@ class Builder {
             case LayoutKind::Placed:
                 AddBuiltParts();
                 break;
+            case LayoutKind::Box:
+                AddBox(node.fields.front());
+                break;
+            case LayoutKind::Part:
+                parts_.push_back(node.name);
+                break;
+            case LayoutKind::Matrix:
             case LayoutKind::Columns:
             case LayoutKind::Rows:
                 break;
@@ -204,6 +216,28 @@ class Builder {
         label.text = node.title;
         label.labelOf = node.name;
         Add(ControlKind::ComboBox, node.name).backColor = colours::kWindow;
+    }
+
+    void AddPicture(const LayoutNode& node) {
+        Control& picture = Add(ControlKind::Image, node.name);
+        picture.text = node.title;
+        picture.toolTip = node.shows;
+        picture.letters = node.letters;
+    }
+
+    /// A field of which only the box is seen, unless a part of it is shown elsewhere.
+    void AddBox(const FieldItem& item) {
+        const std::size_t first = controls_.size();
+        AddField(item);
+        for (std::size_t i = first; i < controls_.size(); ++i) {
+            if (controls_[i]->kind == ControlKind::Label) controls_[i]->visible = false;
+        }
+    }
+
+    void ShowPart(const std::string& name) {
+        for (const auto& control : controls_) {
+            if (control->name == name) control->visible = true;
+        }
     }
 
     void AddIndicator(const std::string& name) {
@@ -259,8 +293,11 @@ class Builder {
         label.text = !item.label.empty() || variable == nullptr ? item.label : variable->desc;
         label.labelOf = item.Box();
 
-        Control& box = Add(item.list ? ControlKind::ComboBox : ControlKind::TextBox, item.Box());
+        const bool list = item.list || !item.words.empty();
+        Control& box = Add(list ? ControlKind::ComboBox : ControlKind::TextBox, item.Box());
         box.backColor = colours::kWindow;
+        box.letters = item.letters;
+        if (!item.words.empty()) MakeCoded(box, item.words);
         if (!item.choice.empty()) AddChoice(item);
         Control& unit = Add(ControlKind::Label, item.Unit());
         unit.unitOf = item.Box();
@@ -280,6 +317,7 @@ class Builder {
         Control& control = Add(ControlKind::Grid, node.name);
         control.backColor = colours::kWindow;
         control.grid.emplace();
+        control.grid->rowsShown = node.rowsShown;
         for (const FieldItem& item : node.fields) {
             const Variable* variable = catalogue_.FindVariable(item.variable);
             GridColumn column;
@@ -287,6 +325,8 @@ class Builder {
             column.caption = ColumnCaption(item);
             column.picture = variable == nullptr ? "" : variable->format;
             column.list = item.list ? item.variable : "";
+            column.words = item.words;
+            column.letters = item.letters;
             column.locked = item.locked || IsOutput(item.variable);
             control.grid->columns.push_back(std::move(column));
             if (variable != nullptr) control.grid->rows = std::max(control.grid->rows, variable->dim1);
@@ -312,6 +352,7 @@ class Builder {
     const FormType& type_;
     const Catalogue& catalogue_;
     std::vector<std::unique_ptr<Control>> controls_;
+    std::vector<std::string> parts_;  // labels and units of boxes that are shown after all
     int page_ = -1;
     int group_ = 0;
     int groups_ = 0;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "screens/forms/balance_state.h"
+#include "screens/forms/coded_list.h"
 #include "screens/forms/field_entry.h"
 #include "screens/forms/field_help.h"
 #include "screens/forms/grid_entry.h"
@@ -93,6 +94,7 @@ void FormEvents::TakeReturn(Form& form, const SideScreenReturn& returned) {
     RecalcOutputs(context_, form, "", 0);
     FocusFirstField(form);
     Control* caller = grid != nullptr ? grid : form.FindField(returned.field);
+    if (caller == nullptr) caller = form.Find(returned.field);  // an option
     if (caller != nullptr && form.CanFocus(*caller)) GetFocus(form, *caller);
     if (!returned.valueTaken) return;
     if (grid == nullptr && caller != nullptr) Handle(FormEvent::Stored, form, caller, [] {});
@@ -103,11 +105,11 @@ void FormEvents::TakeReturn(Form& form, const SideScreenReturn& returned) {
 void FormEvents::FocusFirstField(Form& form) {
     form.focus = nullptr;
     Control* first = form.NextInTabOrder(nullptr, true);
-    for (const auto& control : form.controls()) {
-        if (!form.CanFocus(*control) || control->IsButton()) continue;
-        first = control.get();
-        break;
-    }
+    const auto isField = [&](const auto& control) {
+        return form.CanFocus(*control) && !control->IsButton() && !control->IsChoice();
+    };
+    const auto field = std::find_if(form.controls().begin(), form.controls().end(), isField);
+    if (field != form.controls().end()) first = field->get();
     if (first != nullptr) GetFocus(form, *first);
 }
 
@@ -169,8 +171,10 @@ bool FormEvents::LoseFocus(Form& form, Control& control) {
 void FormEvents::GetFocus(Form& form, Control& control) {
     form.focus = &control;
     if (control.grid) FindControlIndex(form, control.name);
-    if (!control.IsField()) return;
-    Handle(FormEvent::GotFocus, form, &control, [&] { FieldGotFocus(form, control); });
+    if (!control.IsField() && !control.IsChoice()) return;
+    Handle(FormEvent::GotFocus, form, &control, [&] {
+        if (control.IsField()) FieldGotFocus(form, control);
+    });
 }
 
 bool FormEvents::MoveFocus(Form& form, Control& control) {
@@ -206,21 +210,23 @@ void FormEvents::Type(const std::string& text) {
     if (control.grid) TypeIntoCell(*form, control, text);
     if (control.kind != ControlKind::TextBox && control.kind != ControlKind::ComboBox) return;
     if (control.locked || (control.text.empty() && text.empty())) return;
-    control.text = text;
-    form->caret = text.size();
+    control.text = control.words.empty()
+                       ? text
+                       : CompleteWord(control.words, control.text, text, form->spelt).value_or(text);
+    form->caret = control.text.size();
     Handle(FormEvent::Change, *form, &control, [&] { FieldChange(*form, control); });
 }
 
 void FormEvents::TypeCharacter(Form& form, char character) {
     if (form.focus == nullptr) return;
     if (form.focus->grid) {
-        Type(form.focus->grid->typed.value_or("") + character);
+        TypeCharacterIntoCell(form, *form.focus, character);
         return;
     }
     const std::size_t place = std::min(form.caret.value_or(0), form.focus->text.size());
     std::string text = form.caret ? form.focus->text : "";
     Type(text.insert(place, 1, character));
-    form.caret = place + 1;
+    if (form.focus->words.empty()) form.caret = place + 1;
 }
 
 /// Empties a box that is selected as a whole, else takes the character behind the cursor.

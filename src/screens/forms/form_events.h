@@ -81,6 +81,7 @@ class FormEvents {
 
     bool LoseFocus(Form& form, Control& control);
     void GetFocus(Form& form, Control& control);
+    void TypeCharacterIntoCell(Form& form, Control& control, char character);
     void TypeIntoCell(Form& form, Control& control, const std::string& text);
     bool CommitCell(Form& form, Control& control);
     bool StoreCell(Form& form, Control& control, const std::string& text);

@@ -3,6 +3,7 @@
 
 #include "screens/forms/balance_state.h"
 #include "screens/forms/cell_block.h"
+#include "screens/forms/coded_list.h"
 #include "screens/forms/form_events.h"
 #include "screens/forms/grid_entry.h"
 
@@ -23,8 +24,23 @@ Control* FindGridWith(Form& form, int row, const std::string& variable) {
 
 void FormEvents::TypeIntoCell(Form& form, Control& control, const std::string& text) {
     if (control.grid->current().locked || control.grid->rows == 0) return;
-    control.grid->typed = text;
+    const std::vector<LetterWord>& words = control.grid->current().words;
+    const std::string shown = control.grid->typed.value_or("");
+    control.grid->typed = words.empty() ? text : CompleteWord(words, shown, text, form.spelt).value_or(text);
     GridChange(context_, form);
+}
+
+/// A letter that stands for a word is the whole entry, and any other leaves such a cell alone.
+void FormEvents::TypeCharacterIntoCell(Form& form, Control& control, char character) {
+    const std::vector<LetterWord>& words = control.grid->current().words;
+    if (words.empty()) {
+        Type(control.grid->typed.value_or("") + character);
+        return;
+    }
+    const std::string letter(1, character);
+    if (!CompleteWord(words, {}, letter, form.spelt)) return;
+    Type(letter);
+    CommitCell(form, control);
 }
 
 /// Stores what was typed into the cell under the cursor. False if it was refused.

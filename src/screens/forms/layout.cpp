@@ -89,9 +89,37 @@ LayoutNode Picture(std::string name, std::string file) {
     return Leaf(LayoutKind::Picture, std::move(name), std::move(file));
 }
 
-LayoutNode Grid(std::string name, std::vector<FieldItem> columns) {
+LayoutNode SmallPicture(std::string name, std::string file, double letters, std::string shows) {
+    LayoutNode node = Picture(std::move(name), std::move(file));
+    node.letters = letters;
+    node.shows = std::move(shows);
+    return node;
+}
+
+LayoutNode Matrix(std::vector<LayoutNode> elements) { return Group(LayoutKind::Matrix, std::move(elements)); }
+
+LayoutNode At(int row, int column, LayoutNode element, int rows) {
+    element.place = {row, column, rows};
+    return element;
+}
+
+LayoutNode Box(FieldItem field) {
+    LayoutNode node;
+    node.kind = LayoutKind::Box;
+    node.fields.push_back(std::move(field));
+    return node;
+}
+
+LayoutNode Part(std::string name) { return Leaf(LayoutKind::Part, std::move(name), {}); }
+
+LayoutNode Caption(std::string name, std::string text) {
+    return Leaf(LayoutKind::Caption, std::move(name), std::move(text));
+}
+
+LayoutNode Grid(std::string name, std::vector<FieldItem> columns, int rowsShown) {
     LayoutNode node = Leaf(LayoutKind::Grid, std::move(name), {});
     node.fields = std::move(columns);
+    node.rowsShown = rowsShown;
     return node;
 }
 

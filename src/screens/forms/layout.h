@@ -28,6 +28,10 @@ enum class LayoutKind {
     Verdict,    // a line in bold letters that says how things stand
     Indicator,  // the Solve For indicator above its button
     Buttons,    // buttons in a row
+    Matrix,     // elements in rows and columns
+    Box,        // the box of a field alone; what stands around it is heard, and seen where a Part shows it
+    Part,       // the label or unit of a Box
+    Caption,    // a text in one line
     Hidden,     // boxes that the user never sees
 };
 
@@ -43,6 +47,9 @@ struct FieldItem {
     std::string labelName = {};  // of the label before the box; empty: FieldLabelName
     std::string unitName = {};   // of the unit behind it; empty: UnitLabelName
     std::string choice = {};     // a list that may take the place of the box; hidden at first
+    std::vector<LetterWord> words =
+        {};                // of a list: a letter gives its word; on a field, whose code is stored
+    double letters = 0.0;  // the width of the box or column; 0: by the picture
 
     [[nodiscard]] const std::string& Box() const { return box.empty() ? variable : box; }
     [[nodiscard]] std::string Label() const;
@@ -59,6 +66,13 @@ struct ButtonItem {
     bool comesLater = false;
 };
 
+/// Where an element stands in a matrix.
+struct MatrixPlace {
+    int row = 0;
+    int column = 0;
+    int rows = 1;  // that it takes
+};
+
 /// An element of a form, with the elements inside it.
 struct LayoutNode {
     LayoutKind kind = LayoutKind::Rows;
@@ -69,6 +83,10 @@ struct LayoutNode {
     std::vector<ButtonItem> buttons;
     std::vector<std::vector<std::string>> table;  // the rows of a table of texts
     std::optional<ChartData> chart;
+    MatrixPlace place;
+    double letters = 0.0;        // the width of a picture; 0: as the start page has it
+    int rowsShown = 0;           // of a grid, before it scrolls; 0: as many as most show
+    std::string shows;           // what a picture shows, in words
     bool sharesOptions = false;  // of a frame: its options and those around it exclude each other
 };
 
@@ -91,13 +109,23 @@ LayoutNode Text(std::string name, std::string text);
 LayoutNode Verdict(std::string name);
 LayoutNode Picture(std::string name, std::string file);
 
+/// A drawing among fields, so many letters wide, with what it shows in words.
+LayoutNode SmallPicture(std::string name, std::string file, double letters, std::string shows);
+
 /// A table with a column for each variable; an item that is a list offers the list of the variable's name.
-LayoutNode Grid(std::string name, std::vector<FieldItem> columns);
+LayoutNode Grid(std::string name, std::vector<FieldItem> columns, int rowsShown = 0);
 
 /// A table of fixed texts with its headings in the first row. Its labels are called by the name, the row and
 /// the column, both from 1: Guide1_1.
 LayoutNode Table(std::string name, std::vector<std::vector<std::string>> rows);
 std::string TableCellName(const std::string& table, std::size_t row, std::size_t column);
+
+/// Elements in rows and columns; each is put to its place by At.
+LayoutNode Matrix(std::vector<LayoutNode> elements);
+LayoutNode At(int row, int column, LayoutNode element, int rows = 1);
+LayoutNode Box(FieldItem field);
+LayoutNode Part(std::string name);
+LayoutNode Caption(std::string name, std::string text);
 
 LayoutNode Placed();
 LayoutNode Chart(std::string name, ChartData data);

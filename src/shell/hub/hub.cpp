@@ -28,11 +28,11 @@ void Load(ScreenContext& context, Form& hub, Control* /*control*/) {
 }
 
 /// What the hub offers follows from which screens there are and from what the project holds.
-void UpdateOffers(ScreenContext& context, Form& hub) {
+void UpdateOffers(ScreenContext& context, Form& hub, bool entered) {
     OfferDeclaredScreens(context, hub);
     OfferTrafficRoutes(context, hub);
     UpdateOverlayReportOptions(context, hub);
-    OfferReports(context, hub);
+    OfferReports(context, hub, entered);
     OfferListButtons(hub);
 }
 
@@ -45,7 +45,7 @@ void FocusOnFirst(ScreenContext& context, Form& hub) {
 /// The hub comes in front again: values changed on other screens appear.
 void Activate(ScreenContext& context, Form& hub, Control* /*control*/) {
     LoadScreen(context, hub);
-    UpdateOffers(context, hub);
+    UpdateOffers(context, hub, false);
     FocusOnFirst(context, hub);
 }
 
@@ -64,7 +64,7 @@ void EnterHubTab(ScreenContext& context, Form& hub, HubTab tab) {
     if (tab == HubTab::ProjectId) hub.tag = kProjectIdKey;
     if (tab == HubTab::LifeCycleCosting) hub.tag = kCostKey;
     if (NeedsProject(tab)) LoadScreen(context, hub);
-    UpdateOffers(context, hub);
+    UpdateOffers(context, hub, true);
     if (tab == HubTab::Lists) EnterListsTab(context, hub);
     FocusOnFirst(context, hub);
 }

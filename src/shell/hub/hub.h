@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "screens/forms/form_type.h"
 #include "screens/forms/screen_context.h"
@@ -22,6 +23,9 @@ bool NeedsProject(HubTab tab);
 
 /// `TabForm`: the hub with its strip of eight tabs, from which all work is reached.
 FormType HubForm();
+
+/// The screens of traffic, whose shared inputs tell the hub when they are closed.
+std::vector<FormType> WithRoutesOffered(std::vector<FormType> trafficForms);
 
 /// Brings a tab of the hub in front: its values are read again, what it offers follows the project, and the
 /// focus goes to its first control.

@@ -37,10 +37,12 @@ constexpr std::array kBoxes = {
 };
 
 constexpr std::array kCategories = {"rbND", "rbOV", "rbTr", "rbCost"};
+constexpr const char* kTraffic = "rbTr";
 constexpr const char* kCost = "rbCost";
 constexpr const char* kCostScreen = "LcA1";
 constexpr std::array kCostScreens = {"LcA1", "LcA1_2", "LcA1_4", "LcA2", "LcA2_2", "LcA2_4"};
 
+constexpr const char* kInputsMissing = "needs the values of Pavement & Traffic Inputs";
 constexpr const char* kNoData = "its screen holds no values yet";
 constexpr const char* kNoCosts = "no cost screen holds values yet";
 
@@ -107,6 +109,15 @@ void OfferBox(const ScreenContext& context, Form& hub, const ReportBox& report) 
     Offer(hub, report.box, declared && HoldsData(context, report), declared ? kNoData : kComesLater);
 }
 
+bool IsOfTraffic(const ReportBox& report) { return std::string_view(report.category) == kTraffic; }
+
+void OfferTrafficBox(const ScreenContext& context, Form& hub, const ReportBox& report, bool entered) {
+    const bool filled = TrafficInputsFilled(context);
+    const bool staysOn = !entered && hub.Find(report.box)->enabled;
+    const bool holdsData = staysOn || HoldsData(context, report);
+    Offer(hub, report.box, filled && holdsData, filled ? kNoData : kInputsMissing);
+}
+
 void OfferCategory(const ScreenContext& context, Form& hub, std::string_view category) {
     const bool any = std::any_of(kBoxes.begin(), kBoxes.end(), [&](const ReportBox& report) {
         return report.category == category && IsDeclared(context, report.screen);
@@ -162,10 +173,23 @@ HubPage ReportsTab() {
             ReportHandlers()};
 }
 
-void OfferReports(const ScreenContext& context, Form& hub) {
-    for (const ReportBox& report : kBoxes) OfferBox(context, hub, report);
+void OfferReports(const ScreenContext& context, Form& hub, bool entered) {
+    for (const ReportBox& report : kBoxes) {
+        if (IsOfTraffic(report)) {
+            OfferTrafficBox(context, hub, report, entered);
+        } else {
+            OfferBox(context, hub, report);
+        }
+    }
     for (const char* category : {"rbND", "rbOV", "rbTr"}) OfferCategory(context, hub, category);
     OfferCosts(context, hub);
+}
+
+void OfferTrafficReports(const ScreenContext& context, Form& hub) {
+    const bool filled = TrafficInputsFilled(context);
+    for (const ReportBox& report : kBoxes) {
+        if (IsOfTraffic(report)) Offer(hub, report.box, filled, kInputsMissing);
+    }
 }
 
 }  // namespace kelvor

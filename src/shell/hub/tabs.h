@@ -23,14 +23,21 @@ HubPage ReportsTab();
 HubPage ListsTab();
 HubPage StartTab();
 
+/// True if the inputs that all routes to the ESALs share are filled.
+bool TrafficInputsFilled(const ScreenContext& context);
+
 /// The routes to the ESALs need the inputs that all of them share.
 void OfferTrafficRoutes(const ScreenContext& context, Form& hub);
 
 /// Which overlays can be designed follows from what is known of the existing pavement.
 void UpdateOverlayReportOptions(const ScreenContext& context, Form& hub);
 
-/// A report can be ticked if its screen holds data.
-void OfferReports(const ScreenContext& context, Form& hub);
+/// A report can be ticked if its screen holds data. While its tab is not entered anew, one of traffic that is
+/// on stays on as long as the shared inputs are filled.
+void OfferReports(const ScreenContext& context, Form& hub, bool entered);
+
+/// The reports of traffic go with the shared inputs alone when these are closed.
+void OfferTrafficReports(const ScreenContext& context, Form& hub);
 
 /// The discount rate is computed, and the focus may rest on it.
 void LoadCostTab(Form& hub);

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <map>
 
 #include "screens/forms/layout.h"
@@ -13,6 +14,8 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+
+constexpr std::array kSharedInputs = {"TrafficDEPTH", "TrafficSN", "PT", "Life", "GrowthRate", "TrPer"};
 
 class HubTest : public ProjectTest {
   protected:
@@ -45,6 +48,11 @@ class HubTest : public ProjectTest {
             EXPECT_EQ(At(name).enabled, At(name).toolTip.empty()) << name << ": a hint says why it is off";
         }
         return enabled;
+    }
+
+    /// What the routes to the ESALs need.
+    void EnterSharedInputs() {
+        for (const char* input : kSharedInputs) Enter(input, "2");
     }
 
     std::vector<std::string> Ticked() {
@@ -190,11 +198,8 @@ TEST_F(HubTest, OverlaysFollowTheProjectAtNewOpenAndWhenAScreenCloses) {
 }
 
 TEST_F(HubTest, TheRoutesToTheEsalsNeedAllSixSharedInputs) {
-    Declare({"TrFa", "TrAx", "TrVe", "TrTr"});
     const std::vector<std::string> routes = {"AxleData", "VehicleType", "TrafficFactor"};
-    const std::vector<std::string> inputs = {"TrafficDEPTH", "TrafficSN",  "PT",
-                                             "Life",         "GrowthRate", "TrPer"};
-    for (const std::string& input : inputs) {
+    for (const char* input : kSharedInputs) {
         SwitchTo(1);
         EXPECT_THAT(Enabled(routes), IsEmpty());
         EXPECT_TRUE(At("PavementTrafficFactors").enabled);
@@ -221,16 +226,19 @@ TEST_F(HubTest, AnOverlayReportIsOffWithoutDataAndLosesItsTick) {
 }
 
 TEST_F(HubTest, ATrafficReportNeedsDataOfItsScreen) {
-    Declare({"TrAx", "TrVe", "TrTr"});
     const std::vector<std::string> boxes = {"rbTRopTrVe"};
     SwitchTo(5);
     EXPECT_THAT(Enabled(boxes), IsEmpty());
+    EnterSharedInputs();
     Enter("AW51", "10");  // not the middle axle
     SwitchTo(5);
     EXPECT_THAT(Enabled(boxes), IsEmpty());
     Enter("AW58", "10");
     SwitchTo(1);
     EXPECT_THAT(Enabled(boxes), ElementsAre("rbTRopTrVe"));
+    Enter("GrowthRate", "");
+    SwitchTo(5);
+    EXPECT_THAT(Enabled(boxes), IsEmpty()) << "and the inputs that all routes share";
 }
 
 TEST_F(HubTest, ASelectionClearsTheBoxesOfEveryOtherCategory) {
@@ -256,7 +264,7 @@ TEST_F(HubTest, ASelectionClearsTheBoxesOfEveryOtherCategory) {
 }
 
 TEST_F(HubTest, ATrafficTickStaysOnlyOnceItsCategoryIsSelected) {
-    Declare({"TrAx", "TrVe", "TrTr"});
+    EnterSharedInputs();
     Enter("AW52", "10");
     SwitchTo(5);
     Choose("rbTRopTrVe");

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <deque>
 #include <set>
 
@@ -23,6 +24,7 @@ class Walker {
             if (entry.menu == "MenuHelp") Try({{UserEvent::Kind::Menu, entry.name, {}, 0}});
         }
         for (int tab = 0; tab < kHubTabs; ++tab) Try({{UserEvent::Kind::SwitchTab, {}, {}, tab}});
+        Try(TrafficInputs());
         while (!waiting_.empty()) {
             const Acts acts = waiting_.front();
             waiting_.pop_front();
@@ -37,9 +39,29 @@ class Walker {
         TestProgram program;
         for (const UserEvent& act : acts) program.program.Raise(act);
         const Form* form = program.program.state().formRegistry.CurrentForm;
-        const std::string place = form->name() + (form->type().isHub ? std::to_string(form->page) : "");
+        const std::string place = form->name() + (form->type().isHub ? WhatHubOffers(*form) : "");
         if (places_.insert(place).second) waiting_.push_back(acts);
         reached_.insert(form->name());
+    }
+
+    /// The inputs without which there are no routes to the ESALs.
+    static Acts TrafficInputs() {
+        Acts acts = {{UserEvent::Kind::SwitchTab, {}, {}, static_cast<int>(HubTab::Traffic)},
+                     {UserEvent::Kind::Choose, "PavementTrafficFactors", {}, 0},
+                     {UserEvent::Kind::Press, "Command1", {}, 0}};
+        for (const char* text : {"9", "5", "2.5", "20", "4"}) {
+            acts.push_back({UserEvent::Kind::Type, {}, text, 0});
+            acts.push_back({UserEvent::Kind::Key, "Enter", {}, 0});
+        }
+        acts.push_back({UserEvent::Kind::Press, "cmdAction", {}, 0});
+        return acts;
+    }
+
+    /// The tab of the hub, and how many of its controls can be used.
+    static std::string WhatHubOffers(const Form& hub) {
+        const auto offered = std::count_if(hub.controls().begin(), hub.controls().end(),
+                                           [&](const auto& control) { return hub.CanFocus(*control); });
+        return std::to_string(hub.page) + " with " + std::to_string(offered);
     }
 
     /// Choosing an option, or going to a field or to a cell of each column.

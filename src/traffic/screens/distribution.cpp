@@ -1,0 +1,28 @@
+#include "traffic/screens/distribution.h"
+
+#include <array>
+
+namespace kelvor {
+
+namespace {
+
+constexpr double kTotalTraffic = 2.0;
+constexpr double kTwoWay = 2.0;
+
+constexpr std::array kOfTotalTraffic = {"Frame2",  "TRONEWAY", "TRTWOWAY", "TRLANDIS",
+                                        "Label10", "Label11",  "Label12",  "Label13"};
+
+}  // namespace
+
+void OfferDistribution(const ScreenContext& context, Form& form) {
+    const bool total = context.calc.store.GetVar("TRFACTYPE") == kTotalTraffic;
+    const bool twoWay = context.calc.store.GetVar("TRWAY") == kTwoWay;
+    for (const char* name : kOfTotalTraffic) {
+        if (Control* control = form.Find(name)) control->enabled = total;
+    }
+    Control& direction = *form.Find("TRDIRDIS");
+    direction.enabled = total && twoWay;
+    direction.backColor = total && !twoWay ? colours::kResting : colours::kWindow;
+}
+
+}  // namespace kelvor

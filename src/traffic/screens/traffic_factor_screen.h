@@ -1,0 +1,10 @@
+#pragma once
+
+#include "screens/forms/form_type.h"
+
+namespace kelvor {
+
+/// `TrTr`: the ESALs of a daily traffic and the average ESALs of a truck.
+FormType TrafficFactorForm();
+
+}  // namespace kelvor

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <vector>
+
+#include "screens/forms/form_type.h"
+
+namespace kelvor {
+
+/// The screens that determine the design traffic, and the helps of their inputs.
+std::vector<FormType> TrafficForms();
+
+}  // namespace kelvor

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "screens/forms/form.h"
+#include "screens/forms/screen_context.h"
+
+namespace kelvor {
+
+/// The inputs that all routes to the ESALs share, as copies that are only read.
+LayoutNode TrafficInputCopies();
+
+/// Shows the word of the period among these copies; nothing for a code that is none.
+void ShowPeriod(const ScreenContext& context, Form& form);
+
+}  // namespace kelvor

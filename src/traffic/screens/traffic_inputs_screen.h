@@ -1,0 +1,10 @@
+#pragma once
+
+#include "screens/forms/form_type.h"
+
+namespace kelvor {
+
+/// `TrFa`: the inputs that all routes to the ESALs share.
+FormType TrafficInputsForm();
+
+}  // namespace kelvor

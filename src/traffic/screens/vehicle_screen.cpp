@@ -1,0 +1,174 @@
+#include "traffic/screens/vehicle_screen.h"
+
+#include <array>
+
+#include "screens/forms/balance_state.h"
+#include "screens/forms/coded_list.h"
+#include "screens/forms/field_entry.h"
+#include "screens/forms/form.h"
+#include "traffic/screens/traffic_inputs.h"
+
+namespace kelvor {
+
+namespace {
+
+constexpr int kFirstAxle = 51;
+constexpr int kLastAxle = 70;
+
+struct Drawing {
+    const char* file;
+    double letters;  // its width
+    const char* words;
+};
+
+/// A class of vehicles: its axles stand from `firstAxle` to `lastAxle`, which names its count.
+struct Vehicle {
+    int firstAxle;
+    int lastAxle;
+    const char* name;
+    std::vector<Drawing> drawings;
+};
+
+std::vector<Vehicle> Vehicles() {
+    return {
+        {51, 53, "2-axle truck, bus", {{"truck_2.svg", 11.0, "A truck with two axles"}}},
+        {54, 56, "3-axle truck", {{"truck_3.svg", 13.0, "A truck with three axles, two of them a tandem"}}},
+        {57,
+         59,
+         "2-S1",
+         {{"semitrailer_2_s1.svg", 19.0, "A tractor with two axles, a semitrailer with one"}}},
+        {60,
+         62,
+         "2-S2",
+         {{"semitrailer_2_s2.svg", 20.0, "A tractor with two axles, a semitrailer with a tandem"}}},
+        {63,
+         65,
+         "3-S2",
+         {{"semitrailer_3_s2.svg", 21.0, "A tractor with three axles, a semitrailer with a tandem"}}},
+        {66,
+         70,
+         "2-S1-2",
+         {{"semitrailer_2_s1.svg", 19.0, "A tractor with two axles, a semitrailer with one,"},
+          {"trailer_2.svg", 14.0, "and a trailer with two axles behind it"}}},
+    };
+}
+
+// --- Layout -------------------------------------------------------------------------------------------
+
+constexpr int kHeadingRow = 0;
+constexpr int kUnitRow = 1;
+constexpr double kTypeLetters = 7.0;
+constexpr double kLoadLetters = 8.0;
+
+enum BlockColumn { kPictureColumn, kNumberColumn, kTypeColumn, kLoadColumn };
+
+std::string Named(const char* start, int axle) { return start + std::to_string(axle); }
+
+void AddHeadings(std::vector<LayoutNode>& elements, int block, const std::string& unit) {
+    constexpr std::array kHeadings = {"Vehicle", "Number", "Axle Type", "Axle Load"};
+    for (int column = kPictureColumn; column <= kLoadColumn; ++column) {
+        const std::string name = "Head" + std::to_string(block) + std::to_string(column + 1);
+        elements.push_back(
+            At(kHeadingRow, column, Caption(name, kHeadings[static_cast<std::size_t>(column)])));
+    }
+    elements.push_back(At(kUnitRow, kLoadColumn, Part(unit)));
+}
+
+/// The drawing, or drawings, of a class with its name below.
+LayoutNode Drawings(const Vehicle& vehicle, int& images) {
+    std::vector<LayoutNode> rows;
+    for (const Drawing& drawing : vehicle.drawings) {
+        rows.push_back(
+            SmallPicture("Image" + std::to_string(++images), drawing.file, drawing.letters, drawing.words));
+    }
+    rows.push_back(Caption(Named("Class", vehicle.lastAxle), vehicle.name));
+    return Rows(std::move(rows));
+}
+
+/// The axles of a class below each other, its count in the first line. An empty row sets the classes apart.
+int AddVehicle(std::vector<LayoutNode>& elements, const Vehicle& vehicle, int row, int& images) {
+    const int axles = vehicle.lastAxle - vehicle.firstAxle + 1;
+    elements.push_back(At(row, kPictureColumn, Drawings(vehicle, images), axles));
+    elements.push_back(At(row, kNumberColumn, Box({.variable = Named("NA", vehicle.lastAxle)})));
+    for (int axle = vehicle.firstAxle; axle <= vehicle.lastAxle; ++axle, ++row) {
+        elements.push_back(
+            At(row, kTypeColumn,
+               Box({.variable = Named("AT", axle), .words = AxleTypes(), .letters = kTypeLetters})));
+        elements.push_back(
+            At(row, kLoadColumn, Box({.variable = Named("AW", axle), .letters = kLoadLetters})));
+    }
+    return row + 1;
+}
+
+/// Some of the classes under their headings.
+LayoutNode Block(int block, std::size_t first, std::size_t last, int& images) {
+    const std::vector<Vehicle> vehicles = Vehicles();
+    std::vector<LayoutNode> elements;
+    AddHeadings(elements, block, Named("uAW", vehicles[first].firstAxle));
+    int row = kUnitRow + 1;
+    for (std::size_t i = first; i <= last; ++i) row = AddVehicle(elements, vehicles[i], row, images);
+    return Matrix(std::move(elements));
+}
+
+LayoutNode VehicleLayout() {
+    int images = 0;
+    LayoutNode left = Block(1, 0, 2, images);
+    LayoutNode right = Block(2, 3, 5, images);
+    return Rows({
+        TrafficInputCopies(),
+        Columns({Rows({std::move(left), Fields({{.variable = "RIGE18", .label = "Total Rigid ESAL"},
+                                                {.variable = "FLEXE18", .label = "Total Flexible ESAL"}})}),
+                 Rows({std::move(right)})}),
+        Buttons({{"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}}),
+        Hidden({"Dim1", "Dim2"}),
+    });
+}
+
+// --- What the screen does -----------------------------------------------------------------------------
+
+/// True if something of the vehicles was entered.
+bool HasVehicles(const ScreenContext& context, const Form& form) {
+    for (const Field* field : context.catalogue.FieldsOfScreen(form.tag)) {
+        const CellValue* cell = context.calc.store.FindCell(field->name, 1, 1);
+        if (field->equation.empty() && cell != nullptr && cell->IsFilled()) return true;
+    }
+    return false;
+}
+
+/// A code that is none leaves the box of its axle as it stands.
+void ShowTypes(const ScreenContext& context, Form& form) {
+    for (int axle = kFirstAxle; axle <= kLastAxle; ++axle) {
+        Control& box = *form.Find(Named("AT", axle));
+        if (!WordOf(box.words, context.calc.store.GetVar(box.tag)).empty())
+            ShowStoredValue(context, form, box);
+    }
+}
+
+/// With no vehicle at all the design traffic of another route stays.
+void Activated(ScreenContext& context, Form& form, Control* /*control*/) {
+    ShowPeriod(context, form);
+    ShowTypes(context, form);
+    if (HasVehicles(context, form)) RecalcOutputs(context, form, "", 0);
+}
+
+/// A type that was blanked is stored as the code of none.
+void TypeStored(ScreenContext& context, Form& form, Control* box) {
+    if (box->coded && box->text.empty()) StoreCode(context, form, *box);
+}
+
+}  // namespace
+
+FormType VehicleForm() {
+    FormType type;
+    type.name = "TrVe";
+    type.tag = "TrVe";
+    type.caption = "ESAL Conversion From Vehicle Data";
+    type.layout = VehicleLayout();
+    type.handlers = {
+        {FormEvent::Activate, "", HandlerOrder::After, Activated},
+        {FormEvent::Stored, "", HandlerOrder::After, TypeStored},
+    };
+    return type;
+}
+
+}  // namespace kelvor

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "screens/forms/form_type.h"
+
+namespace kelvor {
+
+/// `TrVe`: the ESALs of six classes of vehicles, by the types and loads of their axles.
+FormType VehicleForm();
+
+}  // namespace kelvor
