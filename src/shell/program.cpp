@@ -105,8 +105,11 @@ bool Program::PerformOnCurrentForm(const UserEvent& event) {
     Form* form = context.forms.CurrentForm;
     if (form == nullptr) return false;
     // A screen that was kept open over a failed open has no project to work on.
-    if (!state_.dbWork.IsOpen() && form->type().needsProject) return true;
     FormEvents events(context);
+    if (!state_.dbWork.IsOpen() && form->type().needsProject) {
+        if (event.kind == UserEvent::Kind::Press && EqualNoCase(event.name, "cmdAction")) events.Close(*form);
+        return true;
+    }
     if (event.kind == UserEvent::Kind::Key && event.name == "F1" && !HasFieldHelp(*form)) {
         return ShowHelp(HelpPageOf(*form)), true;
     }

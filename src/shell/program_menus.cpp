@@ -78,9 +78,11 @@ bool Program::LeaveProject() {
     return true;
 }
 
-/// The hub in front, which is made when it is first asked for and never closed, with its start tab.
+/// The hub in front, which is made when it is first asked for and never closed, with its start tab. A screen
+/// that the user has kept open shows the values of the project of now.
 void Program::ShowHub() {
     ScreenContext context = state_.MakeScreenContext();
+    for (Form* form : context.forms.InOpeningOrder()) FormEvents(context).ShowProject(*form);
     FormEvents(context).Open(kHubForm);
     if (Form* hub = state_.formRegistry.Find(kHubForm)) EnterHubTab(context, *hub, HubTab::Start);
 }

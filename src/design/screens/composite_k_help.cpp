@@ -6,6 +6,7 @@
 #include "design/calc/composite_k.h"
 #include "platform/number_picture.h"
 #include "platform/number_text.h"
+#include "screens/forms/field_entry.h"
 #include "screens/forms/form.h"
 #include "screens/forms/form_builder.h"
 #include "screens/forms/side_screen.h"
@@ -27,14 +28,16 @@ bool IsInput(const Control& control) {
                        [&](const char* name) { return control.name == name; });
 }
 
-double Number(const Form& form, const char* name) { return ParseNumber(form.HiddenText(name)); }
+double Number(const ScreenContext& context, const Form& form, const char* name) {
+    return FieldNumber(context, form, *form.Find(name));
+}
 
 void ComputeCompositeK(const ScreenContext& context, Form& form) {
-    const SubgradeLayers layers{.roadbedModulus = Number(form, "MRSG"),
-                                .subbaseModulus = Number(form, "MRSB"),
-                                .subbaseThickness = Number(form, "SBD"),
-                                .depthToFoundation = Number(form, "SGD"),
-                                .lossOfSupport = Number(form, "LS")};
+    const SubgradeLayers layers{.roadbedModulus = Number(context, form, "MRSG"),
+                                .subbaseModulus = Number(context, form, "MRSB"),
+                                .subbaseThickness = Number(context, form, "SBD"),
+                                .depthToFoundation = Number(context, form, "SGD"),
+                                .lossOfSupport = Number(context, form, "LS")};
     const auto k = context.units.bMetric() ? CompositeKMetric(layers) : CompositeKEnglish(layers);
     form.SetHiddenText(kResult, k ? FormatNumber(*k, kResultPicture) : "");
 }
@@ -60,8 +63,14 @@ void Typed(ScreenContext& context, Form& form, Control* control) {
     ComputeCompositeK(context, form);
 }
 
-/// What the inputs have given stays, although the boxes were filled anew.
-void Follow(ScreenContext& context, Form& form, Control* /*control*/) {
+/// An input has a new value, from here or from its own help.
+void InputStored(ScreenContext& context, Form& form, Control* control) { Typed(context, form, control); }
+
+/// What the inputs have given stays, although the boxes were filled anew; inputs from before give a k where
+/// there is none.
+void Follow(ScreenContext& context, Form& form, Control* control) {
+    const bool left = control != nullptr && IsInput(*control) && form.HiddenText(kResult).empty();
+    if (left && ParseNumber(form.HiddenText("MRSG")) != 0.0) form.workedOut = true;
     if (form.workedOut) ComputeCompositeK(context, form);
 }
 
@@ -72,7 +81,7 @@ void Closing(ScreenContext& context, Form& form, Control* /*control*/) {
     if (form.workedOut && !field.empty() && !value.empty()) {
         const CellValue before = CalledField(context, form);
         context.units.SetDisplayValue(field, 1, 1, value);
-        taken = CalledField(context, form) != before;
+        taken = !IsSameValue(CalledField(context, form), before);
     }
     ReturnFromSideScreen(context, form, taken);
 }
@@ -107,6 +116,7 @@ FormType CompositeKHelp() {
                      {FormEvent::Activate, "", HandlerOrder::After, Follow},
                      {FormEvent::Change, "", HandlerOrder::After, Typed},
                      {FormEvent::LostFocus, "", HandlerOrder::After, Follow},
+                     {FormEvent::Stored, "", HandlerOrder::After, InputStored},
                      {FormEvent::UnitsSwitched, "", HandlerOrder::After, Follow},
                      {FormEvent::Unload, "", HandlerOrder::Before, Closing}};
     return type;

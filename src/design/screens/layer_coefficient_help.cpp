@@ -40,6 +40,7 @@ FormType CoefficientHelp(const char* name, const char* caption, std::vector<std:
     type.name = name;
     type.tag = name;
     type.caption = caption;
+    type.modal = true;
     type.isHelp = true;
     type.layout = Rows({
         Chart("Chart1", CoefficientChart()),

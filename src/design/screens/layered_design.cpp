@@ -49,8 +49,12 @@ int CurrentRow(Form& form) { return form.FindGrid()->grid->row; }
 
 void Activated(ScreenContext& context, Form& form, Control* /*control*/) {
     RecalcAllOutputs(context, form);
+    ClearAdditThick(context.calc, context.calculations, CurrentRow(form));
+    RefreshScreen(context, form);
     ShowVerdict(form);
 }
+
+void UnitsSwitched(ScreenContext& /*context*/, Form& form, Control* /*control*/) { ShowVerdict(form); }
 
 /// A material also sets the coefficient of the existing layer in the same row.
 void MaterialChanged(ScreenContext& context, Form& form, Control* control) {
@@ -121,6 +125,7 @@ FormType LayeredDesignForm() {
         {FormEvent::CellChanged, "", HandlerOrder::After, CellChanged},
         {FormEvent::RowChanged, "", HandlerOrder::After, RowChanged},
         {FormEvent::RowDeleted, "", HandlerOrder::After, RowDeleted},
+        {FormEvent::UnitsSwitched, "", HandlerOrder::After, UnitsSwitched},
         {FormEvent::Unload, "", HandlerOrder::Before, Closing},
     };
     type.helpRoutes = {{"LDLayerCoef", "H_LDLayerCoef"}};

@@ -1,10 +1,15 @@
 #include "design/screens/subgrade_modulus_help.h"
 
+#include <array>
+#include <optional>
+#include <utility>
+
 #include "design/calc/reliability.h"
 #include "design/calc/subgrade_modulus.h"
+#include "platform/number_picture.h"
 #include "platform/number_text.h"
 #include "platform/real.h"
-#include "screens/forms/balance_state.h"
+#include "screens/forms/field_entry.h"
 #include "screens/forms/form.h"
 #include "screens/forms/side_screen.h"
 
@@ -32,23 +37,59 @@ const char* const kAboutCorrelation =
     "times the CBR value."
     "  This range agrees with the correlation established in NCHRP Project 128.";
 
-/// Shows and stores both estimates and the one that governs. Values out of range are told, and the estimates
-/// stay as they were.
-void Compute(ScreenContext& context, Form& form, Control* /*field*/) {
-    SubgradeModulus modulus;
+/// Both estimates from the tests as they stand; nothing, with a message, for values out of range.
+std::optional<SubgradeModulus> Estimate(const ScreenContext& context, const Form& form) {
     try {
-        modulus =
-            ComputeSubgradeModulus(ParseNumber(form.HiddenText("CBR")), ParseNumber(form.HiddenText("RVAL")));
+        return ComputeSubgradeModulus(FieldNumber(context, form, *form.Find("CBR")),
+                                      FieldNumber(context, form, *form.Find("RVAL")));
     } catch (const ArithmeticFault&) {
         ReportMathOverflow(context.calc.dialogs);
-        return;
+        return std::nullopt;
     }
+}
+
+/// Each output with its estimate, in the active units and in the order in which they are shown.
+std::array<std::pair<const char*, double>, 3> Outputs(const ScreenContext& context,
+                                                      const SubgradeModulus& modulus) {
     const double unit = context.units.bMetric() ? kMpaPerPsi : 1.0;
-    context.units.SetDisplayNumber("ORVAL", 1, 1, modulus.byRValue * unit);
-    context.units.SetDisplayNumber("OCBR", 1, 1, modulus.byCbr * unit);
-    context.units.SetDisplayNumber("V", 1, 1, modulus.governing * unit);
+    return {{{"ORVAL", modulus.byRValue * unit},
+             {"OCBR", modulus.byCbr * unit},
+             {"V", modulus.governing * unit}}};
+}
+
+/// Shows and stores both estimates and the one that governs.
+void StoreEstimate(ScreenContext& context, Form& form) {
+    const auto modulus = Estimate(context, form);
+    if (!modulus) return;
+    for (const auto& [output, value] : Outputs(context, *modulus)) {
+        context.units.SetDisplayNumber(output, 1, 1, value);
+        form.SetHiddenText(output, context.units.GetDisplayValue(output));
+    }
     form.workedOut = true;
-    RefreshScreen(context, form);
+}
+
+/// Shows what tests from before give that were never worked out. Nobody has entered anything, so it stores
+/// nothing.
+void ShowEstimate(ScreenContext& context, Form& form) {
+    const auto modulus = Estimate(context, form);
+    if (!modulus) return;
+    for (const auto& [output, value] : Outputs(context, *modulus)) {
+        const Control& box = *form.Find(output);
+        form.SetHiddenText(output, FormatNumber(value, box.picture));
+    }
+}
+
+void TestStored(ScreenContext& context, Form& form, Control* /*control*/) { StoreEstimate(context, form); }
+
+/// A test that was refused counts no more.
+void TestLeft(ScreenContext& context, Form& form, Control* control) {
+    if (control->name != "CBR" && control->name != "RVAL") return;
+    const bool isThere = !form.HiddenText("CBR").empty() || !form.HiddenText("RVAL").empty();
+    if (form.refused) {
+        StoreEstimate(context, form);
+    } else if (isThere && form.HiddenText("V").empty()) {
+        ShowEstimate(context, form);
+    }
 }
 
 /// Hands the governing modulus, as it is shown, to the field for which the screen was opened.
@@ -59,7 +100,7 @@ void Closing(ScreenContext& context, Form& form, Control* /*control*/) {
     if (form.workedOut && !field.empty() && ParseNumber(value) != 0.0) {
         const CellValue before = CalledField(context, form);
         context.units.SetDisplayValue(field, 1, 1, value);
-        const bool differs = CalledField(context, form) != before;
+        const bool differs = !IsSameValue(CalledField(context, form), before);
         if (differs) context.bProjectChanged = true;
         warns = differs && EqualNoCase(field, "RM");
     }
@@ -88,7 +129,8 @@ FormType SubgradeModulusHelp() {
         Buttons({{"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}}),
         Hidden({"FieldName", "FormName"}),
     });
-    type.handlers = {{FormEvent::Stored, "", HandlerOrder::After, Compute},
+    type.handlers = {{FormEvent::Stored, "", HandlerOrder::After, TestStored},
+                     {FormEvent::LostFocus, "", HandlerOrder::After, TestLeft},
                      {FormEvent::Unload, "", HandlerOrder::Before, Closing}};
     return type;
 }

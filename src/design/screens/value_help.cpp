@@ -16,6 +16,7 @@ FormType PlainValueHelp(const char* name) {
     type.name = name;
     type.tag = name;
     type.caption = "Help Screen";
+    type.modal = true;
     type.isHelp = true;
     type.layout = Rows({
         Verdict("HelpHead"),

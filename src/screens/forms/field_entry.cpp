@@ -132,7 +132,7 @@ void FindControlIndex(Form& form, std::string_view controlName) {
 }
 
 bool FieldLostFocus(ScreenContext& context, Form& form, Control& control) {
-    if (!IsOffered(control)) {
+    if (form.fieldChanged() && !IsOffered(control)) {
         context.calc.dialogs.ShowMessage({.text = "Please select item from the list", .title = "List"});
         Refuse(form, control);
         // The list is left blank, and with it the code.
@@ -175,6 +175,16 @@ void RestoreField(ScreenContext& context, Form& form, Control& control) {
     if (!form.fieldChanged()) return;
     ShowStoredValue(context, form, control);
     form.SetFieldChanged(false);
+}
+
+double FieldNumber(const ScreenContext& context, const Form& form, const Control& box) {
+    if (box.text.empty()) return 0.0;
+    const bool typing = form.focus == &box && form.fieldChanged();
+    const Variable* variable = context.catalogue.FindVariable(box.tag);
+    const CellValue* cell =
+        context.calc.store.FindCell(box.tag, form.dim1().value_or(1), form.dim2().value_or(1));
+    if (typing || variable == nullptr || cell == nullptr || !cell->number) return ParseNumber(box.text);
+    return *cell->number * context.units.UnitFactor(variable->units);
 }
 
 }  // namespace kelvor

@@ -36,4 +36,8 @@ bool IsOutOfRange(const Range& range, double value);
 /// The text with which a value out of a range is refused.
 std::string OutOfRangeText(const Range& range);
 
+/// The number in a box, 0 if it is empty: what is being typed, else the value that it shows, in the active
+/// units and with the digits that its picture leaves out.
+double FieldNumber(const ScreenContext& context, const Form& form, const Control& box);
+
 }  // namespace kelvor

@@ -108,6 +108,7 @@ void OpenFieldHelp(ScreenContext& context, Form& form) {
     if (subject.variable.empty()) {
         Say(context, "Please select field first.");
     } else if (const HelpRoute* route = FindRoute(form.type(), subject.variable)) {
+        StoreCall(context, form, subject);
         OpenSideScreen(context, route->form, MakeCall(form, subject.variable, subject.row));
     } else {
         OpenGeneralHelp(context, form, subject);
@@ -144,7 +145,7 @@ void DropCommas(ScreenContext& /*context*/, Form& /*form*/, Control* control) {
 }
 
 void CloseValueHelp(ScreenContext& context, Form& form, Control* /*control*/) {
-    const bool changed = CalledField(context, form) != form.valueAtOpening;
+    const bool changed = !IsSameValue(CalledField(context, form), form.valueAtOpening);
     ReturnFromSideScreen(context, form, changed);
     Form* caller = context.forms.Find(form.HiddenText("FormName"));
     Control* field = caller == nullptr ? nullptr : caller->FindField(form.HiddenText("FieldName"));

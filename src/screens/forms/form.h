@@ -93,6 +93,7 @@ class Form {
     std::optional<SideScreenReturn> returned;  // until the form is activated again
     std::array<std::string, 2> solvedFor;      // the variables that the indicators show
     CellValue valueAtOpening;                  // of a side screen: of the field it was opened for
+    bool refused = false;                      // the value that was being typed when a field was left last
     bool workedOut = false;                    // of a side screen: it has a new value for its caller
 
   private:

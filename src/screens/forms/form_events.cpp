@@ -96,7 +96,9 @@ void FormEvents::TakeReturn(Form& form, const SideScreenReturn& returned) {
     Control* caller = grid != nullptr ? grid : form.FindField(returned.field);
     if (caller == nullptr) caller = form.Find(returned.field);  // an option
     if (caller != nullptr && form.CanFocus(*caller)) GetFocus(form, *caller);
-    if (returned.valueTaken) WarnOfChange(context_, form, returned.field);
+    if (!returned.valueTaken) return;
+    if (grid == nullptr && caller != nullptr) Handle(FormEvent::Stored, form, caller, [] {});
+    WarnOfChange(context_, form, returned.field);
 }
 
 /// A form without a field that takes the focus has it on its first button.
@@ -130,8 +132,14 @@ void FormEvents::Unload(Form& form) {
 }
 
 void FormEvents::ActivateFront() {
-    if (Current() != nullptr) return;
-    if (Form* front = context_.forms.Front()) Activate(*front);
+    Form* current = Current();
+    if (current == nullptr) {
+        if (Form* front = context_.forms.Front()) Activate(*front);
+    } else if (current->returned && Commit()) {
+        // Its side screen was closed from outside: it takes the value over as if it had come in front.
+        context_.forms.CurrentForm = nullptr;
+        Activate(*current);
+    }
 }
 
 void FormEvents::UnloadAll() {
@@ -152,7 +160,10 @@ bool FormEvents::LoseFocus(Form& form, Control& control) {
     if (control.grid) return CommitCell(form, control);
     if (!control.IsField()) return accepted;
     const bool changed = form.fieldChanged();
-    Handle(FormEvent::LostFocus, form, &control, [&] { accepted = FieldLostFocus(context_, form, control); });
+    Handle(FormEvent::LostFocus, form, &control, [&] {
+        accepted = FieldLostFocus(context_, form, control);
+        form.refused = !accepted;
+    });
     if (accepted && changed) Handle(FormEvent::Stored, form, &control, [] {});
     return accepted;
 }
@@ -370,6 +381,20 @@ bool FormEvents::Choose(Form& form, Control& control, const std::string& item) {
     if (std::find(control.items.begin(), control.items.end(), item) == control.items.end()) return false;
     if (MoveFocus(form, control) && control.text != item) Type(item);
     return true;
+}
+
+// --- Projects ---------------------------------------------------------------------------------------------
+
+void FormEvents::ShowProject(Form& form) {
+    if (form.type().isHub || !form.type().needsProject) return;
+    if (context_.calc.store.IsOpen()) {
+        RefreshScreen(context_, form);
+        return;
+    }
+    for (const auto& control : form.controls()) {
+        if (control->IsField()) control->text.clear();
+    }
+    form.SetFieldChanged(false);
 }
 
 // --- Units ------------------------------------------------------------------------------------------------

@@ -66,6 +66,10 @@ class FormEvents {
     /// Selects an option, toggles a check box, or picks an item of a list. False if that makes no sense.
     bool Choose(Form& form, Control& control, const std::string& item);
 
+    /// Shows the values of the open project on a form that was kept over a change of projects; with none
+    /// open, none.
+    void ShowProject(Form& form);
+
     /// Rewrites the current form after a switch of the unit system.
     void AfterUnitSwitch();
 

@@ -103,7 +103,14 @@ bool FormEvents::DeleteRow(Form& form, int row) {
     if (control == nullptr) return false;
     if (!MoveFocus(form, *control)) return true;
     if (!MoveGridCursor(form, *control, row, control->grid->column)) return true;
-    if (!control->grid->texts && !GridDeleteRow(context_, form, *control->grid, row)) return true;
+    if (control->grid->texts) {
+        if (!CommitCell(form, *control)) return true;
+    } else if (GridDeleteRow(context_, form, *control->grid, row)) {
+        control->grid->typed.reset();  // what was being typed has gone with its row
+        form.SetFieldChanged(false);
+    } else {
+        return true;
+    }
     Handle(FormEvent::RowDeleted, form, control, [&] {
         RecalcAllOutputs(context_, form);
         RecalcOutputs(context_, form, "", 0);

@@ -118,12 +118,23 @@ void HideParts(Form& form) {
     }
 }
 
+void SayNotFound(const ScreenContext& context, const std::string& screen) {
+    context.calc.dialogs.ShowMessage({.text = "Screen " + screen + " not found"});
+}
+
 void PageClick(ScreenContext& context, Form& form, Control* button) {
     const std::string screen = button->tag;
     FormEvents events(context);
-    if (!events.Close(form)) return;
     const bool isBuilt = context.catalogue.FindScreen(screen) != nullptr;
-    if (isBuilt || !events.Open(screen)) OpenBuiltScreen(context, screen);
+    if (!isBuilt && context.forms.FindType(screen) == nullptr) {
+        SayNotFound(context, screen);
+    } else if (events.Close(form)) {
+        if (isBuilt) {
+            OpenBuiltScreen(context, screen);
+        } else {
+            events.Open(screen);
+        }
+    }
 }
 
 void SolveClick(ScreenContext& context, Form& form, Control* /*button*/) { SolveForClick(context, form); }
@@ -133,7 +144,7 @@ void SolveClick(ScreenContext& context, Form& form, Control* /*button*/) { Solve
 bool BuildScreen(ScreenContext& context, const std::string& name, Form& form) {
     const Screen* screen = context.catalogue.FindScreen(name);
     if (screen == nullptr) {
-        context.calc.dialogs.ShowMessage({.text = "Screen " + name + " not found"});
+        SayNotFound(context, name);
         return false;
     }
     HideParts(form);
@@ -160,6 +171,7 @@ bool BuildScreen(ScreenContext& context, const std::string& name, Form& form) {
 }
 
 void OpenBuiltScreen(ScreenContext& context, const std::string& name) {
+    if (!context.calc.store.IsOpen()) return;
     FormEvents events(context);
     Form* open = context.forms.Find(kBlankForm);
     if (!events.Commit() || (open != nullptr && !events.Close(*open))) return;

@@ -37,6 +37,10 @@ CellValue CalledField(const ScreenContext& context, const Form& sideScreen) {
     return cell == nullptr ? CellValue{} : *cell;
 }
 
+bool IsSameValue(const CellValue& one, const CellValue& other) {
+    return one.number || other.number ? one.number == other.number : one == other;
+}
+
 void ReturnFromSideScreen(ScreenContext& context, const Form& sideScreen, bool valueTaken) {
     context.calc.store.SetVar("FieldChanged", valueTaken ? kTrue : 0.0);
     if (valueTaken) context.bProjectChanged = true;

@@ -29,6 +29,9 @@ Form* OpenSideScreen(ScreenContext& context, const std::string& sideScreen, cons
 /// The value of the field that a side screen was opened for, as it is stored.
 CellValue CalledField(const ScreenContext& context, const Form& sideScreen);
 
+/// True for equal numbers, however they were typed; texts are compared where there is no number.
+bool IsSameValue(const CellValue& one, const CellValue& other);
+
 /// Tells the caller, when a side screen closes, whether a value was taken over: its indicator then warns, and
 /// the focus goes back to the field.
 void ReturnFromSideScreen(ScreenContext& context, const Form& sideScreen, bool valueTaken);

@@ -74,6 +74,10 @@ bool Confirmed(ScreenContext& context, const char* question) {
 // --- What the user does -----------------------------------------------------------------------------
 
 void ListChosen(ScreenContext& context, Form& hub, Control* /*list*/) {
+    if (Chosen(hub).empty()) {
+        OfferListButtons(hub);  // the entries of the list before stay
+        return;
+    }
     GridOf(hub).row = 1;
     ShowList(context, hub);
 }
@@ -149,7 +153,9 @@ void OfferListButtons(Form& hub) {
 }
 
 void EnterListsTab(ScreenContext& context, Form& hub) {
-    Try([&] { hub.Find(kCombo)->items = context.lists.Descriptions(); });
+    // Once: a list that is emptied stays there to be restored.
+    std::vector<std::string>& lists = hub.Find(kCombo)->items;
+    if (lists.empty()) Try([&] { lists = context.lists.Descriptions(); });
     ShowList(context, hub);
 }
 

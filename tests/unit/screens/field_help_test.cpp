@@ -183,6 +183,110 @@ TEST_F(FieldHelpTest, AHelpThatIsOpenForAnotherScreenGivesWay) {
     EXPECT_EQ(Current().solveState[1], SolveState::Resting);
 }
 
+TEST_F(FieldHelpTest, InputsFromBeforeGiveAKWhereThereIsNone) {
+    program_.Set("MRSG", 7000.0);
+    Raise(Kind::OpenForm, "DeR");
+    Raise(Kind::Focus, "K");
+    Raise(Kind::Key, "F1");
+    EXPECT_EQ(Current().HiddenText("K"), "");
+    Raise(Kind::Key, "Tab");
+    EXPECT_EQ(Current().HiddenText("K"), "360.8");
+    Raise(Kind::Key, "Esc");
+    EXPECT_EQ(program_.Get("K"), 360.8);
+}
+
+TEST_F(FieldHelpTest, AnInputThatItsOwnHelpHasChangedGivesANewK) {
+    program_.Set("K", 200.0);
+    Raise(Kind::OpenForm, "DeR");
+    Raise(Kind::Focus, "K");
+    Raise(Kind::Key, "F1");
+    Raise(Kind::Key, "F1");
+    ASSERT_EQ(Current().name(), "HelpForm");
+    Raise(Kind::Type, {}, "7000");
+    Raise(Kind::Key, "Esc");
+    EXPECT_EQ(Current().HiddenText("K"), "360.8");
+    EXPECT_EQ(program_.store().FindCell("FieldName", 1, 1)->text, "K") << "the first caller";
+    EXPECT_EQ(program_.store().FindCell("FieldName2", 1, 1)->text, "MRSG");
+    Raise(Kind::Key, "Esc");
+    EXPECT_EQ(program_.Get("K"), 360.8);
+}
+
+TEST_F(FieldHelpTest, WhatAPictureHidesCounts) {
+    program_.program.ChooseUnits(true);
+    Raise(Kind::OpenForm, "DeR");
+    Raise(Kind::Focus, "K");
+    Raise(Kind::Key, "F1");
+    Raise(Kind::Type, {}, "7.5");
+    EXPECT_EQ(Current().HiddenText("K"), "15.7");
+    Raise(Kind::Key, "Tab");
+    EXPECT_EQ(Current().HiddenText("MRSG"), "8") << "in its picture";
+    EXPECT_EQ(Current().HiddenText("K"), "15.7");
+    Raise(Kind::Key, "Esc");
+    program_.program.ChooseUnits(false);
+    Raise(Kind::OpenForm, "DeF");
+    Raise(Kind::Focus, "RM");
+    Raise(Kind::Key, "F1");
+    Raise(Kind::Type, {}, "0.96");
+    Raise(Kind::Key, "Tab");
+    EXPECT_EQ(Current().HiddenText("CBR"), "1.0");
+    EXPECT_EQ(Current().HiddenText("OCBR"), "1,888.0");
+    EXPECT_EQ(Current().HiddenText("V"), "0.0") << "a CBR below 1 governs nothing";
+}
+
+TEST_F(FieldHelpTest, ATestThatWasRefusedCountsNoMore) {
+    Raise(Kind::OpenForm, "DeF");
+    Raise(Kind::Focus, "RM");
+    Raise(Kind::Key, "F1");
+    Raise(Kind::Type, {}, "5");
+    Raise(Kind::Key, "Tab");
+    EXPECT_EQ(Current().HiddenText("V"), "5,842.0");
+    Raise(Kind::Focus, "CBR");
+    Raise(Kind::Type, {}, "101");
+    Raise(Kind::Key, "Tab");
+    EXPECT_EQ(Messages().size(), 1U);
+    EXPECT_EQ(Current().HiddenText("V"), "0.0");
+    Raise(Kind::Type, {}, "5");
+    Raise(Kind::Key, "Tab");
+    Raise(Kind::Focus, "CBR");
+    Raise(Kind::Type, {}, "much");
+    Raise(Kind::Key, "Tab");
+    EXPECT_EQ(Messages().size(), 1U);
+    EXPECT_EQ(Current().HiddenText("V"), "0.0");
+}
+
+TEST_F(FieldHelpTest, AHelpThatIsClosedFromOutsideReturnsItsValue) {
+    Raise(Kind::OpenForm, "DeR");
+    Raise(Kind::Focus, "K");
+    Raise(Kind::Key, "F1");
+    Raise(Kind::Type, {}, "7000");
+    Raise(Kind::ActivateForm, "DeR");
+    Raise(Kind::CloseForm, "H_K");
+    EXPECT_EQ(Current().name(), "DeR");
+    EXPECT_EQ(Current().HiddenText("K"), "360.8");
+    EXPECT_EQ(Current().solveState[0], SolveState::Warning);
+}
+
+TEST_F(FieldHelpTest, AnEntryThatHasLeftItsListStaysWithoutAnEdit) {
+    program_.store().SetCell("LDLayerMat", 1, 1, {std::nullopt, "Old Material"});
+    Raise(Kind::OpenForm, "LayDet");
+    Raise(Kind::Key, "F1");
+    EXPECT_EQ(Current().HiddenText("ComboBox"), "Old Material");
+    Raise(Kind::Press, "Command1");
+    EXPECT_THAT(Messages(), IsEmpty());
+    EXPECT_EQ(Current().name(), "LayDet");
+    EXPECT_EQ(program_.store().FindCell("LDLayerMat", 1, 1)->text, "Old Material");
+}
+
+TEST_F(FieldHelpTest, AnEqualNumberIsNoChange) {
+    program_.store().SetCell("RM", 1, 1, {5842.0, "5842"});
+    Raise(Kind::OpenForm, "DeF");
+    Raise(Kind::Focus, "RM");
+    Raise(Kind::Key, "F1");
+    Raise(Kind::Type, {}, "5");
+    Raise(Kind::Key, "Esc");
+    EXPECT_NE(Current().solveState[0], SolveState::Warning);
+}
+
 TEST_F(FieldHelpTest, ExistingPavementsHaveSubgradeDataOfTheirOwn) {
     Raise(Kind::OpenForm, "DeR");
     Form& caller = Current();

@@ -295,6 +295,33 @@ TEST_F(FormsTest, AScreenKeptOverAFailedOpenDoesNothingButClose) {
     EXPECT_EQ(program_.program.state().formRegistry.Find("DeF"), nullptr);
 }
 
+TEST_F(FormsTest, AScreenKeptOverNewShowsTheNewProject) {
+    Form& form = Open("DeF");
+    Raise(Kind::Type, {}, "5,000,000");
+    Raise(Kind::Key, "Tab");
+    program_.host.dialogs.QueueAnswer("no");  // not balanced: it stays open, and New goes on
+    program_.program.NewProject();
+    EXPECT_EQ(Messages().size(), 1U);
+    ASSERT_EQ(program_.program.state().formRegistry.Find("DeF"), &form);
+    EXPECT_EQ(form.HiddenText("FLEXE18"), "");
+    Raise(Kind::ActivateForm, "DeF");
+    EXPECT_EQ(form.HiddenText("FLEXE18"), "");
+}
+
+TEST_F(FormsTest, AScreenKeptOverAFailedOpenIsEmptyAndItsOkClosesIt) {
+    Form& form = Open("DeF");
+    Raise(Kind::Type, {}, "5,000,000");
+    Raise(Kind::Key, "Tab");
+    program_.host.dialogs.QueueAnswer("no");
+    program_.program.OpenProject((program_.home / "nothing.kvr").string());
+    EXPECT_EQ(form.HiddenText("FLEXE18"), "");
+    Raise(Kind::ActivateForm, "DeF");
+    Raise(Kind::Press, "cmdAction");
+    EXPECT_EQ(program_.program.state().formRegistry.Find("DeF"), nullptr);
+    program_.program.Raise({Kind::Menu, "Sub1"});
+    EXPECT_EQ(program_.program.state().formRegistry.Find("Blank"), nullptr) << "no project, no screen";
+}
+
 TEST_F(FormsTest, TheLimitsThemselvesPass) {
     Open("DeF");
     for (const auto& [text, number] : {std::pair{"50", 50.0}, std::pair{"99.99", 99.99}}) {

@@ -243,6 +243,39 @@ TEST_F(GridTest, TabLeavesTheGridAtItsEnds) {
     EXPECT_EQ(form_->focus->name, "SSHelp");
 }
 
+TEST_F(GridTest, WhatIsBeingTypedGoesWithItsRow) {
+    AddLayer(1, "0.4", "1", "4");
+    AddLayer(2, "0.1", "1", "8");
+    Raise(Kind::MoveToCell, "LDLayerThick", {}, 1);
+    Raise(Kind::Type, {}, "12");
+    program_.host.dialogs.QueueAnswer("yes");
+    Raise(Kind::DeleteRow, {}, {}, 1);
+    Raise(Kind::Key, "Enter");
+    EXPECT_EQ(Number("LDLayerThick", 1), 8.0);
+    EXPECT_NEAR(program_.Get("SSN"), 0.8, 1e-12);
+}
+
+TEST_F(GridTest, TheVerdictFollowsTheUnits) {
+    program_.Set("SN", 5.004);
+    AddLayer(1, "0.4996", "1", "10");
+    Raise(Kind::ActivateForm, "TabForm");
+    Raise(Kind::ActivateForm, "LayDet");
+    EXPECT_EQ(Verdict(), "OK") << "5.00 beside 5.00";
+    program_.program.ChooseUnits(true);
+    EXPECT_EQ(Verdict(), "Selected Structure is Less Than Required.") << "126.90 beside 127.10";
+}
+
+TEST_F(GridTest, OpenedAgainItShowsTheMissingThicknessOfItsRowAlone) {
+    program_.Set("SN", 5.0);
+    AddLayer(1, "0.4", "1", "4");
+    AddLayer(2, "0.1", "1", "4");
+    EXPECT_TRUE(Number("LDAdditThick", 2));
+    Raise(Kind::CloseForm, "LayDet");
+    Raise(Kind::OpenForm, "LayDet");
+    EXPECT_TRUE(Number("LDAdditThick", 1));
+    EXPECT_FALSE(Number("LDAdditThick", 2));
+}
+
 // --- Blocks of cells --------------------------------------------------------------------------------------
 
 TEST_F(GridTest, ABlockIsPastedCellByCell) {

@@ -77,6 +77,7 @@ TEST_F(ScreenBuilderTest, APageButtonLeadsToTheScreenThatItNames) {
     EXPECT_FALSE(second->Find("NextPage")->visible);
     program_.program.Raise({Kind::Press, "PrevPage"});
     EXPECT_THAT(Messages(), ElementsAre("Screen Gone not found"));
+    EXPECT_EQ(program_.program.state().formRegistry.Find("Blank"), second) << "and the page stays";
 }
 
 TEST_F(ScreenBuilderTest, AGridHasAsManyRowsAsItsVariable) {
