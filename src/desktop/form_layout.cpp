@@ -51,63 +51,50 @@ class LayoutMaker {
     void Add(QBoxLayout& to, const LayoutNode& node) {
         switch (node.kind) {
             case LayoutKind::Pages:
-                AddPages(to, node);
-                break;
+                return AddPages(to, node);
             case LayoutKind::Columns:
-                AddColumns(to, node);
-                break;
+                return AddColumns(to, node);
             case LayoutKind::Rows:
-                AddRows(to, node);
-                break;
+                return AddRows(to, node);
             case LayoutKind::Frame:
-                AddFrame(to, node);
-                break;
+                return AddFrame(to, node);
             case LayoutKind::Fields:
-                AddFields(to, node);
-                break;
+                return AddFields(to, node);
             case LayoutKind::Options:
-                AddOptions(to, node);
-                break;
-            case LayoutKind::Heading:
-                AddHeading(to, node);
-                break;
-            case LayoutKind::Text:
-                AddText(to, node);
-                break;
+                return AddOptions(to, node);
             case LayoutKind::Checks:
-                AddChecks(to, node);
-                break;
-            case LayoutKind::Choice:
-                AddChoice(to, node);
-                break;
-            case LayoutKind::Matrix:
-                AddMatrix(to, node);
-                break;
-            case LayoutKind::Box:
-                to.addWidget(FixedBox(node.fields.front()));
-                break;
-            case LayoutKind::Part:
-            case LayoutKind::Caption:
-            case LayoutKind::Picture:
-            case LayoutKind::Verdict:
-            case LayoutKind::Indicator:
-                to.addWidget(find_(node.name));
-                break;
+                return AddChecks(to, node);
             case LayoutKind::Table:
-                AddTable(to, node);
-                break;
+                return AddTable(to, node);
+            case LayoutKind::Matrix:
+                return AddMatrix(to, node);
             case LayoutKind::Placed:
-                AddPlaced(to);
-                break;
+                return AddPlaced(to);
+            case LayoutKind::Buttons:
+                return AddButtons(to, node);
+            default:
+                return AddSingle(to, node);
+        }
+    }
+
+    /// What is one control, with a label at most.
+    void AddSingle(QBoxLayout& to, const LayoutNode& node) {
+        switch (node.kind) {
+            case LayoutKind::Heading:
+                return AddHeading(to, node);
+            case LayoutKind::Text:
+                return AddText(to, node);
+            case LayoutKind::Choice:
+                return AddChoice(to, node);
+            case LayoutKind::Box:
+                return to.addWidget(FixedBox(node.fields.front()));
             case LayoutKind::Grid:
             case LayoutKind::Chart:
-                to.addWidget(find_(node.name), 1);
-                break;
-            case LayoutKind::Buttons:
-                AddButtons(to, node);
-                break;
+                return to.addWidget(find_(node.name), 1);
             case LayoutKind::Hidden:
-                break;
+                return;
+            default:
+                return to.addWidget(find_(node.name));
         }
     }
 

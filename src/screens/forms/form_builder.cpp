@@ -130,67 +130,64 @@ class Builder {
     void AddNode(const LayoutNode& node) {
         switch (node.kind) {
             case LayoutKind::Pages:
-                AddPages(node);
-                return;
+                return AddPages(node);
             case LayoutKind::Frame:
-                AddFrame(node);
-                return;
-            case LayoutKind::Heading:
-            case LayoutKind::Caption:
-            case LayoutKind::Text:
-                Add(ControlKind::Label, node.name).text = node.title;
-                break;
-            case LayoutKind::Picture:
-                AddPicture(node);
-                break;
-            case LayoutKind::Verdict:
-                Add(ControlKind::Label, node.name).bold = true;
-                break;
-            case LayoutKind::Grid:
-                AddGrid(node);
-                break;
-            case LayoutKind::Table:
-                AddTable(node);
-                break;
-            case LayoutKind::Chart:
-                Add(ControlKind::Chart, node.name).chart = node.chart;
-                break;
-            case LayoutKind::Indicator:
-                AddIndicator(node.name);
-                break;
-            case LayoutKind::Fields:
-                for (const FieldItem& field : node.fields) AddField(field);
-                break;
-            case LayoutKind::Options:
-                for (const ButtonItem& option : node.buttons) AddButton(ControlKind::OptionButton, option);
-                break;
-            case LayoutKind::Checks:
-                for (const ButtonItem& box : node.buttons) AddButton(ControlKind::CheckBox, box);
-                break;
-            case LayoutKind::Choice:
-                AddChoice(node);
-                break;
-            case LayoutKind::Buttons:
-                for (const ButtonItem& button : node.buttons) AddButton(ControlKind::CommandButton, button);
-                break;
-            case LayoutKind::Hidden:
-                for (const FieldItem& field : node.fields) AddHidden(field.variable);
-                break;
-            case LayoutKind::Placed:
-                AddBuiltParts();
-                break;
-            case LayoutKind::Box:
-                AddBox(node.fields.front());
-                break;
-            case LayoutKind::Part:
-                parts_.push_back(node.name);
-                break;
-            case LayoutKind::Matrix:
+                return AddFrame(node);
             case LayoutKind::Columns:
             case LayoutKind::Rows:
-                break;
+            case LayoutKind::Matrix:
+                for (const LayoutNode& child : node.children) AddNode(child);
+                return;
+            case LayoutKind::Fields:
+                for (const FieldItem& field : node.fields) AddField(field);
+                return;
+            case LayoutKind::Hidden:
+                for (const FieldItem& field : node.fields) AddHidden(field.variable);
+                return;
+            case LayoutKind::Options:
+                return AddButtons(ControlKind::OptionButton, node);
+            case LayoutKind::Checks:
+                return AddButtons(ControlKind::CheckBox, node);
+            case LayoutKind::Buttons:
+                return AddButtons(ControlKind::CommandButton, node);
+            default:
+                return AddSingle(node);
         }
-        for (const LayoutNode& child : node.children) AddNode(child);
+    }
+
+    /// What has no elements inside it.
+    void AddSingle(const LayoutNode& node) {
+        switch (node.kind) {
+            case LayoutKind::Picture:
+                return AddPicture(node);
+            case LayoutKind::Verdict:
+                Add(ControlKind::Label, node.name).bold = true;
+                return;
+            case LayoutKind::Grid:
+                return AddGrid(node);
+            case LayoutKind::Table:
+                return AddTable(node);
+            case LayoutKind::Chart:
+                Add(ControlKind::Chart, node.name).chart = node.chart;
+                return;
+            case LayoutKind::Indicator:
+                return AddIndicator(node.name);
+            case LayoutKind::Choice:
+                return AddChoice(node);
+            case LayoutKind::Placed:
+                return AddBuiltParts();
+            case LayoutKind::Box:
+                return AddBox(node.fields.front());
+            case LayoutKind::Part:
+                parts_.push_back(node.name);
+                return;
+            default:  // a text of some kind
+                Add(ControlKind::Label, node.name).text = node.title;
+        }
+    }
+
+    void AddButtons(ControlKind kind, const LayoutNode& node) {
+        for (const ButtonItem& button : node.buttons) AddButton(kind, button);
     }
 
     void AddPages(const LayoutNode& node) {
