@@ -76,7 +76,7 @@ class KeyGiver {
         }
         for (const char key : letters) {
             Control* holder = HolderOf(key, control);
-            if (given_.count(holder) == 0 || !tried.insert(key).second) continue;
+            if (!given_.contains(holder) || !tried.insert(key).second) continue;
             if (Give(*holder, tried)) return take(key);
         }
         return false;
