@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QTest>
 #include <string>
 
 #include "desktop/application.h"
@@ -27,6 +29,34 @@ class DesktopTest : public testing::Test {
     QuestionRecord record;
     DialogResponder responder{record};
     DesktopProgram desktop{home.home()};
+};
+
+/// The same, worked by keys alone. A key goes to whatever has the focus.
+class KeyboardTest : public DesktopTest {
+  protected:
+    KeyboardTest() { ComeToFront(); }
+
+    void ComeToFront() {
+        window().activateWindow();
+        (void)QTest::qWaitForWindowActive(&window());
+    }
+
+    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        if (!window().isActiveWindow()) ComeToFront();
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+        QApplication::processEvents();
+    }
+
+    void Type(const char* text) {
+        if (!window().isActiveWindow()) ComeToFront();
+        // The first character may open a line for the rest.
+        for (const char* c = text; *c != '\0'; ++c) QTest::keyClick(QApplication::focusWidget(), *c);
+    }
+
+    void TypeAndEnter(const char* text) {
+        Type(text);
+        Press(Qt::Key_Return);
+    }
 };
 
 }  // namespace kelvor::test

@@ -27,33 +27,8 @@ using testing::IsEmpty;
 
 constexpr Qt::KeyboardModifier kNone = Qt::NoModifier;
 
-class WindowTest : public DesktopTest {
+class WindowTest : public KeyboardTest {
   protected:
-    WindowTest() { ComeToFront(); }
-
-    void ComeToFront() {
-        window().activateWindow();
-        (void)QTest::qWaitForWindowActive(&window());
-    }
-
-    /// A key, to whatever has the focus.
-    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = kNone) {
-        if (!window().isActiveWindow()) ComeToFront();
-        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
-        QApplication::processEvents();
-    }
-
-    void Type(const char* text) {
-        if (!window().isActiveWindow()) ComeToFront();
-        // The first character may open a line for the rest.
-        for (const char* c = text; *c != '\0'; ++c) QTest::keyClick(QApplication::focusWidget(), *c);
-    }
-
-    void TypeAndEnter(const char* text) {
-        Type(text);
-        Press(Qt::Key_Return);
-    }
-
     /// From the start page to the flexible design screen.
     void OpenFlexibleDesign() {
         for (int i = 0; i < 3; ++i) Press(Qt::Key_PageDown, Qt::ControlModifier);

@@ -19,31 +19,8 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class TrafficWindowTest : public DesktopTest {
+class TrafficWindowTest : public KeyboardTest {
   protected:
-    TrafficWindowTest() { ComeToFront(); }
-
-    void ComeToFront() {
-        window().activateWindow();
-        (void)QTest::qWaitForWindowActive(&window());
-    }
-
-    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        if (!window().isActiveWindow()) ComeToFront();
-        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
-        QApplication::processEvents();
-    }
-
-    void Type(const char* text) {
-        if (!window().isActiveWindow()) ComeToFront();
-        for (const char* c = text; *c != '\0'; ++c) QTest::keyClick(QApplication::focusWidget(), *c);
-    }
-
-    void TypeAndEnter(const char* text) {
-        Type(text);
-        Press(Qt::Key_Return);
-    }
-
     template <typename WidgetType>
     WidgetType& Find(const char* form, const char* name) {
         FormView* view = window().FindView(form);
