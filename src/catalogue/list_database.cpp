@@ -15,6 +15,13 @@ SQLite::Database OpenLists(const Path& path) {
     return database;
 }
 
+SQLite::Database EmptyLists() {
+    SQLite::Database database(":memory:", SQLite::OPEN_READWRITE);
+    for (const TableDefinition& table : ListTables()) database.exec(table.CreateStatement());
+    database.exec("PRAGMA query_only = ON");  // what would be lost at the end is refused at once
+    return database;
+}
+
 const char* const kColumns = "Name, Sort, \"Value\", UnitSystem, ShowValue, ShowUnits, Description";
 
 std::string TextOf(const SQLite::Column& column) {
@@ -40,6 +47,8 @@ void DeleteById(SQLite::Database& database, std::int64_t id) {
 }
 
 }  // namespace
+
+ListDatabase::ListDatabase() : database_(EmptyLists()) {}
 
 ListDatabase::ListDatabase(const Path& path) : database_(OpenLists(path)) {}
 

@@ -23,6 +23,9 @@ struct ListRow {
 /// update of the catalogue.
 class ListDatabase {
   public:
+    /// No lists, for a program that cannot read its own: none is offered, and every change is refused.
+    ListDatabase();
+
     /// Opens the database. Throws DatabaseError.
     explicit ListDatabase(const Path& path);
 

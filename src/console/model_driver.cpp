@@ -25,6 +25,13 @@ std::optional<int> WholeNumber(const std::string& text) {
     return value;
 }
 
+/// What is chosen: whether an option is, which tab shows, or a text.
+PropertyValue ValueOf(const Form& form, const Control& control) {
+    if (control.IsChoice()) return control.value;
+    if (control.kind == ControlKind::TabStrip) return form.page();
+    return control.text;
+}
+
 }  // namespace
 
 void ModelDriver::New() {
@@ -152,7 +159,14 @@ void ModelDriver::SwitchTab(int tab) {
     Raise({UserEvent::Kind::SwitchTab, {}, {}, tab}, "there is no tab " + std::to_string(tab));
 }
 
+void ModelDriver::CheckMenu(const std::string& name) {
+    for (const MenuEntry& entry : program_.Menus()) {
+        if (entry.name == name && entry.comesLater) throw ScriptError(name + " is not available yet");
+    }
+}
+
 void ModelDriver::ChooseMenu(const std::string& name, int index) {
+    CheckMenu(name);
     const bool hadProject = program_.state().dbWork.IsOpen();
     Raise({UserEvent::Kind::Menu, name, {}, index}, "there is no menu entry " + name);
     if (name == "NewProj" && hadProject && !program_.state().dbWork.IsOpen())
@@ -211,7 +225,7 @@ PropertyValue ModelDriver::Read(const std::string& control, const std::string& p
     if (property == "bold") return c.bold;
     if (property == "backcolor") return std::string(c.backColor);
     if (property == "forecolor") return std::string(c.foreColor);
-    if (property == "value") return c.IsChoice() ? PropertyValue(c.value) : PropertyValue(c.text);
+    if (property == "value") return ValueOf(CurrentForm(), c);
     throw ScriptError("a control has no property " + property);
 }
 

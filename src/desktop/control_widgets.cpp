@@ -9,6 +9,8 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QStyle>
+#include <QTabBar>
+#include <QTabWidget>
 #include <algorithm>
 
 #include "desktop/picture_view.h"
@@ -105,6 +107,15 @@ QWidget* MakeOption(QWidget* parent) {
     return option;
 }
 
+QWidget* MakeTabStrip(QWidget* parent) {
+    auto* tabs = new QTabWidget(parent);
+    tabs->setFocusPolicy(Qt::NoFocus);
+    tabs->tabBar()->setFocusPolicy(Qt::NoFocus);
+    tabs->setUsesScrollButtons(false);
+    tabs->setElideMode(Qt::ElideNone);
+    return tabs;
+}
+
 void MirrorLabel(const Control& control, QLabel& label) {
     const WidgetCaption caption = CaptionOf(control);
     const QString text = label.buddy() != nullptr ? caption.text : PlainLabelText(control.text);
@@ -192,6 +203,8 @@ QWidget* MakeWidget(const Control& control, QWidget* parent) {
             return MakeButton<QCheckBox>(parent);
         case ControlKind::Frame:
             return new QGroupBox(parent);
+        case ControlKind::TabStrip:
+            return MakeTabStrip(parent);
         case ControlKind::Grid:
         case ControlKind::Chart:
             break;  // it needs more than its control

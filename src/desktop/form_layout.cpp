@@ -99,11 +99,7 @@ class LayoutMaker {
     }
 
     void AddPages(QBoxLayout& to, const LayoutNode& node) {
-        tabs_ = new QTabWidget(&form_);
-        tabs_->setFocusPolicy(Qt::NoFocus);
-        tabs_->tabBar()->setFocusPolicy(Qt::NoFocus);
-        tabs_->setUsesScrollButtons(false);
-        tabs_->setElideMode(Qt::ElideNone);
+        tabs_ = qobject_cast<QTabWidget*>(find_(node.name));
         for (const LayoutNode& child : node.children) {
             auto* page = new QWidget(tabs_);
             auto* rows = new QVBoxLayout(page);

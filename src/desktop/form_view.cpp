@@ -189,9 +189,9 @@ void FormView::Sync() {
         if (control->labelOf.empty()) continue;
         NameField(*FindWidget(control->labelOf), *control, form_->FindUnitOf(control->labelOf));
     }
-    if (tabs_ != nullptr && tabs_->currentIndex() != form_->page) {
+    if (tabs_ != nullptr && tabs_->currentIndex() != form_->page()) {
         const QSignalBlocker quiet(tabs_);
-        tabs_->setCurrentIndex(form_->page);
+        tabs_->setCurrentIndex(form_->page());
     }
 }
 
@@ -322,7 +322,7 @@ bool FormView::HandleTabKey(const QKeyEvent& key) {
     if (key.key() != Qt::Key_PageUp && key.key() != Qt::Key_PageDown) return false;
     const int count = tabs_->count();
     const int step = key.key() == Qt::Key_PageDown ? 1 : count - 1;
-    Raise(UserEvent::Kind::SwitchTab, {}, {}, (form_->page + step) % count);
+    Raise(UserEvent::Kind::SwitchTab, {}, {}, (form_->page() + step) % count);
     return true;
 }
 

@@ -60,7 +60,7 @@ bool Program::HasFieldHelp(const Form& form) {
 
 /// The page of the help file that tells of a form: each tab of the hub has its own.
 std::string Program::HelpPageOf(const Form& form) {
-    return form.type().isHub ? form.name() + std::to_string(form.page) : form.name();
+    return form.type().isHub ? form.name() + std::to_string(form.page()) : form.name();
 }
 
 void Program::ShowHelp(const std::string& page) {

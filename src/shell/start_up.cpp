@@ -63,28 +63,48 @@ std::optional<Path> FindDatabase(ProcessState& state, const std::string& name) {
     return std::nullopt;
 }
 
+void ShowDatabaseError(ProcessState& state, const DatabaseError& failure) {
+    ShowError(state.host.dialogs, "MainFunction", failure.notADatabase() ? kNotADatabase : kDamagedDatabase,
+              failure.what());
+}
+
+/// Without the catalogue there is no screen, so the program stops. False then, with its message.
+bool OpenCatalogue(ProcessState& state, const std::string& name) {
+    const auto path = FindDatabase(state, name);
+    if (!path) return false;
+    try {
+        state.OpenCatalogue(*path);
+        return true;
+    } catch (const DatabaseError& failure) {
+        ShowDatabaseError(state, failure);
+        return false;
+    }
+}
+
+/// Without readable lists there is less to pick from, and the program goes on. False if the file is
+/// missing, with its message.
+bool OpenLists(ProcessState& state, const std::string& name) {
+    const auto path = FindDatabase(state, name);
+    if (!path) return false;
+    try {
+        state.dbCustom = std::make_unique<ListDatabase>(*path);
+    } catch (const DatabaseError& failure) {
+        ShowDatabaseError(state, failure);
+        state.dbCustom = std::make_unique<ListDatabase>();
+    }
+    return true;
+}
+
 bool OpenDatabases(ProcessState& state) {
-    const std::string catalogueName = ReadIni(state.host.files, kIniSection, "Application", state.sIniFile);
-    const std::string listsName = ReadIni(state.host.files, kIniSection, "Custom", state.sIniFile);
-    if (catalogueName.empty() || listsName.empty()) {
+    const std::string catalogue = ReadIni(state.host.files, kIniSection, "Application", state.sIniFile);
+    const std::string lists = ReadIni(state.host.files, kIniSection, "Custom", state.sIniFile);
+    if (catalogue.empty() || lists.empty()) {
         Message message = IniError("(unable to locate application file)");
         message.icon = MessageIcon::Critical;
         state.host.dialogs.ShowMessage(message);
         return false;
     }
-    try {
-        const auto catalogue = FindDatabase(state, catalogueName);
-        if (!catalogue) return false;
-        state.OpenCatalogue(*catalogue);
-        const auto lists = FindDatabase(state, listsName);
-        if (!lists) return false;
-        state.dbCustom = std::make_unique<ListDatabase>(*lists);
-        return true;
-    } catch (const DatabaseError& failure) {
-        ShowError(state.host.dialogs, "MainFunction",
-                  failure.notADatabase() ? kNotADatabase : kDamagedDatabase, failure.what());
-        return false;
-    }
+    return OpenCatalogue(state, catalogue) && OpenLists(state, lists);
 }
 
 /// Makes the work copy this process's own. False, with its message, if another program has it.

@@ -265,7 +265,7 @@ TEST_F(WindowTest, WhatAnInputMethodHoldsBackIsStoredWithItsField) {
 TEST_F(WindowTest, ClosingWhileABoxIsOpenDoesNothing) {
     OpenFlexibleDesign();
     bool tried = false;
-    responder.whileBoxIsUp = [&](QMessageBox&) {
+    responder.whileDialogIsUp = [&](QDialog&) {
         tried = true;
         window().FindView("DeF")->parentWidget()->close();
         window().close();

@@ -104,7 +104,7 @@ void DialogResponder::AnswerBox(QMessageBox& box) {
         AnswerBoxOfFileDialog(box, *dialog);
         return;
     }
-    if (whileBoxIsUp) std::exchange(whileBoxIsUp, nullptr)(box);
+    if (whileDialogIsUp) std::exchange(whileDialogIsUp, nullptr)(box);
     QPushButton* button = box.defaultButton();
     if (const auto queued = NextAnswer()) {
         const auto named = AnswerNamed(*queued);
@@ -129,6 +129,7 @@ void DialogResponder::AnswerBoxOfFileDialog(QMessageBox& box, QFileDialog& dialo
 }
 
 void DialogResponder::AnswerFileDialog(QFileDialog& dialog) {
+    if (whileDialogIsUp) std::exchange(whileDialogIsUp, nullptr)(dialog);
     std::optional<std::string> path = silentPath_;
     if (!silentPath_) {
         path = NextAnswer();

@@ -23,8 +23,8 @@ class DialogResponder : public QObject {
     /// The path for the next file dialog, of which the observer is not told.
     void AnswerFileDialogWith(std::string path) { silentPath_ = std::move(path); }
 
-    /// Called while the next message box is up, before it is answered.
-    std::function<void(QMessageBox& box)> whileBoxIsUp;
+    /// Called while the next message box or file dialog is up, before it is answered.
+    std::function<void(QDialog& dialog)> whileDialogIsUp;
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -1,13 +1,19 @@
 // Makes the pictures of the windows that the documents show: each script below docs/pictures/scripts, in both
-// unit systems, light and dark.
+// unit systems, light and dark. A script with a line `# picture: menu MenuFile`, `# picture: dialog` or
+// `# picture: help` shows that menu, the first dialog that comes up or the window of the help, and the units
+// that it has at its end.
 
+#include <SQLiteCpp/SQLiteCpp.h>
 #include <fmt/format.h>
 
 #include <QApplication>
+#include <QPainter>
 #include <QPixmap>
+#include <QStyleOptionTitleBar>
 #include <algorithm>
 #include <cstdio>
 #include <iostream>
+#include <optional>
 #include <sstream>
 #include <stdexcept>
 #include <vector>
@@ -35,31 +41,139 @@ std::string WithUnits(std::string script, const std::string& units) {
     return at == std::string::npos ? script : script.replace(at, mark.size(), units);
 }
 
-void TakePicture(const Path& script, const char* units, const Look& look, const Path& folder) {
-    const TestHome home;
-    std::ostringstream printed;
-    PlainOutput output(printed);
-    DialogResponder responder(output);
-    DesktopProgram desktop(home.home());
-    QApplication::setPalette(look.palette);
-    if (!desktop.Start("")) throw std::runtime_error(printed.str());
-    desktop.window().resize(desktop.window().StartSize());
-    WindowDriver driver(desktop, responder);
+constexpr std::string_view kSubjectMark = "# picture: ";
 
-    std::istringstream commands(WithUnits(ReadFile(script), units));
-    if (RunScript(commands, driver, output, std::cerr) != ScriptEnd::Done) {
-        throw std::runtime_error(script.string() + " does not run through: " + printed.str());
-    }
-    driver.ChooseUnits(std::string_view(units) == "metric");
-    QApplication::processEvents();
-    const std::string name = fmt::format("{}-{}-{}.png", script.stem().string(), units, look.name);
-    if (!desktop.window().grab().save(QString::fromStdString((folder / name).string()), "PNG", 0)) {
-        throw std::runtime_error("cannot write " + (folder / name).string());
-    }
-    std::puts(name.c_str());
+/// What a script's picture shows: "menu NAME", "dialog", "help", or nothing for the main window.
+std::string SubjectOf(const std::string& script) {
+    const std::size_t at = script.find(kSubjectMark);
+    if (at == std::string::npos) return {};
+    const std::size_t start = at + kSubjectMark.size();
+    return script.substr(start, script.find('\n', start) - start);
 }
 
-int TakePictures(const Path& folder) {
+/// The frame that a window manager would draw round a dialog.
+QPixmap Framed(const QDialog& dialog, const QPixmap& content) {
+    const QStyle& style = *QApplication::style();
+    QStyleOptionTitleBar bar;
+    bar.text = dialog.windowTitle();
+    bar.titleBarFlags =
+        Qt::Window | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint | Qt::WindowTitleHint;
+    bar.titleBarState = Qt::WindowActive;
+    bar.state = QStyle::State_Active | QStyle::State_Enabled;
+    bar.subControls = QStyle::SC_TitleBarLabel | QStyle::SC_TitleBarCloseButton;
+    bar.palette = QApplication::palette();
+    const int height = style.pixelMetric(QStyle::PM_TitleBarHeight, &bar);
+    bar.rect = QRect(0, 0, content.width() + 2, height);
+
+    QPixmap framed(bar.rect.width(), height + content.height() + 1);
+    framed.fill(bar.palette.color(QPalette::Dark));
+    QPainter painter(&framed);
+    style.drawComplexControl(QStyle::CC_TitleBar, &bar, &painter);
+    painter.drawPixmap(1, height, content);
+    return framed;
+}
+
+QPixmap WithPopup(QWidget& window, const QPixmap& popup, const QPoint& place) {
+    QPixmap picture = window.grab();
+    QPainter(&picture).drawPixmap(place, popup);
+    return picture;
+}
+
+QPixmap WithDialog(QWidget& window, QDialog& dialog) {
+    const QPixmap framed = Framed(dialog, dialog.grab());
+    const QPoint middle((window.width() - framed.width()) / 2, (window.height() - framed.height()) / 2);
+    return WithPopup(window, framed, middle);
+}
+
+QPixmap WithMenu(MainWindow& window, const std::string& name) {
+    auto* menu = window.findChild<QMenu*>(QString::fromStdString(name));
+    if (menu == nullptr) throw std::runtime_error("there is no menu " + name);
+    auto* bar = window.findChild<QMenuBar*>();
+    bar->setActiveAction(menu->menuAction());
+    QApplication::processEvents();
+    const QPoint place = bar->mapTo(&window, bar->actionGeometry(menu->menuAction()).bottomLeft());
+    QPixmap picture = WithPopup(window, menu->grab(), place);
+    menu->close();
+    return picture;
+}
+
+/// A program whose folder has the same name each time, since its path can be seen, and which has recent
+/// files.
+struct PictureHome {
+    PictureHome() : home(std::filesystem::temp_directory_path() / "Kelvor") {
+        std::filesystem::copy(Path(KELVOR_HOME_FOLDER) / "Help", home / "Help");
+        SQLite::Database catalogue((home / "DataBase/Kelvor.mdb").string(), SQLite::OPEN_READWRITE);
+        catalogue.exec(
+            "UPDATE RecentFiles SET OpenDate = 2461000.5 - SortOrder, FileName = CASE SortOrder "
+            "WHEN 0 THEN '/home/engineer/Projects/Route 12, km 4 to 9.kvr' "
+            "WHEN 1 THEN '/home/engineer/Projects/Airport Road.kvr' END");
+    }
+
+    TestHome home;
+};
+
+/// Runs a script and takes its picture.
+class PictureRun {
+  public:
+    explicit PictureRun(const QPalette& palette)
+        : output_(printed_), responder_(output_), desktop_(home_.home.home()) {
+        QApplication::setPalette(palette);
+        if (!desktop_.Start("")) throw std::runtime_error(printed_.str());
+        desktop_.window().resize(desktop_.window().StartSize());
+        driver_.emplace(desktop_, responder_);
+    }
+
+    /// The window at the end of a script.
+    QPixmap Of(const std::string& script) {
+        const std::string subject = SubjectOf(script);
+        QPixmap dialog;
+        if (subject == "dialog") {
+            responder_.whileDialogIsUp = [&](QDialog& shown) {
+                dialog = WithDialog(desktop_.window(), shown);
+            };
+        }
+        std::istringstream commands(script);
+        if (RunScript(commands, *driver_, output_, std::cerr) != ScriptEnd::Done) {
+            throw std::runtime_error("a script does not run through: " + printed_.str());
+        }
+        QApplication::processEvents();
+        if (subject.empty()) return desktop_.window().grab();
+        if (subject == "help") return desktop_.helpWindow()->grab();
+        if (subject.rfind("menu ", 0) == 0) return WithMenu(desktop_.window(), subject.substr(5));
+        if (dialog.isNull()) throw std::runtime_error("no dialog came up: " + printed_.str());
+        return dialog;
+    }
+
+  private:
+    PictureHome home_;
+    std::ostringstream printed_;
+    PlainOutput output_;
+    DialogResponder responder_;
+    DesktopProgram desktop_;
+    std::optional<WindowDriver> driver_;
+};
+
+void Save(const QPixmap& picture, const Path& file) {
+    if (!picture.save(QString::fromStdString(file.string()), "PNG", 0)) {
+        throw std::runtime_error("cannot write " + file.string());
+    }
+    std::puts(file.filename().c_str());
+}
+
+void TakePictures(const Path& script, const Look& look, const Path& folder) {
+    const std::string text = ReadFile(script);
+    const std::string name = script.stem().string();
+    if (!SubjectOf(text).empty()) {
+        return Save(PictureRun(look.palette).Of(text), folder / fmt::format("{}-{}.png", name, look.name));
+    }
+    for (const char* units : {"english", "metric"}) {
+        const std::string switched = WithUnits(text, units) + fmt::format("\nunits {}\n", units);
+        Save(PictureRun(look.palette).Of(switched),
+             folder / fmt::format("{}-{}-{}.png", name, units, look.name));
+    }
+}
+
+int TakeAllPictures(const Path& folder) {
     std::vector<Path> scripts;
     for (const auto& entry : std::filesystem::directory_iterator(folder / "scripts")) {
         if (entry.path().extension() == ".kvs") scripts.push_back(entry.path());
@@ -67,7 +181,7 @@ int TakePictures(const Path& folder) {
     std::sort(scripts.begin(), scripts.end());
     for (const Path& script : scripts) {
         for (const Look& look : {Look{"light", LightPalette()}, Look{"dark", DarkPalette()}}) {
-            for (const char* units : {"english", "metric"}) TakePicture(script, units, look, folder);
+            TakePictures(script, look, folder);
         }
     }
     return 0;
@@ -79,11 +193,12 @@ int TakePictures(const Path& folder) {
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_FONT_DPI", "96");
+    qputenv("HOME", "/home/engineer");  // whose name a file dialog shows
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     try {
-        return kelvor::test::TakePictures(argc > 1 ? argv[1] : KELVOR_SOURCE_FOLDER "/docs/pictures");
+        return kelvor::test::TakeAllPictures(argc > 1 ? argv[1] : KELVOR_SOURCE_FOLDER "/docs/pictures");
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "%s\n", failure.what());
         return 1;

@@ -15,6 +15,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabBar>
+#include <QTabWidget>
 #include <QTableView>
 #include <QTest>
 #include <exception>
@@ -58,6 +59,7 @@ ControlKind KindOf(const QWidget& widget) {
     if (qobject_cast<const QRadioButton*>(&widget) != nullptr) return ControlKind::OptionButton;
     if (qobject_cast<const QCheckBox*>(&widget) != nullptr) return ControlKind::CheckBox;
     if (qobject_cast<const QGroupBox*>(&widget) != nullptr) return ControlKind::Frame;
+    if (qobject_cast<const QTabWidget*>(&widget) != nullptr) return ControlKind::TabStrip;
     if (dynamic_cast<const PictureView*>(&widget) != nullptr) return ControlKind::Image;
     return ControlKind::Label;
 }
@@ -80,11 +82,22 @@ std::string TextOf(const QWidget& widget) {
     if (const auto* list = qobject_cast<const QComboBox*>(&widget)) return FromQt(list->currentText());
     if (const auto* frame = qobject_cast<const QGroupBox*>(&widget)) return FromQt(frame->title());
     if (const auto* picture = dynamic_cast<const PictureView*>(&widget)) return picture->file();
+    if (const auto* tabs = qobject_cast<const QTabWidget*>(&widget)) {
+        return FromQt(tabs->tabText(tabs->currentIndex()).replace("&&", "&"));
+    }
     if (const auto* label = qobject_cast<const QLabel*>(&widget)) return CaptionText(widget, label->text());
     if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
         return CaptionText(widget, button->text());
     }
     return {};
+}
+
+/// What is chosen: whether an option is, which tab shows, or a text.
+PropertyValue ValueOf(const QWidget& widget) {
+    if (const auto* tabs = qobject_cast<const QTabWidget*>(&widget)) return tabs->currentIndex();
+    const auto* choice = qobject_cast<const QAbstractButton*>(&widget);
+    if (choice != nullptr && KindOf(widget) != ControlKind::CommandButton) return choice->isChecked();
+    return TextOf(widget);
 }
 
 bool IsEnabled(const QWidget& widget) { return !widget.testAttribute(Qt::WA_ForceDisabled); }
@@ -214,6 +227,7 @@ void WindowDriver::ChooseMenu(const std::string& name, int index) {
         QApplication::processEvents();
         return;
     }
+    CheckMenu(name);
     QAction* entry = desktop_.window().FindAction(name, index);
     if (entry != nullptr && !entry->isVisible()) entry = nullptr;
     auto* menu = entry == nullptr ? nullptr : qobject_cast<QMenu*>(entry->parent());
@@ -449,18 +463,13 @@ std::vector<GridCellReport> WindowDriver::GridCells() {
 
 PropertyValue WindowDriver::Read(const std::string& control, const std::string& property) {
     const QWidget& widget = Widget(control);
-    const auto* choice = KindOf(widget) == ControlKind::CommandButton
-                             ? nullptr
-                             : qobject_cast<const QAbstractButton*>(&widget);
     if (property == "text") return TextOf(widget);
     if (property == "enabled") return IsEnabled(widget);
     if (property == "visible") return !widget.isHidden();
     if (property == "bold") return widget.font().bold();
     if (property == "backcolor") return BackColour(widget);
     if (property == "forecolor") return ForeColour(widget);
-    if (property == "value") {
-        return choice != nullptr ? PropertyValue(choice->isChecked()) : PropertyValue(TextOf(widget));
-    }
+    if (property == "value") return ValueOf(widget);
     throw ScriptError("a control has no property " + property);
 }
 

@@ -20,12 +20,21 @@ TemporaryFolder::TemporaryFolder() {
     path_ = name;
 }
 
+TemporaryFolder::TemporaryFolder(Path path) : path_(std::move(path)) {
+    if (!std::filesystem::create_directory(path_))
+        throw std::runtime_error(path_.string() + " is there already");
+}
+
 TemporaryFolder::~TemporaryFolder() {
     std::error_code ignored;
     std::filesystem::remove_all(path_, ignored);
 }
 
-TestHome::TestHome() {
+TestHome::TestHome() { Fill(); }
+
+TestHome::TestHome(const Path& folder) : folder_(folder) { Fill(); }
+
+void TestHome::Fill() {
     const Path built = KELVOR_HOME_FOLDER;
     std::filesystem::copy(built / "DataBase", folder_ / "DataBase", std::filesystem::copy_options::recursive);
     std::filesystem::copy(built / "kvor.ini", folder_ / "kvor.ini");

@@ -11,6 +11,8 @@ namespace kelvor::test {
 class TemporaryFolder {
   public:
     TemporaryFolder();
+    /// One of a given path, which must not be there yet.
+    explicit TemporaryFolder(Path path);
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
     ~TemporaryFolder();
@@ -27,12 +29,15 @@ class TemporaryFolder {
 class TestHome {
   public:
     TestHome();
+    explicit TestHome(const Path& folder);
 
     [[nodiscard]] const Path& path() const { return folder_.path(); }
     [[nodiscard]] Home home() const { return {path(), path()}; }
     Path operator/(const std::string& name) const { return path() / name; }
 
   private:
+    void Fill();
+
     TemporaryFolder folder_;
 };
 

@@ -37,8 +37,8 @@ struct GridCellReport {
     std::string text;
 };
 
-/// A property of a control: a truth value or a text.
-using PropertyValue = std::variant<bool, std::string>;
+/// A property of a control: a truth value, the number of a tab, or a text.
+using PropertyValue = std::variant<bool, int, std::string>;
 
 /// What a script does to a program. One driver works on the program's model, another on its windows;
 /// the runner is the same for both. Each operation throws ScriptError if it makes no sense there.

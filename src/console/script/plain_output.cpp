@@ -18,6 +18,10 @@ std::string Quoted(const std::string& text) {
     return quoted + "\"";
 }
 
+std::string PropertyText(bool truth) { return truth ? "true" : "false"; }
+std::string PropertyText(int number) { return std::to_string(number); }
+std::string PropertyText(const std::string& text) { return Quoted(text); }
+
 /// The number, the text where there is only a text, or both where the text says the number otherwise.
 std::string ValueText(const CellValue& value) {
     if (!value.number) return value.text ? Quoted(*value.text) : "empty";
@@ -44,9 +48,7 @@ void PlainOutput::Solve(const std::string& screen, int term, int result) {
 
 void PlainOutput::Property(const std::string& control, const std::string& property,
                            const PropertyValue& value) {
-    const auto* truth = std::get_if<bool>(&value);
-    const std::string text =
-        truth != nullptr ? (*truth ? "true" : "false") : Quoted(std::get<std::string>(value));
+    const std::string text = std::visit([](const auto& v) { return PropertyText(v); }, value);
     stream_ << control << "." << property << " = " << text << '\n';
 }
 

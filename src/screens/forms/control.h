@@ -20,6 +20,7 @@ enum class ControlKind {
     Image,
     Grid,
     Chart,
+    TabStrip,
 };
 
 const char* NameOf(ControlKind kind);
@@ -95,10 +96,10 @@ struct Control {
     ControlKind kind = ControlKind::Label;
     std::string name;
     std::string tag;      // the variable of a field, "u" and the variable of a unit label; else empty
-    std::string text;     // of a box; the caption of a label, button or frame
+    std::string text;     // of a box; the caption of a label, button or frame, and of the tab that shows
     std::string picture;  // the number picture of a field; sizes its box
     std::string toolTip;
-    std::vector<std::string> items;    // of a list
+    std::vector<std::string> items;    // of a list; the captions of a tab strip
     std::optional<GridData> grid;      // of a grid
     std::optional<ChartData> chart;    // of a chart
     std::optional<CoarsePlace> place;  // on a built screen

@@ -57,7 +57,7 @@ Control* Form::FindField(std::string_view variable) {
 Control* Form::FindAccessKey(char key) {
     for (const auto& control : controls_) {
         if (control->accessKey == '\0' || FoldLetter(control->accessKey) != FoldLetter(key)) continue;
-        if (control->page != -1 && control->page != page) continue;
+        if (control->page != -1 && control->page != page_) continue;
         return control->labelOf.empty() ? control.get() : Find(control->labelOf);
     }
     return nullptr;
@@ -106,8 +106,16 @@ void Form::SetFieldChanged(bool changed) { SetHiddenText(kFieldChanged, changed 
 std::optional<int> Form::dim2() const { return Subscript(HiddenText("Dim2")); }
 std::optional<int> Form::dim1() const { return Subscript(HiddenText("Dim1")); }
 
+void Form::ShowPage(int page) {
+    page_ = page;
+    for (const auto& control : controls_) {
+        if (control->kind == ControlKind::TabStrip)
+            control->text = control->items[static_cast<std::size_t>(page)];
+    }
+}
+
 bool Form::CanFocus(const Control& control) const {
-    return control.TakesFocus() && (control.page == -1 || control.page == page);
+    return control.TakesFocus() && (control.page == -1 || control.page == page_);
 }
 
 Control* Form::NextInTabOrder(const Control* from, bool forwards) {

@@ -70,6 +70,10 @@ class Form {
     [[nodiscard]] bool fieldChanged() const;
     void SetFieldChanged(bool changed);
 
+    /// The page of the tab strip that shows, from 0; 0 on a form without one.
+    [[nodiscard]] int page() const { return page_; }
+    void ShowPage(int page);
+
     /// The second subscript that the form shows; nothing if it shows no slice.
     [[nodiscard]] std::optional<int> dim2() const;
     [[nodiscard]] std::optional<int> dim1() const;
@@ -88,7 +92,6 @@ class Form {
     std::string spelt;   // what was typed into the box in focus of a word that its first letters completed
     int selections = 0;  // how often a box was selected as a whole; a view shows that it is again
     std::array<SolveState, 2> solveState{SolveState::Resting, SolveState::Resting};
-    int page = 0;  // of the tab strip
     bool modal = false;
     std::optional<SideScreenReturn> returned;  // until the form is activated again
     std::array<std::string, 2> solvedFor;      // the variables that the indicators show
@@ -98,6 +101,7 @@ class Form {
 
   private:
     const FormType& type_;
+    int page_ = 0;
     std::vector<std::unique_ptr<Control>> controls_;
 };
 

@@ -191,6 +191,9 @@ class Builder {
     }
 
     void AddPages(const LayoutNode& node) {
+        Control& strip = Add(ControlKind::TabStrip, node.name);
+        for (const LayoutNode& page : node.children) strip.items.push_back(page.title);
+        strip.text = strip.items.front();
         for (std::size_t i = 0; i < node.children.size(); ++i) {
             page_ = static_cast<int>(i);
             group_ = ++groups_;

@@ -60,7 +60,7 @@ std::optional<HubTab> HubTabNamed(std::string_view screen) {
 bool NeedsProject(HubTab tab) { return tab == HubTab::ProjectId || tab == HubTab::LifeCycleCosting; }
 
 void EnterHubTab(ScreenContext& context, Form& hub, HubTab tab) {
-    hub.page = static_cast<int>(tab);
+    hub.ShowPage(static_cast<int>(tab));
     if (tab == HubTab::ProjectId) hub.tag = kProjectIdKey;
     if (tab == HubTab::LifeCycleCosting) hub.tag = kCostKey;
     if (NeedsProject(tab)) LoadScreen(context, hub);

@@ -67,6 +67,15 @@ TEST_F(ListMaintenanceTest, AnAddedRowInheritsTheNameAndIsTheNextNumber) {
         << "a row without a unit system is offered in both";
 }
 
+TEST(UnreadableListsTest, NoneIsOfferedAndEveryChangeIsRefused) {
+    ListDatabase lists;
+    EXPECT_THAT(lists.Descriptions(), IsEmpty());
+    EXPECT_THAT(lists.Values("AxleType", false), IsEmpty());
+    EXPECT_THROW(lists.AddRow(kAxles), DatabaseError);
+    EXPECT_THROW(lists.Restore(kAxles), DatabaseError);
+    EXPECT_THAT(lists.Rows(kAxles), IsEmpty());
+}
+
 TEST_F(ListMaintenanceTest, TheFirstRowOfAnEmptyListIsNumberOneAndHasNoName) {
     lists_.AddRow("New List");
     const auto rows = lists_.Rows("New List");

@@ -82,7 +82,7 @@ TEST_F(FormsTest, AccessKeysAreUniqueOnEveryPageAndReachEveryControl) {
         Form form(*program_.program.state().formRegistry.FindType(name), catalogue);
         for (const auto& control : form.controls()) {
             if (control->accessKey == '\0') continue;
-            form.page = control->page == -1 ? 0 : control->page;
+            form.ShowPage(control->page == -1 ? 0 : control->page);
             const Control* found = form.FindAccessKey(control->accessKey);
             const std::string expected = control->labelOf.empty() ? control->name : control->labelOf;
             ASSERT_NE(found, nullptr);
@@ -369,7 +369,7 @@ TEST_F(FormsTest, OnTheHubASwitchOfUnitsTouchesNothingElse) {
     const Control* focus = hub.focus;
     Raise(Kind::Menu, "MenuUnitsMetric");
     EXPECT_TRUE(program_.program.state().units->bMetric());
-    EXPECT_EQ(hub.page, 2);
+    EXPECT_EQ(hub.page(), 2);
     EXPECT_EQ(hub.focus, focus);
     EXPECT_EQ(program_.program.state().formRegistry.CurrentForm, &hub);
 }
@@ -388,9 +388,9 @@ TEST_F(FormsTest, AButtonBringsAnOpenScreenToTheFront) {
 TEST_F(FormsTest, TheNamesOfTwoTabsOpenThem) {
     Open("DeF");
     EXPECT_TRUE(Raise(Kind::OpenForm, "EcFa"));
-    EXPECT_EQ(program_.program.state().formRegistry.CurrentForm->page, 4);
+    EXPECT_EQ(program_.program.state().formRegistry.CurrentForm->page(), 4);
     EXPECT_TRUE(Raise(Kind::OpenForm, "InfForm"));
-    EXPECT_EQ(program_.program.state().formRegistry.CurrentForm->page, 0);
+    EXPECT_EQ(program_.program.state().formRegistry.CurrentForm->page(), 0);
 }
 
 TEST_F(FormsTest, CharactersGoWhereTheCursorIs) {

@@ -338,11 +338,11 @@ TEST_F(NoProjectTest, TabsThatShowTheProjectDoNothing) {
     OpenBadFile();
     for (const int tab : {0, 4}) {
         SwitchTo(tab);
-        EXPECT_EQ(Hub().page, 7);
+        EXPECT_EQ(Hub().page(), 7);
     }
     for (const int tab : {1, 2, 3, 5, 6, 7}) {
         SwitchTo(tab);
-        EXPECT_EQ(Hub().page, tab);
+        EXPECT_EQ(Hub().page(), tab);
     }
     SwitchTo(6);
     EXPECT_TRUE(Run().Raise({UserEvent::Kind::Choose, "CustCombo", "Axle Types", 0}));

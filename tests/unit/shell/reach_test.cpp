@@ -61,7 +61,7 @@ class Walker {
     static std::string WhatHubOffers(const Form& hub) {
         const auto offered = std::count_if(hub.controls().begin(), hub.controls().end(),
                                            [&](const auto& control) { return hub.CanFocus(*control); });
-        return std::to_string(hub.page) + " with " + std::to_string(offered);
+        return std::to_string(hub.page()) + " with " + std::to_string(offered);
     }
 
     /// Choosing an option, or going to a field or to a cell of each column.

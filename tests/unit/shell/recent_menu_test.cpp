@@ -41,7 +41,7 @@ class RecentMenuTest : public ProjectTest {
         return false;
     }
 
-    int page() { return State().formRegistry.Find("TabForm")->page; }
+    int page() { return State().formRegistry.Find("TabForm")->page(); }
 
     int made_ = 0;
 };
