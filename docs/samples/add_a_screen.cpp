@@ -1,8 +1,8 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 
-#include "screens/forms/balance_state.h"
-#include "screens/forms/form.h"
+#include "forms/balance_state.h"
+#include "forms/form.h"
 #include "support/test_host.h"
 
 namespace kelvor {

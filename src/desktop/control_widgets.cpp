@@ -16,7 +16,7 @@
 #include "desktop/picture_view.h"
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
-#include "screens/forms/form_builder.h"
+#include "forms/form_builder.h"
 
 namespace kelvor {
 

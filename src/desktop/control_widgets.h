@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "screens/forms/control.h"
+#include "forms/control.h"
 
 namespace kelvor {
 

@@ -5,7 +5,7 @@
 #include <functional>
 #include <string>
 
-#include "screens/forms/form.h"
+#include "forms/form.h"
 
 namespace kelvor {
 

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "desktop/event_door.h"
-#include "screens/forms/form.h"
+#include "forms/form.h"
 
 namespace kelvor {
 

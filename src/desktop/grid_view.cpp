@@ -14,7 +14,7 @@
 
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
-#include "screens/forms/cell_block.h"
+#include "forms/cell_block.h"
 
 namespace kelvor {
 

@@ -7,7 +7,7 @@
 #include <functional>
 #include <string>
 
-#include "screens/forms/control.h"
+#include "forms/control.h"
 
 namespace kelvor {
 

@@ -22,7 +22,7 @@ const char* const kPages = "qthelp://kelvor.help/help/";
 const char* const kContents = "index.html";
 constexpr int kColumns = 120;
 constexpr int kLines = 36;
-constexpr int kTabColumns = 38;
+constexpr int kTabColumns = 42;
 
 /// Reads the pages out of the help file.
 class HelpBrowser : public QTextBrowser {

@@ -1,7 +1,7 @@
 #include "desktop/menu_bar.h"
 
 #include "desktop/qt_text.h"
-#include "screens/forms/layout.h"
+#include "forms/layout.h"
 
 namespace kelvor {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "screens/forms/control.h"
+#include "forms/control.h"
 
 namespace kelvor {
 

@@ -3,7 +3,7 @@
 #include <QPalette>
 #include <QWidget>
 
-#include "screens/forms/control.h"
+#include "forms/control.h"
 
 namespace kelvor {
 

@@ -9,12 +9,12 @@
 #include "catalogue/list_database.h"
 #include "design/calc/calc_context.h"
 #include "design/calc/dispatch.h"
+#include "forms/screen_context.h"
 #include "platform/file_lock.h"
 #include "platform/host.h"
-#include "screens/forms/screen_context.h"
-#include "screens/units/units.h"
 #include "shell/home.h"
-#include "shell/store/project_store.h"
+#include "store/project_store.h"
+#include "units/units.h"
 
 namespace kelvor {
 

@@ -4,9 +4,9 @@
 #include <functional>
 #include <utility>
 
+#include "forms/form_events.h"
+#include "forms/screen_builder.h"
 #include "platform/sqlite.h"
-#include "screens/forms/form_events.h"
-#include "screens/forms/screen_builder.h"
 #include "shell/hub/hub.h"
 #include "shell/program.h"
 #include "shell/project_files.h"

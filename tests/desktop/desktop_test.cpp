@@ -17,7 +17,7 @@
 
 #include "desktop/desktop_fixture.h"
 #include "desktop/theme.h"
-#include "screens/forms/form.h"
+#include "forms/form.h"
 
 namespace kelvor::test {
 namespace {

@@ -10,7 +10,7 @@
 #include <atomic>
 
 #include "desktop/desktop_fixture.h"
-#include "screens/forms/form_type.h"
+#include "forms/form_type.h"
 
 namespace kelvor::test {
 namespace {

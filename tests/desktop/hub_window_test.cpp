@@ -13,7 +13,7 @@
 
 #include "desktop/desktop_fixture.h"
 #include "desktop/picture_view.h"
-#include "screens/forms/form.h"
+#include "forms/form.h"
 
 namespace kelvor::test {
 namespace {

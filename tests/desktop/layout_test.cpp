@@ -15,9 +15,9 @@
 #include "desktop/desktop_fixture.h"
 #include "desktop/layout_audit.h"
 #include "desktop/palettes.h"
+#include "forms/balance_state.h"
+#include "forms/form.h"
 #include "platform/number_picture.h"
-#include "screens/forms/balance_state.h"
-#include "screens/forms/form.h"
 
 namespace kelvor::test {
 namespace {

@@ -12,7 +12,7 @@
 
 #include "desktop/desktop_fixture.h"
 #include "desktop/layout_audit.h"
-#include "screens/forms/form.h"
+#include "forms/form.h"
 
 namespace kelvor::test {
 namespace {

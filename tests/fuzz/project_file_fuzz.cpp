@@ -4,8 +4,8 @@
 
 #include "confined_files.h"
 #include "fuzz_target.h"
+#include "support/small_home.h"
 #include "support/test_host.h"
-#include "unit/shell/small_home.h"
 
 namespace kelvor::test {
 namespace {

@@ -7,8 +7,8 @@
 #include "console/model_driver.h"
 #include "console/script/runner.h"
 #include "fuzz_target.h"
+#include "support/small_home.h"
 #include "support/test_host.h"
-#include "unit/shell/small_home.h"
 
 namespace kelvor::test {
 namespace {

@@ -14,7 +14,7 @@
 #include "make_data/text_table.h"
 #include "platform/number_text.h"
 #include "platform/sqlite.h"
-#include "shell/store/work_copy.h"
+#include "store/work_copy.h"
 
 namespace kelvor {
 

@@ -5,8 +5,8 @@
 #include <variant>
 #include <vector>
 
-#include "screens/forms/chart.h"
-#include "shell/store/work_copy.h"
+#include "forms/chart.h"
+#include "store/work_copy.h"
 
 namespace kelvor {
 

@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "console/script/command_line.h"
-#include "shell/store/project_store.h"
+#include "store/project_store.h"
 
 namespace kelvor {
 

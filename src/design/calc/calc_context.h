@@ -3,8 +3,8 @@
 #include "design/calc/reliability.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
-#include "screens/units/units.h"
-#include "shell/store/project_store.h"
+#include "store/project_store.h"
+#include "units/units.h"
 
 namespace kelvor {
 

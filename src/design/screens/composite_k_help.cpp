@@ -4,12 +4,12 @@
 #include <array>
 
 #include "design/calc/composite_k.h"
+#include "forms/field_entry.h"
+#include "forms/form.h"
+#include "forms/form_builder.h"
+#include "forms/side_screen.h"
 #include "platform/number_picture.h"
 #include "platform/number_text.h"
-#include "screens/forms/field_entry.h"
-#include "screens/forms/form.h"
-#include "screens/forms/form_builder.h"
-#include "screens/forms/side_screen.h"
 
 namespace kelvor {
 

@@ -2,8 +2,8 @@
 
 #include "design/screens/layered_design.h"
 #include "design/screens/serviceability.h"
-#include "screens/forms/balance_state.h"
-#include "screens/forms/form.h"
+#include "forms/balance_state.h"
+#include "forms/form.h"
 
 namespace kelvor {
 

@@ -3,9 +3,9 @@
 #include <cmath>
 #include <utility>
 
+#include "forms/field_help.h"
+#include "forms/form.h"
 #include "platform/number_text.h"
-#include "screens/forms/field_help.h"
-#include "screens/forms/form.h"
 
 namespace kelvor {
 

@@ -3,10 +3,10 @@
 #include <array>
 
 #include "design/calc/layered_structure.h"
+#include "forms/balance_state.h"
+#include "forms/form.h"
+#include "forms/side_screen.h"
 #include "platform/number_text.h"
-#include "screens/forms/balance_state.h"
-#include "screens/forms/form.h"
-#include "screens/forms/side_screen.h"
 
 namespace kelvor {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "screens/forms/form_type.h"
-#include "screens/forms/screen_context.h"
+#include "forms/form_type.h"
+#include "forms/screen_context.h"
 
 namespace kelvor {
 

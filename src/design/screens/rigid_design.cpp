@@ -1,8 +1,8 @@
 #include "design/screens/rigid_design.h"
 
 #include "design/screens/serviceability.h"
-#include "screens/forms/balance_state.h"
-#include "screens/forms/form.h"
+#include "forms/balance_state.h"
+#include "forms/form.h"
 
 namespace kelvor {
 

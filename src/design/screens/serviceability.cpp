@@ -1,7 +1,7 @@
 #include "design/screens/serviceability.h"
 
+#include "forms/form.h"
 #include "platform/number_text.h"
-#include "screens/forms/form.h"
 
 namespace kelvor {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screens/forms/screen_context.h"
+#include "forms/screen_context.h"
 
 namespace kelvor {
 

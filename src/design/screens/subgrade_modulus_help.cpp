@@ -6,12 +6,12 @@
 
 #include "design/calc/reliability.h"
 #include "design/calc/subgrade_modulus.h"
+#include "forms/field_entry.h"
+#include "forms/form.h"
+#include "forms/side_screen.h"
 #include "platform/number_picture.h"
 #include "platform/number_text.h"
 #include "platform/real.h"
-#include "screens/forms/field_entry.h"
-#include "screens/forms/form.h"
-#include "screens/forms/side_screen.h"
 
 namespace kelvor {
 

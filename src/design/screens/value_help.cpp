@@ -1,7 +1,7 @@
 #include "design/screens/value_help.h"
 
-#include "screens/forms/field_help.h"
-#include "screens/forms/form.h"
+#include "forms/field_help.h"
+#include "forms/form.h"
 
 namespace kelvor {
 

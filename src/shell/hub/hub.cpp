@@ -3,10 +3,10 @@
 #include <array>
 #include <iterator>
 
+#include "forms/balance_state.h"
+#include "forms/form.h"
+#include "forms/form_events.h"
 #include "platform/text.h"
-#include "screens/forms/balance_state.h"
-#include "screens/forms/form.h"
-#include "screens/forms/form_events.h"
 #include "shell/hub/screen_choice.h"
 #include "shell/hub/tabs.h"
 

@@ -4,8 +4,8 @@
 #include <string_view>
 #include <vector>
 
-#include "screens/forms/form_type.h"
-#include "screens/forms/screen_context.h"
+#include "forms/form_type.h"
+#include "forms/screen_context.h"
 
 namespace kelvor {
 

@@ -3,9 +3,9 @@
 #include <optional>
 #include <string>
 
+#include "forms/form_events.h"
 #include "platform/number_text.h"
 #include "platform/sqlite.h"
-#include "screens/forms/form_events.h"
 #include "shell/hub/offer.h"
 #include "shell/hub/tabs.h"
 

@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "screens/forms/form.h"
-#include "screens/forms/screen_context.h"
+#include "forms/form.h"
+#include "forms/screen_context.h"
 
 namespace kelvor {
 

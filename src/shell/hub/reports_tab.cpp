@@ -2,7 +2,7 @@
 #include <array>
 #include <string_view>
 
-#include "screens/forms/form_events.h"
+#include "forms/form_events.h"
 #include "shell/hub/offer.h"
 #include "shell/hub/screen_data.h"
 #include "shell/hub/tabs.h"

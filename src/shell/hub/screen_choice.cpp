@@ -4,8 +4,8 @@
 #include <array>
 #include <string>
 
-#include "screens/forms/balance_state.h"
-#include "screens/forms/form_events.h"
+#include "forms/balance_state.h"
+#include "forms/form_events.h"
 #include "shell/hub/offer.h"
 
 namespace kelvor {

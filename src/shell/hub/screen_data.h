@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "screens/forms/screen_context.h"
+#include "forms/screen_context.h"
 
 namespace kelvor {
 

@@ -2,9 +2,9 @@
 
 #include <vector>
 
-#include "screens/forms/form.h"
-#include "screens/forms/form_type.h"
-#include "screens/forms/screen_context.h"
+#include "forms/form.h"
+#include "forms/form_type.h"
+#include "forms/screen_context.h"
 
 namespace kelvor {
 

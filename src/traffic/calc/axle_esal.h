@@ -3,7 +3,7 @@
 #include <cstdint>
 
 #include "platform/real.h"
-#include "shell/store/project_store.h"
+#include "store/project_store.h"
 
 namespace kelvor {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "screens/forms/form.h"
-#include "screens/forms/screen_context.h"
+#include "forms/form.h"
+#include "forms/screen_context.h"
 
 namespace kelvor {
 

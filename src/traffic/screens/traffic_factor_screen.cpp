@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <array>
 
-#include "screens/forms/balance_state.h"
-#include "screens/forms/form.h"
-#include "screens/forms/side_screen.h"
+#include "forms/balance_state.h"
+#include "forms/form.h"
+#include "forms/side_screen.h"
 
 namespace kelvor {
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "screens/forms/form_type.h"
+#include "forms/form_type.h"
 
 namespace kelvor {
 

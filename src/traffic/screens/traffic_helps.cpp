@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "screens/forms/form.h"
-#include "screens/forms/side_screen.h"
+#include "forms/form.h"
+#include "forms/side_screen.h"
 #include "traffic/screens/distribution.h"
 
 namespace kelvor {

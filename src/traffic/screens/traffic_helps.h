@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screens/forms/form_type.h"
+#include "forms/form_type.h"
 
 namespace kelvor {
 

@@ -1,6 +1,6 @@
 #include "traffic/screens/traffic_inputs.h"
 
-#include "screens/forms/coded_list.h"
+#include "forms/coded_list.h"
 
 namespace kelvor {
 

@@ -1,9 +1,9 @@
 #include "traffic/screens/traffic_inputs_screen.h"
 
-#include "screens/forms/coded_list.h"
-#include "screens/forms/field_entry.h"
-#include "screens/forms/field_help.h"
-#include "screens/forms/form.h"
+#include "forms/coded_list.h"
+#include "forms/field_entry.h"
+#include "forms/field_help.h"
+#include "forms/form.h"
 #include "traffic/screens/distribution.h"
 
 namespace kelvor {

@@ -2,10 +2,10 @@
 
 #include <array>
 
-#include "screens/forms/balance_state.h"
-#include "screens/forms/coded_list.h"
-#include "screens/forms/field_entry.h"
-#include "screens/forms/form.h"
+#include "forms/balance_state.h"
+#include "forms/coded_list.h"
+#include "forms/field_entry.h"
+#include "forms/form.h"
 #include "traffic/screens/traffic_inputs.h"
 
 namespace kelvor {

@@ -14,8 +14,8 @@
 #include <utility>
 
 #include "console/script/output.h"
-#include "unit/shell/child_process.h"
-#include "unit/shell/project_fixture.h"
+#include "support/child_process.h"
+#include "support/project_fixture.h"
 
 namespace kelvor::test {
 namespace {

@@ -6,8 +6,8 @@
 #include <array>
 #include <map>
 
-#include "screens/forms/layout.h"
-#include "unit/shell/project_fixture.h"
+#include "forms/layout.h"
+#include "support/project_fixture.h"
 
 namespace kelvor::test {
 namespace {

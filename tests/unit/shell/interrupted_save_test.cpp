@@ -5,10 +5,10 @@
 #include <cstddef>
 #include <random>
 
+#include "support/child_process.h"
 #include "support/file_system_doubles.h"
-#include "unit/shell/child_process.h"
-#include "unit/shell/project_fixture.h"
-#include "unit/shell/small_home.h"
+#include "support/project_fixture.h"
+#include "support/small_home.h"
 
 // Saves that do not run to their end. Each begins with a project file that holds SN 4.5 and stores 5.5.
 

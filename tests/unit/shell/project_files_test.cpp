@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "unit/shell/project_fixture.h"
+#include "support/project_fixture.h"
 
 namespace kelvor::test {
 namespace {

@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <functional>
 
-#include "unit/shell/child_process.h"
-#include "unit/shell/project_fixture.h"
+#include "support/child_process.h"
+#include "support/project_fixture.h"
 
 namespace kelvor::test {
 namespace {

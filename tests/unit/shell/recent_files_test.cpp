@@ -3,8 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "unit/shell/child_process.h"
-#include "unit/shell/project_fixture.h"
+#include "support/child_process.h"
+#include "support/project_fixture.h"
 
 namespace kelvor::test {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "shell/main_window.h"
 #include "shell/recent_files.h"
-#include "unit/shell/project_fixture.h"
+#include "support/project_fixture.h"
 
 namespace kelvor::test {
 namespace {

@@ -8,9 +8,9 @@
 #include <optional>
 #include <utility>
 
+#include "forms/coded_list.h"
+#include "forms/form.h"
 #include "reference_factors.h"
-#include "screens/forms/coded_list.h"
-#include "screens/forms/form.h"
 #include "support/test_host.h"
 
 namespace kelvor::test {

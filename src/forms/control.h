@@ -1,0 +1,137 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/chart.h"
+
+namespace kelvor {
+
+enum class ControlKind {
+    Label,
+    TextBox,
+    ComboBox,
+    CommandButton,
+    OptionButton,
+    CheckBox,
+    Frame,
+    Image,
+    Grid,
+    Chart,
+    TabStrip,
+};
+
+const char* NameOf(ControlKind kind);
+
+/// A colour as "#RRGGBB", or as the name of a colour of the user's palette.
+using Colour = std::string_view;
+
+namespace colours {
+inline constexpr Colour kWindow = "window";
+inline constexpr Colour kButtonFace = "buttonface";
+inline constexpr Colour kWindowText = "windowtext";
+inline constexpr Colour kLightCyan = "#00FFFF";    // a computed value
+inline constexpr Colour kLightRed = "#FF0000";     // a warning
+inline constexpr Colour kBrightWhite = "#FFFFFF";  // the text of a warning
+inline constexpr Colour kResting = "#C0C0C0";      // an indicator at rest
+inline constexpr Colour kBlack = "#000000";
+inline constexpr Colour kBlue = "#0000FF";  // a verdict that is good
+inline constexpr Colour kRed = "#FF0000";   // and one that is not
+}  // namespace colours
+
+/// A word that one letter stands for: typing the letter gives the word.
+struct LetterWord {
+    char letter = '\0';
+    std::string word;
+};
+
+/// A column of a grid: one variable, whose first subscript is the row.
+struct GridColumn {
+    std::string variable;
+    std::string caption;
+    std::string unit;  // in the active system; empty if it is not worth showing
+    std::string hint;  // what a cell wants
+    std::string picture;
+    std::string list;                // the name of the list that it offers; empty: it takes what is typed
+    std::vector<std::string> items;  // the entries of that list
+    std::vector<LetterWord> words;   // that a letter typed into a cell stands for
+    double letters = 0.0;            // its width; 0: by its picture
+    bool locked = false;             // shows computed values and takes none
+};
+
+/// What a grid shows, and where its cursor is. Unless it has texts of its own it holds no values: a cell is
+/// the project's cell of the column's variable, with the row as first subscript and the form's own second
+/// one.
+struct GridData {
+    std::vector<GridColumn> columns;
+    int rows = 0;       // as many as the variables have cells
+    int rowsShown = 0;  // before it scrolls; 0: as many as most grids show
+    int row = 1;        // of the cursor, from 1
+    std::size_t column = 0;
+    std::optional<std::string> typed;  // into the cell under the cursor, and not yet stored
+
+    /// Of a grid that shows no cells of the project: its texts, row by row, which may go on behind the
+    /// columns.
+    std::optional<std::vector<std::vector<std::string>>> texts = {};
+
+    [[nodiscard]] const GridColumn& current() const { return columns[column]; }
+
+    /// The place of a variable's column; nothing if there is none. Names compare without regard to case.
+    [[nodiscard]] std::optional<std::size_t> Find(std::string_view variable) const;
+};
+
+/// A place on a built screen, in the units of its coarse grid: letters across from the left edge, and rows
+/// down from 1.
+struct CoarsePlace {
+    double x = 0.0;
+    double y = 1.0;
+    double width = 0.0;   // 0: as wide as its text
+    double height = 1.0;  // 0: down to the foot of the form
+};
+
+/// One element of a form, as the model holds it. A front end mirrors it and decides nothing.
+struct Control {
+    ControlKind kind = ControlKind::Label;
+    std::string name;
+    std::string tag;      // the variable of a field, "u" and the variable of a unit label; else empty
+    std::string text;     // of a box; the caption of a label, button or frame, and of the tab that shows
+    std::string picture;  // the number picture of a field; sizes its box
+    std::string toolTip;
+    std::vector<std::string> items;    // of a list; the captions of a tab strip
+    std::optional<GridData> grid;      // of a grid
+    std::optional<ChartData> chart;    // of a chart
+    std::optional<CoarsePlace> place;  // on a built screen
+    bool enabled = true;
+    bool visible = true;
+    bool locked = false;  // shows a value and takes none
+    bool tabStop = true;
+    bool value = false;  // of an option button or a check box
+    bool bold = false;
+    Colour backColor = colours::kButtonFace;
+    Colour foreColor = colours::kWindowText;
+    char accessKey = '\0';          // pressed with Alt: moves the focus here, and clicks a button
+    std::string labelOf;            // of a caption: the control it describes
+    std::string unitOf;             // of a unit label: the box it stands behind
+    bool onlyItems = false;         // of a list: it takes nothing but its items
+    bool coded = false;             // of a list: what is stored is the place of the word, from 1
+    std::vector<LetterWord> words;  // that a letter typed into a list stands for
+    double letters = 0.0;           // the width of a box or of a picture; 0: by its kind
+    int page = -1;                  // of the tab strip; -1: on every page
+    int group = 0;  // of option buttons: one of a group is selected; the innermost frame or page
+
+    /// A box whose Tag is a variable.
+    [[nodiscard]] bool IsField() const;
+
+    [[nodiscard]] bool IsBox() const { return kind == ControlKind::TextBox || kind == ControlKind::ComboBox; }
+    [[nodiscard]] bool IsButton() const { return kind == ControlKind::CommandButton; }
+    [[nodiscard]] bool IsChoice() const {
+        return kind == ControlKind::OptionButton || kind == ControlKind::CheckBox;
+    }
+
+    /// True if the user can put the focus here.
+    [[nodiscard]] bool TakesFocus() const;
+};
+
+}  // namespace kelvor

@@ -1,0 +1,190 @@
+#include "forms/field_entry.h"
+
+#include <algorithm>
+#include <array>
+
+#include "forms/balance_state.h"
+#include "forms/coded_list.h"
+#include "platform/number_text.h"
+
+namespace kelvor {
+
+namespace {
+
+/// The fields of the project's identification, which take any text.
+constexpr std::array<std::string_view, 8> kFreeTexts = {"Agency",   "Company",  "Contractor", "JobNumber",
+                                                        "Location", "Engineer", "State",      "PavDesc"};
+
+/// Existing thicknesses, to which the advice for new concrete does not apply.
+constexpr std::array<std::string_view, 2> kExistingThicknesses = {"ACACPCACT", "EXISTDEPTH"};
+
+constexpr double kThinnestConcrete = 4.0;  // inches, recommended
+constexpr double kLimitOfConcrete = 20.0;  // limits of 0 and 20 tell a concrete thickness
+
+template <std::size_t Count>
+bool Contains(const std::array<std::string_view, Count>& names, std::string_view name) {
+    return std::any_of(names.begin(), names.end(), [&](std::string_view n) { return EqualNoCase(n, name); });
+}
+
+std::string LimitText(const std::optional<double>& limit) { return limit ? NumberToText(*limit) : ""; }
+
+/// True for a box that takes what is no number.
+bool TakesText(const ScreenContext& context, const Control& control) {
+    if (control.kind == ControlKind::ComboBox || Contains(kFreeTexts, control.tag)) return true;
+    const Variable* variable = context.catalogue.FindVariable(control.tag);
+    return variable != nullptr && variable->IsText();
+}
+
+/// False for a text that a list which takes nothing but its items does not offer.
+bool IsOffered(const Control& control) {
+    if (!control.onlyItems || control.text.empty()) return true;
+    return std::find(control.items.begin(), control.items.end(), control.text) != control.items.end();
+}
+
+/// Empties the box of a refused value.
+bool Refuse(Form& form, Control& control) {
+    control.text.clear();
+    form.SetFieldChanged(false);
+    return false;
+}
+
+/// Stores nothing at the field's cell.
+void EmptyCell(ScreenContext& context, const Form& form, const Control& control) {
+    context.calc.store.SetCell(control.tag, form.dim1().value_or(1), form.dim2().value_or(1), {});
+}
+
+void AdviseOnConcrete(ScreenContext& context, const Control& control, const Range& range, double value) {
+    const bool isConcrete = range.high == kLimitOfConcrete && range.low == 0.0;
+    if (!isConcrete || value >= kThinnestConcrete || Contains(kExistingThicknesses, control.name)) return;
+    context.calc.dialogs.ShowMessage(
+        {.text = "The AASHTO recommended minimum thickness for concrete is 4 inches (100mm)",
+         .title = "AASHTO recommendation"});
+}
+
+/// True if a changed value may be stored; else its message was shown.
+bool PassesRange(ScreenContext& context, const Control& control) {
+    if (control.kind == ControlKind::ComboBox || control.text.empty()) return true;
+    const Range range = context.units.VariableRange(control.tag);
+    const double value = ParseNumber(control.text);
+    if (IsOutOfRange(range, value)) {
+        context.calc.dialogs.ShowMessage({.text = OutOfRangeText(range)});
+        return false;
+    }
+    AdviseOnConcrete(context, control, range, value);
+    return true;
+}
+
+/// Solving for an input with this code or below is what the screen's equation is about.
+constexpr double kInEquation = 1.0;
+
+bool IsInEquation(const ScreenContext& context, const Form& form, const Control& control) {
+    const auto fields = context.catalogue.FieldsOfScreen(form.tag);
+    return std::any_of(fields.begin(), fields.end(), [&](const Field* field) {
+        return EqualNoCase(field->name, control.tag) && field->solveFor && *field->solveFor <= kInEquation;
+    });
+}
+
+void StoreField(ScreenContext& context, Form& form, Control& control) {
+    context.bProjectChanged = true;
+    if (control.text.empty()) {
+        EmptyCell(context, form, control);
+    } else if (control.coded) {
+        StoreCode(context, form, control);
+    } else {
+        context.units.SetDisplayValue(control.tag, form.dim1().value_or(1), form.dim2().value_or(1),
+                                      control.text);
+    }
+    RecalcOutputs(context, form, control.tag, 0);
+    if (IsInEquation(context, form, control)) WarnOfChange(context, form, control.tag);
+}
+
+}  // namespace
+
+bool IsOutOfRange(const Range& range, double value) {
+    return (range.low && value < *range.low) || (range.high && value > *range.high);
+}
+
+std::string OutOfRangeText(const Range& range) {
+    return "Warning: Input out of range. Enter value between " + LimitText(range.low) + " and " +
+           LimitText(range.high);
+}
+
+void FieldChange(Form& form, Control& control) {
+    form.SetFieldChanged(true);
+    form.SetHiddenText("SolveForField", control.tag);
+}
+
+void FieldGotFocus(Form& form, Control& control) {
+    form.SetFieldChanged(false);
+    form.SetHiddenText("SolveForField", control.tag);
+    FindControlIndex(form, control.name);
+    form.spelt.clear();
+    SelectAll(form);
+}
+
+void SelectAll(Form& form) {
+    form.caret.reset();
+    ++form.selections;
+}
+
+void FindControlIndex(Form& form, std::string_view controlName) {
+    if (const auto index = form.IndexOf(controlName)) form.iCurrentField = index;
+}
+
+bool FieldLostFocus(ScreenContext& context, Form& form, Control& control) {
+    if (form.fieldChanged() && !IsOffered(control)) {
+        context.calc.dialogs.ShowMessage({.text = "Please select item from the list", .title = "List"});
+        Refuse(form, control);
+        // The list is left blank, and with it the code.
+        if (control.coded) form.SetFieldChanged(true);
+        return false;
+    }
+    if (!control.text.empty() && !IsNumeric(control.text) && !TakesText(context, control)) {
+        context.calc.dialogs.ShowMessage({.text = "Please enter valid numeric value.", .title = "Value"});
+        if (form.fieldChanged()) context.bProjectChanged = true;
+        EmptyCell(context, form, control);
+        return Refuse(form, control);
+    }
+    if (form.fieldChanged()) {
+        form.SetFieldChanged(false);
+        if (!PassesRange(context, control)) return Refuse(form, control);
+        StoreField(context, form, control);
+    }
+    form.SetHiddenText("SolveForField", control.tag);
+    return true;
+}
+
+void ShowStoredValue(const ScreenContext& context, const Form& form, Control& control) {
+    const int dim1 = form.dim1().value_or(1);
+    const int dim2 = form.dim2().value_or(1);
+    if (control.coded) {
+        const CellValue* cell = context.calc.store.FindCell(control.tag, dim1, dim2);
+        control.text = WordOf(control.words, cell == nullptr ? std::nullopt : cell->number);
+    } else {
+        control.text = context.units.GetDisplayValue(control.tag, dim1, dim2);
+    }
+}
+
+void StoreCode(ScreenContext& context, const Form& form, const Control& list) {
+    context.units.SetDisplayNumber(list.tag, form.dim1().value_or(1), form.dim2().value_or(1),
+                                   CodeOf(list.words, list.text).value_or(0));
+}
+
+void RestoreField(ScreenContext& context, Form& form, Control& control) {
+    SelectAll(form);
+    if (!form.fieldChanged()) return;
+    ShowStoredValue(context, form, control);
+    form.SetFieldChanged(false);
+}
+
+double FieldNumber(const ScreenContext& context, const Form& form, const Control& box) {
+    if (box.text.empty()) return 0.0;
+    const bool typing = form.focus == &box && form.fieldChanged();
+    const Variable* variable = context.catalogue.FindVariable(box.tag);
+    const CellValue* cell =
+        context.calc.store.FindCell(box.tag, form.dim1().value_or(1), form.dim2().value_or(1));
+    if (typing || variable == nullptr || cell == nullptr || !cell->number) return ParseNumber(box.text);
+    return *cell->number * context.units.UnitFactor(variable->units);
+}
+
+}  // namespace kelvor

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "forms/screen_context.h"
+
+namespace kelvor {
+
+/// A field was typed in.
+void FieldChange(Form& form, Control& control);
+
+/// A field got the focus: it is not changed yet, and it is the one that Solve For and help mean.
+void FieldGotFocus(Form& form, Control& control);
+
+/// The text of the box in focus is selected as a whole: the next character replaces it.
+void SelectAll(Form& form);
+
+/// Notes a control's place in the form as that of the current field.
+void FindControlIndex(Form& form, std::string_view controlName);
+
+/// A field is left: its text is tested and stored, the outputs are recalculated, and the indicator warns if
+/// the field belongs to the equation. False if the value was refused; the focus then stays. A field that
+/// was not typed in stores nothing.
+bool FieldLostFocus(ScreenContext& context, Form& form, Control& control);
+
+/// Shows in a box the value that is stored for its field: a list of codes shows the word.
+void ShowStoredValue(const ScreenContext& context, const Form& form, Control& control);
+
+/// Stores the code of the word that a list shows.
+void StoreCode(ScreenContext& context, const Form& form, const Control& list);
+
+/// Shows the stored value again in a field that was typed in.
+void RestoreField(ScreenContext& context, Form& form, Control& control);
+
+/// True if a value lies beyond a limit that is there.
+bool IsOutOfRange(const Range& range, double value);
+
+/// The text with which a value out of a range is refused.
+std::string OutOfRangeText(const Range& range);
+
+/// The number in a box, 0 if it is empty: what is being typed, else the value that it shows, in the active
+/// units and with the digits that its picture leaves out.
+double FieldNumber(const ScreenContext& context, const Form& form, const Control& box);
+
+}  // namespace kelvor

@@ -1,0 +1,155 @@
+#include "forms/field_help.h"
+
+#include <algorithm>
+
+#include "forms/balance_state.h"
+#include "forms/coded_list.h"
+#include "forms/field_entry.h"
+#include "forms/form_builder.h"
+#include "forms/side_screen.h"
+#include "platform/number_text.h"
+
+namespace kelvor {
+
+namespace {
+
+const char* const kTitle = "Help";
+
+/// The fields whose value is the code of an axle type begin with these letters.
+constexpr std::string_view kAxleTypeStart = "AT";
+
+/// What help is asked for.
+struct Subject {
+    std::string variable;  // empty: nothing was selected
+    int row = 0;           // of the grid; 0: a field of its own
+};
+
+Subject SubjectInHand(const Form& form) {
+    const Control* control = form.iCurrentField ? form.controls()[*form.iCurrentField].get() : nullptr;
+    if (control != nullptr && control->grid) return {control->grid->current().variable, control->grid->row};
+    return {form.HiddenText("SolveForField"), 0};
+}
+
+void Say(ScreenContext& context, const std::string& text) {
+    context.calc.dialogs.ShowMessage({.text = text, .title = kTitle});
+}
+
+const HelpRoute* FindRoute(const FormType& type, const std::string& variable) {
+    const auto found =
+        std::find_if(type.helpRoutes.begin(), type.helpRoutes.end(),
+                     [&](const HelpRoute& route) { return EqualNoCase(route.variable, variable); });
+    return found == type.helpRoutes.end() ? nullptr : &*found;
+}
+
+/// Keeps with the project which field the help is for; a help within a help keeps the first one.
+void StoreCall(ScreenContext& context, const Form& form, const Subject& subject) {
+    const std::string level = form.type().isHelp ? "2" : "";
+    context.units.SetDisplayValue("FieldName" + level, 1, 1, subject.variable);
+    context.units.SetDisplayValue("FormName" + level, 1, 1, form.name());
+    if (subject.row == 0) return;
+    context.units.SetDisplayNumber("Dim1", 1, 1, subject.row);
+    context.units.SetDisplayValue("Column", 1, 1, subject.variable);
+}
+
+void OpenGeneralHelp(ScreenContext& context, Form& form, const Subject& subject) {
+    const Variable* variable = context.catalogue.FindVariable(subject.variable);
+    if (variable == nullptr) {
+        Say(context, "Variable not found: " + subject.variable);
+        return;
+    }
+    if (!context.catalogue.HelpText(variable->name)) {
+        const bool secondary = form.type().isHelp || subject.row > 0;
+        Say(context, secondary ? "No help available for: " + variable->name
+                               : "No Help Available for " + variable->desc + ".");
+        return;
+    }
+    StoreCall(context, form, subject);
+    OpenSideScreen(context, subject.row > 0 ? "HelpGrid" : "HelpForm",
+                   MakeCall(form, subject.variable, subject.row));
+}
+
+/// The control on the caller with which the field is typed there; nothing to go by if it has none.
+struct CallerField {
+    bool locked = false;
+    bool computed = false;
+    std::vector<std::string> items;
+};
+
+CallerField FindCallerField(const ScreenContext& context, const Form& form) {
+    Form* caller = context.forms.Find(form.HiddenText("FormName"));
+    if (caller == nullptr) return {};
+    const std::string field = form.HiddenText("FieldName");
+    if (form.dim1() && caller->FindGrid() != nullptr) {
+        const GridData& grid = *caller->FindGrid()->grid;
+        const auto column = grid.Find(field);
+        if (!column) return {};
+        return {grid.columns[*column].locked, grid.columns[*column].locked, grid.columns[*column].items};
+    }
+    const Control* box = caller->FindField(field);
+    return box == nullptr ? CallerField{}
+                          : CallerField{box->locked, box->backColor == colours::kLightCyan, box->items};
+}
+
+/// Puts the list in the place of the box.
+Control& SwapForList(Form& form, Control& box, Control& list) {
+    list.visible = true;
+    box.visible = false;
+    for (const auto& control : form.controls()) {
+        if (EqualNoCase(control->labelOf, box.name)) control->labelOf = list.name;
+        if (EqualNoCase(control->unitOf, box.name)) control->unitOf = list.name;
+    }
+    return list;
+}
+
+}  // namespace
+
+void OpenFieldHelp(ScreenContext& context, Form& form) {
+    const Subject subject = SubjectInHand(form);
+    if (subject.variable.empty()) {
+        Say(context, "Please select field first.");
+    } else if (const HelpRoute* route = FindRoute(form.type(), subject.variable)) {
+        StoreCall(context, form, subject);
+        OpenSideScreen(context, route->form, MakeCall(form, subject.variable, subject.row));
+    } else {
+        OpenGeneralHelp(context, form, subject);
+    }
+}
+
+void ShowCalledField(ScreenContext& context, Form& form, const std::string& captionStart) {
+    const Variable* variable = context.catalogue.FindVariable(form.HiddenText("FieldName"));
+    Control* box = form.Find("TextBox") != nullptr ? form.Find("TextBox") : form.Find("Text1");
+    if (variable == nullptr || box == nullptr) return;
+    const std::string& head = variable->helpHead.empty() ? variable->desc : variable->helpHead;
+    if (!captionStart.empty()) form.caption = captionStart + head;
+    form.SetHiddenText("HelpHead", head);
+    form.SetHiddenText("HelpText", context.catalogue.HelpText(variable->name).value_or(""));
+    form.SetHiddenText("Label", variable->desc);
+
+    Control& unit = *form.FindUnitOf(box->name);
+    const CallerField field = FindCallerField(context, form);
+    const bool coded = variable->name.starts_with(kAxleTypeStart);
+    Control* list = form.Find("ComboBox");
+    if (list != nullptr && (coded || !field.items.empty())) {
+        list->items = field.items;
+        if (coded) MakeCoded(*list, AxleTypes());
+        box = &SwapForList(form, *box, *list);
+    }
+    BindBox(*box, unit, variable->name, variable);
+    if (field.locked) LockBox(*box, field.computed);
+    ShowStoredValue(context, form, *box);
+    form.valueAtOpening = CalledField(context, form);
+}
+
+void DropCommas(ScreenContext& /*context*/, Form& /*form*/, Control* control) {
+    if (control->kind == ControlKind::TextBox && IsNumeric(control->text)) std::erase(control->text, ',');
+}
+
+void CloseValueHelp(ScreenContext& context, Form& form, Control* /*control*/) {
+    const bool changed = !IsSameValue(CalledField(context, form), form.valueAtOpening);
+    ReturnFromSideScreen(context, form, changed);
+    Form* caller = context.forms.Find(form.HiddenText("FormName"));
+    Control* field = caller == nullptr ? nullptr : caller->FindField(form.HiddenText("FieldName"));
+    if (changed && field != nullptr && field->coded) ShowStoredValue(context, *caller, *field);
+}
+
+}  // namespace kelvor

@@ -1,0 +1,50 @@
+#include "forms/field_hint.h"
+
+#include "forms/form_builder.h"
+#include "platform/number_picture.h"
+#include "platform/number_text.h"
+
+namespace kelvor {
+
+namespace {
+
+/// A limit in the field's picture, or in full if the picture would change it.
+std::string LimitText(double limit, const std::string& picture) {
+    std::string text = FormatNumber(limit, picture);
+    return IsNumeric(text) && ParseNumber(text) == limit ? text : NumberToText(limit);
+}
+
+std::string RangeText(const Range& range, const std::string& picture) {
+    const auto text = [&](double limit) { return LimitText(limit, picture); };
+    if (range.low && range.high) return text(*range.low) + " to " + text(*range.high);
+    if (range.low) return text(*range.low) + " or more";
+    return "at most " + text(*range.high);
+}
+
+std::string HintOf(const ScreenContext& context, const std::string& name, bool computed) {
+    const Variable* variable = context.catalogue.FindVariable(name);
+    if (variable == nullptr) return {};
+    if (computed) return variable->desc + ": computed";
+    const Range range = context.units.VariableRange(name);
+    if (!range.low && !range.high) return variable->desc;
+    const std::string unit = context.units.UnitLabel(name);
+    return variable->desc + ": " + RangeText(range, variable->format) +
+           (IsNoUnit(unit) ? std::string() : " " + unit);
+}
+
+}  // namespace
+
+std::string FieldHint(const ScreenContext& context, const Control& field) {
+    if (!field.coded) return HintOf(context, field.tag, field.locked);
+    const Variable* variable = context.catalogue.FindVariable(field.tag);
+    std::string hint = variable == nullptr ? std::string() : variable->desc;
+    for (const std::string& item : field.items) hint += (&item == &field.items.front() ? ": " : ", ") + item;
+    return hint;
+}
+
+std::string ColumnHint(const ScreenContext& context, const GridColumn& column) {
+    const std::string hint = HintOf(context, column.variable, column.locked);
+    return column.list.empty() ? hint : hint + ", from the list";
+}
+
+}  // namespace kelvor

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "catalogue/catalogue.h"
+#include "forms/control.h"
+#include "forms/form_type.h"
+
+namespace kelvor {
+
+/// The caption texts that stand for "no unit worth showing".
+bool IsNoUnit(std::string_view unit);
+
+/// Binds a box and the unit behind it to a variable; null: the catalogue has no such variable.
+void BindBox(Control& box, Control& unit, const std::string& name, const Variable* variable);
+
+/// Makes a box one that shows a value and takes none.
+void LockBox(Control& box, bool computed);
+
+/// Gives every label of a field, and every button, without an access key a letter of its text that is still
+/// free on its page and opens no menu.
+void AssignAccessKeys(std::vector<std::unique_ptr<Control>>& controls);
+
+/// The controls of a form type, in the order of its layout.
+std::vector<std::unique_ptr<Control>> BuildControls(const FormType& type, const Catalogue& catalogue);
+
+}  // namespace kelvor

@@ -1,0 +1,410 @@
+#include "forms/form_events.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "forms/balance_state.h"
+#include "forms/coded_list.h"
+#include "forms/field_entry.h"
+#include "forms/field_help.h"
+#include "forms/grid_entry.h"
+#include "forms/side_screen.h"
+
+namespace kelvor {
+
+namespace {
+
+const char* const kOkButton = "cmdAction";
+const char* const kHelpButton = "SSHelp";
+
+/// Keys that move the cursor of a grid while it has the focus. Enter moves on like Tab.
+bool IsCursorKey(std::string_view key) {
+    constexpr std::string_view kKeys[] = {"Up", "Down", "Left", "Right", "Tab", "BackTab", "Enter"};
+    return std::find(std::begin(kKeys), std::end(kKeys), key) != std::end(kKeys);
+}
+
+bool IsFor(const Handler& handler, FormEvent event, const Control* control, HandlerOrder order) {
+    if (handler.event != event || handler.order != order) return false;
+    return handler.control.empty() || (control != nullptr && EqualNoCase(handler.control, control->name));
+}
+
+}  // namespace
+
+void FormEvents::Handle(FormEvent event, Form& form, Control* control, const std::function<void()>& common) {
+    const auto run = [&](HandlerOrder order) {
+        bool any = false;
+        for (const Handler& handler : form.type().handlers) {
+            if (!IsFor(handler, event, control, order)) continue;
+            handler.run(context_, form, control);
+            any = true;
+        }
+        return any;
+    };
+    run(HandlerOrder::Before);
+    if (!run(HandlerOrder::Instead)) common();
+    run(HandlerOrder::After);
+}
+
+// --- Opening, activating, closing -------------------------------------------------------------------
+
+bool FormEvents::Open(std::string_view name, const SideScreenCall* call) {
+    const FormType* type = context_.forms.FindType(name);
+    if (type == nullptr) return false;
+    if ((type->needsProject && !context_.calc.store.IsOpen()) || !Commit()) return true;
+    if (Form* open = context_.forms.Find(name)) {
+        if (call != nullptr) NoteCall(*open, *call);
+        Activate(*open);
+        return true;
+    }
+    Form& form = context_.forms.Add(*type, context_.catalogue);
+    if (call != nullptr) NoteCall(form, *call);
+    Handle(FormEvent::Load, form, nullptr, [&] {
+        InitScreen(context_, form);
+        FillValueItems(context_, form);
+    });
+    form.AssignAccessKeys();
+    Activate(form);
+    return true;
+}
+
+void FormEvents::Activate(Form& form) {
+    if (Current() == &form || !Commit()) return;
+    context_.forms.BringToFront(form);
+    Handle(FormEvent::Activate, form, nullptr, [&] {
+        const auto returned = std::exchange(form.returned, std::nullopt);
+        LoadScreen(context_, form);
+        if (returned) {
+            TakeReturn(form, *returned);
+        } else {
+            FocusFirstField(form);
+        }
+    });
+    context_.forms.CurrentForm = &form;
+    NoteCurrentCell(form);
+}
+
+/// After a side screen: what it has changed is recalculated and warned of, and the focus goes to the field
+/// for which it was opened.
+void FormEvents::TakeReturn(Form& form, const SideScreenReturn& returned) {
+    Control* grid = returned.row > 0 ? form.FindGrid() : nullptr;
+    if (grid != nullptr && returned.valueTaken) {
+        Handle(FormEvent::CellChanged, form, grid, [&] { RecalcOutputs(context_, form, "", returned.row); });
+    }
+    RecalcOutputs(context_, form, "", 0);
+    FocusFirstField(form);
+    Control* caller = grid != nullptr ? grid : form.FindField(returned.field);
+    if (caller == nullptr) caller = form.Find(returned.field);  // an option
+    if (caller != nullptr && form.CanFocus(*caller)) GetFocus(form, *caller);
+    if (!returned.valueTaken) return;
+    if (grid == nullptr && caller != nullptr) Handle(FormEvent::Stored, form, caller, [] {});
+    WarnOfChange(context_, form, returned.field);
+}
+
+/// A form without a field that takes the focus has it on its first button.
+void FormEvents::FocusFirstField(Form& form) {
+    form.focus = nullptr;
+    Control* first = form.NextInTabOrder(nullptr, true);
+    const auto isField = [&](const auto& control) {
+        return form.CanFocus(*control) && !control->IsButton() && !control->IsChoice();
+    };
+    const auto field = std::find_if(form.controls().begin(), form.controls().end(), isField);
+    if (field != form.controls().end()) first = field->get();
+    if (first != nullptr) GetFocus(form, *first);
+}
+
+bool FormEvents::Close(Form& form) {
+    if (form.type().isHub) return false;
+    if (!context_.calc.store.IsOpen()) {
+        Unload(form);
+        return true;
+    }
+    if (form.focus != nullptr && !LoseFocus(form, *form.focus)) return false;
+    if (!ConfirmScreenClose(context_, form)) return false;
+    Unload(form);
+    return true;
+}
+
+void FormEvents::Unload(Form& form) {
+    Handle(FormEvent::Unload, form, nullptr, [] {});
+    context_.forms.Remove(form);
+    ActivateFront();
+}
+
+void FormEvents::ActivateFront() {
+    Form* current = Current();
+    if (current == nullptr) {
+        if (Form* front = context_.forms.Front()) Activate(*front);
+    } else if (current->returned && Commit()) {
+        // Its side screen was closed from outside: it takes the value over as if it had come in front.
+        context_.forms.CurrentForm = nullptr;
+        Activate(*current);
+    }
+}
+
+void FormEvents::UnloadAll() {
+    std::vector<Form*> open = context_.forms.InOpeningOrder();
+    std::reverse(open.begin(), open.end());
+    for (Form* form : open) {
+        // A form that asks and is told to stay stays open; what closes the others goes on.
+        if (!form->type().isHub) Close(*form);
+    }
+}
+
+// --- Focus --------------------------------------------------------------------------------------------
+
+bool FormEvents::LoseFocus(Form& form, Control& control) {
+    bool accepted = true;
+    if (control.grid && control.grid->texts) return CommitCell(form, control);
+    if (!context_.calc.store.IsOpen()) return accepted;
+    if (control.grid) return CommitCell(form, control);
+    if (!control.IsField()) return accepted;
+    const bool changed = form.fieldChanged();
+    Handle(FormEvent::LostFocus, form, &control, [&] {
+        accepted = FieldLostFocus(context_, form, control);
+        form.refused = !accepted;
+    });
+    if (accepted && changed) Handle(FormEvent::Stored, form, &control, [] {});
+    return accepted;
+}
+
+void FormEvents::GetFocus(Form& form, Control& control) {
+    form.focus = &control;
+    if (control.grid) FindControlIndex(form, control.name);
+    if (!control.IsField() && !control.IsChoice()) return;
+    Handle(FormEvent::GotFocus, form, &control, [&] {
+        if (control.IsField()) FieldGotFocus(form, control);
+    });
+}
+
+bool FormEvents::MoveFocus(Form& form, Control& control) {
+    if (!form.CanFocus(control)) return false;
+    if (form.focus == &control) return true;
+    if (form.focus != nullptr && !LoseFocus(form, *form.focus)) return false;
+    GetFocus(form, control);
+    return true;
+}
+
+bool FormEvents::Commit() {
+    Form* form = Current();
+    return form == nullptr || form->focus == nullptr || LoseFocus(*form, *form->focus);
+}
+
+void FormEvents::CommitAndReturn() {
+    Form* form = Current();
+    if (form == nullptr || form->focus == nullptr) return;
+    Control& control = *form->focus;
+    if (LoseFocus(*form, control)) GetFocus(*form, control);
+}
+
+void FormEvents::Tab(Form& form, bool forwards) {
+    if (Control* next = form.NextInTabOrder(form.focus, forwards)) MoveFocus(form, *next);
+}
+
+// --- Typing and keys ------------------------------------------------------------------------------------
+
+void FormEvents::Type(const std::string& text) {
+    Form* form = Current();
+    if (form == nullptr || form->focus == nullptr) return;
+    Control& control = *form->focus;
+    if (control.grid) TypeIntoCell(*form, control, text);
+    if (control.kind != ControlKind::TextBox && control.kind != ControlKind::ComboBox) return;
+    if (control.locked || (control.text.empty() && text.empty())) return;
+    control.text = control.words.empty()
+                       ? text
+                       : CompleteWord(control.words, control.text, text, form->spelt).value_or(text);
+    form->caret = control.text.size();
+    Handle(FormEvent::Change, *form, &control, [&] { FieldChange(*form, control); });
+}
+
+void FormEvents::TypeCharacter(Form& form, char character) {
+    if (form.focus == nullptr) return;
+    if (form.focus->grid) {
+        TypeCharacterIntoCell(form, *form.focus, character);
+        return;
+    }
+    const std::size_t place = std::min(form.caret.value_or(0), form.focus->text.size());
+    std::string text = form.caret ? form.focus->text : "";
+    Type(text.insert(place, 1, character));
+    if (form.focus->words.empty()) form.caret = place + 1;
+}
+
+/// Empties a box that is selected as a whole, else takes the character behind the cursor.
+void FormEvents::DeleteCharacter(Form& form) {
+    if (form.focus == nullptr) return;
+    if (form.focus->grid) {
+        if (!form.fieldChanged()) Type("");
+        CommitCell(form, *form.focus);
+        return;
+    }
+    const std::size_t place = form.caret.value_or(0);
+    if (form.caret && place >= form.focus->text.size()) return;
+    std::string text = form.caret ? form.focus->text : "";
+    if (form.caret) text.erase(place, 1);
+    Type(text);
+    form.caret = place;
+}
+
+/// Left and Right in a box: a selection is left at its end on that side.
+void FormEvents::MoveCaret(Form& form, int step) {
+    const std::size_t end = form.focus->text.size();
+    if (!form.caret) {
+        form.caret = step < 0 ? 0 : end;
+    } else if (step < 0 ? *form.caret > 0 : *form.caret < end) {
+        form.caret = step < 0 ? *form.caret - 1 : *form.caret + 1;
+    }
+}
+
+bool FormEvents::Key(const std::string& key) {
+    Form* form = Current();
+    if (form == nullptr) return true;
+    if (key.size() == 5 && key.starts_with("Alt+")) {
+        PressAccessKey(*form, key.back());
+    } else if (key.size() == 1) {
+        TypeCharacter(*form, key.front());
+    } else {
+        return NamedKey(*form, key);
+    }
+    return true;
+}
+
+bool FormEvents::NamedKey(Form& form, const std::string& key) {
+    if (form.focus != nullptr && form.focus->grid && IsCursorKey(key)) {
+        StepCell(form, *form.focus, key);
+        return true;
+    }
+    const bool onButton = form.focus != nullptr && (form.focus->IsButton() || form.focus->IsChoice());
+    if (key == "Enter" && form.type().isHub && onButton && form.focus->IsChoice()) {
+        Click(form, *form.focus);
+    } else if (key == "Enter" || key == "Tab") {
+        Tab(form, true);
+    } else if (key == "BackTab") {
+        Tab(form, false);
+    } else if (key == "Esc" && form.type().isHelp) {
+        Close(form);
+    } else if (key == "Esc") {
+        Restore(form);
+    } else if (key == "Space") {
+        if (onButton) {
+            Click(form, *form.focus);
+        } else {
+            TypeCharacter(form, ' ');
+        }
+    } else if (key == "F1") {
+        if (Control* help = form.Find(kHelpButton)) Press(form, *help);
+    } else if (key == "Delete") {
+        DeleteCharacter(form);
+    } else if (key == "Up" || key == "Left") {
+        Step(form, key, -1);
+    } else if (key == "Down" || key == "Right") {
+        Step(form, key, 1);
+    } else {
+        return key == "F2";
+    }
+    return true;
+}
+
+/// Drops what was typed and not yet stored.
+void FormEvents::Restore(Form& form) {
+    if (form.focus == nullptr) return;
+    if (form.focus->grid) {
+        form.focus->grid->typed.reset();
+        form.SetFieldChanged(false);
+    } else {
+        RestoreField(context_, form, *form.focus);
+    }
+}
+
+void FormEvents::Step(Form& form, const std::string& key, int step) {
+    if (form.focus == nullptr) return;
+    if (form.focus->kind == ControlKind::OptionButton) {
+        StepOption(form, *form.focus, step);
+    } else if (form.focus->kind == ControlKind::ComboBox && (key == "Up" || key == "Down")) {
+        StepItem(*form.focus, step);
+    } else if (form.focus->kind == ControlKind::TextBox && (key == "Left" || key == "Right")) {
+        MoveCaret(form, step);
+    }
+}
+
+void FormEvents::StepOption(Form& form, const Control& option, int step) {
+    std::vector<Control*> group;
+    for (const auto& control : form.controls()) {
+        const bool isIn = control->kind == ControlKind::OptionButton && control->group == option.group;
+        if (isIn && form.CanFocus(*control)) group.push_back(control.get());
+    }
+    const auto place = std::find(group.begin(), group.end(), &option) - group.begin();
+    const auto count = static_cast<std::ptrdiff_t>(group.size());
+    Press(form, *group[static_cast<std::size_t>((place + step + count) % count)]);
+}
+
+void FormEvents::StepItem(const Control& list, int step) {
+    const auto place = std::find(list.items.begin(), list.items.end(), list.text);
+    const auto count = static_cast<std::ptrdiff_t>(list.items.size());
+    const std::ptrdiff_t next = place == list.items.end() ? 0 : place - list.items.begin() + step;
+    if (next >= 0 && next < count) Type(list.items[static_cast<std::size_t>(next)]);
+}
+
+void FormEvents::PressAccessKey(Form& form, char key) {
+    Control* control = form.FindAccessKey(key);
+    if (control == nullptr || !MoveFocus(form, *control)) return;
+    if (control->IsButton() || control->IsChoice()) Click(form, *control);
+}
+
+// --- Clicks -----------------------------------------------------------------------------------------------
+
+void FormEvents::Press(Form& form, Control& button) {
+    if (MoveFocus(form, button)) Click(form, button);
+}
+
+void FormEvents::Click(Form& form, Control& control) {
+    if (control.kind == ControlKind::OptionButton) {
+        for (const auto& other : form.controls()) {
+            if (other->kind == ControlKind::OptionButton && other->group == control.group)
+                other->value = false;
+        }
+        control.value = true;
+    } else if (control.kind == ControlKind::CheckBox) {
+        control.value = !control.value;
+    }
+    Handle(FormEvent::Click, form, &control, [&] {
+        if (EqualNoCase(control.name, kOkButton)) Close(form);
+        if (EqualNoCase(control.name, kHelpButton)) OpenFieldHelp(context_, form);
+    });
+}
+
+bool FormEvents::Choose(Form& form, Control& control, const std::string& item) {
+    if (control.IsChoice()) {
+        Press(form, control);
+        return true;
+    }
+    if (control.kind != ControlKind::ComboBox) return false;
+    if (std::find(control.items.begin(), control.items.end(), item) == control.items.end()) return false;
+    if (MoveFocus(form, control) && control.text != item) Type(item);
+    return true;
+}
+
+// --- Projects ---------------------------------------------------------------------------------------------
+
+void FormEvents::ShowProject(Form& form) {
+    if (form.type().isHub || !form.type().needsProject) return;
+    if (context_.calc.store.IsOpen()) {
+        RefreshScreen(context_, form);
+        return;
+    }
+    for (const auto& control : form.controls()) {
+        if (control->IsField()) control->text.clear();
+    }
+    form.SetFieldChanged(false);
+}
+
+// --- Units ------------------------------------------------------------------------------------------------
+
+void FormEvents::AfterUnitSwitch() {
+    Form* form = Current();
+    if (form == nullptr || !context_.calc.store.IsOpen()) return;
+    FillValueItems(context_, *form);
+    Handle(FormEvent::UnitsSwitched, *form, nullptr, [&] { RefreshScreen(context_, *form); });
+    if (form->focus != nullptr) GetFocus(*form, *form->focus);
+}
+
+}  // namespace kelvor

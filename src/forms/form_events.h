@@ -1,0 +1,112 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "forms/screen_context.h"
+
+namespace kelvor {
+
+struct SideScreenCall;
+
+/// What a user does to the open forms, and what the forms then do: focus, typing, keys, clicks, opening and
+/// closing. One object serves one event.
+class FormEvents {
+  public:
+    explicit FormEvents(ScreenContext& context) : context_(context) {}
+
+    /// Opens the form of a name, or brings it to the front, unless the current form refuses the value being
+    /// typed; with no project open it does nothing. A side screen is told for which field it opens. False if
+    /// there is no such form.
+    bool Open(std::string_view name, const SideScreenCall* call = nullptr);
+
+    /// Closes a form as its close box does: the value being typed is committed, then the form may ask. False
+    /// if it stays open.
+    bool Close(Form& form);
+
+    /// Closes a form without a question; what it writes on closing is written.
+    void Unload(Form& form);
+
+    /// Closes every form but the hub, the last one first.
+    void UnloadAll();
+
+    /// Makes a form the current one, unless the current one refuses the value being typed.
+    void Activate(Form& form);
+
+    /// Moves the focus; the control that had it may refuse. True if it arrived.
+    bool MoveFocus(Form& form, Control& control);
+
+    /// Commits the value being typed on the current form. False if it was refused.
+    bool Commit();
+
+    /// Commits the value being typed, then gives the focus back to its field, as Save does.
+    void CommitAndReturn();
+
+    /// Replaces the text of the control in focus, as typing does.
+    void Type(const std::string& text);
+
+    /// A key: Enter, Tab, BackTab, Esc, Space, F1, F2, Delete, Up, Down, Left, Right, Alt+X, or one
+    /// character. False for a name that is none.
+    bool Key(const std::string& key);
+
+    /// Moves the focus to a button and clicks it, if the focus stays there.
+    void Press(Form& form, Control& button);
+
+    /// What a user does to the form's grid. Each is false if the form has no such grid, column or row. An
+    /// edit takes the same way as a typed field: validated, written, recalculated.
+    bool EditCell(Form& form, int row, const std::string& variable, const std::string& text);
+    bool MoveToCell(Form& form, int row, const std::string& variable);
+    bool DeleteRow(Form& form, int row);
+
+    /// Puts a block of tab-separated lines into the cells from the cursor on, each cell like a typed one; one
+    /// that is refused ends it. What reaches beyond the grid, and what meets a computed column, is left out.
+    bool PasteCells(Form& form, const std::string& block);
+
+    /// Selects an option, toggles a check box, or picks an item of a list. False if that makes no sense.
+    bool Choose(Form& form, Control& control, const std::string& item);
+
+    /// Shows the values of the open project on a form that was kept over a change of projects; with none
+    /// open, none.
+    void ShowProject(Form& form);
+
+    /// Rewrites the current form after a switch of the unit system.
+    void AfterUnitSwitch();
+
+  private:
+    Form* Current() { return context_.forms.CurrentForm; }
+
+    /// Runs a screen's own routines and, unless one stands instead of it, the common one.
+    void Handle(FormEvent event, Form& form, Control* control, const std::function<void()>& common);
+
+    bool LoseFocus(Form& form, Control& control);
+    void GetFocus(Form& form, Control& control);
+    void TypeCharacterIntoCell(Form& form, Control& control, char character);
+    void TypeIntoCell(Form& form, Control& control, const std::string& text);
+    bool CommitCell(Form& form, Control& control);
+    bool StoreCell(Form& form, Control& control, const std::string& text);
+    bool MoveGridCursor(Form& form, Control& control, int row, std::size_t column);
+    void StepCell(Form& form, Control& control, const std::string& key);
+    void NoteCurrentCell(Form& form);
+    void TakeReturn(Form& form, const SideScreenReturn& returned);
+    void FocusFirstField(Form& form);
+    void ActivateFront();
+    void Click(Form& form, Control& control);
+    void TypeCharacter(Form& form, char character);
+    void DeleteCharacter(Form& form);
+    static void MoveCaret(Form& form, int step);
+    bool NamedKey(Form& form, const std::string& key);
+
+    void Restore(Form& form);
+
+    /// An arrow key: the option or the list item before or after the one that is chosen.
+    void Step(Form& form, const std::string& key, int step);
+    void StepOption(Form& form, const Control& option, int step);
+    void StepItem(const Control& list, int step);
+    void PressAccessKey(Form& form, char key);
+    void Tab(Form& form, bool forwards);
+
+    ScreenContext& context_;
+};
+
+}  // namespace kelvor

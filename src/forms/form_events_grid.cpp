@@ -1,0 +1,163 @@
+#include <algorithm>
+#include <utility>
+
+#include "forms/balance_state.h"
+#include "forms/cell_block.h"
+#include "forms/coded_list.h"
+#include "forms/form_events.h"
+#include "forms/grid_entry.h"
+
+namespace kelvor {
+
+namespace {
+
+/// The grid of a form if it has the row and, unless none is named, the column; else null.
+Control* FindGridWith(Form& form, int row, const std::string& variable) {
+    Control* control = form.FindGrid();
+    if (control == nullptr || row < 1 || row > control->grid->rows) return nullptr;
+    return variable.empty() || control->grid->Find(variable) ? control : nullptr;
+}
+
+}  // namespace
+
+// --- Cells --------------------------------------------------------------------------------------------
+
+void FormEvents::TypeIntoCell(Form& form, Control& control, const std::string& text) {
+    if (control.grid->current().locked || control.grid->rows == 0) return;
+    const std::vector<LetterWord>& words = control.grid->current().words;
+    const std::string shown = control.grid->typed.value_or("");
+    control.grid->typed = words.empty() ? text : CompleteWord(words, shown, text, form.spelt).value_or(text);
+    GridChange(context_, form);
+}
+
+/// A letter that stands for a word is the whole entry, and any other leaves such a cell alone.
+void FormEvents::TypeCharacterIntoCell(Form& form, Control& control, char character) {
+    const std::vector<LetterWord>& words = control.grid->current().words;
+    if (words.empty()) {
+        Type(control.grid->typed.value_or("") + character);
+        return;
+    }
+    const std::string letter(1, character);
+    if (!CompleteWord(words, {}, letter, form.spelt)) return;
+    Type(letter);
+    CommitCell(form, control);
+}
+
+/// Stores what was typed into the cell under the cursor. False if it was refused.
+bool FormEvents::CommitCell(Form& form, Control& control) {
+    const auto typed = std::exchange(control.grid->typed, std::nullopt);
+    return !typed || StoreCell(form, control, *typed);
+}
+
+bool FormEvents::StoreCell(Form& form, Control& control, const std::string& text) {
+    const GridColumn& column = control.grid->current();
+    const int row = control.grid->row;
+    if (!GridBeforeColUpdate(context_, form, column, text)) return false;
+    GridWriteCell(context_, form, row, column, text);
+    GridAfterColUpdate(form);
+    Handle(FormEvent::CellChanged, form, &control, [&] { RecalcOutputs(context_, form, "", row); });
+    return true;
+}
+
+bool FormEvents::EditCell(Form& form, int row, const std::string& variable, const std::string& text) {
+    if (!MoveToCell(form, row, variable)) return false;
+    Control& control = *form.FindGrid();
+    const bool arrived = form.focus == &control && control.grid->row == row;
+    if (!arrived || control.grid->Find(variable) != control.grid->column) return true;
+    TypeIntoCell(form, control, text);
+    CommitCell(form, control);
+    return true;
+}
+
+bool FormEvents::PasteCells(Form& form, const std::string& block) {
+    Control* control = form.FindGrid();
+    if (control == nullptr || form.focus != control || !CommitCell(form, *control)) return control != nullptr;
+    const int firstRow = control->grid->row;
+    const std::size_t firstColumn = control->grid->column;
+    int row = firstRow;
+    for (const std::vector<std::string>& line : SplitCells(block)) {
+        if (row > control->grid->rows) break;
+        for (std::size_t i = 0; i < line.size() && firstColumn + i < control->grid->columns.size(); ++i) {
+            MoveGridCursor(form, *control, row, firstColumn + i);
+            TypeIntoCell(form, *control, line[i]);
+            if (!CommitCell(form, *control)) return true;
+        }
+        ++row;
+    }
+    MoveGridCursor(form, *control, firstRow, firstColumn);
+    return true;
+}
+
+// --- Rows ---------------------------------------------------------------------------------------------
+
+bool FormEvents::MoveToCell(Form& form, int row, const std::string& variable) {
+    Control* control = FindGridWith(form, row, variable);
+    if (control == nullptr) return false;
+    const std::size_t column = variable.empty() ? control->grid->column : *control->grid->Find(variable);
+    if (MoveFocus(form, *control)) MoveGridCursor(form, *control, row, column);
+    return true;
+}
+
+bool FormEvents::DeleteRow(Form& form, int row) {
+    Control* control = FindGridWith(form, row, {});
+    if (control == nullptr) return false;
+    if (!MoveFocus(form, *control)) return true;
+    if (!MoveGridCursor(form, *control, row, control->grid->column)) return true;
+    if (control->grid->texts) {
+        if (!CommitCell(form, *control)) return true;
+    } else if (GridDeleteRow(context_, form, *control->grid, row)) {
+        control->grid->typed.reset();  // what was being typed has gone with its row
+        form.SetFieldChanged(false);
+    } else {
+        return true;
+    }
+    Handle(FormEvent::RowDeleted, form, control, [&] {
+        RecalcAllOutputs(context_, form);
+        RecalcOutputs(context_, form, "", 0);
+    });
+    return true;
+}
+
+/// False if what was typed into the cell that is left was refused.
+bool FormEvents::MoveGridCursor(Form& form, Control& control, int row, std::size_t column) {
+    if (control.grid->row == row && control.grid->column == column) return true;
+    if (!CommitCell(form, control)) return false;
+    control.grid->column = column;
+    if (std::exchange(control.grid->row, row) == row) return true;
+    NoteCurrentCell(form);
+    Handle(FormEvent::RowChanged, form, &control, [] {});
+    return true;
+}
+
+/// Tells the calculations which row, and which second subscript, the user is working in.
+void FormEvents::NoteCurrentCell(Form& form) {
+    const Control* control = form.FindGrid();
+    context_.values.gridRow = control == nullptr || control->grid->texts ? 1 : control->grid->row;
+    context_.values.dim2 = form.dim2().value_or(1);
+}
+
+/// Moves the cursor by a key; Tab and Enter go on to the next row at the end of one, and leave the grid at
+/// its ends.
+void FormEvents::StepCell(Form& form, Control& control, const std::string& key) {
+    if (!CommitCell(form, control)) return;
+    const GridData& grid = *control.grid;
+    const int columns = static_cast<int>(grid.columns.size());
+    const int place = (grid.row - 1) * columns + static_cast<int>(grid.column);
+    const bool back = key == "BackTab" || key == "Left";
+    if (key == "Up" || key == "Down") {
+        if (grid.rows == 0) return;
+        const int row = std::clamp(grid.row + (key == "Up" ? -1 : 1), 1, grid.rows);
+        MoveGridCursor(form, control, row, grid.column);
+        return;
+    }
+    const int next = place + (back ? -1 : 1);
+    if (key == "Left" || key == "Right") {
+        if (next < 0 || next / columns + 1 != grid.row) return;
+    } else if (next < 0 || next >= columns * grid.rows) {
+        Tab(form, !back);
+        return;
+    }
+    MoveGridCursor(form, control, next / columns + 1, static_cast<std::size_t>(next % columns));
+}
+
+}  // namespace kelvor

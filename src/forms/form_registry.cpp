@@ -1,0 +1,58 @@
+#include "forms/form_registry.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
+
+namespace kelvor {
+
+void FormRegistry::Declare(std::vector<FormType> types) {
+    for (FormType& type : types) {
+        if (FindType(type.name) != nullptr) throw std::logic_error("form " + type.name + " stands twice");
+        types_.push_back(std::make_unique<FormType>(std::move(type)));
+    }
+}
+
+const FormType* FormRegistry::FindType(std::string_view name) const {
+    const auto found = std::find_if(types_.begin(), types_.end(),
+                                    [&](const auto& type) { return EqualNoCase(type->name, name); });
+    return found == types_.end() ? nullptr : found->get();
+}
+
+std::vector<std::string> FormRegistry::TypeNames() const {
+    std::vector<std::string> names;
+    for (const auto& type : types_) names.push_back(type->name);
+    return names;
+}
+
+Form* FormRegistry::Find(std::string_view name) const {
+    const auto found = std::find_if(stack_.begin(), stack_.end(),
+                                    [&](const auto& form) { return EqualNoCase(form->name(), name); });
+    return found == stack_.end() ? nullptr : found->get();
+}
+
+Form& FormRegistry::Add(const FormType& type, const Catalogue& catalogue) {
+    stack_.push_back(std::make_unique<Form>(type, catalogue));
+    opened_.push_back(stack_.back().get());
+    return *stack_.back();
+}
+
+void FormRegistry::BringToFront(Form& form) {
+    const auto found =
+        std::find_if(stack_.begin(), stack_.end(), [&](const auto& open) { return open.get() == &form; });
+    if (found != stack_.end()) std::rotate(found, found + 1, stack_.end());
+}
+
+void FormRegistry::Remove(Form& form) {
+    const auto found =
+        std::find_if(stack_.begin(), stack_.end(), [&](const auto& open) { return open.get() == &form; });
+    if (found == stack_.end()) return;
+    if (CurrentForm == &form) CurrentForm = nullptr;
+    std::erase(opened_, &form);
+    removed_.push_back(std::move(*found));
+    stack_.erase(found);
+}
+
+Form* FormRegistry::Front() const { return stack_.empty() ? nullptr : stack_.back().get(); }
+
+}  // namespace kelvor

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "catalogue/catalogue.h"
+#include "forms/form.h"
+#include "forms/form_type.h"
+
+namespace kelvor {
+
+/// All form types by name, and the open forms from the back to the front; at most one of each type.
+class FormRegistry {
+  public:
+    /// Throws std::logic_error if a name stands twice.
+    void Declare(std::vector<FormType> types);
+
+    /// Null if there is no such type.
+    [[nodiscard]] const FormType* FindType(std::string_view name) const;
+    [[nodiscard]] std::vector<std::string> TypeNames() const;
+
+    /// The open form of a name; null if it is not open.
+    [[nodiscard]] Form* Find(std::string_view name) const;
+
+    /// Makes the form of a type and puts it in front.
+    Form& Add(const FormType& type, const Catalogue& catalogue);
+
+    void BringToFront(Form& form);
+
+    /// Takes a form off the open ones. It is destroyed when the event that closes it has ended.
+    void Remove(Form& form);
+    void DestroyRemoved() { removed_.clear(); }
+
+    /// The open forms, in the order in which they were opened.
+    [[nodiscard]] const std::vector<Form*>& InOpeningOrder() const { return opened_; }
+
+    /// The front form; null if none is open.
+    [[nodiscard]] Form* Front() const;
+
+    /// The form in which the user works: the one that was activated last.
+    Form* CurrentForm = nullptr;
+
+  private:
+    std::vector<std::unique_ptr<FormType>> types_;
+    std::vector<std::unique_ptr<Form>> stack_;  // back to front
+    std::vector<std::unique_ptr<Form>> removed_;
+    std::vector<Form*> opened_;
+};
+
+}  // namespace kelvor

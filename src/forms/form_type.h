@@ -1,0 +1,81 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "forms/layout.h"
+
+namespace kelvor {
+
+class Form;
+struct Control;
+struct ScreenContext;
+
+enum class FormEvent {
+    Load,
+    Activate,
+    Change,
+    GotFocus,
+    LostFocus,
+    Stored,  // of a field: a changed value has been stored
+    Click,
+    CellChanged,  // of a grid: the cell under its cursor was written
+    RowChanged,   // its cursor has moved to another row
+    RowDeleted,
+    UnitsSwitched,
+    Unload,
+};
+
+/// How a screen's own routine stands to the common one of the same event.
+enum class HandlerOrder { Before, Instead, After };
+
+/// A routine of a screen for an event of one control, or of any control where `control` is empty.
+struct Handler {
+    FormEvent event;
+    std::string control;
+    HandlerOrder order;
+    void (*run)(ScreenContext& context, Form& form, Control* control);
+};
+
+/// A field whose help is a screen of its own.
+struct HelpRoute {
+    std::string variable;
+    std::string form;
+};
+
+/// The equations whose balance is kept while their screens are closed.
+enum class BalanceFlag {
+    DeF,
+    DeR,
+    DeS,
+    DeS2,
+    OvAA,
+    OvAAP,
+    OvAFP,
+    OvAP,
+    OvBP,
+    OvUP,
+    OvWT,
+};
+
+inline constexpr std::size_t kBalanceFlags = 11;
+
+/// A designed form: what it is called, what stands on it, and what it does beyond the common routines.
+/// Declared, not drawn: a front end lays it out.
+struct FormType {
+    std::string name;
+    std::string tag;  // the catalogue key
+    std::string caption;
+    LayoutNode layout;
+    std::vector<Handler> handlers;
+    std::optional<BalanceFlag> balance;        // of the indicator SolveFor
+    std::optional<BalanceFlag> secondBalance;  // of SolveFor2
+    std::vector<HelpRoute> helpRoutes;         // any other field has the general help
+    bool modal = false;                        // while it is open, the user works in it alone
+    bool isHelp = false;                       // helps with one field of another form; Esc closes it
+    bool needsProject = true;                  // it shows values of the project, and works on nothing else
+    bool isHub = false;  // the form with the tabs: always open, and Enter selects its options
+};
+
+}  // namespace kelvor

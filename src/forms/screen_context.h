@@ -1,0 +1,26 @@
+#pragma once
+
+#include "catalogue/catalogue.h"
+#include "catalogue/list_database.h"
+#include "design/calc/calc_context.h"
+#include "design/calc/dispatch.h"
+#include "forms/balance_flags.h"
+#include "forms/form_registry.h"
+#include "units/units.h"
+
+namespace kelvor {
+
+/// All that a screen's routine may see and touch: what a calculation sees, and the forms.
+struct ScreenContext {
+    CalcContext calc;
+    const Catalogue& catalogue;
+    Units& units;
+    const Dispatch& calculations;
+    FormRegistry& forms;
+    BalanceFlags& balance;
+    bool& bProjectChanged;
+    ListDatabase& lists;
+    FormValues& values;  // what the calculations may know of the current form
+};
+
+}  // namespace kelvor

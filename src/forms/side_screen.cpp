@@ -1,0 +1,54 @@
+#include "forms/side_screen.h"
+
+#include "forms/form_events.h"
+
+namespace kelvor {
+
+namespace {
+
+constexpr double kTrue = -1.0;
+
+}  // namespace
+
+SideScreenCall MakeCall(const Form& caller, const std::string& field, int row) {
+    return {caller.name(), field, row, caller.HiddenText("Dim2")};
+}
+
+void NoteCall(Form& sideScreen, const SideScreenCall& call) {
+    sideScreen.SetHiddenText("FormName", call.caller);
+    sideScreen.SetHiddenText("FieldName", call.field);
+    sideScreen.SetHiddenText("Dim1", call.row == 0 ? "" : std::to_string(call.row));
+    sideScreen.SetHiddenText("Column", call.row == 0 ? "" : call.field);
+    sideScreen.SetHiddenText("Dim2", call.dim2);
+}
+
+Form* OpenSideScreen(ScreenContext& context, const std::string& sideScreen, const SideScreenCall& call) {
+    FormEvents events(context);
+    Form* open = context.forms.Find(sideScreen);
+    if (open != nullptr && open->type().isHelp && !events.Close(*open)) return nullptr;
+    events.Open(sideScreen, &call);
+    Form* form = context.forms.Find(sideScreen);
+    return form != nullptr && context.forms.CurrentForm == form ? form : nullptr;
+}
+
+CellValue CalledField(const ScreenContext& context, const Form& sideScreen) {
+    const CellValue* cell = context.calc.store.FindCell(
+        sideScreen.HiddenText("FieldName"), sideScreen.dim1().value_or(1), sideScreen.dim2().value_or(1));
+    return cell == nullptr ? CellValue{} : *cell;
+}
+
+bool IsSameValue(const CellValue& one, const CellValue& other) {
+    return one.number || other.number ? one.number == other.number : one == other;
+}
+
+void ReturnFromSideScreen(ScreenContext& context, const Form& sideScreen, bool valueTaken) {
+    context.calc.store.SetVar("FieldChanged", valueTaken ? kTrue : 0.0);
+    if (valueTaken) context.bProjectChanged = true;
+    Form* caller = context.forms.Find(sideScreen.HiddenText("FormName"));
+    if (caller == nullptr) return;
+    caller->returned =
+        SideScreenReturn{sideScreen.HiddenText("FieldName"), sideScreen.dim1().value_or(0), valueTaken};
+    if (context.forms.CurrentForm == &sideScreen) context.forms.BringToFront(*caller);
+}
+
+}  // namespace kelvor

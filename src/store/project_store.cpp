@@ -1,0 +1,287 @@
+#include "store/project_store.h"
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
+#include "platform/real.h"
+#include "platform/sqlite.h"
+
+namespace kelvor {
+
+namespace {
+
+/// Room made at once for the cells of a project; one that has more grows.
+constexpr std::size_t kUsualCells = 100'000;
+
+/// Below, at or above 0 as `a` stands before, with or after `b` in the work copy's order of names.
+int CompareNames(std::string_view a, std::string_view b) {
+    if (a == b) return 0;  // as most names of a work copy are with the one before
+    const auto [x, y] = std::mismatch(a.begin(), a.end(), b.begin(), b.end(),
+                                      [](char c, char d) { return FoldLetter(c) == FoldLetter(d); });
+    if (x == a.end() || y == b.end()) return static_cast<int>(x != a.end()) - static_cast<int>(y != b.end());
+    const auto byte = [](char c) { return static_cast<int>(static_cast<unsigned char>(FoldLetter(c))); };
+    return byte(*x) - byte(*y);
+}
+
+}  // namespace
+
+std::string CellText(std::string_view name, int dim1, int dim2) {
+    return std::string(name) + "(" + std::to_string(dim1) + "," + std::to_string(dim2) + ")";
+}
+
+ProjectStore::~ProjectStore() { Abandon(); }
+
+// --- Opening and closing -----------------------------------------------------------------------
+
+void ProjectStore::Open(const Path& workCopy, const std::vector<CellBounds>& bounds, bool checkPages) {
+    Abandon();
+    workCopy_ = std::make_unique<WorkCopy>(workCopy, checkPages);
+    try {
+        Load(bounds);
+    } catch (...) {
+        Abandon();
+        throw;
+    }
+}
+
+void ProjectStore::Load(const std::vector<CellBounds>& bounds) {
+    std::size_t expected = 0;
+    for (const CellBounds& variable : bounds)
+        expected += static_cast<std::size_t>(variable.dim1 * variable.dim2);
+    cells_.reserve(std::min(expected, kUsualCells));  // a damaged catalogue may ask for any number
+    variables_.reserve(bounds.size());
+    byName_.reserve(bounds.size());
+    workCopy_->ReadRows([this](const WorkCopy::Row& row) { AddCell(row); });
+    MarkBlocks();
+    for (const CellBounds& variable : bounds) CheckBounds(variable);
+}
+
+void ProjectStore::AddCell(const WorkCopy::Row& row) {
+    // The rows come in key order, so a variable's cells follow each other. In a damaged work copy that has
+    // them in another order no change would find its row.
+    const int order = variables_.empty() ? 1 : CompareNames(row.name, variables_.back().name);
+    if (order < 0 ||
+        (order == 0 && std::pair(row.dim1, row.dim2) <= std::pair(cells_.back().dim1, cells_.back().dim2))) {
+        throw DatabaseError("rows out of order", false);
+    }
+    if (order > 0) {
+        byName_.emplace(row.name, static_cast<std::uint32_t>(variables_.size()));
+        variables_.push_back({std::string(row.name), static_cast<std::uint32_t>(cells_.size()), 0, 0});
+    }
+    ++variables_.back().count;
+    Cell& cell = cells_.emplace_back();
+    cell.variable = static_cast<std::uint32_t>(variables_.size() - 1);
+    cell.dim1 = row.dim1;
+    cell.dim2 = row.dim2;
+    if (row.value.IsFilled()) cell.value = row.value;
+}
+
+void ProjectStore::MarkBlocks() {
+    for (Variable& variable : variables_) {
+        const int width = cells_[variable.first + variable.count - 1].dim2;
+        std::pair<int, int> expected(1, 1);
+        bool full = true;
+        for (std::uint32_t i = 0; full && i < variable.count; ++i) {
+            const Cell& cell = cells_[variable.first + i];
+            full = std::pair(cell.dim1, cell.dim2) == expected;
+            expected = cell.dim2 < width ? std::pair(cell.dim1, cell.dim2 + 1) : std::pair(cell.dim1 + 1, 1);
+        }
+        variable.width = full ? width : 0;
+    }
+}
+
+void ProjectStore::CheckBounds(const CellBounds& bounds) const {
+    const Variable* variable = FindVariable(bounds.name);
+    for (int dim1 = 1; dim1 <= bounds.dim1; ++dim1) {
+        for (int dim2 = 1; dim2 <= bounds.dim2; ++dim2) {
+            if (variable == nullptr || !Index(*variable, dim1, dim2)) {
+                throw DatabaseError("cell " + CellText(bounds.name, dim1, dim2) + " is missing", false);
+            }
+        }
+    }
+}
+
+void ProjectStore::Close() {
+    if (!IsOpen()) return;
+    EndEvent();
+    WriteUnwritten();
+    Forget();
+}
+
+void ProjectStore::Abandon() noexcept {
+    if (inTransaction_) workCopy_->Rollback();
+    Forget();
+}
+
+void ProjectStore::Forget() noexcept {
+    workCopy_.reset();
+    cells_.clear();
+    variables_.clear();
+    byName_.clear();
+    touched_.clear();
+    inEvent_ = false;
+    inTransaction_ = false;
+}
+
+// --- Finding -------------------------------------------------------------------------------------
+
+const ProjectStore::Variable* ProjectStore::FindVariable(std::string_view name) const {
+    ++readCount_;
+    const auto found = byName_.find(name);
+    return found == byName_.end() ? nullptr : &variables_[found->second];
+}
+
+std::optional<std::uint32_t> ProjectStore::Index(std::string_view name, int dim1, int dim2) const {
+    const Variable* variable = FindVariable(name);
+    return variable == nullptr ? std::nullopt : Index(*variable, dim1, dim2);
+}
+
+std::optional<std::uint32_t> ProjectStore::Index(const Variable& variable, int dim1, int dim2) const {
+    if (dim1 < 1 || dim2 < 1) return std::nullopt;
+    if (variable.width > 0) {
+        const std::int64_t place = std::int64_t{dim1 - 1} * variable.width + dim2 - 1;
+        if (dim2 > variable.width || place >= variable.count) return std::nullopt;
+        return variable.first + static_cast<std::uint32_t>(place);
+    }
+    const auto begin = cells_.begin() + variable.first;
+    const auto end = begin + variable.count;
+    const auto cell = std::lower_bound(
+        begin, end, std::pair(dim1, dim2),
+        [](const Cell& c, const std::pair<int, int>& key) { return std::pair(c.dim1, c.dim2) < key; });
+    if (cell == end || cell->dim1 != dim1 || cell->dim2 != dim2) return std::nullopt;
+    return static_cast<std::uint32_t>(cell - cells_.begin());
+}
+
+std::uint32_t ProjectStore::RequireIndex(std::string_view name, int dim1, int dim2) const {
+    const auto index = Index(name, dim1, dim2);
+    if (!index) throw ProgramStop("no cell " + CellText(name, dim1, dim2));
+    return *index;
+}
+
+const CellValue* ProjectStore::FindCell(std::string_view name, int dim1, int dim2) const {
+    const auto index = Index(name, dim1, dim2);
+    return index ? &cells_[*index].value : nullptr;
+}
+
+std::string_view ProjectStore::CanonicalName(std::string_view name) const {
+    const Variable* variable = FindVariable(name);
+    return variable == nullptr ? std::string_view{} : std::string_view(variable->name);
+}
+
+CellHandle ProjectStore::Resolve(std::string_view name, int dim1, int dim2) const {
+    return CellHandle(RequireIndex(name, dim1, dim2));
+}
+
+double ProjectStore::GetVarDim(std::string_view name, int dim1, int dim2) const {
+    return cells_[RequireIndex(name, dim1, dim2)].value.number.value_or(0.0);
+}
+
+// --- Writing -------------------------------------------------------------------------------------
+
+void ProjectStore::SetVar(std::string_view name, double value) {
+    if (const auto index = Index(name, 1, 1)) Store(*index, {value, cells_[*index].value.text});
+}
+
+void ProjectStore::SetVarDim(std::string_view name, int dim1, int dim2, double value) {
+    const std::uint32_t index = RequireIndex(name, dim1, dim2);
+    Store(index, {value, cells_[index].value.text});
+}
+
+void ProjectStore::SetVarText(std::string_view name, std::string_view text) {
+    SetCell(name, 1, 1, {std::nullopt, text.empty() ? std::nullopt : std::optional(std::string(text))});
+}
+
+void ProjectStore::SetCell(std::string_view name, int dim1, int dim2, CellValue value) {
+    if (const auto index = Index(name, dim1, dim2)) Store(*index, std::move(value));
+}
+
+void ProjectStore::SetNumber(CellHandle cell, double value) {
+    Store(cell.index_, {value, cells_[cell.index_].value.text});
+}
+
+void ProjectStore::Store(std::uint32_t index, CellValue value) {
+    if (cells_[index].value == value) return;
+    cells_[index].value = std::move(value);
+    WriteThrough(index);
+}
+
+void ProjectStore::WriteThrough(std::uint32_t index) {
+    Cell& cell = cells_[index];
+    try {
+        if (inEvent_ && !inTransaction_) {
+            workCopy_->Begin();
+            inTransaction_ = true;
+        }
+        workCopy_->Update(variables_[cell.variable].name, cell.dim1, cell.dim2, cell.value);
+        cell.unwritten = false;
+        if (inTransaction_) touched_.push_back(index);
+    } catch (const DatabaseError&) {
+        cell.unwritten = true;  // kept in memory; Close writes it or reports
+    }
+}
+
+void ProjectStore::EndEvent() {
+    inEvent_ = false;
+    if (!inTransaction_) return;
+    inTransaction_ = false;
+    try {
+        workCopy_->Commit();
+    } catch (const DatabaseError&) {
+        workCopy_->Rollback();
+        for (const std::uint32_t index : touched_) cells_[index].unwritten = true;
+    }
+    touched_.clear();
+}
+
+void ProjectStore::WriteUnwritten() {
+    for (Cell& cell : cells_) {
+        if (!cell.unwritten) continue;
+        workCopy_->Update(variables_[cell.variable].name, cell.dim1, cell.dim2, cell.value);
+        cell.unwritten = false;
+    }
+}
+
+// --- Aggregates ----------------------------------------------------------------------------------
+
+std::optional<double> ProjectStore::SQLSum(std::string_view name, std::optional<int> dim2) const {
+    const Variable* variable = FindVariable(name);
+    if (variable == nullptr) return std::nullopt;
+    std::optional<Real> sum;
+    for (std::uint32_t i = variable->first; i < variable->first + variable->count; ++i) {
+        const Cell& cell = cells_[i];
+        if (!cell.value.number || (dim2 && cell.dim2 != *dim2)) continue;
+        sum = sum.value_or(0.0) + *cell.value.number;
+    }
+    return sum ? std::optional(sum->value()) : std::nullopt;
+}
+
+int ProjectStore::SQLCount(std::string_view name, std::optional<int> dim2) const {
+    const Variable* variable = FindVariable(name);
+    if (variable == nullptr) return 0;
+    const auto begin = cells_.begin() + variable->first;
+    return static_cast<int>(std::count_if(begin, begin + variable->count, [&](const Cell& cell) {
+        return cell.value.number.has_value() && (!dim2 || cell.dim2 == *dim2);
+    }));
+}
+
+void ProjectStore::ForEachFilled(const std::function<void(const CellKey&, const CellValue&)>& visit) const {
+    for (const Cell& cell : cells_) {
+        if (cell.value.IsFilled()) visit({variables_[cell.variable].name, cell.dim1, cell.dim2}, cell.value);
+    }
+}
+
+std::vector<std::string> ProjectStore::CompareWithWorkCopy() {
+    std::vector<std::string> differences;
+    std::size_t rows = 0;
+    workCopy_->ReadRows([&](const WorkCopy::Row& row) {
+        ++rows;
+        const CellValue* cell = FindCell(row.name, row.dim1, row.dim2);
+        if (cell == nullptr || !(*cell == row.value))
+            differences.push_back(CellText(row.name, row.dim1, row.dim2));
+    });
+    if (rows != cells_.size()) differences.emplace_back("number of rows");
+    return differences;
+}
+
+}  // namespace kelvor

@@ -1,0 +1,177 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <exception>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+#include "platform/text.h"
+#include "store/work_copy.h"
+
+namespace kelvor {
+
+/// The program's stop: a read, or a subscripted write, of a cell that has no row. A fault of the
+/// program or of its template; nothing that ignores failures may swallow it.
+class ProgramStop : public std::exception {
+  public:
+    explicit ProgramStop(std::string reason) : what_(std::move(reason)) {}
+    [[nodiscard]] const char* what() const noexcept override { return what_.c_str(); }
+
+  private:
+    std::string what_;
+};
+
+/// A variable's name and its array bounds: the cells (1..dim1, 1..dim2) exist.
+struct CellBounds {
+    std::string name;
+    int dim1 = 1;
+    int dim2 = 1;
+};
+
+/// The place of one cell in the open project, found once by name and then read without a search.
+/// Good until the project is closed.
+class CellHandle {
+  public:
+    CellHandle() = default;
+
+  private:
+    friend class ProjectStore;
+    explicit CellHandle(std::uint32_t index) : index_(index) {}
+    std::uint32_t index_ = 0;
+};
+
+/// All values of the open project, input or computed: cells addressed by the name of a variable,
+/// without regard to case, and two subscripts. Numbers are in English units. The cells are held in
+/// memory and every change is written through to the work copy; nothing else writes that. Cells are
+/// never added or removed.
+class ProjectStore {
+  public:
+    ProjectStore() = default;
+    ProjectStore(const ProjectStore&) = delete;
+    ProjectStore& operator=(const ProjectStore&) = delete;
+    ~ProjectStore();
+
+    /// Opens a work copy, which must hold every cell of `bounds`. Throws DatabaseError, and the store
+    /// is then closed.
+    void Open(const Path& workCopy, const std::vector<CellBounds>& bounds, bool checkPages);
+
+    /// Brings every change to the work copy and closes it. Throws DatabaseError, still open, if a
+    /// change cannot be written.
+    void Close();
+
+    /// Closes without another attempt to write what could not be written.
+    void Abandon() noexcept;
+
+    [[nodiscard]] bool IsOpen() const { return workCopy_ != nullptr; }
+
+    // --- Cells by name -------------------------------------------------------------------------
+
+    /// The number at (1, 1), an empty one as 0. Stops the program if there is no such cell.
+    [[nodiscard]] double GetVar(std::string_view name) const { return GetVarDim(name, 1, 1); }
+    [[nodiscard]] double GetVarDim(std::string_view name, int dim1, int dim2) const;
+
+    /// Writes the number at (1, 1) and leaves the text; a missing cell is passed over.
+    void SetVar(std::string_view name, double value);
+
+    /// Writes the number and leaves the text. Stops the program if there is no such cell.
+    void SetVarDim(std::string_view name, int dim1, int dim2, double value);
+
+    /// Empties the number at (1, 1) and writes the text, an empty one as Null; a missing cell is
+    /// passed over.
+    void SetVarText(std::string_view name, std::string_view text);
+
+    /// Both values at once; a missing cell is passed over.
+    void SetCell(std::string_view name, int dim1, int dim2, CellValue value);
+
+    /// The cell, or null if it has no row.
+    [[nodiscard]] const CellValue* FindCell(std::string_view name, int dim1, int dim2) const;
+
+    /// The name as the work copy spells it; empty if there is no such variable.
+    [[nodiscard]] std::string_view CanonicalName(std::string_view name) const;
+
+    // --- Cells by handle -----------------------------------------------------------------------
+
+    /// Stops the program if there is no such cell.
+    [[nodiscard]] CellHandle Resolve(std::string_view name, int dim1 = 1, int dim2 = 1) const;
+    [[nodiscard]] double Number(CellHandle cell) const {
+        return cells_[cell.index_].value.number.value_or(0.0);
+    }
+    void SetNumber(CellHandle cell, double value);
+
+    // --- Aggregates ----------------------------------------------------------------------------
+
+    /// The plain sum, in key order, of the numbers of a variable (of one second subscript if given);
+    /// nothing if no cell holds a number. Raises ArithmeticFault if a double cannot hold the sum.
+    [[nodiscard]] std::optional<double> SQLSum(std::string_view name, std::optional<int> dim2 = {}) const;
+
+    /// How many cells of a variable (of one second subscript if given) hold a number.
+    [[nodiscard]] int SQLCount(std::string_view name, std::optional<int> dim2 = {}) const;
+
+    /// Calls `visit` for every filled cell, by name without regard to case, then subscripts.
+    void ForEachFilled(const std::function<void(const CellKey&, const CellValue&)>& visit) const;
+
+    // --- Events --------------------------------------------------------------------------------
+
+    /// Between BeginEvent and EndEvent all writes are one transaction of the work copy.
+    void BeginEvent() { inEvent_ = true; }
+    void EndEvent();
+
+    /// How many keyed reads by name were made: a measure for benchmarks and tests.
+    [[nodiscard]] std::uint64_t readCount() const { return readCount_; }
+
+    /// The cells in which the work copy differs from the memory; for tests.
+    [[nodiscard]] std::vector<std::string> CompareWithWorkCopy();
+
+  private:
+    struct Cell {
+        std::uint32_t variable = 0;
+        int dim1 = 1;
+        int dim2 = 1;
+        CellValue value;
+        bool unwritten = false;  // the work copy does not have this value
+    };
+
+    /// One variable's cells stand together, in subscript order.
+    struct Variable {
+        std::string name;
+        std::uint32_t first = 0;
+        std::uint32_t count = 0;
+        int width = 0;  // cells of each first subscript if they form a full block; else 0
+    };
+
+    void Load(const std::vector<CellBounds>& bounds);
+    void AddCell(const WorkCopy::Row& row);
+    void MarkBlocks();
+    void CheckBounds(const CellBounds& bounds) const;
+
+    [[nodiscard]] const Variable* FindVariable(std::string_view name) const;
+    [[nodiscard]] std::optional<std::uint32_t> Index(const Variable& variable, int dim1, int dim2) const;
+    [[nodiscard]] std::optional<std::uint32_t> Index(std::string_view name, int dim1, int dim2) const;
+    [[nodiscard]] std::uint32_t RequireIndex(std::string_view name, int dim1, int dim2) const;
+
+    void Store(std::uint32_t index, CellValue value);
+    void WriteThrough(std::uint32_t index);
+    void WriteUnwritten();
+    void Forget() noexcept;
+
+    std::unique_ptr<WorkCopy> workCopy_;
+    std::vector<Cell> cells_;
+    std::vector<Variable> variables_;
+    std::unordered_map<std::string, std::uint32_t, NameHash, NameEqual> byName_;
+    bool inEvent_ = false;
+    bool inTransaction_ = false;
+    std::vector<std::uint32_t> touched_;  // written in the open transaction
+    mutable std::uint64_t readCount_ = 0;
+};
+
+/// The name of a cell as messages write it: "SN(1,1)".
+std::string CellText(std::string_view name, int dim1, int dim2);
+
+}  // namespace kelvor

@@ -1,0 +1,118 @@
+#include "store/work_copy.h"
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+#include "platform/sqlite.h"
+
+namespace kelvor {
+
+// The name is kept without regard to case, as the catalogue writes and the code asks with any case.
+const char* const kProjectTable =
+    "CREATE TABLE Project (Name TEXT NOT NULL COLLATE NOCASE, Dim1 INTEGER NOT NULL, Dim2 INTEGER NOT NULL, "
+    "RValue REAL, SValue TEXT, PRIMARY KEY (Name, Dim1, Dim2)) WITHOUT ROWID";
+
+namespace {
+
+const char* const kUpdate =
+    "UPDATE Project SET RValue = ?1, SValue = ?2 WHERE Name = ?3 AND Dim1 = ?4 AND Dim2 = ?5";
+
+/// A table of the same name but another make would answer our statements in other ways.
+void CheckProject(SQLite::Database& database, bool checkPages) {
+    CheckShape(database, {{"Project", {"Name", "Dim1", "Dim2", "RValue", "SValue"}}}, true);
+    const std::string made =
+        database.execAndGet("SELECT sql FROM sqlite_schema WHERE type = 'table'").getString();
+    if (made != kProjectTable) throw DatabaseError("table Project is not made as a project's", false);
+    if (!checkPages) return;
+    const std::string verdict = database.execAndGet("PRAGMA quick_check(1)").getString();
+    if (verdict != "ok") throw DatabaseError(verdict, false);
+}
+
+SQLite::Database OpenProject(const Path& path, bool checkPages) {
+    SQLite::Database database = OpenDatabase(path, DatabaseAccess::ReadWrite);
+    try {
+        if (database.execAndGet("PRAGMA journal_mode").getString() == "wal") {
+            throw DatabaseError("the newest values of a file in WAL mode may stand in another", false);
+        }
+        database.exec(
+            "PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = DELETE; PRAGMA synchronous = OFF");
+        CheckProject(database, checkPages);
+    } catch (const SQLite::Exception& failure) {
+        throw ToDatabaseError(failure);
+    }
+    return database;
+}
+
+int Subscript(const RowView& row, std::size_t column) {
+    const std::int64_t value = row.Whole(column).value_or(0);
+    if (value < 1 || value > std::numeric_limits<std::int16_t>::max()) {
+        throw DatabaseError("a cell has a subscript out of range", false);
+    }
+    return static_cast<int>(value);
+}
+
+std::optional<double> FiniteNumber(const RowView& row, std::size_t column) {
+    const std::optional<double> value = row.Number(column);
+    return value && std::isfinite(*value) ? value : std::nullopt;
+}
+
+void Run(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const SQLite::Exception& failure) {
+        throw ToDatabaseError(failure);
+    }
+}
+
+}  // namespace
+
+WorkCopy::WorkCopy(const Path& path, bool checkPages)
+    : database_(OpenProject(path, checkPages)), update_(database_, kUpdate) {}
+
+void WorkCopy::ReadRows(const std::function<void(const Row&)>& visit) {
+    Row row;
+    VisitRows(database_, "Project", "Name, Dim1, Dim2, RValue, SValue", "Name, Dim1, Dim2",
+              [&](const RowView& columns) {
+                  row.name = columns.Letters(0);
+                  row.dim1 = Subscript(columns, 1);
+                  row.dim2 = Subscript(columns, 2);
+                  row.value.number = FiniteNumber(columns, 3);
+                  row.value.text.reset();
+                  if (columns.IsText(4)) row.value.text = columns.Letters(4);
+                  visit(row);
+              });
+}
+
+void WorkCopy::Update(std::string_view name, int dim1, int dim2, const CellValue& value) {
+    Run([&] {
+        update_.reset();
+        update_.clearBindings();
+        if (value.number) update_.bind(1, *value.number);
+        if (value.text) update_.bind(2, *value.text);
+        update_.bind(3, std::string(name));
+        update_.bind(4, dim1);
+        update_.bind(5, dim2);
+        const int rows = update_.exec();
+        update_.reset();
+        if (rows != 1) throw DatabaseError("the row of " + std::string(name) + " is missing", false);
+    });
+}
+
+void WorkCopy::Begin() {
+    Run([&] { database_.exec("BEGIN IMMEDIATE"); });
+}
+
+void WorkCopy::Commit() {
+    Run([&] { database_.exec("COMMIT"); });
+}
+
+void WorkCopy::Rollback() noexcept {
+    try {
+        update_.reset();
+        database_.exec("ROLLBACK");
+    } catch (const SQLite::Exception&) {  // NOLINT(bugprone-empty-catch): no transaction was left open
+    }
+}
+
+}  // namespace kelvor

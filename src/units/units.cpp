@@ -1,0 +1,66 @@
+#include "units/units.h"
+
+#include "platform/number_picture.h"
+#include "platform/number_text.h"
+#include "platform/real.h"
+
+namespace kelvor {
+
+std::optional<std::string> BlankToNull(std::string_view text) {
+    return text.empty() ? std::nullopt : std::optional(std::string(text));
+}
+
+std::string BlankToZero(std::string_view text) { return text.empty() ? "0" : std::string(text); }
+
+double Units::UnitFactor(std::string_view englishUnit) const {
+    if (!metric_) return 1.0;
+    const UnitPair* pair = catalogue_.FindPairByEnglish(englishUnit);
+    return pair == nullptr ? 1.0 : pair->factor;
+}
+
+std::string Units::UnitLabel(std::string_view variable) const {
+    const Variable* row = catalogue_.FindVariable(variable);
+    if (row == nullptr) return {};
+    const UnitPair* pair = metric_ ? catalogue_.FindPairByEnglish(row->units) : nullptr;
+    return pair == nullptr ? row->units : pair->metric;
+}
+
+Range Units::VariableRange(std::string_view variable) const {
+    const Variable* row = catalogue_.FindVariable(variable);
+    if (row == nullptr) return {};
+    return metric_ ? Range{row->highMetric, row->lowMetric} : Range{row->high, row->low};
+}
+
+std::string Units::GetDisplayValue(std::string_view variable, int dim1, int dim2) const {
+    const CellValue* cell = store_.FindCell(variable, dim1, dim2);
+    const Variable* row = catalogue_.FindVariable(variable);
+    if (cell == nullptr || row == nullptr) return {};
+    if (!cell->number) return FormatText(cell->text.value_or(""), row->format);
+    try {
+        return FormatNumber((Real(*cell->number) * UnitFactor(row->units)).value(), row->format);
+    } catch (const ArithmeticFault&) {
+        return {};  // no double holds the value in this unit
+    }
+}
+
+std::optional<double> Units::ToEnglish(const Variable* variable, std::optional<double> value) const {
+    if (variable == nullptr || variable->IsText() || !value) return std::nullopt;
+    try {
+        return (Real(*value) / UnitFactor(variable->units)).value();
+    } catch (const ArithmeticFault&) {
+        return std::nullopt;  // no double holds the value in English units: kept as a text
+    }
+}
+
+void Units::SetDisplayValue(std::string_view variable, int dim1, int dim2, std::string_view value) {
+    const auto number = IsNumeric(value) ? std::optional(ParseNumber(value)) : std::nullopt;
+    store_.SetCell(variable, dim1, dim2,
+                   {ToEnglish(catalogue_.FindVariable(variable), number), BlankToNull(value)});
+}
+
+void Units::SetDisplayNumber(std::string_view variable, int dim1, int dim2, double value) {
+    store_.SetCell(variable, dim1, dim2,
+                   {ToEnglish(catalogue_.FindVariable(variable), value), NumberToText(value)});
+}
+
+}  // namespace kelvor

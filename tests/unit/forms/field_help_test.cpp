@@ -1,0 +1,360 @@
+// Field help: what it shows, what it refuses, and that it changes nothing unless a value was typed.
+
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "forms/form.h"
+#include "support/test_host.h"
+
+namespace kelvor::test {
+namespace {
+
+using Kind = UserEvent::Kind;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class FieldHelpTest : public testing::Test {
+  protected:
+    bool Raise(Kind kind, const std::string& name = {}, const std::string& text = {}, int number = 0) {
+        return program_.program.Raise({kind, name, text, number});
+    }
+
+    Form& Current() { return *program_.program.state().formRegistry.CurrentForm; }
+    FormRegistry& Forms() { return program_.program.state().formRegistry; }
+    std::vector<std::string> Messages() { return program_.host.record.TakeTexts(); }
+
+    bool IsComputed(const std::string& variable) {
+        const std::vector<Field>& fields = program_.program.state().dbCatalogue->fields();
+        return std::any_of(fields.begin(), fields.end(),
+                           [&](const Field& field) { return field.name == variable && field.IsOutput(); });
+    }
+
+    void Fill(const std::string& variable) {
+        const Variable* known = program_.program.state().dbCatalogue->FindVariable(variable);
+        if (known == nullptr || known->IsText() || IsComputed(variable)) return;
+        const double low = known->low.value_or(1.0);
+        program_.store().SetCell(variable, 1, 1,
+                                 {low + (known->high.value_or(low + 2.0) - low) / 3.0, std::nullopt});
+    }
+
+    /// Every filled cell but those in which the help keeps what it was asked for, and the one that follows
+    /// the cursor of a grid.
+    std::vector<std::string> Dump() {
+        static const std::set<std::string> kKept = {"FieldName", "FormName", "FieldName2",   "FormName2",
+                                                    "Dim1",      "Column",   "FieldChanged", "LDAdditThick"};
+        std::vector<std::string> cells;
+        program_.store().ForEachFilled([&](const CellKey& key, const CellValue& value) {
+            if (kKept.count(key.name) != 0) return;
+            cells.push_back(key.name + "(" + std::to_string(key.dim1) + "," + std::to_string(key.dim2) +
+                            ") = " + (value.number ? std::to_string(*value.number) : "-") + " " +
+                            value.text.value_or("-"));
+        });
+        return cells;
+    }
+
+    /// The single outputs of a form, as an edit would have left them.
+    void CalcTotals(const Form& form) {
+        for (const Field* output : program_.program.state().dbCatalogue->OutputsOfScreen(form.tag)) {
+            if (!output->IsColumn()) program_.program.CalcField(output->name, output->equation);
+        }
+    }
+
+    TestProgram program_;
+};
+
+TEST_F(FieldHelpTest, WithNoFieldSelectedItAsksForOne) {
+    Raise(Kind::OpenForm, "DeF");
+    Current().iCurrentField.reset();
+    Current().SetHiddenText("SolveForField", "");
+    Current().focus = nullptr;
+    Raise(Kind::Press, "SSHelp");
+    EXPECT_THAT(Messages(), ElementsAre("Please select field first."));
+    EXPECT_EQ(Current().name(), "DeF");
+}
+
+TEST_F(FieldHelpTest, AVariableWithoutAnExplanationIsNamedByItsDescription) {
+    TestProgram bare;
+    SQLite::Database((bare.home / "DataBase/Kelvor.mdb").string(), SQLite::OPEN_READWRITE)
+        .exec("UPDATE Variable SET HelpText = NULL WHERE Name IN ('FLEXREL', 'MRSB')");
+    bare.program.state().OpenCatalogue(bare.home / "DataBase/Kelvor.mdb");
+    const auto raise = [&](Kind kind, const std::string& name) { bare.program.Raise({kind, name, {}, 0}); };
+    raise(Kind::OpenForm, "DeF");
+    raise(Kind::Focus, "FLEXREL");
+    raise(Kind::Press, "SSHelp");
+    EXPECT_THAT(bare.host.record.TakeTexts(), ElementsAre("No Help Available for Reliability."));
+    EXPECT_EQ(bare.program.state().formRegistry.CurrentForm->name(), "DeF");
+    raise(Kind::OpenForm, "H_K");
+    raise(Kind::Focus, "MRSB");
+    raise(Kind::Press, "SSHelp");
+    EXPECT_THAT(bare.host.record.TakeTexts(), ElementsAre("No help available for: MRSB"));
+}
+
+TEST_F(FieldHelpTest, AVariableThatIsNotThereIsTold) {
+    Raise(Kind::OpenForm, "DeF");
+    Current().SetHiddenText("SolveForField", "NOSUCH");
+    Current().Find("RM")->tag = "NOSUCH";
+    Raise(Kind::Focus, "RM");
+    Raise(Kind::Press, "SSHelp");
+    EXPECT_THAT(Messages(), ElementsAre("Variable not found: NOSUCH"));
+}
+
+TEST_F(FieldHelpTest, TheCaptionAndTheHeadAreTheVariables) {
+    Raise(Kind::OpenForm, "DeF");
+    Raise(Kind::Focus, "FLEXDEV");
+    Raise(Kind::Key, "F1");
+    EXPECT_EQ(Current().caption, "Help Screen for the Overall Standard Deviation of the Flexible Design");
+    EXPECT_EQ(Current().HiddenText("Label"), "Overall Deviation");
+    EXPECT_EQ(Current().HiddenText("Units"), "") << "no unit worth showing";
+    EXPECT_TRUE(Current().modal);
+    Raise(Kind::Key, "Esc");
+    EXPECT_EQ(Current().name(), "DeF");
+    EXPECT_EQ(Current().focus->name, "FLEXDEV") << "the field that it was opened for";
+}
+
+TEST_F(FieldHelpTest, AMetricValueIsConvertedOnItsWayBack) {
+    program_.Set("DEPTH", 10.0);
+    program_.program.ChooseUnits(true);
+    Raise(Kind::OpenForm, "DeR");
+    Raise(Kind::Key, "F1");
+    EXPECT_EQ(Current().HiddenText("TextBox"), "254.0");
+    EXPECT_EQ(Current().HiddenText("Units"), "mm");
+    Raise(Kind::Type, {}, "203.2");
+    Raise(Kind::Press, "Command1");
+    EXPECT_EQ(program_.Get("DEPTH"), 203.2 / 25.4);
+    EXPECT_EQ(Current().solveState[0], SolveState::Warning);
+}
+
+TEST_F(FieldHelpTest, AValueOutOfRangeKeepsTheHelpOpen) {
+    program_.Set("FLEXREL", 95.0);
+    Raise(Kind::OpenForm, "DeF");
+    Raise(Kind::Focus, "FLEXREL");
+    Raise(Kind::Key, "F1");
+    Raise(Kind::Type, {}, "100");
+    Raise(Kind::Key, "Esc");
+    EXPECT_THAT(Messages(), ElementsAre("Warning: Input out of range. Enter value between 50 and 99.99"));
+    EXPECT_EQ(Current().name(), "HelpForm");
+    EXPECT_EQ(program_.Get("FLEXREL"), 95.0);
+    Raise(Kind::Key, "Esc");
+    EXPECT_EQ(Current().name(), "DeF");
+    EXPECT_EQ(program_.Get("FLEXREL"), 95.0) << "the empty box was not typed";
+}
+
+TEST_F(FieldHelpTest, AnEmptiedBoxEmptiesTheField) {
+    program_.Set("FLEXREL", 95.0);
+    Raise(Kind::OpenForm, "DeF");
+    Raise(Kind::Focus, "FLEXREL");
+    Raise(Kind::Key, "F1");
+    Raise(Kind::Type, {}, "");
+    Raise(Kind::Key, "Esc");
+    EXPECT_FALSE(program_.store().FindCell("FLEXREL", 1, 1)->IsFilled());
+    EXPECT_EQ(Current().solveState[0], SolveState::Warning);
+}
+
+TEST_F(FieldHelpTest, AnEntryThatAListDoesNotOfferIsRefused) {
+    Raise(Kind::OpenForm, "LayDet");
+    Raise(Kind::Key, "F1");
+    EXPECT_EQ(Current().focus->name, "ComboBox");
+    Raise(Kind::Type, {}, "Straw");
+    Raise(Kind::Press, "Command1");
+    EXPECT_THAT(Messages(), ElementsAre("Please select item from the list"));
+    EXPECT_EQ(Current().name(), "HelpGrid");
+}
+
+TEST_F(FieldHelpTest, AHelpThatIsOpenForAnotherScreenGivesWay) {
+    Raise(Kind::OpenForm, "DeR");
+    Raise(Kind::Focus, "K");
+    Raise(Kind::Key, "F1");
+    Raise(Kind::OpenForm, "DeS");
+    Raise(Kind::Focus, "K");
+    Raise(Kind::Key, "F1");
+    EXPECT_EQ(Current().name(), "H_K");
+    EXPECT_EQ(Current().HiddenText("FormName"), "DeS");
+    Raise(Kind::Type, {}, "7000");
+    Raise(Kind::Key, "Esc");
+    EXPECT_EQ(Current().name(), "DeS");
+    EXPECT_EQ(program_.Get("K"), 360.8);
+    EXPECT_EQ(Current().solveState[0], SolveState::Warning);
+    EXPECT_EQ(Current().solveState[1], SolveState::Resting);
+}
+
+TEST_F(FieldHelpTest, InputsFromBeforeGiveAKWhereThereIsNone) {
+    program_.Set("MRSG", 7000.0);
+    Raise(Kind::OpenForm, "DeR");
+    Raise(Kind::Focus, "K");
+    Raise(Kind::Key, "F1");
+    EXPECT_EQ(Current().HiddenText("K"), "");
+    Raise(Kind::Key, "Tab");
+    EXPECT_EQ(Current().HiddenText("K"), "360.8");
+    Raise(Kind::Key, "Esc");
+    EXPECT_EQ(program_.Get("K"), 360.8);
+}
+
+TEST_F(FieldHelpTest, AnInputThatItsOwnHelpHasChangedGivesANewK) {
+    program_.Set("K", 200.0);
+    Raise(Kind::OpenForm, "DeR");
+    Raise(Kind::Focus, "K");
+    Raise(Kind::Key, "F1");
+    Raise(Kind::Key, "F1");
+    ASSERT_EQ(Current().name(), "HelpForm");
+    Raise(Kind::Type, {}, "7000");
+    Raise(Kind::Key, "Esc");
+    EXPECT_EQ(Current().HiddenText("K"), "360.8");
+    EXPECT_EQ(program_.store().FindCell("FieldName", 1, 1)->text, "K") << "the first caller";
+    EXPECT_EQ(program_.store().FindCell("FieldName2", 1, 1)->text, "MRSG");
+    Raise(Kind::Key, "Esc");
+    EXPECT_EQ(program_.Get("K"), 360.8);
+}
+
+TEST_F(FieldHelpTest, WhatAPictureHidesCounts) {
+    program_.program.ChooseUnits(true);
+    Raise(Kind::OpenForm, "DeR");
+    Raise(Kind::Focus, "K");
+    Raise(Kind::Key, "F1");
+    Raise(Kind::Type, {}, "7.5");
+    EXPECT_EQ(Current().HiddenText("K"), "15.7");
+    Raise(Kind::Key, "Tab");
+    EXPECT_EQ(Current().HiddenText("MRSG"), "8") << "in its picture";
+    EXPECT_EQ(Current().HiddenText("K"), "15.7");
+    Raise(Kind::Key, "Esc");
+    program_.program.ChooseUnits(false);
+    Raise(Kind::OpenForm, "DeF");
+    Raise(Kind::Focus, "RM");
+    Raise(Kind::Key, "F1");
+    Raise(Kind::Type, {}, "0.96");
+    Raise(Kind::Key, "Tab");
+    EXPECT_EQ(Current().HiddenText("CBR"), "1.0");
+    EXPECT_EQ(Current().HiddenText("OCBR"), "1,888.0");
+    EXPECT_EQ(Current().HiddenText("V"), "0.0") << "a CBR below 1 governs nothing";
+}
+
+TEST_F(FieldHelpTest, ATestThatWasRefusedCountsNoMore) {
+    Raise(Kind::OpenForm, "DeF");
+    Raise(Kind::Focus, "RM");
+    Raise(Kind::Key, "F1");
+    Raise(Kind::Type, {}, "5");
+    Raise(Kind::Key, "Tab");
+    EXPECT_EQ(Current().HiddenText("V"), "5,842.0");
+    Raise(Kind::Focus, "CBR");
+    Raise(Kind::Type, {}, "101");
+    Raise(Kind::Key, "Tab");
+    EXPECT_EQ(Messages().size(), 1U);
+    EXPECT_EQ(Current().HiddenText("V"), "0.0");
+    Raise(Kind::Type, {}, "5");
+    Raise(Kind::Key, "Tab");
+    Raise(Kind::Focus, "CBR");
+    Raise(Kind::Type, {}, "much");
+    Raise(Kind::Key, "Tab");
+    EXPECT_EQ(Messages().size(), 1U);
+    EXPECT_EQ(Current().HiddenText("V"), "0.0");
+}
+
+TEST_F(FieldHelpTest, AHelpThatIsClosedFromOutsideReturnsItsValue) {
+    Raise(Kind::OpenForm, "DeR");
+    Raise(Kind::Focus, "K");
+    Raise(Kind::Key, "F1");
+    Raise(Kind::Type, {}, "7000");
+    Raise(Kind::ActivateForm, "DeR");
+    Raise(Kind::CloseForm, "H_K");
+    EXPECT_EQ(Current().name(), "DeR");
+    EXPECT_EQ(Current().HiddenText("K"), "360.8");
+    EXPECT_EQ(Current().solveState[0], SolveState::Warning);
+}
+
+TEST_F(FieldHelpTest, AnEntryThatHasLeftItsListStaysWithoutAnEdit) {
+    program_.store().SetCell("LDLayerMat", 1, 1, {std::nullopt, "Old Material"});
+    Raise(Kind::OpenForm, "LayDet");
+    Raise(Kind::Key, "F1");
+    EXPECT_EQ(Current().HiddenText("ComboBox"), "Old Material");
+    Raise(Kind::Press, "Command1");
+    EXPECT_THAT(Messages(), IsEmpty());
+    EXPECT_EQ(Current().name(), "LayDet");
+    EXPECT_EQ(program_.store().FindCell("LDLayerMat", 1, 1)->text, "Old Material");
+}
+
+TEST_F(FieldHelpTest, AnEqualNumberIsNoChange) {
+    program_.store().SetCell("RM", 1, 1, {5842.0, "5842"});
+    Raise(Kind::OpenForm, "DeF");
+    Raise(Kind::Focus, "RM");
+    Raise(Kind::Key, "F1");
+    Raise(Kind::Type, {}, "5");
+    Raise(Kind::Key, "Esc");
+    EXPECT_NE(Current().solveState[0], SolveState::Warning);
+}
+
+TEST_F(FieldHelpTest, ExistingPavementsHaveSubgradeDataOfTheirOwn) {
+    Raise(Kind::OpenForm, "DeR");
+    Form& caller = Current();
+    for (const char* screen : {"ExC", "ExR"}) {
+        FormType type;
+        type.name = screen;
+        type.tag = screen;
+        type.layout = Rows({Fields({{"EXISTK"}}), Buttons({{"SSHelp", "Hel&p"}})});
+        type.helpRoutes = {{"EXISTK", "H_K"}};
+        Forms().Declare({type});
+        Raise(Kind::OpenForm, screen);
+        Raise(Kind::Focus, "EXISTK");
+        Raise(Kind::Key, "F1");
+        ASSERT_EQ(Current().name(), "H_K");
+        Raise(Kind::Type, {}, "7000");
+        Raise(Kind::Focus, "MRSB");
+        Raise(Kind::Key, "Esc");
+        EXPECT_EQ(program_.Get("EXISTK"), 360.8);
+        EXPECT_EQ(program_.Get("EXISTMRSG"), 7000.0);
+        EXPECT_EQ(program_.Get("MRSG"), 0.0);
+        EXPECT_EQ(program_.Get("K"), 0.0);
+        program_.Set("EXISTMRSG", 0.0);
+    }
+    EXPECT_EQ(caller.name(), "DeR");
+}
+
+/// Every field of every screen, filled with numbers that its picture rounds, and every cell of a grid.
+TEST_F(FieldHelpTest, OpenedAndClosedWithoutAnEditItChangesNothing) {
+    for (const Variable& variable : program_.program.state().dbCatalogue->variables()) Fill(variable.name);
+    int helps = 0;
+    for (const std::string& screen : Forms().TypeNames()) {
+        if (Forms().FindType(screen)->isHub) continue;
+        Raise(Kind::OpenForm, screen);
+        if (Current().name() != screen || Current().Find("SSHelp") == nullptr) {
+            Raise(Kind::CloseForm, screen);
+            continue;
+        }
+        Form& form = Current();
+        CalcTotals(form);
+        std::vector<std::string> fields;
+        for (const auto& control : form.controls()) {
+            if (control->IsField() && form.CanFocus(*control)) fields.push_back(control->name);
+        }
+        const std::vector<std::string> before = Dump();
+        for (const std::string& field : fields) {
+            Raise(Kind::Focus, field);
+            Raise(Kind::Key, "F1");
+            if (&Current() != &form) ++helps;
+            for (int i = 0; i < 3 && &Current() != &form; ++i) Raise(Kind::Key, "Tab");
+            for (int i = 0; i < 3 && &Current() != &form; ++i) Raise(Kind::Key, "Esc");
+            ASSERT_EQ(&Current(), &form) << screen << "." << field;
+            EXPECT_EQ(form.solveState[0] == SolveState::Warning, false) << screen << "." << field;
+        }
+        if (const Control* grid = form.FindGrid()) {
+            for (const GridColumn& column : grid->grid->columns) {
+                Raise(Kind::MoveToCell, column.variable, {}, 2);
+                Raise(Kind::Key, "F1");
+                if (&Current() != &form) ++helps;
+                for (int i = 0; i < 3 && &Current() != &form; ++i) Raise(Kind::Key, "Esc");
+                ASSERT_EQ(&Current(), &form) << screen << "." << column.variable;
+            }
+        }
+        EXPECT_EQ(Dump(), before) << screen;
+        Raise(Kind::CloseForm, screen);
+    }
+    EXPECT_GT(helps, 40);
+    EXPECT_THAT(Messages(), ElementsAre("No Help Available for 'Traffic Input by'."));
+}
+
+}  // namespace
+}  // namespace kelvor::test

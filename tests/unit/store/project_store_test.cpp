@@ -1,0 +1,159 @@
+#include "store/project_store.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/sqlite.h"
+#include "support/test_host.h"
+
+namespace kelvor::test {
+namespace {
+
+class ProjectStoreTest : public testing::Test {
+  protected:
+    TestProgram program_;
+    ProjectStore& store_ = program_.store();
+};
+
+TEST_F(ProjectStoreTest, AnEmptyNumberReadsAsZero) {
+    ASSERT_NE(store_.FindCell("SN", 1, 1), nullptr);
+    EXPECT_FALSE(store_.FindCell("SN", 1, 1)->IsFilled());
+    EXPECT_EQ(store_.GetVar("SN"), 0.0);
+}
+
+TEST_F(ProjectStoreTest, AReadOfACellWithoutARowStopsTheProgram) {
+    EXPECT_THROW((void)store_.GetVar("NOSUCH"), ProgramStop);
+    EXPECT_THROW((void)store_.GetVarDim("LDLayerCoef", 7, 1), ProgramStop);
+    EXPECT_THROW((void)store_.GetVarDim("LDLayerCoef", 1, 2), ProgramStop);
+    EXPECT_THROW((void)store_.GetVarDim("LDLayerCoef", 0, 1), ProgramStop);
+    EXPECT_THROW(store_.SetVarDim("SN", 2, 1, 5.0), ProgramStop);
+}
+
+TEST_F(ProjectStoreTest, OtherWritesPassOverAMissingCell) {
+    store_.SetVar("NOSUCH", 1.0);
+    store_.SetVarText("NOSUCH", "text");
+    store_.SetCell("SN", 2, 1, {1.0, std::nullopt});
+    EXPECT_TRUE(store_.CompareWithWorkCopy().empty());
+}
+
+TEST_F(ProjectStoreTest, NamesCompareWithoutRegardToCase) {
+    store_.SetVar("flexe18", 5e6);
+    EXPECT_EQ(store_.GetVar("FlexE18"), 5e6);
+    EXPECT_EQ(store_.CanonicalName("flexe18"), "FLEXE18");
+}
+
+TEST_F(ProjectStoreTest, TheNumericSettersLeaveTheText) {
+    store_.SetCell("SN", 1, 1, {5.0, "5.0"});
+    store_.SetVar("SN", 6.0);
+    EXPECT_EQ(*store_.FindCell("SN", 1, 1), (CellValue{6.0, "5.0"}));
+    store_.SetVarDim("SN", 1, 1, 7.0);
+    EXPECT_EQ(*store_.FindCell("SN", 1, 1), (CellValue{7.0, "5.0"}));
+}
+
+TEST_F(ProjectStoreTest, ATextIsNoNumberAndAnEmptyTextEmptiesBoth) {
+    store_.SetVar("Agency", 3.0);
+    store_.SetVarText("Agency", "County");
+    EXPECT_EQ(*store_.FindCell("Agency", 1, 1), (CellValue{std::nullopt, "County"}));
+    EXPECT_EQ(store_.GetVar("Agency"), 0.0);
+    store_.SetVarText("Agency", "");
+    EXPECT_FALSE(store_.FindCell("Agency", 1, 1)->IsFilled());
+}
+
+TEST_F(ProjectStoreTest, SumsAndCountsSeeOnlyNumbers) {
+    EXPECT_EQ(store_.SQLSum("NDTRM"), std::nullopt);
+    EXPECT_EQ(store_.SQLCount("NDTRM"), 0);
+    EXPECT_EQ(store_.SQLSum("NOSUCH"), std::nullopt);
+    EXPECT_EQ(store_.SQLCount("NOSUCH"), 0);
+    store_.SetVarDim("NDTRM", 1, 1, 0.1);
+    store_.SetVarDim("NDTRM", 2, 1, 0.2);
+    store_.SetVarDim("NDTRM", 300, 1, 0.3);
+    store_.SetCell("NDTRM", 4, 1, {std::nullopt, "none"});
+    EXPECT_EQ(store_.SQLSum("NDTRM"), 0.1 + 0.2 + 0.3);  // in key order
+    EXPECT_EQ(store_.SQLCount("NDTRM"), 3);
+}
+
+TEST_F(ProjectStoreTest, AggregatesCanKeepToOneSecondSubscript) {
+    store_.SetVarDim("InitialItemCost", 1, 1, 10.0);
+    store_.SetVarDim("InitialItemCost", 1, 2, 20.0);
+    store_.SetVarDim("InitialItemCost", 35, 2, 30.0);
+    EXPECT_EQ(store_.SQLSum("InitialItemCost", 1), 10.0);
+    EXPECT_EQ(store_.SQLSum("InitialItemCost", 2), 50.0);
+    EXPECT_EQ(store_.SQLCount("InitialItemCost", 2), 2);
+    EXPECT_EQ(store_.SQLCount("InitialItemCost"), 3);
+}
+
+TEST_F(ProjectStoreTest, EveryCellIsReadAndWrittenAtItsOwnPlace) {
+    store_.BeginEvent();
+    for (int row = 1; row <= 35; ++row) {
+        for (int block = 1; block <= 2; ++block)
+            store_.SetVarDim("InitialQuantity", row, block, 100 * row + block);
+    }
+    store_.EndEvent();
+    for (int row = 1; row <= 35; ++row) {
+        for (int block = 1; block <= 2; ++block) {
+            EXPECT_EQ(store_.GetVarDim("InitialQuantity", row, block), 100 * row + block);
+        }
+    }
+    EXPECT_TRUE(store_.CompareWithWorkCopy().empty());
+}
+
+TEST_F(ProjectStoreTest, TheComparisonSeesADifference) {
+    // The comparison is what other tests lean on: it must see a row changed behind the store's back.
+    TestHome other;
+    ProjectStore store;
+    std::filesystem::copy_file(other / "kvrwork.tpl", other / "kvrwork.tmp");
+    store.Open(other / "kvrwork.tmp", {}, false);
+    EXPECT_TRUE(store.CompareWithWorkCopy().empty());
+    store.BeginEvent();
+    store.SetVar("SN", 5.0);
+    EXPECT_TRUE(store.CompareWithWorkCopy().empty());
+    store.Abandon();
+    store.Open(other / "kvrwork.tmp", {}, false);
+    EXPECT_EQ(store.GetVar("SN"), 0.0) << "an event that was not ended leaves nothing behind";
+}
+
+TEST_F(ProjectStoreTest, WhatAnEventWroteIsThereAfterReopening) {
+    TestHome other;
+    std::filesystem::copy_file(other / "kvrwork.tpl", other / "kvrwork.tmp");
+    {
+        ProjectStore store;
+        store.Open(other / "kvrwork.tmp", {}, false);
+        store.BeginEvent();
+        store.SetVar("SN", 0.1 + 0.2);
+        store.SetCell("Agency", 1, 1, {std::nullopt, "O'Brien \"& Sons\" \xC3\xA4"});
+        store.EndEvent();
+        store.Close();
+        EXPECT_FALSE(store.IsOpen());
+    }
+    ProjectStore store;
+    store.Open(other / "kvrwork.tmp", {}, true);
+    EXPECT_EQ(store.GetVar("SN"), 0.1 + 0.2);
+    EXPECT_EQ(store.FindCell("Agency", 1, 1)->text, "O'Brien \"& Sons\" \xC3\xA4");
+}
+
+TEST_F(ProjectStoreTest, ClosingLeavesNoFileBesideTheWorkCopy) {
+    TestHome other;
+    std::filesystem::copy_file(other / "kvrwork.tpl", other / "kvrwork.tmp");
+    ProjectStore store;
+    store.Open(other / "kvrwork.tmp", {}, false);
+    store.BeginEvent();
+    store.SetVar("SN", 5.0);
+    store.EndEvent();
+    store.Close();
+    for (const auto& entry : std::filesystem::directory_iterator(other.path())) {
+        EXPECT_FALSE(entry.path().filename().string().starts_with("kvrwork.tmp-")) << entry.path();
+    }
+}
+
+TEST_F(ProjectStoreTest, ACellThatTheBoundsNameMustBeThere) {
+    TestHome other;
+    std::filesystem::copy_file(other / "kvrwork.tpl", other / "kvrwork.tmp");
+    ProjectStore store;
+    EXPECT_NO_THROW(store.Open(other / "kvrwork.tmp", {{"SN", 1, 1}, {"NDTRM", 300, 1}}, false));
+    EXPECT_THROW(store.Open(other / "kvrwork.tmp", {{"SN", 2, 1}}, false), DatabaseError);
+    EXPECT_FALSE(store.IsOpen());
+    EXPECT_THROW(store.Open(other / "kvrwork.tmp", {{"SN", 1, 2}}, false), DatabaseError);
+    EXPECT_THROW(store.Open(other / "kvrwork.tmp", {{"NOSUCH", 1, 1}}, false), DatabaseError);
+}
+
+}  // namespace
+}  // namespace kelvor::test
