@@ -146,7 +146,8 @@ void ModelDriver::Key(const std::string& key) {
 }
 
 void ModelDriver::Press(const std::string& control) {
-    if (!FindControl(control).IsButton()) throw ScriptError(control + " is no button");
+    const Control& button = FindControl(control);
+    if (!button.IsButton() && !button.IsChoice()) throw ScriptError(control + " is no button");
     Raise({UserEvent::Kind::Press, control, {}, 0}, "");
 }
 

@@ -31,9 +31,12 @@ Control* IndicatorLabel(Form& form, Indicator which) {
     return form.Find(which == Indicator::First ? "SolveFor" : "SolveFor2");
 }
 
-/// Unit texts that would only repeat what the label says.
+/// Unit texts that would only repeat what the label says. These are not quite the ones that no unit label
+/// shows: an indicator says "80kN ESAL's".
 bool IsShownAsUnit(const std::string& unit) {
-    return !(IsNoUnit(unit) || Like(unit, "18 kip*") || Like(unit, "80 kN*"));
+    constexpr std::array<std::string_view, 3> kNotShown = {"No Units", "ESN", "MSN"};
+    if (std::find(kNotShown.begin(), kNotShown.end(), unit) != kNotShown.end()) return false;
+    return !(Like(unit, "18 kip*") || Like(unit, "80 kN*"));
 }
 
 /// The catalogue's row of a form's field; null if the field is none of the screen's.

@@ -85,7 +85,6 @@ bool IsInEquation(const ScreenContext& context, const Form& form, const Control&
 }
 
 void StoreField(ScreenContext& context, Form& form, Control& control) {
-    context.bProjectChanged = true;
     if (control.text.empty()) {
         EmptyCell(context, form, control);
     } else if (control.coded) {
@@ -147,6 +146,7 @@ bool FieldLostFocus(ScreenContext& context, Form& form, Control& control) {
     }
     if (form.fieldChanged()) {
         form.SetFieldChanged(false);
+        context.bProjectChanged = true;  // also by a value that is refused now: its box stays empty
         if (!PassesRange(context, control)) return Refuse(form, control);
         StoreField(context, form, control);
     }

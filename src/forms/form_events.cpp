@@ -10,6 +10,8 @@
 #include "forms/field_help.h"
 #include "forms/grid_entry.h"
 #include "forms/side_screen.h"
+#include "platform/real.h"
+#include "platform/text.h"
 
 namespace kelvor {
 
@@ -36,8 +38,12 @@ void FormEvents::Handle(FormEvent event, Form& form, Control* control, const std
         bool any = false;
         for (const Handler& handler : form.type().handlers) {
             if (!IsFor(handler, event, control, order)) continue;
-            handler.run(context_, form, control);
             any = true;
+            try {
+                handler.run(context_, form, control);
+            } catch (const ArithmeticFault&) {
+                // The routine is abandoned like a calculation: no number that a user types ends the program.
+            }
         }
         return any;
     };
@@ -217,7 +223,7 @@ void FormEvents::Type(const std::string& text) {
     Handle(FormEvent::Change, *form, &control, [&] { FieldChange(*form, control); });
 }
 
-void FormEvents::TypeCharacter(Form& form, char character) {
+void FormEvents::TypeCharacter(Form& form, const std::string& character) {
     if (form.focus == nullptr) return;
     if (form.focus->grid) {
         TypeCharacterIntoCell(form, *form.focus, character);
@@ -225,8 +231,8 @@ void FormEvents::TypeCharacter(Form& form, char character) {
     }
     const std::size_t place = std::min(form.caret.value_or(0), form.focus->text.size());
     std::string text = form.caret ? form.focus->text : "";
-    Type(text.insert(place, 1, character));
-    if (form.focus->words.empty()) form.caret = place + 1;
+    Type(text.insert(place, character));
+    if (form.focus->words.empty()) form.caret = place + character.size();
 }
 
 /// Empties a box that is selected as a whole, else takes the character behind the cursor.
@@ -240,18 +246,18 @@ void FormEvents::DeleteCharacter(Form& form) {
     const std::size_t place = form.caret.value_or(0);
     if (form.caret && place >= form.focus->text.size()) return;
     std::string text = form.caret ? form.focus->text : "";
-    if (form.caret) text.erase(place, 1);
+    if (form.caret) text.erase(place, NextCharacter(text, place) - place);
     Type(text);
     form.caret = place;
 }
 
 /// Left and Right in a box: a selection is left at its end on that side.
 void FormEvents::MoveCaret(Form& form, int step) {
-    const std::size_t end = form.focus->text.size();
+    const std::string& text = form.focus->text;
     if (!form.caret) {
-        form.caret = step < 0 ? 0 : end;
-    } else if (step < 0 ? *form.caret > 0 : *form.caret < end) {
-        form.caret = step < 0 ? *form.caret - 1 : *form.caret + 1;
+        form.caret = step < 0 ? 0 : text.size();
+    } else {
+        form.caret = step < 0 ? PreviousCharacter(text, *form.caret) : NextCharacter(text, *form.caret);
     }
 }
 
@@ -260,8 +266,8 @@ bool FormEvents::Key(const std::string& key) {
     if (form == nullptr) return true;
     if (key.size() == 5 && key.starts_with("Alt+")) {
         PressAccessKey(*form, key.back());
-    } else if (key.size() == 1) {
-        TypeCharacter(*form, key.front());
+    } else if (!key.empty() && NextCharacter(key, 0) == key.size()) {
+        TypeCharacter(*form, key);
     } else {
         return NamedKey(*form, key);
     }
@@ -274,7 +280,8 @@ bool FormEvents::NamedKey(Form& form, const std::string& key) {
         return true;
     }
     const bool onButton = form.focus != nullptr && (form.focus->IsButton() || form.focus->IsChoice());
-    if (key == "Enter" && form.type().isHub && onButton && form.focus->IsChoice()) {
+    const bool onOption = form.focus != nullptr && form.focus->kind == ControlKind::OptionButton;
+    if (key == "Enter" && form.type().isHub && onOption) {
         Click(form, *form.focus);
     } else if (key == "Enter" || key == "Tab") {
         Tab(form, true);
@@ -288,7 +295,7 @@ bool FormEvents::NamedKey(Form& form, const std::string& key) {
         if (onButton) {
             Click(form, *form.focus);
         } else {
-            TypeCharacter(form, ' ');
+            TypeCharacter(form, " ");
         }
     } else if (key == "F1") {
         if (Control* help = form.Find(kHelpButton)) Press(form, *help);

@@ -81,7 +81,7 @@ class FormEvents {
 
     bool LoseFocus(Form& form, Control& control);
     void GetFocus(Form& form, Control& control);
-    void TypeCharacterIntoCell(Form& form, Control& control, char character);
+    void TypeCharacterIntoCell(Form& form, Control& control, const std::string& character);
     void TypeIntoCell(Form& form, Control& control, const std::string& text);
     bool CommitCell(Form& form, Control& control);
     bool StoreCell(Form& form, Control& control, const std::string& text);
@@ -92,7 +92,7 @@ class FormEvents {
     void FocusFirstField(Form& form);
     void ActivateFront();
     void Click(Form& form, Control& control);
-    void TypeCharacter(Form& form, char character);
+    void TypeCharacter(Form& form, const std::string& character);
     void DeleteCharacter(Form& form);
     static void MoveCaret(Form& form, int step);
     bool NamedKey(Form& form, const std::string& key);

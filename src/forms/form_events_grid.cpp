@@ -26,20 +26,21 @@ void FormEvents::TypeIntoCell(Form& form, Control& control, const std::string& t
     if (control.grid->current().locked || control.grid->rows == 0) return;
     const std::vector<LetterWord>& words = control.grid->current().words;
     const std::string shown = control.grid->typed.value_or("");
-    control.grid->typed = words.empty() ? text : CompleteWord(words, shown, text, form.spelt).value_or(text);
+    auto entry = words.empty() ? text : CompleteWord(words, shown, text, form.spelt);
+    if (!entry) return;  // a letter of no word leaves the cell alone
+    control.grid->typed = std::move(entry);
     GridChange(context_, form);
 }
 
 /// A letter that stands for a word is the whole entry, and any other leaves such a cell alone.
-void FormEvents::TypeCharacterIntoCell(Form& form, Control& control, char character) {
+void FormEvents::TypeCharacterIntoCell(Form& form, Control& control, const std::string& character) {
     const std::vector<LetterWord>& words = control.grid->current().words;
     if (words.empty()) {
         Type(control.grid->typed.value_or("") + character);
         return;
     }
-    const std::string letter(1, character);
-    if (!CompleteWord(words, {}, letter, form.spelt)) return;
-    Type(letter);
+    if (!CompleteWord(words, {}, character, form.spelt)) return;
+    Type(character);
     CommitCell(form, control);
 }
 

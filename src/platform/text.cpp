@@ -20,6 +20,9 @@ std::size_t CharacterLength(unsigned char first) {
     return first < 0xF5 ? 4 : 0;
 }
 
+/// True for a byte of a UTF-8 character behind its first one.
+bool IsContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
+
 /// Takes a character from the head of a text that is not empty.
 char32_t TakeCharacter(std::string_view& text) {
     const auto first = static_cast<unsigned char>(text.front());
@@ -120,6 +123,20 @@ bool Matches(std::u32string_view text, std::u32string_view pattern) {
 bool EqualNoCase(std::string_view a, std::string_view b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                       [](char x, char y) { return FoldLetter(x) == FoldLetter(y); });
+}
+
+std::size_t NextCharacter(std::string_view text, std::size_t place) {
+    if (place >= text.size()) return text.size();
+    ++place;
+    while (place < text.size() && IsContinuation(text[place])) ++place;
+    return place;
+}
+
+std::size_t PreviousCharacter(std::string_view text, std::size_t place) {
+    if (place == 0 || text.empty()) return 0;
+    place = std::min(place, text.size()) - 1;
+    while (place > 0 && IsContinuation(text[place])) --place;
+    return place;
 }
 
 std::string_view TrimBlanks(std::string_view text) {

@@ -13,6 +13,11 @@ constexpr char FoldLetter(char c) { return c >= 'A' && c <= 'Z' ? static_cast<ch
 /// Text comparison without regard to ASCII letter case, as names are compared everywhere.
 bool EqualNoCase(std::string_view a, std::string_view b);
 
+/// Where the character behind a place in a UTF-8 text begins, and the one before it. Bytes that are no UTF-8
+/// count as characters.
+std::size_t NextCharacter(std::string_view text, std::size_t place);
+std::size_t PreviousCharacter(std::string_view text, std::size_t place);
+
 std::string_view TrimBlanks(std::string_view text);
 
 /// True if the whole of `text` matches `pattern`, without regard to case. Wild cards: `*` any run of

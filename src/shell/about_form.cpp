@@ -9,7 +9,6 @@ FormType AboutForm() {
     FormType type;
     type.name = "About";
     type.caption = "About Kelvor";
-    type.modal = true;
     type.needsProject = false;
     type.layout = Rows({
         Heading("ProductLabel", "Kelvor"),

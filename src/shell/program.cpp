@@ -19,8 +19,8 @@ Program::Program(Host host, Home home) : state_(host, std::move(home)) {
     state_.formRegistry.Declare({HubForm(), AboutForm()});
     state_.formRegistry.Declare(HelpForms());
     state_.formRegistry.Declare({BlankForm()});
-    state_.formRegistry.Declare(DesignForms());
-    state_.formRegistry.Declare(WithRoutesOffered(TrafficForms()));
+    state_.formRegistry.Declare(WithHubTold(DesignForms()));
+    state_.formRegistry.Declare(WithHubTold(TrafficForms()));
 }
 
 StartResult Program::Start(const std::string& commandLine) {

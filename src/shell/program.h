@@ -79,6 +79,7 @@ class Program {
     void ShowHelp(const std::string& page);
     void ShowAbout();
     void ShowHub();
+    void ShowStartTab();
     bool Exit();
     bool ConfirmClose();
 

@@ -78,13 +78,19 @@ bool Program::LeaveProject() {
     return true;
 }
 
-/// The hub in front, which is made when it is first asked for and never closed, with its start tab. A screen
-/// that the user has kept open shows the values of the project of now.
+/// The hub in front, which is made when it is first asked for and never closed, with its start tab.
+void Program::ShowStartTab() {
+    ScreenContext context = state_.MakeScreenContext();
+    FormEvents(context).Open(kHubForm);
+    if (Form* hub = state_.formRegistry.Find(kHubForm)) EnterHubTab(context, *hub, HubTab::Start);
+}
+
+/// The hub of another project than before. A screen that the user has kept open shows that project's values.
 void Program::ShowHub() {
     ScreenContext context = state_.MakeScreenContext();
     for (Form* form : context.forms.InOpeningOrder()) FormEvents(context).ShowProject(*form);
-    FormEvents(context).Open(kHubForm);
-    if (Form* hub = state_.formRegistry.Find(kHubForm)) EnterHubTab(context, *hub, HubTab::Start);
+    ShowStartTab();
+    if (Form* hub = state_.formRegistry.Find(kHubForm)) OfferProject(context, *hub);
 }
 
 bool Program::NewProject() {
@@ -121,7 +127,7 @@ void Program::OpenRecentFile(int position) {
     if (kind == FileKind::Missing || kind == FileKind::Directory) {
         state_.host.dialogs.ShowMessage({.text = "Selected file was not found.", .title = "File is missing"});
         DropRecentFile(state_, position);
-        ShowHub();
+        ShowStartTab();
     } else {
         OpenFile(path);
     }
@@ -182,7 +188,7 @@ bool Program::ConfirmClose() {
          .style = MessageStyle::YesNoCancel,
          .icon = MessageIcon::Warning});
     if (answer == Answer::Cancel) {
-        ShowHub();
+        ShowStartTab();
         return false;
     }
     return answer == Answer::No || ProjectFiles(state_).Save();

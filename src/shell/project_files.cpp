@@ -19,10 +19,15 @@ const char* const kOpenFilter = "KVR projects (*.kvr)|*.kvr|All Files (*.*)|*.*"
 const char* const kSaveFilter = "KVR projects (*.kvr)|*.kvr";
 constexpr std::string_view kExtension = ".kvr";
 
+/// The path from the root, without "." and "..", so that a file has one name in the list of recent files.
+/// A ".." behind a link stays where without it another folder would be meant.
 std::string FullPath(const std::string& path) {
     std::error_code error;
     const Path full = std::filesystem::absolute(path, error);
-    return error ? path : full.string();
+    if (error) return path;
+    const Path plain = full.lexically_normal();
+    const bool same = std::filesystem::equivalent(plain.parent_path(), full.parent_path(), error);
+    return (same && !error ? plain : full).string();
 }
 
 }  // namespace
@@ -203,7 +208,7 @@ bool ProjectFiles::Save() {
 }
 
 bool ProjectFiles::SaveProjectAs() {
-    MakeProjectsFolder();
+    MakeProjectsFolder();  // the dialog starts there
     const auto chosen =
         state_.host.dialogs.AskFile({FileRequest::Kind::Save, state_.home.ProjectsFolder(), kSaveFilter});
     return chosen && SaveProjectAs(chosen->string());
@@ -211,6 +216,7 @@ bool ProjectFiles::SaveProjectAs() {
 
 bool ProjectFiles::SaveProjectAs(const std::string& name) {
     if (name.empty()) return false;
+    MakeProjectsFolder();
     const std::string_view ending =
         std::string_view(name).substr(name.size() - std::min(name.size(), kExtension.size()));
     return SaveProject(EqualNoCase(ending, kExtension) ? name : name + std::string(kExtension));

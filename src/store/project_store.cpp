@@ -201,6 +201,7 @@ void ProjectStore::SetNumber(CellHandle cell, double value) {
 }
 
 void ProjectStore::Store(std::uint32_t index, CellValue value) {
+    if (value.number == 0.0) value.number = 0.0;  // a zero has no sign
     if (cells_[index].value == value) return;
     cells_[index].value = std::move(value);
     WriteThrough(index);

@@ -350,6 +350,8 @@ void WindowDriver::Key(const std::string& key) {
         QTest::keyClick(&target, key.back(), Qt::AltModifier);
     } else if (key.size() == 1) {
         QTest::keyClick(&target, key.front());
+    } else if (const QString text = ToQt(key); text.size() == 1) {
+        QTest::sendKeyEvent(QTest::Click, &target, Qt::Key_unknown, text, Qt::NoModifier);
     } else {
         throw ScriptError("there is no key " + key);
     }
@@ -358,7 +360,7 @@ void WindowDriver::Key(const std::string& key) {
 
 void WindowDriver::Press(const std::string& control) {
     QWidget& widget = Widget(control);
-    if (KindOf(widget) != ControlKind::CommandButton) throw ScriptError(control + " is no button");
+    if (qobject_cast<QAbstractButton*>(&widget) == nullptr) throw ScriptError(control + " is no button");
     Click(widget);
     QApplication::processEvents();
 }

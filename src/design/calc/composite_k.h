@@ -18,7 +18,7 @@ struct SubgradeLayers {
 /// logarithm of a negative number, say) is passed over. Nothing if there is no soil modulus.
 std::optional<double> CompositeKEnglish(const SubgradeLayers& layers);
 
-/// In metric units, MPa/m, k follows from the soil modulus alone, in MPa.
+/// In metric units, MPa/m, k follows from the soil modulus alone, in MPa. Throws ArithmeticFault on overflow.
 std::optional<double> CompositeKMetric(const SubgradeLayers& layers);
 
 }  // namespace kelvor

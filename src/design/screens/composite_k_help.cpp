@@ -4,12 +4,12 @@
 #include <array>
 
 #include "design/calc/composite_k.h"
-#include "forms/field_entry.h"
 #include "forms/form.h"
 #include "forms/form_builder.h"
 #include "forms/side_screen.h"
 #include "platform/number_picture.h"
 #include "platform/number_text.h"
+#include "platform/real.h"
 
 namespace kelvor {
 
@@ -28,18 +28,22 @@ bool IsInput(const Control& control) {
                        [&](const char* name) { return control.name == name; });
 }
 
-double Number(const ScreenContext& context, const Form& form, const char* name) {
-    return FieldNumber(context, form, *form.Find(name));
-}
+double Number(const Form& form, const char* name) { return ParseNumber(form.HiddenText(name)); }
 
+/// Follows what the boxes show, while it is being typed and in the digits that they have afterwards.
 void ComputeCompositeK(const ScreenContext& context, Form& form) {
-    const SubgradeLayers layers{.roadbedModulus = Number(context, form, "MRSG"),
-                                .subbaseModulus = Number(context, form, "MRSB"),
-                                .subbaseThickness = Number(context, form, "SBD"),
-                                .depthToFoundation = Number(context, form, "SGD"),
-                                .lossOfSupport = Number(context, form, "LS")};
-    const auto k = context.units.bMetric() ? CompositeKMetric(layers) : CompositeKEnglish(layers);
-    form.SetHiddenText(kResult, k ? FormatNumber(*k, kResultPicture) : "");
+    const SubgradeLayers layers{.roadbedModulus = Number(form, "MRSG"),
+                                .subbaseModulus = Number(form, "MRSB"),
+                                .subbaseThickness = Number(form, "SBD"),
+                                .depthToFoundation = Number(form, "SGD"),
+                                .lossOfSupport = Number(form, "LS")};
+    form.workedOut = true;
+    try {
+        const auto k = context.units.bMetric() ? CompositeKMetric(layers) : CompositeKEnglish(layers);
+        form.SetHiddenText(kResult, k ? FormatNumber(*k, kResultPicture) : "");
+    } catch (const ArithmeticFault&) {
+        // The k of before stays.
+    }
 }
 
 void Bind(const ScreenContext& context, Form& form, const char* box, const std::string& variable) {
@@ -57,20 +61,13 @@ void Load(ScreenContext& context, Form& form, Control* /*control*/) {
     if (!field.empty()) Bind(context, form, kResult, field);
 }
 
-void Typed(ScreenContext& context, Form& form, Control* control) {
-    if (!IsInput(*control)) return;
-    form.workedOut = true;
-    ComputeCompositeK(context, form);
+/// An input is typed into, left, or stored by its own help.
+void InputEvent(ScreenContext& context, Form& form, Control* control) {
+    if (IsInput(*control)) ComputeCompositeK(context, form);
 }
 
-/// An input has a new value, from here or from its own help.
-void InputStored(ScreenContext& context, Form& form, Control* control) { Typed(context, form, control); }
-
-/// What the inputs have given stays, although the boxes were filled anew; inputs from before give a k where
-/// there is none.
-void Follow(ScreenContext& context, Form& form, Control* control) {
-    const bool left = control != nullptr && IsInput(*control) && form.HiddenText(kResult).empty();
-    if (left && ParseNumber(form.HiddenText("MRSG")) != 0.0) form.workedOut = true;
+/// What the inputs have given stays, although the boxes were filled anew.
+void Follow(ScreenContext& context, Form& form, Control* /*control*/) {
     if (form.workedOut) ComputeCompositeK(context, form);
 }
 
@@ -114,9 +111,9 @@ FormType CompositeKHelp() {
     });
     type.handlers = {{FormEvent::Load, "", HandlerOrder::After, Load},
                      {FormEvent::Activate, "", HandlerOrder::After, Follow},
-                     {FormEvent::Change, "", HandlerOrder::After, Typed},
-                     {FormEvent::LostFocus, "", HandlerOrder::After, Follow},
-                     {FormEvent::Stored, "", HandlerOrder::After, InputStored},
+                     {FormEvent::Change, "", HandlerOrder::After, InputEvent},
+                     {FormEvent::LostFocus, "", HandlerOrder::After, InputEvent},
+                     {FormEvent::Stored, "", HandlerOrder::After, InputEvent},
                      {FormEvent::UnitsSwitched, "", HandlerOrder::After, Follow},
                      {FormEvent::Unload, "", HandlerOrder::Before, Closing}};
     return type;

@@ -1,5 +1,6 @@
 #include "design/screens/subgrade_modulus_help.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <utility>
@@ -9,7 +10,6 @@
 #include "forms/field_entry.h"
 #include "forms/form.h"
 #include "forms/side_screen.h"
-#include "platform/number_picture.h"
 #include "platform/number_text.h"
 #include "platform/real.h"
 
@@ -18,6 +18,8 @@ namespace kelvor {
 namespace {
 
 constexpr double kMpaPerPsi = 0.006894757;
+
+constexpr std::array kBoxes = {"CBR", "RVAL", "OCBR", "ORVAL", "V"};
 
 const char* const kAboutTests =
     "Empirical relationships have been developed between the CBR (California Bearing Ratio) value (using "
@@ -65,31 +67,16 @@ void StoreEstimate(ScreenContext& context, Form& form) {
         context.units.SetDisplayNumber(output, 1, 1, value);
         form.SetHiddenText(output, context.units.GetDisplayValue(output));
     }
-    form.workedOut = true;
 }
 
-/// Shows what tests from before give that were never worked out. Nobody has entered anything, so it stores
-/// nothing.
-void ShowEstimate(ScreenContext& context, Form& form) {
-    const auto modulus = Estimate(context, form);
-    if (!modulus) return;
-    for (const auto& [output, value] : Outputs(context, *modulus)) {
-        const Control& box = *form.Find(output);
-        form.SetHiddenText(output, FormatNumber(value, box.picture));
-    }
+/// Without a test now or before there is nothing to work out.
+bool HasTests(const Form& form) {
+    return std::any_of(kBoxes.begin(), kBoxes.end(),
+                       [&](const char* box) { return !form.HiddenText(box).empty(); });
 }
 
-void TestStored(ScreenContext& context, Form& form, Control* /*control*/) { StoreEstimate(context, form); }
-
-/// A test that was refused counts no more.
 void TestLeft(ScreenContext& context, Form& form, Control* control) {
-    if (control->name != "CBR" && control->name != "RVAL") return;
-    const bool isThere = !form.HiddenText("CBR").empty() || !form.HiddenText("RVAL").empty();
-    if (form.refused) {
-        StoreEstimate(context, form);
-    } else if (isThere && form.HiddenText("V").empty()) {
-        ShowEstimate(context, form);
-    }
+    if ((control->name == "CBR" || control->name == "RVAL") && HasTests(form)) StoreEstimate(context, form);
 }
 
 /// Hands the governing modulus, as it is shown, to the field for which the screen was opened.
@@ -97,7 +84,7 @@ void Closing(ScreenContext& context, Form& form, Control* /*control*/) {
     const std::string field = form.HiddenText("FieldName");
     const std::string value = form.HiddenText("V");
     bool warns = false;
-    if (form.workedOut && !field.empty() && ParseNumber(value) != 0.0) {
+    if (!field.empty() && ParseNumber(value) != 0.0) {
         const CellValue before = CalledField(context, form);
         context.units.SetDisplayValue(field, 1, 1, value);
         const bool differs = !IsSameValue(CalledField(context, form), before);
@@ -129,7 +116,7 @@ FormType SubgradeModulusHelp() {
         Buttons({{"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}}),
         Hidden({"FieldName", "FormName"}),
     });
-    type.handlers = {{FormEvent::Stored, "", HandlerOrder::After, TestStored},
+    type.handlers = {{FormEvent::Stored, "", HandlerOrder::After, TestLeft},
                      {FormEvent::LostFocus, "", HandlerOrder::After, TestLeft},
                      {FormEvent::Unload, "", HandlerOrder::Before, Closing}};
     return type;

@@ -2,6 +2,7 @@
 
 #include "forms/field_help.h"
 #include "forms/form.h"
+#include "forms/form_builder.h"
 
 namespace kelvor {
 
@@ -9,6 +10,8 @@ namespace {
 
 void Load(ScreenContext& context, Form& form, Control* /*control*/) {
     ShowCalledField(context, form, "Help Screen for ");
+    Control& unit = *form.Find("Units");
+    unit.visible = !IsNoUnit(unit.text);
 }
 
 FormType PlainValueHelp(const char* name) {

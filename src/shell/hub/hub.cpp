@@ -1,7 +1,9 @@
 #include "shell/hub/hub.h"
 
+#include <algorithm>
 #include <array>
 #include <iterator>
+#include <string_view>
 
 #include "forms/balance_state.h"
 #include "forms/form.h"
@@ -25,15 +27,7 @@ static_assert(kTabs.size() == kHubTabs);
 void Load(ScreenContext& context, Form& hub, Control* /*control*/) {
     LoadCostTab(hub);
     LoadListsTab(context, hub);
-}
-
-/// What the hub offers follows from which screens there are and from what the project holds.
-void UpdateOffers(ScreenContext& context, Form& hub, bool entered) {
-    OfferDeclaredScreens(context, hub);
-    OfferTrafficRoutes(context, hub);
-    UpdateOverlayReportOptions(context, hub);
-    OfferReports(context, hub, entered);
-    OfferListButtons(hub);
+    OfferProject(context, hub);
 }
 
 void FocusOnFirst(ScreenContext& context, Form& hub) {
@@ -45,8 +39,50 @@ void FocusOnFirst(ScreenContext& context, Form& hub) {
 /// The hub comes in front again: values changed on other screens appear.
 void Activate(ScreenContext& context, Form& hub, Control* /*control*/) {
     LoadScreen(context, hub);
-    UpdateOffers(context, hub, false);
     FocusOnFirst(context, hub);
+}
+
+/// The rates and years that the hub shows are the same in both systems.
+void UnitsSwitched(ScreenContext& /*context*/, Form& /*hub*/, Control* /*control*/) {}
+
+/// What a tab offers follows the project each time it is entered.
+void OfferOnTab(const ScreenContext& context, Form& hub, HubTab tab) {
+    if (tab == HubTab::Traffic) {
+        OfferTrafficRoutes(context, hub);
+        OfferTrafficReports(context, hub);
+    }
+    if (tab == HubTab::Overlays) {
+        UpdateOverlayReportOptions(context, hub);
+        OfferOverlayReports(context, hub);
+    }
+    if (tab == HubTab::LifeCycleCosting) OfferCostReport(context, hub);
+    if (tab == HubTab::Reports) OfferReports(context, hub);
+}
+
+void TrafficInputsClosed(const ScreenContext& context, Form& hub) {
+    OfferTrafficRoutes(context, hub);
+    OfferTrafficReportsByInputs(context, hub);
+}
+
+/// A screen whose values decide what the hub offers.
+struct DecidingScreen {
+    std::string_view name;
+    void (*closed)(const ScreenContext& context, Form& hub);
+};
+
+constexpr std::array kDecidingScreens = {
+    DecidingScreen{"TrFa", TrafficInputsClosed}, DecidingScreen{"DeR", UpdateOverlayReportOptions},
+    DecidingScreen{"ExF", UpdateOverlayReportOptions}, DecidingScreen{"ExR", UpdateOverlayReportOptions},
+    DecidingScreen{"ExC", UpdateOverlayReportOptions}};
+
+const DecidingScreen* FindDecidingScreen(std::string_view name) {
+    const auto* found = std::find_if(kDecidingScreens.begin(), kDecidingScreens.end(),
+                                     [&](const DecidingScreen& screen) { return screen.name == name; });
+    return found == kDecidingScreens.end() ? nullptr : found;
+}
+
+void ScreenClosed(ScreenContext& context, Form& form, Control* /*control*/) {
+    if (Form* hub = context.forms.Find(kHubForm)) FindDecidingScreen(form.name())->closed(context, *hub);
 }
 
 }  // namespace
@@ -64,9 +100,24 @@ void EnterHubTab(ScreenContext& context, Form& hub, HubTab tab) {
     if (tab == HubTab::ProjectId) hub.tag = kProjectIdKey;
     if (tab == HubTab::LifeCycleCosting) hub.tag = kCostKey;
     if (NeedsProject(tab)) LoadScreen(context, hub);
-    UpdateOffers(context, hub, true);
+    OfferOnTab(context, hub, tab);
     if (tab == HubTab::Lists) EnterListsTab(context, hub);
     FocusOnFirst(context, hub);
+}
+
+void OfferProject(const ScreenContext& context, Form& hub) {
+    OfferDeclaredScreens(context, hub);
+    OfferTrafficRoutes(context, hub);
+    UpdateOverlayReportOptions(context, hub);
+    OfferReports(context, hub);
+}
+
+std::vector<FormType> WithHubTold(std::vector<FormType> screens) {
+    for (FormType& type : screens) {
+        if (FindDecidingScreen(type.name) == nullptr) continue;
+        type.handlers.push_back({FormEvent::Unload, "", HandlerOrder::After, ScreenClosed});
+    }
+    return screens;
 }
 
 FormType HubForm() {
@@ -79,6 +130,7 @@ FormType HubForm() {
     type.handlers = {
         {FormEvent::Load, "", HandlerOrder::Instead, Load},
         {FormEvent::Activate, "", HandlerOrder::Instead, Activate},
+        {FormEvent::UnitsSwitched, "", HandlerOrder::Instead, UnitsSwitched},
     };
     std::vector<LayoutNode> pages;
     for (const auto& makeTab : kTabs) {

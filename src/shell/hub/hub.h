@@ -24,8 +24,11 @@ bool NeedsProject(HubTab tab);
 /// `TabForm`: the hub with its strip of eight tabs, from which all work is reached.
 FormType HubForm();
 
-/// The screens of traffic, whose shared inputs tell the hub when they are closed.
-std::vector<FormType> WithRoutesOffered(std::vector<FormType> trafficForms);
+/// What the hub offers follows the project that is open: after the start, New and Open.
+void OfferProject(const ScreenContext& context, Form& hub);
+
+/// The screens, of which those whose values decide what the hub offers tell it when they are closed.
+std::vector<FormType> WithHubTold(std::vector<FormType> screens);
 
 /// Brings a tab of the hub in front: its values are read again, what it offers follows the project, and the
 /// focus goes to its first control.

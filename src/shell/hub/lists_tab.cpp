@@ -91,8 +91,9 @@ void AddClick(ScreenContext& context, Form& hub, Control* /*button*/) {
 }
 
 void DeleteItem(ScreenContext& context, Form& hub, Control* /*control*/) {
+    if (!Confirmed(context, "Are you sure you want to delete this item?")) return;
     const auto row = CurrentRow(hub);
-    if (!row || !Confirmed(context, "Are you sure you want to delete this item?")) return;
+    if (!row) return;
     Try([&] { context.lists.DeleteRows(Chosen(hub), *row); });
     ShowList(context, hub);
 }

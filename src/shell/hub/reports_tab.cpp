@@ -36,9 +36,11 @@ constexpr std::array kBoxes = {
     ReportBox{"rbTRopTrTr", "rbTr", "TrTr", Wants::Data},
 };
 
-constexpr std::array kCategories = {"rbND", "rbOV", "rbTr", "rbCost"};
+constexpr const char* kDesign = "rbND";
+constexpr const char* kOverlays = "rbOV";
 constexpr const char* kTraffic = "rbTr";
 constexpr const char* kCost = "rbCost";
+constexpr std::array kCategories = {kDesign, kOverlays, kTraffic, kCost};
 constexpr const char* kCostScreen = "LcA1";
 constexpr std::array kCostScreens = {"LcA1", "LcA1_2", "LcA1_4", "LcA2", "LcA2_2", "LcA2_4"};
 
@@ -109,13 +111,11 @@ void OfferBox(const ScreenContext& context, Form& hub, const ReportBox& report) 
     Offer(hub, report.box, declared && HoldsData(context, report), declared ? kNoData : kComesLater);
 }
 
-bool IsOfTraffic(const ReportBox& report) { return std::string_view(report.category) == kTraffic; }
-
-void OfferTrafficBox(const ScreenContext& context, Form& hub, const ReportBox& report, bool entered) {
-    const bool filled = TrafficInputsFilled(context);
-    const bool staysOn = !entered && hub.Find(report.box)->enabled;
-    const bool holdsData = staysOn || HoldsData(context, report);
-    Offer(hub, report.box, filled && holdsData, filled ? kNoData : kInputsMissing);
+template <typename Offering>
+void ForCategory(std::string_view category, Offering offer) {
+    for (const ReportBox& report : kBoxes) {
+        if (report.category == category) offer(report);
+    }
 }
 
 void OfferCategory(const ScreenContext& context, Form& hub, std::string_view category) {
@@ -123,13 +123,6 @@ void OfferCategory(const ScreenContext& context, Form& hub, std::string_view cat
         return report.category == category && IsDeclared(context, report.screen);
     });
     Offer(hub, category, any, kComesLater);
-}
-
-void OfferCosts(const ScreenContext& context, Form& hub) {
-    const bool declared = IsDeclared(context, kCostScreen);
-    const bool any = std::any_of(kCostScreens.begin(), kCostScreens.end(),
-                                 [&](const char* screen) { return ScreenHasCells(context, screen); });
-    Offer(hub, kCost, declared && any, declared ? kNoCosts : kComesLater);
 }
 
 /// A category above its boxes.
@@ -141,7 +134,7 @@ LayoutNode Category(const char* frame, ButtonItem option, std::vector<ButtonItem
 
 std::vector<Handler> ReportHandlers() {
     std::vector<Handler> handlers = {{FormEvent::Click, kCost, HandlerOrder::Instead, CostClick}};
-    for (const char* category : {"rbND", "rbOV", "rbTr"}) {
+    for (const char* category : {kDesign, kOverlays, kTraffic}) {
         handlers.push_back({FormEvent::Click, category, HandlerOrder::Instead, CategoryClick});
     }
     for (const ReportBox& report : kBoxes) {
@@ -173,23 +166,35 @@ HubPage ReportsTab() {
             ReportHandlers()};
 }
 
-void OfferReports(const ScreenContext& context, Form& hub, bool entered) {
-    for (const ReportBox& report : kBoxes) {
-        if (IsOfTraffic(report)) {
-            OfferTrafficBox(context, hub, report, entered);
-        } else {
-            OfferBox(context, hub, report);
-        }
-    }
-    for (const char* category : {"rbND", "rbOV", "rbTr"}) OfferCategory(context, hub, category);
-    OfferCosts(context, hub);
+void OfferOverlayReports(const ScreenContext& context, Form& hub) {
+    ForCategory(kOverlays, [&](const ReportBox& report) { OfferBox(context, hub, report); });
 }
 
 void OfferTrafficReports(const ScreenContext& context, Form& hub) {
     const bool filled = TrafficInputsFilled(context);
-    for (const ReportBox& report : kBoxes) {
-        if (IsOfTraffic(report)) Offer(hub, report.box, filled, kInputsMissing);
-    }
+    ForCategory(kTraffic, [&](const ReportBox& report) {
+        Offer(hub, report.box, filled && HoldsData(context, report), filled ? kNoData : kInputsMissing);
+    });
+}
+
+void OfferTrafficReportsByInputs(const ScreenContext& context, Form& hub) {
+    const bool filled = TrafficInputsFilled(context);
+    ForCategory(kTraffic, [&](const ReportBox& report) { Offer(hub, report.box, filled, kInputsMissing); });
+}
+
+void OfferCostReport(const ScreenContext& context, Form& hub) {
+    const bool declared = IsDeclared(context, kCostScreen);
+    const bool any = std::any_of(kCostScreens.begin(), kCostScreens.end(),
+                                 [&](const char* screen) { return ScreenHasCells(context, screen); });
+    Offer(hub, kCost, declared && any, declared ? kNoCosts : kComesLater);
+}
+
+void OfferReports(const ScreenContext& context, Form& hub) {
+    ForCategory(kDesign, [&](const ReportBox& report) { OfferBox(context, hub, report); });
+    OfferOverlayReports(context, hub);
+    OfferTrafficReports(context, hub);
+    OfferCostReport(context, hub);
+    for (const char* category : {kDesign, kOverlays, kTraffic}) OfferCategory(context, hub, category);
 }
 
 }  // namespace kelvor

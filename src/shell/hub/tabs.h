@@ -32,12 +32,14 @@ void OfferTrafficRoutes(const ScreenContext& context, Form& hub);
 /// Which overlays can be designed follows from what is known of the existing pavement.
 void UpdateOverlayReportOptions(const ScreenContext& context, Form& hub);
 
-/// A report can be ticked if its screen holds data. While its tab is not entered anew, one of traffic that is
-/// on stays on as long as the shared inputs are filled.
-void OfferReports(const ScreenContext& context, Form& hub, bool entered);
-
-/// The reports of traffic go with the shared inputs alone when these are closed.
+/// Reports can be ticked whose screens hold data: those of a category, or of all of them.
+void OfferOverlayReports(const ScreenContext& context, Form& hub);
 void OfferTrafficReports(const ScreenContext& context, Form& hub);
+void OfferCostReport(const ScreenContext& context, Form& hub);
+void OfferReports(const ScreenContext& context, Form& hub);
+
+/// When the inputs that all routes share are closed, the reports of traffic follow these alone.
+void OfferTrafficReportsByInputs(const ScreenContext& context, Form& hub);
 
 /// The discount rate is computed, and the focus may rest on it.
 void LoadCostTab(Form& hub);

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <array>
 
-#include "shell/hub/hub.h"
 #include "shell/hub/offer.h"
 #include "shell/hub/screen_choice.h"
 #include "shell/hub/screen_data.h"
@@ -22,15 +21,7 @@ struct Route {
 constexpr std::array kRoutes = {Route{"AxleData", "TrAx"}, Route{"VehicleType", "TrVe"},
                                 Route{"TrafficFactor", "TrTr"}};
 
-constexpr const char* kSharedInputsScreen = "TrFa";
 constexpr const char* kInputsMissing = "needs the values of Pavement & Traffic Inputs";
-
-void SharedInputsClosed(ScreenContext& context, Form& /*form*/, Control* /*control*/) {
-    Form* hub = context.forms.Find(kHubForm);
-    if (hub == nullptr) return;
-    OfferTrafficRoutes(context, *hub);
-    OfferTrafficReports(context, *hub);
-}
 
 }  // namespace
 
@@ -46,14 +37,6 @@ HubPage TrafficTab() {
 bool TrafficInputsFilled(const ScreenContext& context) {
     return std::all_of(kSharedInputs.begin(), kSharedInputs.end(),
                        [&](const char* variable) { return IsFilled(context, variable); });
-}
-
-std::vector<FormType> WithRoutesOffered(std::vector<FormType> trafficForms) {
-    for (FormType& type : trafficForms) {
-        if (type.name != kSharedInputsScreen) continue;
-        type.handlers.push_back({FormEvent::Unload, "", HandlerOrder::After, SharedInputsClosed});
-    }
-    return trafficForms;
 }
 
 void OfferTrafficRoutes(const ScreenContext& context, Form& hub) {

@@ -22,7 +22,7 @@ void OfferDistribution(const ScreenContext& context, Form& form) {
     }
     Control& direction = *form.Find("TRDIRDIS");
     direction.enabled = total && twoWay;
-    direction.backColor = total && !twoWay ? colours::kResting : colours::kWindow;
+    if (total) direction.backColor = twoWay ? colours::kWindow : colours::kResting;
 }
 
 }  // namespace kelvor

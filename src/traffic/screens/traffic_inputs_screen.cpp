@@ -73,6 +73,13 @@ void PeriodPicked(ScreenContext& context, Form& form, Control* list) {
     context.bProjectChanged = true;
 }
 
+/// A text that is neither the day nor the month counts as the year.
+void PeriodLeft(ScreenContext& context, Form& form, Control* list) {
+    if (!form.fieldChanged() || list->text.empty() || CodeOf(list->words, list->text)) return;
+    list->text = CountPeriods().back().word;
+    PeriodPicked(context, form, list);
+}
+
 /// Help for an option is asked for like that for a field.
 void OptionFocused(ScreenContext& /*context*/, Form& form, Control* option) {
     if (option->IsChoice()) form.SetHiddenText("SolveForField", option->name);
@@ -124,6 +131,7 @@ FormType TrafficInputsForm() {
         {FormEvent::Load, "", HandlerOrder::After, Load},
         {FormEvent::Activate, "", HandlerOrder::After, Activated},
         {FormEvent::Change, "TrPer", HandlerOrder::After, PeriodPicked},
+        {FormEvent::LostFocus, "TrPer", HandlerOrder::Before, PeriodLeft},
         {FormEvent::GotFocus, "", HandlerOrder::After, OptionFocused},
         {FormEvent::Click, "SSHelp", HandlerOrder::Instead, HelpClick},
     };

@@ -126,11 +126,10 @@ LayoutNode VehicleLayout() {
 
 // --- What the screen does -----------------------------------------------------------------------------
 
-/// True if something of the vehicles was entered.
+/// True if something of the vehicles was entered; a type that was blanked is 0.
 bool HasVehicles(const ScreenContext& context, const Form& form) {
     for (const Field* field : context.catalogue.FieldsOfScreen(form.tag)) {
-        const CellValue* cell = context.calc.store.FindCell(field->name, 1, 1);
-        if (field->equation.empty() && cell != nullptr && cell->IsFilled()) return true;
+        if (field->equation.empty() && context.calc.store.GetVar(field->name) != 0.0) return true;
     }
     return false;
 }

@@ -318,5 +318,19 @@ TEST(TextTest, BlanksGoFromTheEndsAlone) {
               "a");
 }
 
+TEST(TextTest, CharactersOfSeveralBytesAreSteppedOverAsOne) {
+    const std::string_view text = "aü€𝄞";  // of 1, 2, 3 and 4 bytes
+    const std::size_t places[] = {0, 1, 3, 6, 10};
+    for (std::size_t i = 0; i + 1 < std::size(places); ++i) {
+        EXPECT_EQ(NextCharacter(text, places[i]), places[i + 1]);
+        EXPECT_EQ(PreviousCharacter(text, places[i + 1]), places[i]);
+    }
+    EXPECT_EQ(NextCharacter(text, text.size()), text.size());
+    EXPECT_EQ(PreviousCharacter(text, 0), 0U);
+    EXPECT_EQ(PreviousCharacter("ab", 99), 1U) << "a place behind the end is the end";
+    EXPECT_EQ(PreviousCharacter("", 5), 0U);
+    EXPECT_EQ(NextCharacter("\xFF\xFFz", 0), 1U) << "bytes that begin no character";
+}
+
 }  // namespace
 }  // namespace kelvor::test

@@ -7,6 +7,7 @@
 #include <map>
 
 #include "forms/layout.h"
+#include "shell/hub/hub.h"
 #include "support/project_fixture.h"
 
 namespace kelvor::test {
@@ -37,7 +38,11 @@ class HubTest : public ProjectTest {
             type.layout = Rows({Buttons({{"cmdAction", "&OK"}})});
             State().formRegistry.Declare({type});
         }
+        OfferAgain();
     }
+
+    /// As after a start with the screens that are declared by now.
+    void OfferAgain() { OfferProject(State().MakeScreenContext(), Hub()); }
 
     void DeclareOverlays() { Declare({"OvAA", "OvAFP", "OvAP", "OvAAP", "OvBP", "OvUP", "OvWT"}); }
 
@@ -151,6 +156,7 @@ TEST_F(HubTest, BothPavementsHaveTheSameScreenWithTheirOwnNumber) {
     costs.tag = "DeF";
     costs.layout = Rows({Buttons({{"cmdAction", "&OK"}}), Hidden({"Dim2"})});
     State().formRegistry.Declare({costs});
+    OfferAgain();
     SwitchTo(4);
     Choose("oLcA2");
     Press("Command2");
@@ -189,6 +195,9 @@ TEST_F(HubTest, OverlaysFollowTheProjectAtNewOpenAndWhenAScreenCloses) {
     Enter("EXISTRM", "5000");
     Run().Raise({UserEvent::Kind::OpenForm, "DeF", {}, 0});
     Run().Raise({UserEvent::Kind::CloseForm, "DeF", {}, 0});
+    EXPECT_THAT(Enabled(kOverlays), IsEmpty()) << "only the screens that decide it count";
+    Run().Raise({UserEvent::Kind::OpenForm, "DeR", {}, 0});
+    Run().Raise({UserEvent::Kind::CloseForm, "DeR", {}, 0});
     EXPECT_THAT(Enabled(kOverlays), ElementsAre("oOvAA", "oOvWT"));
     ASSERT_TRUE(Run().SaveAs(File("road.kvr")));
     ASSERT_TRUE(Run().NewProject());
@@ -207,6 +216,30 @@ TEST_F(HubTest, TheRoutesToTheEsalsNeedAllSixSharedInputs) {
     }
     SwitchTo(1);
     EXPECT_EQ(Enabled(routes), routes);
+}
+
+TEST_F(HubTest, TheRoutesFollowTheInputsWhenTheseAreClosedAndNotBefore) {
+    const std::vector<std::string> routes = {"AxleData", "VehicleType", "TrafficFactor"};
+    const std::vector<std::string> boxes = {"rbTRopTrAx", "rbTRopTrVe", "rbTRopTrTr"};
+    SwitchTo(1);
+    Run().Raise({UserEvent::Kind::OpenForm, "TrFa", {}, 0});
+    EnterSharedInputs();
+    Run().Raise({UserEvent::Kind::ActivateForm, "TabForm", {}, 0});
+    EXPECT_THAT(Enabled(routes), IsEmpty()) << "the screen is still open";
+    Run().Raise({UserEvent::Kind::CloseForm, "TrFa", {}, 0});
+    EXPECT_EQ(Enabled(routes), routes);
+    EXPECT_EQ(Enabled(boxes), boxes) << "set with the routes, whatever their screens hold";
+    Enter("Life", "");
+    Run().Raise({UserEvent::Kind::OpenForm, "TrTr", {}, 0});
+    Run().Raise({UserEvent::Kind::CloseForm, "TrTr", {}, 0});
+    SwitchTo(2);
+    EXPECT_EQ(Enabled(routes), routes);
+    EXPECT_EQ(Enabled(boxes), boxes) << "no other tab decides";
+    Enter("Life", "20");
+    SwitchTo(1);
+    EXPECT_EQ(Enabled(routes), routes);
+    EXPECT_THAT(Enabled(boxes), ElementsAre("rbTRopTrTr"))
+        << "whose screen shows the life and the growth rate";
 }
 
 // --- Report boxes ----------------------------------------------------------------------------------

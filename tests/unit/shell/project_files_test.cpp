@@ -102,7 +102,8 @@ TEST_F(ProjectFilesTest, NoFileStaysBesideAProjectOrTheWorkCopy) {
     ASSERT_TRUE(Run().SaveAs(File("plan.kvr")));
     EXPECT_THAT(NamesIn(folder_.path()), ElementsAre("plan.kvr"));
     EXPECT_THAT(NamesIn(program_.home.path()),
-                ElementsAre("DataBase", "kvor.ini", "kvrwork.lck", "kvrwork.tmp", "kvrwork.tpl"));
+                ElementsAre("DataBase", "Projects", "kvor.ini", "kvrwork.lck", "kvrwork.tmp", "kvrwork.tpl"))
+        << "and the folder for projects, which Save As makes";
     EXPECT_THAT(NamesIn(program_.home / "DataBase"), ElementsAre("Kelvor.mdb", "custom.tpl"));
 }
 
@@ -157,6 +158,23 @@ TEST_F(ProjectFilesTest, AProjectNamedByARelativePathIsKnownByItsFullPath) {
     EXPECT_TRUE(std::filesystem::equivalent(State().sProjectFile, File("plan.kvr")));
     EXPECT_EQ(State().caption, "KVR - " + State().sProjectFile);
     EXPECT_THAT(RecentPaths(State()), ElementsAre(State().sProjectFile));
+}
+
+TEST_F(ProjectFilesTest, AFileHasOnePathHoweverItIsNamed) {
+    std::filesystem::create_directories(File("roads/north"));
+    const std::string plain = File("roads/plan.kvr");
+    ASSERT_TRUE(Run().SaveAs(plain));
+    for (const char* name : {"roads/./plan.kvr", "roads/north/../plan.kvr", "./roads//plan.kvr"}) {
+        ASSERT_TRUE(Run().OpenProject(File(name))) << name;
+        EXPECT_EQ(State().sProjectFile, plain) << name;
+    }
+    EXPECT_THAT(RecentPaths(State()), ElementsAre(plain));
+    // Behind a link, ".." is the folder above the one that the link means.
+    std::filesystem::create_directories(File("elsewhere/deep"));
+    std::filesystem::create_symlink(File("elsewhere/deep"), File("roads/link"));
+    ASSERT_TRUE(Run().SaveAs(File("roads/link/../plan.kvr")));
+    EXPECT_TRUE(std::filesystem::exists(File("elsewhere/plan.kvr")));
+    EXPECT_TRUE(std::filesystem::equivalent(State().sProjectFile, File("elsewhere/plan.kvr")));
 }
 
 // --- Links, folders and other targets ------------------------------------------------------------
@@ -419,7 +437,7 @@ TEST_F(ProjectFilesTest, OnlyMinusOneMeansMetric) {
 
 TEST_F(ProjectFilesTest, TheOpenDialogStartsInTheProjectsFolderWithItsFilter) {
     ASSERT_TRUE(Run().SaveAs(File("plan.kvr")));
-    ASSERT_FALSE(std::filesystem::exists(program_.home / "Projects"));
+    std::filesystem::remove(program_.home / "Projects");
     program_.host.dialogs.QueueAnswer(File("plan.kvr"));
     EXPECT_TRUE(files_.OpenProjectDialog());
     EXPECT_TRUE(std::filesystem::is_directory(program_.home / "Projects"));
