@@ -1,5 +1,6 @@
 #include "desktop/help_window.h"
 
+#include <QEvent>
 #include <QHelpContentWidget>
 #include <QHelpIndexWidget>
 #include <QHelpLink>
@@ -13,6 +14,7 @@
 
 #include "desktop/app_icon.h"
 #include "desktop/qt_text.h"
+#include "desktop/theme.h"
 
 namespace kelvor {
 
@@ -20,18 +22,34 @@ namespace {
 
 const char* const kPages = "qthelp://kelvor.help/help/";
 const char* const kContents = "index.html";
-constexpr int kColumns = 120;
+constexpr int kColumns = 138;
 constexpr int kLines = 36;
-constexpr int kTabColumns = 42;
+constexpr int kTabColumns = 58;
+
+/// Links in a blue that can be read on the ground of the palette, whatever blue the palette has for them.
+void ShowLinksReadable(QTextBrowser& text) {
+    const QColor blue = ScreenTextColour(colours::kBlue, text.palette());
+    text.document()->setDefaultStyleSheet(QStringLiteral("a { color: %1; }").arg(blue.name()));
+}
 
 /// Reads the pages out of the help file.
 class HelpBrowser : public QTextBrowser {
   public:
-    HelpBrowser(QHelpEngine& engine, QWidget* parent) : QTextBrowser(parent), engine_(engine) {}
+    HelpBrowser(QHelpEngine& engine, QWidget* parent) : QTextBrowser(parent), engine_(engine) {
+        ShowLinksReadable(*this);
+    }
 
     QVariant loadResource(int type, const QUrl& name) override {
         if (name.scheme() == QStringLiteral("qthelp")) return engine_.fileData(name);
         return QTextBrowser::loadResource(type, name);
+    }
+
+  protected:
+    void changeEvent(QEvent* event) override {
+        QTextBrowser::changeEvent(event);
+        if (event->type() != QEvent::PaletteChange) return;
+        ShowLinksReadable(*this);
+        reload();
     }
 
   private:
@@ -97,6 +115,7 @@ void HelpWindow::MakeSearch() {
             [search] { search->search(search->queryWidget()->searchInput()); });
     connect(search->resultWidget(), &QHelpSearchResultWidget::requestShowLink, text_,
             [this](const QUrl& found) { text_->setSource(found); });
+    if (auto* results = search->resultWidget()->findChild<QTextBrowser*>()) ShowLinksReadable(*results);
     search->scheduleIndexDocumentation();
 }
 

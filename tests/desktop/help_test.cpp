@@ -8,10 +8,13 @@
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTextBlock>
 #include <QTimer>
 
 #include "desktop/desktop_fixture.h"
 #include "desktop/help_window.h"
+#include "desktop/layout_audit.h"
+#include "desktop/palettes.h"
 
 namespace kelvor::test {
 namespace {
@@ -123,6 +126,31 @@ TEST_F(HelpTest, TheIndexAndTheSearchFindAWord) {
     ASSERT_TRUE(found.count() > 0 || found.wait(10000));
     ASSERT_EQ(search->searchResultCount(), 1);
     EXPECT_EQ(search->searchResults(0, 1).constFirst().url().fileName(), "TabForm6.html");
+}
+
+/// The colours of all links on the page that shows.
+QList<QColor> LinkColours(const HelpWindow& help) {
+    QList<QColor> colours;
+    const QTextDocument& page = *help.findChild<QTextBrowser*>()->document();
+    for (QTextBlock block = page.begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            const QTextCharFormat format = part.fragment().charFormat();
+            if (format.isAnchor() && !format.anchorHref().isEmpty()) colours << format.foreground().color();
+        }
+    }
+    return colours;
+}
+
+TEST_F(HelpTest, LinksCanBeReadInLightAndDarkAlsoAfterAChange) {
+    for (const QPalette& palette : {DarkPalette(), LightPalette(), DarkPalette()}) {
+        QApplication::setPalette(palette);
+        window().FindAction("MenuTopics")->trigger();
+        QApplication::processEvents();
+        const QList<QColor> links = LinkColours(*desktop.helpWindow());
+        EXPECT_GT(links.size(), 10);
+        for (const QColor& link : links) EXPECT_GE(ContrastRatio(link, palette.color(QPalette::Base)), 4.5);
+    }
+    QApplication::setPalette(LightPalette());
 }
 
 TEST(HelpFileTest, AMissingOrBrokenHelpFileIsNotTold) {
