@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "design/calc/dispatch.h"
+#include "calc/dispatch.h"
 #include "platform/real.h"
 #include "support/test_host.h"
 

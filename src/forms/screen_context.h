@@ -1,9 +1,9 @@
 #pragma once
 
+#include "calc/calc_context.h"
+#include "calc/dispatch.h"
 #include "catalogue/catalogue.h"
 #include "catalogue/list_database.h"
-#include "design/calc/calc_context.h"
-#include "design/calc/dispatch.h"
 #include "forms/balance_flags.h"
 #include "forms/form_registry.h"
 #include "units/units.h"

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <compare>
+#include <numbers>
 #include <stdexcept>
 
 namespace kelvor {
@@ -45,6 +46,9 @@ class Real {
 
     double value_ = 0.0;
 };
+
+/// The natural logarithm of 10. Every common logarithm is a natural one divided by it.
+inline constexpr double Ln10 = std::numbers::ln10;
 
 /// Natural logarithm; a fault for zero and below.
 Real Log(Real x);

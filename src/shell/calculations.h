@@ -3,7 +3,7 @@
 #include <span>
 #include <string_view>
 
-#include "design/calc/dispatch.h"
+#include "calc/dispatch.h"
 
 namespace kelvor {
 

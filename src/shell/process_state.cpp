@@ -19,12 +19,12 @@ void ProcessState::OpenCatalogue(const Path& path) {
 }
 
 CalcContext ProcessState::MakeCalcContext() {
-    return {dbWork, *units, host.dialogs, host.clock, reliability, forms};
+    return {dbWork, *units, host.dialogs, host.clock, reliability, formValues};
 }
 
 ScreenContext ProcessState::MakeScreenContext() {
     return {MakeCalcContext(), *dbCatalogue,    *units,    calculations, formRegistry,
-            balance,           bProjectChanged, *dbCustom, forms};
+            balance,           bProjectChanged, *dbCustom, formValues};
 }
 
 }  // namespace kelvor

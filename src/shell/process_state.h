@@ -5,10 +5,11 @@
 #include <string>
 #include <vector>
 
+#include "calc/calc_context.h"
+#include "calc/dispatch.h"
 #include "catalogue/catalogue.h"
 #include "catalogue/list_database.h"
-#include "design/calc/calc_context.h"
-#include "design/calc/dispatch.h"
+#include "design/calc/reliability.h"
 #include "forms/screen_context.h"
 #include "platform/file_lock.h"
 #include "platform/host.h"
@@ -55,7 +56,7 @@ struct ProcessState {
     std::vector<RecentMenuItem> recentMenu;  // what the menu shows; the table is read when it changes
 
     ReliabilityState reliability;
-    FormValues forms;
+    FormValues formValues;
     Dispatch calculations;
 
     FormRegistry formRegistry;  // holds CurrentForm

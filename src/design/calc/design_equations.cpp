@@ -1,5 +1,8 @@
 #include "design/calc/design_equations.h"
 
+#include "calc/calc_messages.h"
+#include "design/calc/reliability.h"
+
 namespace kelvor {
 
 namespace {

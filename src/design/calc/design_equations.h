@@ -1,16 +1,12 @@
 #pragma once
 
 #include <array>
-#include <numbers>
 #include <string_view>
 
-#include "design/calc/calc_context.h"
+#include "calc/calc_context.h"
 #include "platform/real.h"
 
 namespace kelvor {
-
-/// The natural logarithm of 10. Every common logarithm is a natural one divided by it.
-inline constexpr double Ln10 = std::numbers::ln10;
 
 /// The cells from which the flexible design equation reads its inputs.
 struct FlexibleInputs {

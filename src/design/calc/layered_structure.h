@@ -1,6 +1,6 @@
 #pragma once
 
-#include "design/calc/dispatch.h"
+#include "calc/dispatch.h"
 
 namespace kelvor {
 

@@ -3,6 +3,8 @@
 #include <array>
 #include <cstddef>
 
+#include "calc/calc_messages.h"
+
 namespace kelvor {
 
 namespace {
@@ -77,14 +79,6 @@ int ZRToReliability(Dialogs& dialogs, Real& reliability, Real zr) {
         ReportMathOverflow(dialogs);
         return -1;
     }
-}
-
-void ReportMathOverflow(Dialogs& dialogs) {
-    dialogs.ShowMessage({.text = "Math Overflow Error: One or more values out of range."});
-}
-
-void ReportOutsideBounds(Dialogs& dialogs) {
-    dialogs.ShowMessage({.text = "Inputs outside of Equation Bounds!"});
 }
 
 }  // namespace kelvor

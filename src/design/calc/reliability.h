@@ -32,10 +32,4 @@ void ReliabilityToZR(ReliabilityInterval& interval, Dialogs& dialogs, Real relia
 /// reliability between 75 and 80 does not come back as it was.
 int ZRToReliability(Dialogs& dialogs, Real& reliability, Real zr);
 
-/// Shows that an equation had a value out of its range.
-void ReportMathOverflow(Dialogs& dialogs);
-
-/// Shows that the inputs lie outside of what an equation can answer.
-void ReportOutsideBounds(Dialogs& dialogs);
-
 }  // namespace kelvor

@@ -1,5 +1,5 @@
+#include "calc/clamp.h"
 #include "design/calc/bracket_search.h"
-#include "design/calc/clamp.h"
 #include "design/calc/design_equations.h"
 #include "design/calc/solve_for.h"
 #include "design/calc/solver_steps.h"

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <string_view>
 
-#include "design/calc/calc_context.h"
+#include "calc/calc_context.h"
 
 namespace kelvor {
 

@@ -5,7 +5,9 @@
 #include <functional>
 #include <string_view>
 
-#include "design/calc/calc_context.h"
+#include "calc/calc_context.h"
+#include "calc/calc_messages.h"
+#include "design/calc/reliability.h"
 #include "platform/real.h"
 
 namespace kelvor {

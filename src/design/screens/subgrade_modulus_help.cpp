@@ -5,7 +5,7 @@
 #include <optional>
 #include <utility>
 
-#include "design/calc/reliability.h"
+#include "calc/calc_messages.h"
 #include "design/calc/subgrade_modulus.h"
 #include "forms/field_entry.h"
 #include "forms/form.h"

@@ -4,8 +4,6 @@
 #include <limits>
 #include <string>
 
-#include "design/calc/design_equations.h"
-
 namespace kelvor {
 
 namespace {

@@ -8,7 +8,7 @@ namespace {
 
 Real TrucksOfDay(const CalcContext& context) {
     const ProjectStore& store = context.store;
-    if (context.forms.trafficInTrucks) return store.GetVar("TrInADTT");
+    if (context.values.trafficInTrucks) return store.GetVar("TrInADTT");
     return store.GetVar("TrInADT") * (store.GetVar("TrInPerTruck") / Real(100.0));
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "design/calc/calc_context.h"
+#include "calc/calc_context.h"
 
 namespace kelvor {
 

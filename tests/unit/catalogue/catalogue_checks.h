@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "calc/dispatch.h"
 #include "catalogue/catalogue.h"
-#include "design/calc/dispatch.h"
 
 namespace kelvor::test {
 

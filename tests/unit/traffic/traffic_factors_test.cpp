@@ -15,7 +15,7 @@ class TrafficFactorsTest : public TrafficTest {
         Set("TrInRESAL", 0.75);
     }
 
-    void ChooseTrucks(bool trucks) { program_.program.state().forms.trafficInTrucks = trucks; }
+    void ChooseTrucks(bool trucks) { program_.program.state().formValues.trafficInTrucks = trucks; }
 
     void CalcTotals() {
         program_.program.CalcField("FLEXE18", "TrFE18tt");

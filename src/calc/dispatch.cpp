@@ -1,4 +1,4 @@
-#include "design/calc/dispatch.h"
+#include "calc/dispatch.h"
 
 #include <algorithm>
 #include <stdexcept>

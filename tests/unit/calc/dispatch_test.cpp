@@ -1,4 +1,4 @@
-#include "design/calc/dispatch.h"
+#include "calc/dispatch.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -7,7 +7,7 @@
 #include <array>
 #include <stdexcept>
 
-#include "design/calc/clamp.h"
+#include "calc/clamp.h"
 #include "shell/calculations.h"
 #include "support/test_host.h"
 

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "design/calc/reliability.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "store/project_store.h"
 #include "units/units.h"
 
 namespace kelvor {
+
+struct ReliabilityState;
 
 /// Plain values that screens leave for the calculations which ask for them.
 struct FormValues {
@@ -22,7 +23,7 @@ struct CalcContext {
     Dialogs& dialogs;
     Clock& clock;
     ReliabilityState& reliability;
-    const FormValues& forms;
+    const FormValues& values;
 };
 
 }  // namespace kelvor

@@ -1,4 +1,4 @@
-#include "design/calc/clamp.h"
+#include "calc/clamp.h"
 
 namespace kelvor {
 

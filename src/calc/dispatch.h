@@ -6,7 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "design/calc/calc_context.h"
+#include "calc/calc_context.h"
 
 namespace kelvor {
 
