@@ -1,8 +1,8 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 
-#include "forms/balance_state.h"
 #include "forms/form.h"
+#include "forms/recalculation.h"
 #include "support/test_host.h"
 
 namespace kelvor {

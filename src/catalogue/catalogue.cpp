@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "catalogue/schema.h"
+#include "platform/number_picture.h"
 
 namespace kelvor {
 
@@ -40,7 +41,7 @@ const Row* FindNamed(const std::vector<Row>& rows, std::string Row::*member, std
 
 bool Variable::IsText() const {
     const bool hasLimit = high || low || highMetric || lowMetric;
-    return (format.empty() || format == "@") && !hasLimit;
+    return IsTextPicture(format) && !hasLimit;
 }
 
 Catalogue::Catalogue(const Path& path) : database_(OpenCatalogue(path)) {

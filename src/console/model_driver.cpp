@@ -1,12 +1,10 @@
 #include "console/model_driver.h"
 
-#include <algorithm>
-#include <charconv>
-#include <cstdint>
 #include <optional>
 
 #include "console/script/command_line.h"
 #include "design/calc/equation_screens.h"
+#include "platform/number_text.h"
 #include "platform/text.h"
 
 namespace kelvor {
@@ -17,13 +15,6 @@ const char* const kNoNewProject = "no new project can be made";
 
 /// The longest text that a cell takes; a project with a longer one could not be saved.
 constexpr std::size_t kLongestText = 1024UL * 1024UL;
-
-std::optional<int> WholeNumber(const std::string& text) {
-    std::int16_t value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
-    return value;
-}
 
 /// What is chosen: whether an option is, which tab shows, or a text.
 PropertyValue ValueOf(const Form& form, const Control& control) {
@@ -82,7 +73,7 @@ void ModelDriver::CalcCell(const std::string& key, int dim1, int dim2, const std
 }
 
 int ModelDriver::FindTerm(const std::string& screen, const std::string& term) {
-    if (const auto number = WholeNumber(term)) {
+    if (const auto number = ParseSubscript(term)) {
         const int last = LastTerm(screen);
         if (last > 0 && (*number < 1 || *number > last)) {
             throw ScriptError(screen + " has terms 1 to " + std::to_string(last));
@@ -175,10 +166,9 @@ void ModelDriver::ChooseMenu(const std::string& name, int index) {
 }
 
 const GridData& ModelDriver::FindGrid() {
-    for (const auto& control : CurrentForm().controls()) {
-        if (control->grid) return *control->grid;
-    }
-    throw ScriptError(CurrentForm().name() + " has no grid");
+    const Control* grid = CurrentForm().FindGrid();
+    if (grid == nullptr) throw ScriptError(CurrentForm().name() + " has no grid");
+    return *grid->grid;
 }
 
 void ModelDriver::CheckRow(int row) {

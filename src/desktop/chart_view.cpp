@@ -18,7 +18,7 @@ constexpr qreal kLineWidth = 2.0;
 
 QValueAxis* MakeAxis(const ChartAxis& axis) {
     auto* made = new QValueAxis;
-    made->setTitleText(ToQt(axis.title));
+    made->setTitleText(ToQt(axis.title).replace(u' ', QChar::Nbsp));  // which a rich text keeps
     QFont font = made->titleFont();
     font.setBold(false);
     made->setTitleFont(font);
@@ -26,7 +26,9 @@ QValueAxis* MakeAxis(const ChartAxis& axis) {
     made->setTickType(QValueAxis::TicksDynamic);
     made->setTickAnchor(axis.least);
     made->setTickInterval(axis.step);
-    made->setLabelFormat(axis.picture == "0" ? QStringLiteral("%.0f") : QStringLiteral("%.1f"));
+    const std::size_t point = axis.picture.find('.');
+    const std::size_t places = point == std::string::npos ? 0 : axis.picture.size() - point - 1;
+    made->setLabelFormat(QStringLiteral("%.%1f").arg(places));
     return made;
 }
 

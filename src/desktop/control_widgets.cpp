@@ -17,6 +17,7 @@
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
 #include "forms/form_builder.h"
+#include "platform/number_picture.h"
 
 namespace kelvor {
 
@@ -33,15 +34,13 @@ constexpr int kLongestText = 1 << 24;
 const char* const kWidestIndicator = "Press Solve For to Recalculate";
 constexpr int kIndicatorLines = 4;
 
-bool IsTextField(const Control& control) { return control.picture.empty() || control.picture == "@"; }
-
 bool IsIndicator(const Control& control) {
     return control.kind == ControlKind::Label && control.tag == "SolveFor";
 }
 
 qsizetype PlacesOf(const Control& control) {
     if (control.letters > 0.0) return static_cast<qsizetype>(control.letters);
-    if (IsTextField(control)) return kPlacesOfText;
+    if (IsTextPicture(control.picture)) return kPlacesOfText;
     return std::max(static_cast<qsizetype>(control.picture.size()), kFewestPlaces);
 }
 
@@ -54,7 +53,7 @@ int BoxWidth(const Control& control, const QWidget& box) {
 QWidget* MakeTextBox(const Control& control, QWidget* parent) {
     auto* box = new QLineEdit(parent);
     box->setMinimumWidth(BoxWidth(control, *box));
-    box->setAlignment((IsTextField(control) ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+    box->setAlignment((IsTextPicture(control.picture) ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
     box->setMaxLength(kLongestText);
     box->setAcceptDrops(false);  // a text dropped on a field without the focus would be nobody's edit
     return box;

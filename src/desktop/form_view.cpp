@@ -8,6 +8,7 @@
 #include <QMetaObject>
 #include <QMouseEvent>
 #include <QTabBar>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/chart_view.h"
@@ -205,6 +206,9 @@ void FormView::SyncFocus() {
     const bool inside =
         focus != nullptr && widget != this && widget->isAncestorOf(focus);  // a cell is edited
     if (!widget->hasFocus() && !inside) widget->setFocus(Qt::OtherFocusReason);
+    // The keys that move the focus never reach the toolkit, which would begin to draw it at the first of
+    // them.
+    window()->setAttribute(Qt::WA_KeyboardFocusChange);
     auto* box = qobject_cast<QLineEdit*>(widget);
     if (moved && box != nullptr) box->selectAll();
 }
@@ -326,6 +330,19 @@ bool FormView::HandleTabKey(const QKeyEvent& key) {
     return true;
 }
 
+/// Empties every cell of a block that is marked, but computed ones. False if no more than one cell is.
+bool FormView::EmptyMarkedCells(const Control& control, const GridView& grid) {
+    QModelIndexList marked = grid.selectionModel()->selectedIndexes();
+    if (marked.size() < 2) return false;
+    std::sort(marked.begin(), marked.end());
+    for (const QModelIndex& cell : marked) {
+        const GridColumn& column = control.grid->columns[static_cast<std::size_t>(cell.column())];
+        if (!column.locked) Raise(UserEvent::Kind::EditCell, column.variable, {}, cell.row() + 1);
+        if (form_ == nullptr) break;
+    }
+    return true;
+}
+
 /// In a grid the table itself moves by the arrows; in the line of a cell, up and down leave the cell.
 bool FormView::HandleGridKey(const Control& control, const QKeyEvent& key) {
     const auto* grid = dynamic_cast<const GridView*>(widgets_.value(&control));
@@ -336,7 +353,10 @@ bool FormView::HandleGridKey(const Control& control, const QKeyEvent& key) {
     if (IsAccessKey(key) || HandleTabKey(key)) return HandleKey(key);
     if (IsLetterWithAlt(key)) return true;
     if (!IsPlain(key)) return false;
-    if (name == nullptr && key.key() == Qt::Key_Delete && !editing) name = "Delete";
+    if (name == nullptr && key.key() == Qt::Key_Delete && !editing) {
+        if (EmptyMarkedCells(control, *grid)) return true;
+        name = "Delete";
+    }
     const bool leaves = key.key() == Qt::Key_Up || key.key() == Qt::Key_Down;
     if (name == nullptr && editing && !list && leaves) name = KeyNameOutsideBox(key.key());
     if (name == nullptr && !IsLetterOfWord(control, key)) return false;

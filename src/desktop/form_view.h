@@ -11,6 +11,8 @@
 
 namespace kelvor {
 
+class GridView;
+
 /// The window of one form, whichever it is: a widget for each control, laid out by the form's declaration.
 /// It mirrors the model and turns what the user does into events; it decides nothing. The model owns the
 /// focus: a widget that would take it asks the model first.
@@ -58,6 +60,7 @@ class FormView : public QWidget {
 
     /// Handles a key that is the model's; false if it is the widget's own.
     bool HandleKey(const QKeyEvent& key);
+    bool EmptyMarkedCells(const Control& control, const GridView& grid);
     bool HandleGridKey(const Control& control, const QKeyEvent& key);
     void CloseCellEditor(const Control& control);
     bool HandleTabKey(const QKeyEvent& key);

@@ -15,6 +15,7 @@
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
 #include "forms/cell_block.h"
+#include "platform/number_picture.h"
 
 namespace kelvor {
 
@@ -31,11 +32,9 @@ QString HeadingOf(const GridColumn& column) {
     return column.unit.empty() ? caption : caption + "\n" + ToQt(column.unit);
 }
 
-bool IsText(const GridColumn& column) { return column.picture.empty() || column.picture == "@"; }
-
 int LettersOf(const GridColumn& column) {
     if (column.letters > 0.0) return qRound(column.letters);
-    return (IsText(column) ? kLettersOfText : kLettersOfNumber) + 2;
+    return (IsTextPicture(column.picture) ? kLettersOfText : kLettersOfNumber) + 2;
 }
 
 }  // namespace
@@ -59,20 +58,29 @@ void CellModel::Refresh() {
     }
 }
 
+/// What is being typed shows in its cell, also while the line in which it is typed is closed.
+std::string CellModel::ShownText(const QModelIndex& index) const {
+    const GridData& grid = *control_.grid;
+    const bool isCursor = index.row() + 1 == grid.row && index.column() == static_cast<int>(grid.column);
+    if (isCursor && grid.typed) return *grid.typed;
+    return hooks_.read(index.row() + 1, ColumnAt(index.column()));
+}
+
 QVariant CellModel::data(const QModelIndex& index, int role) const {
     const GridColumn& column = ColumnAt(index.column());
     switch (role) {
         case Qt::DisplayRole:
         case Qt::EditRole:
-            return ToQt(hooks_.read(index.row() + 1, column));
+            return ToQt(ShownText(index));
         case Qt::TextAlignmentRole:
-            return QVariant::fromValue((IsText(column) ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+            return QVariant::fromValue((IsTextPicture(column.picture) ? Qt::AlignLeft : Qt::AlignRight) |
+                                       Qt::AlignVCenter);
         case Qt::BackgroundRole:
             return column.locked ? QVariant(ScreenColour(colours::kLightCyan, QPalette())) : QVariant();
         case Qt::ToolTipRole:
             return ToQt(column.hint);
         case Qt::AccessibleTextRole:
-            return ToQt(column.caption) + " " + ToQt(hooks_.read(index.row() + 1, column));
+            return ToQt(column.caption) + " " + ToQt(ShownText(index));
         default:
             return {};
     }
@@ -116,9 +124,17 @@ class GridView::Delegate : public QStyledItemDelegate {
                       const QModelIndex& /*index*/) const override {}
 
   protected:
-    /// Keys are the form's: they move the cursor of the model.
+    /// Keys are the form's: they move the cursor of the model. A menu or another window only borrows the
+    /// focus.
     bool eventFilter(QObject* editor, QEvent* event) override {
-        return event->type() != QEvent::KeyPress && QStyledItemDelegate::eventFilter(editor, event);
+        if (event->type() == QEvent::KeyPress) return false;
+        if (event->type() == QEvent::FocusOut) {
+            const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+            const bool borrowed = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+                                  reason == Qt::MenuBarFocusReason;
+            if (borrowed) return false;
+        }
+        return QStyledItemDelegate::eventFilter(editor, event);
     }
 
   private:
@@ -126,7 +142,7 @@ class GridView::Delegate : public QStyledItemDelegate {
         auto* line = new QLineEdit(parent);
         line->setFrame(false);
         line->setAcceptDrops(false);
-        line->setAlignment(IsText(column) ? Qt::AlignLeft : Qt::AlignRight);
+        line->setAlignment(IsTextPicture(column.picture) ? Qt::AlignLeft : Qt::AlignRight);
         connect(line, &QLineEdit::textEdited, line,
                 [this](const QString& text) { view_.hooks_.type(FromQt(text)); });
         return line;
@@ -157,7 +173,7 @@ GridView::GridView(const Control& control, GridHooks hooks, QWidget* parent)
     horizontalHeader()->setDefaultAlignment(Qt::AlignCenter | Qt::Alignment(Qt::TextWordWrap));
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setStretchLastSection(control.grid->texts.has_value());
+    horizontalHeader()->setStretchLastSection(true);
     verticalHeader()->setSectionsClickable(false);
     SizeColumns();
 }
@@ -197,6 +213,10 @@ void GridView::Show() {
     if (moved || taken) EndEdit();
     typedInEditor_ = grid.typed.has_value();
     if (moved) setCurrentIndex(cursor);
+    if (moved && cursor.isValid()) {
+        updateGeometries();  // rows that were added lengthen the way
+        scrollTo(cursor);
+    }
     emit cells_.headerDataChanged(Qt::Horizontal, 0, cells_.columnCount() - 1);
     showing_ = false;
 }
@@ -211,8 +231,7 @@ void GridView::EndEdit() {
     editor_.clear();
 }
 
-// --- Keys and clicks
-// ----------------------------------------------------------------------------------------
+// --- Keys and clicks ---------------------------------------------------------------------------------
 
 void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTableView::currentChanged(current, previous);

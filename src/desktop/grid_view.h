@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QStyledItemDelegate>
 #include <QTableView>
+#include <cstddef>
 #include <functional>
 #include <string>
 
@@ -40,6 +41,8 @@ class CellModel : public QAbstractTableModel {
     }
 
   private:
+    [[nodiscard]] std::string ShownText(const QModelIndex& index) const;
+
     const Control& control_;
     const GridHooks& hooks_;
     int shownRows_ = control_.grid->rows;

@@ -8,6 +8,7 @@
 #include <QHelpSearchQueryWidget>
 #include <QHelpSearchResultWidget>
 #include <QLineEdit>
+#include <QShortcut>
 #include <QSplitter>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -78,6 +79,9 @@ HelpWindow::HelpWindow()
     resize(kColumns * letter, kLines * fontMetrics().lineSpacing());
 }
 
+/// The pages go first: they are read out of the engine as long as they are shown.
+HelpWindow::~HelpWindow() { delete takeCentralWidget(); }
+
 std::unique_ptr<HelpWindow> HelpWindow::Open(const Path& file) {
     std::unique_ptr<HelpWindow> window(new HelpWindow);
     if (!window->Load(file)) return nullptr;
@@ -92,7 +96,7 @@ bool HelpWindow::Load(const Path& file) {
 
 void HelpWindow::MakeTabs() {
     tabs_->addTab(engine_.contentWidget(), QStringLiteral("&Contents"));
-    tabs_->addTab(engine_.indexWidget(), QStringLiteral("&Index"));
+    MakeIndex();
     connect(engine_.contentWidget(), &QHelpContentWidget::linkActivated, text_,
             [this](const QUrl& page) { text_->setSource(page); });
     connect(engine_.contentModel(), &QHelpContentModel::contentsCreated, engine_.contentWidget(),
@@ -100,8 +104,31 @@ void HelpWindow::MakeTabs() {
     connect(engine_.indexWidget(), &QHelpIndexWidget::documentActivated, text_,
             [this](const QHelpLink& link) { text_->setSource(link.url); });
     MakeSearch();
-    AddTool(QStringLiteral("&Back"), QKeySequence::Back, &QTextBrowser::backward);
-    AddTool(QStringLiteral("&Forward"), QKeySequence::Forward, &QTextBrowser::forward);
+    QAction* back = AddTool(QStringLiteral("&Back"), QKeySequence::Back, &QTextBrowser::backward);
+    QAction* forward = AddTool(QStringLiteral("&Forward"), QKeySequence::Forward, &QTextBrowser::forward);
+    connect(text_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
+    connect(text_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
+    // Whoever opens the index or the search wants to type a word.
+    connect(tabs_, &QTabWidget::currentChanged, this, [this] {
+        if (auto* word = tabs_->currentWidget()->findChild<QLineEdit*>()) word->setFocus();
+    });
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+}
+
+/// A word typed above the index leaves its entries that hold it; Enter shows the first.
+void HelpWindow::MakeIndex() {
+    QHelpIndexWidget* index = engine_.indexWidget();
+    auto* page = new QWidget(this);
+    auto* rows = new QVBoxLayout(page);
+    auto* word = new QLineEdit(page);
+    word->setPlaceholderText(QStringLiteral("Look up"));
+    word->setAccessibleName(QStringLiteral("Look up in the index"));
+    rows->addWidget(word);
+    rows->addWidget(index, 1);
+    connect(word, &QLineEdit::textEdited, index,
+            [index](const QString& text) { index->filterIndices(text); });
+    connect(word, &QLineEdit::returnPressed, index, &QHelpIndexWidget::activateCurrentItem);
+    tabs_->addTab(page, QStringLiteral("&Index"));
 }
 
 void HelpWindow::MakeSearch() {
@@ -119,13 +146,15 @@ void HelpWindow::MakeSearch() {
     search->scheduleIndexDocumentation();
 }
 
-void HelpWindow::AddTool(const QString& caption, const QKeySequence& key, void (QTextBrowser::*act)()) {
-    QToolBar* bar = findChild<QToolBar*>();
+QAction* HelpWindow::AddTool(const QString& caption, const QKeySequence& key, void (QTextBrowser::*act)()) {
+    auto* bar = findChild<QToolBar*>();
     if (bar == nullptr) bar = addToolBar(QStringLiteral("Pages"));
     bar->setMovable(false);
     QAction* action = bar->addAction(caption);
     action->setShortcut(key);
+    action->setEnabled(false);
     connect(action, &QAction::triggered, text_, [this, act] { (text_->*act)(); });
+    return action;
 }
 
 void HelpWindow::ShowPage(const std::string& name) {

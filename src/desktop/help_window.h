@@ -15,6 +15,10 @@ namespace kelvor {
 /// The window of the help file: contents, index and search beside the page that is read.
 class HelpWindow : public QMainWindow {
   public:
+    HelpWindow(const HelpWindow&) = delete;
+    HelpWindow& operator=(const HelpWindow&) = delete;
+    ~HelpWindow() override;
+
     /// Null if the file is none.
     static std::unique_ptr<HelpWindow> Open(const Path& file);
 
@@ -34,8 +38,9 @@ class HelpWindow : public QMainWindow {
 
     bool Load(const Path& file);
     void MakeTabs();
+    void MakeIndex();
     void MakeSearch();
-    void AddTool(const QString& caption, const QKeySequence& key, void (QTextBrowser::*act)());
+    QAction* AddTool(const QString& caption, const QKeySequence& key, void (QTextBrowser::*act)());
 
     QTemporaryDir folder_;  // for what the toolkit keeps of a help file
     QHelpEngine engine_;

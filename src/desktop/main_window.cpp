@@ -4,9 +4,11 @@
 #include <QLabel>
 #include <QMimeData>
 #include <QScreen>
+#include <QScrollBar>
 #include <QStatusBar>
 #include <QUrl>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/app_icon.h"
 #include "desktop/qt_text.h"
@@ -75,8 +77,16 @@ MainWindow::MainWindow(Program& program)
     menus_ = new MenuBar(door_, this);
     setMenuBar(menus_);
     setAcceptDrops(true);
-    resize(StartSize().boundedTo(screen()->availableSize()));
+    // The frame needs some room of the screen too.
+    const int frame = 2 * fontMetrics().lineSpacing();
+    resize(StartSize().boundedTo(screen()->availableSize() - QSize(frame / 2, frame)));
     Sync();
+}
+
+/// The child windows go first: they speak to the door as long as they live.
+MainWindow::~MainWindow() {
+    area_->disconnect(this);
+    delete takeCentralWidget();
 }
 
 QSize MainWindow::StartSize() const {
@@ -179,6 +189,22 @@ void MainWindow::SyncActiveWindow() {
     QMdiSubWindow* frame = FrameOf(*view);
     if (area_->activeSubWindow() != frame) area_->setActiveSubWindow(frame);
     view->SyncFocus();
+    if (frame->widget() == view && view->form() != nullptr) ScrollToFocus(*view);
+}
+
+/// In a window that is smaller than a form, what has the focus is brought into view.
+void MainWindow::ScrollToFocus(const FormView& view) {
+    const Control* focus = view.form()->focus;
+    const QWidget* widget = focus == nullptr ? nullptr : view.FindWidget(focus->name);
+    if (widget == nullptr || view.form()->type().isHub) return;
+    const QRect place(widget->mapTo(area_, QPoint(0, 0)) - area_->viewport()->pos(), widget->size());
+    const QSize room = area_->viewport()->size();
+    const auto scroll = [](QScrollBar& bar, int first, int last, int length) {
+        if (last > length) bar.setValue(bar.value() + std::min(last - length, first));
+        if (first < 0) bar.setValue(bar.value() + first);
+    };
+    scroll(*area_->horizontalScrollBar(), place.left(), place.right(), room.width());
+    scroll(*area_->verticalScrollBar(), place.top(), place.bottom(), room.height());
 }
 
 void MainWindow::SyncStatus() {
@@ -186,6 +212,9 @@ void MainWindow::SyncStatus() {
     const Control* focus = form == nullptr ? nullptr : form->focus;
     QString hint;
     if (focus != nullptr) hint = ToQt(focus->grid ? focus->grid->current().hint : focus->toolTip);
+    if (!program_.state().dbWork.IsOpen()) {
+        hint = QStringLiteral("No project is open: choose New Project or Open Project");
+    }
     if (hint_->text() != hint) hint_->setText(hint);
 }
 
@@ -195,8 +224,7 @@ FormView* MainWindow::FindView(const std::string& form) const {
 
 FormView* MainWindow::CurrentView() const { return views_.value(program_.state().formRegistry.CurrentForm); }
 
-// --- From the user to the model
-// -----------------------------------------------------------------------------
+// --- From the user to the model ----------------------------------------------------------------------
 
 void MainWindow::OnSubWindowActivated(QMdiSubWindow* window) {
     if (window == nullptr || door_.busy()) return;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include <QHash>
 #include <QLabel>
 #include <QMainWindow>
@@ -18,6 +20,9 @@ namespace kelvor {
 class MainWindow : public QMainWindow {
   public:
     explicit MainWindow(Program& program);
+    MainWindow(const MainWindow&) = delete;
+    MainWindow& operator=(const MainWindow&) = delete;
+    ~MainWindow() override;
 
     [[nodiscard]] EventDoor& door() { return door_; }
 
@@ -53,6 +58,7 @@ class MainWindow : public QMainWindow {
     void SyncModality();
     void SyncActiveWindow();
     void SyncStatus();
+    void ScrollToFocus(const FormView& view);
     FormView& OpenView(Form& form);
     void CloseView(Form* form);
     void Place(QMdiSubWindow& window);

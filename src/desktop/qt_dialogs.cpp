@@ -113,6 +113,7 @@ std::optional<Path> QtDialogs::AskFile(const FileRequest& request) {
     QFileDialog dialog(parent_, opens ? QStringLiteral("Open Project") : QStringLiteral("Save Project As"),
                        ToQt(request.folder.string()), QtFilter(request.filter));
     dialog.setAcceptMode(opens ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(ToQt(request.suffix));
     dialog.setFileMode(opens ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     return Path(FromQt(dialog.selectedFiles().constFirst()));

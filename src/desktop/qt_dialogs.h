@@ -3,6 +3,8 @@
 #include <QPointer>
 #include <QWidget>
 #include <memory>
+#include <optional>
+#include <string>
 
 #include "desktop/help_window.h"
 #include "platform/dialogs.h"

@@ -6,7 +6,7 @@ namespace {
 
 QString WithPlainLineEnds(QString text) { return text.replace("\r\n", "\n"); }
 
-/// Where the mark of an access key belongs: before the first letter that is the key and not marked off.
+/// Where the mark of an access key belongs: before the first letter that is the key; -1 if there is none.
 qsizetype MarkPlace(const QString& caption, char key) {
     for (qsizetype i = 0; i < caption.size(); ++i) {
         if (caption[i].toUpper() == QChar::fromLatin1(key)) return i;

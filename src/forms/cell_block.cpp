@@ -33,7 +33,7 @@ class BlockReader {
     }
 
     std::string ReadCell() {
-        if (block_[at_ < block_.size() ? at_ : 0] == '"' && at_ < block_.size()) return ReadQuoted();
+        if (at_ < block_.size() && block_[at_] == '"') return ReadQuoted();
         const std::size_t end = std::min(block_.find_first_of("\t\r\n", at_), block_.size());
         std::string cell(TrimBlanks(block_.substr(at_, end - at_)));
         at_ = end;

@@ -6,9 +6,6 @@
 
 namespace kelvor {
 
-/// How the series of a chart are drawn.
-enum class ChartKind { Lines };
-
 struct ChartSeries {
     std::string name;
     std::string colour;  // "#RRGGBB"
@@ -29,9 +26,8 @@ struct ChartAxis {
     std::string picture;  // of the numbers along it
 };
 
-/// A chart with its data sheet: all that it draws stands here.
+/// A chart of lines with its data sheet: all that it draws stands here.
 struct ChartData {
-    ChartKind kind = ChartKind::Lines;
     std::string title;
     ChartAxis across;
     ChartAxis up;

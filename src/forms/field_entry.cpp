@@ -3,17 +3,14 @@
 #include <algorithm>
 #include <array>
 
-#include "forms/balance_state.h"
 #include "forms/coded_list.h"
+#include "forms/indicator.h"
+#include "forms/recalculation.h"
 #include "platform/number_text.h"
 
 namespace kelvor {
 
 namespace {
-
-/// The fields of the project's identification, which take any text.
-constexpr std::array<std::string_view, 8> kFreeTexts = {"Agency",   "Company",  "Contractor", "JobNumber",
-                                                        "Location", "Engineer", "State",      "PavDesc"};
 
 /// Existing thicknesses, to which the advice for new concrete does not apply.
 constexpr std::array<std::string_view, 2> kExistingThicknesses = {"ACACPCACT", "EXISTDEPTH"};
@@ -30,7 +27,7 @@ std::string LimitText(const std::optional<double>& limit) { return limit ? Numbe
 
 /// True for a box that takes what is no number.
 bool TakesText(const ScreenContext& context, const Control& control) {
-    if (control.kind == ControlKind::ComboBox || Contains(kFreeTexts, control.tag)) return true;
+    if (control.kind == ControlKind::ComboBox) return true;
     const Variable* variable = context.catalogue.FindVariable(control.tag);
     return variable != nullptr && variable->IsText();
 }
@@ -74,7 +71,7 @@ bool PassesRange(ScreenContext& context, const Control& control) {
     return true;
 }
 
-/// Solving for an input with this code or below is what the screen's equation is about.
+/// A field whose SolveFor is this or less is a term of the screen's equation: a change unbalances the screen.
 constexpr double kInEquation = 1.0;
 
 bool IsInEquation(const ScreenContext& context, const Form& form, const Control& control) {

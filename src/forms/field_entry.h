@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include "forms/screen_context.h"
 
 namespace kelvor {

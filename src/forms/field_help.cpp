@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "forms/balance_state.h"
 #include "forms/coded_list.h"
 #include "forms/field_entry.h"
 #include "forms/form_builder.h"

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/access_keys.h"
 #include "forms/form_builder.h"
 #include "platform/number_text.h"
 

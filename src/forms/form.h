@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
@@ -74,9 +75,12 @@ class Form {
     [[nodiscard]] int page() const { return page_; }
     void ShowPage(int page);
 
+    /// The first subscript, the row of the caller's grid that a side screen serves; nothing if it serves
+    /// none.
+    [[nodiscard]] std::optional<int> dim1() const;
+
     /// The second subscript that the form shows; nothing if it shows no slice.
     [[nodiscard]] std::optional<int> dim2() const;
-    [[nodiscard]] std::optional<int> dim1() const;
 
     /// True if a control can take the focus on the page that shows.
     [[nodiscard]] bool CanFocus(const Control& control) const;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include "catalogue/catalogue.h"
@@ -17,10 +19,6 @@ void BindBox(Control& box, Control& unit, const std::string& name, const Variabl
 
 /// Makes a box one that shows a value and takes none.
 void LockBox(Control& box, bool computed);
-
-/// Gives every label of a field, and every button, without an access key a letter of its text that is still
-/// free on its page and opens no menu.
-void AssignAccessKeys(std::vector<std::unique_ptr<Control>>& controls);
 
 /// The controls of a form type, in the order of its layout.
 std::vector<std::unique_ptr<Control>> BuildControls(const FormType& type, const Catalogue& catalogue);

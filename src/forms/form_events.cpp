@@ -9,6 +9,8 @@
 #include "forms/field_entry.h"
 #include "forms/field_help.h"
 #include "forms/grid_entry.h"
+#include "forms/indicator.h"
+#include "forms/recalculation.h"
 #include "forms/side_screen.h"
 #include "platform/real.h"
 #include "platform/text.h"
@@ -29,6 +31,13 @@ bool IsCursorKey(std::string_view key) {
 bool IsFor(const Handler& handler, FormEvent event, const Control* control, HandlerOrder order) {
     if (handler.event != event || handler.order != order) return false;
     return handler.control.empty() || (control != nullptr && EqualNoCase(handler.control, control->name));
+}
+
+/// False for a form that has nothing to type into, and so nothing that Esc could restore.
+bool TakesTyping(const Form& form) {
+    return std::any_of(form.controls().begin(), form.controls().end(), [](const auto& control) {
+        return control->visible && (control->IsBox() || control->grid);
+    });
 }
 
 }  // namespace
@@ -287,7 +296,7 @@ bool FormEvents::NamedKey(Form& form, const std::string& key) {
         Tab(form, true);
     } else if (key == "BackTab") {
         Tab(form, false);
-    } else if (key == "Esc" && form.type().isHelp) {
+    } else if (key == "Esc" && (form.type().isHelp || !TakesTyping(form))) {
         Close(form);
     } else if (key == "Esc") {
         Restore(form);

@@ -1,11 +1,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "forms/balance_state.h"
 #include "forms/cell_block.h"
 #include "forms/coded_list.h"
 #include "forms/form_events.h"
 #include "forms/grid_entry.h"
+#include "forms/recalculation.h"
 
 namespace kelvor {
 

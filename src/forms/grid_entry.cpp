@@ -3,13 +3,12 @@
 #include <algorithm>
 
 #include "forms/field_entry.h"
+#include "platform/number_picture.h"
 #include "platform/number_text.h"
 
 namespace kelvor {
 
 namespace {
-
-bool IsTextColumn(const GridColumn& column) { return column.picture.empty() || column.picture == "@"; }
 
 int SecondSubscript(const Form& form) { return form.dim2().value_or(1); }
 
@@ -61,7 +60,7 @@ bool GridBeforeColUpdate(ScreenContext& context, Form& form, const GridColumn& c
         context.calc.dialogs.ShowMessage({.text = "Please select item from the list", .title = "List"});
         return false;
     }
-    if (!IsTextColumn(column) && !IsNumeric(text)) {
+    if (!IsTextPicture(column.picture) && !IsNumeric(text)) {
         context.calc.dialogs.ShowMessage({.text = "Please enter valid numeric value.", .title = "Value"});
         return false;
     }
@@ -89,11 +88,11 @@ bool GridDeleteRow(ScreenContext& context, Form& form, const GridData& grid, int
 
 void CompactColumn(ProjectStore& store, const std::string& name, int rows, int dim2) {
     if (name.empty()) return;
-    int filled = 0;  // the last row that was looked at for a value
+    int source = 0;  // the last row that was looked at for a value
     for (int row = 1; row <= rows && store.FindCell(name, row, dim2) != nullptr; ++row) {
         CellValue value;
-        while (filled < rows && !value.IsFilled()) {
-            if (const CellValue* cell = store.FindCell(name, ++filled, dim2)) value = *cell;
+        while (source < rows && !value.IsFilled()) {
+            if (const CellValue* cell = store.FindCell(name, ++source, dim2)) value = *cell;
         }
         store.SetCell(name, row, dim2, value);
     }

@@ -88,7 +88,9 @@ void LoadFacts(ScreenContext& context, Form& form, Control* /*control*/) {
         form.SetHiddenText("Label" + number, label);
         form.SetHiddenText("Text" + number, text);
     }
-    form.SetHiddenText("msg", variable->desc + ": values outside these limits are refused.");
+    const bool limited = range.low || range.high;
+    form.SetHiddenText("msg", variable->desc + (limited ? ": values outside these limits are refused."
+                                                        : ": has no limits."));
 }
 
 void ReturnFromFacts(ScreenContext& context, Form& form, Control* /*control*/) {

@@ -7,6 +7,7 @@
 #include "forms/balance_state.h"
 #include "forms/form_builder.h"
 #include "forms/form_events.h"
+#include "forms/indicator.h"
 
 namespace kelvor {
 

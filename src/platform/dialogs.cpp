@@ -106,4 +106,6 @@ std::optional<Path> ScriptedDialogs::AskFile(const FileRequest& request) {
     return answer;
 }
 
+const char* NameOf(FileRequest::Kind kind) { return kind == FileRequest::Kind::Open ? "open" : "save"; }
+
 }  // namespace kelvor

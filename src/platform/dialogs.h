@@ -3,6 +3,7 @@
 #include <deque>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "platform/file_system.h"
 
@@ -32,6 +33,7 @@ struct FileRequest {
     Kind kind = Kind::Open;
     Path folder;
     std::string filter;
+    std::string suffix = {};  // which a name to save under gets that has none, before it is looked for
 };
 
 struct HelpRequest {
@@ -71,6 +73,7 @@ bool HasAnswer(MessageStyle style, Answer answer);
 const char* NameOf(MessageStyle style);
 const char* NameOf(MessageIcon icon);
 const char* NameOf(Answer answer);
+const char* NameOf(FileRequest::Kind kind);
 std::optional<Answer> AnswerNamed(const std::string& name);
 
 /// Told of every question that ScriptedDialogs answers, with its answer.

@@ -21,8 +21,6 @@ struct Picture {
     bool grouped = false;
 };
 
-bool IsTextPicture(std::string_view picture) { return picture.empty() || picture == "@"; }
-
 Picture ReadPicture(std::string_view text) {
     const std::size_t point = std::min(text.find('.'), text.size());
     const std::string_view integerPart = text.substr(0, point);

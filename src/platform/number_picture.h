@@ -5,6 +5,9 @@
 
 namespace kelvor {
 
+/// True for the pictures of texts, which show a value as it stands: an empty one and "@".
+inline bool IsTextPicture(std::string_view picture) { return picture.empty() || picture == "@"; }
+
 /// True for a picture that FormatNumber understands: empty, "@", or an integer part of `#`, `0` and
 /// commas with at least one place, and after an optional point a fraction of `0`.
 bool IsNumberPicture(std::string_view picture);

@@ -157,6 +157,13 @@ double ParseNumber(std::string_view text) {
     return Val(plain);
 }
 
+std::optional<int> ParseSubscript(std::string_view text) {
+    std::int16_t value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
+    return value;
+}
+
 std::string NumberToText(double value) {
     // The largest numbers round up to what no double can hold; this is the largest of 15 digits.
     double rounded = std::copysign(1.79769313486231e308, value);

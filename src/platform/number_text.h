@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -17,6 +18,9 @@ double Val(std::string_view text);
 
 /// Val of the text without its commas: "1,234.5" is 1234.5.
 double ParseNumber(std::string_view text);
+
+/// A whole number of 16 bits and nothing else: digits behind an optional minus. Nothing for any other text.
+std::optional<int> ParseSubscript(std::string_view text);
 
 /// A number as a text without a picture: the shortest decimal, of at most 15 significant digits.
 std::string NumberToText(double value);

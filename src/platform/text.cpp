@@ -30,9 +30,8 @@ char32_t TakeCharacter(std::string_view& text) {
     char32_t character = length == 1 ? first : first & (0x7FU >> length);
     bool whole = length > 0 && length <= text.size();
     for (std::size_t i = 1; whole && i < length; ++i) {
-        const auto byte = static_cast<unsigned char>(text[i]);
-        whole = (byte & 0xC0U) == 0x80;
-        character = character << 6U | (byte & 0x3FU);
+        whole = IsContinuation(text[i]);
+        character = character << 6U | (static_cast<unsigned char>(text[i]) & 0x3FU);
     }
     whole = whole && character < kStrayByte;
     text.remove_prefix(whole ? length : 1);

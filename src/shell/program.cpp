@@ -69,10 +69,11 @@ bool Program::Perform(const UserEvent& event) {
     }
 }
 
-/// True for what a modal form in front keeps the user from: everything but itself.
+/// True for what a modal form in front keeps the user from: everything but itself and the way out.
 bool Program::IsOutsideModalForm(const UserEvent& event) const {
     const Form* form = state_.formRegistry.CurrentForm;
     if (form == nullptr || !form->modal) return false;
+    if (event.kind == UserEvent::Kind::Menu && event.name == kExit) return false;
     switch (event.kind) {
         case UserEvent::Kind::OpenForm:
         case UserEvent::Kind::SwitchTab:

@@ -34,7 +34,8 @@ class Program {
     /// What a cell of a form's grid shows. For painting: it reads, and may be called while an event runs.
     [[nodiscard]] std::string CellText(const Form& form, int row, const GridColumn& column);
 
-    /// The File menu. Each tells whether it succeeded; the messages were shown.
+    /// The File menu; the messages were shown. False from New only if no project can be made any more; it is
+    /// true if a refused value kept the old one. The others tell whether they succeeded.
     bool NewProject();
     bool OpenProject(const std::string& path);
     bool Save();
@@ -53,6 +54,9 @@ class Program {
     int Solve(std::string_view screen, int term);
 
   private:
+    /// The menu entry that ends the program.
+    static constexpr const char* kExit = "MenuFileExit";
+
     /// Does something as one event; while one runs, further ones are dropped.
     template <typename Action>
     bool InEvent(Action action) {
@@ -69,7 +73,7 @@ class Program {
     bool ChooseMenu(const std::string& name, int index);
     void SwitchUnits(bool metric);
     bool LeaveProject();
-    void NewProjectByMenu();
+    bool MakeNewProject();
     void OpenProjectByDialog();
     void SaveByMenu(bool underNewName);
     bool OpenFile(const std::string& path);

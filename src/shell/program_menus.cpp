@@ -28,12 +28,12 @@ bool Program::ChooseMenu(const std::string& name, int index) {
     if (entry == entries.end()) return false;
     if (entry->comesLater) return true;
     const std::pair<const char*, std::function<void()>> actions[] = {
-        {"NewProj", [&] { NewProjectByMenu(); }},
+        {"NewProj", [&] { MakeNewProject(); }},
         {"MenuFileOpen", [&] { OpenProjectByDialog(); }},
         {"MenuFileSave", [&] { SaveByMenu(false); }},
         {"MenuFileSaveAs", [&] { SaveByMenu(true); }},
         {"mnuRecentFile", [&] { OpenRecentFile(index); }},
-        {"MenuFileExit", [&] { Exit(); }},
+        {kExit, [&] { Exit(); }},
         {"MenuUnitsEnglish", [&] { SwitchUnits(false); }},
         {"MenuUnitsMetric", [&] { SwitchUnits(true); }},
         {"MenuAbout", [&] { ShowAbout(); }},
@@ -94,12 +94,14 @@ void Program::ShowHub() {
 }
 
 bool Program::NewProject() {
-    return InEvent([&] {
-        if (!LeaveProject()) return true;
-        const bool made = ProjectFiles(state_).NewProject();
-        ShowHub();
-        return made;
-    });
+    return InEvent([&] { return MakeNewProject(); });
+}
+
+bool Program::MakeNewProject() {
+    if (!LeaveProject()) return true;
+    const bool made = ProjectFiles(state_).NewProject();
+    ShowHub();
+    return made;
 }
 
 bool Program::OpenProject(const std::string& path) {
@@ -152,12 +154,6 @@ void Program::SaveByMenu(bool underNewName) {
     }
 }
 
-void Program::NewProjectByMenu() {
-    if (!LeaveProject()) return;
-    ProjectFiles(state_).NewProject();
-    ShowHub();
-}
-
 void Program::OpenProjectByDialog() {
     if (!LeaveProject()) return;
     ProjectFiles(state_).OpenProjectDialog();
@@ -174,7 +170,13 @@ bool Program::SaveAs(const std::string& name) {
 
 bool Program::Exit() {
     ScreenContext context = state_.MakeScreenContext();
-    if (!FormEvents(context).Commit() || !ConfirmClose()) return false;
+    FormEvents events(context);
+    // What stands in a help goes to its field first.
+    for (Form* front = context.forms.CurrentForm; front != nullptr && front->modal;
+         front = context.forms.CurrentForm) {
+        if (!events.Close(*front)) return false;
+    }
+    if (!events.Commit() || !ConfirmClose()) return false;
     ended_ = true;
     return true;
 }

@@ -209,8 +209,8 @@ bool ProjectFiles::Save() {
 
 bool ProjectFiles::SaveProjectAs() {
     MakeProjectsFolder();  // the dialog starts there
-    const auto chosen =
-        state_.host.dialogs.AskFile({FileRequest::Kind::Save, state_.home.ProjectsFolder(), kSaveFilter});
+    const auto chosen = state_.host.dialogs.AskFile({FileRequest::Kind::Save, state_.home.ProjectsFolder(),
+                                                     kSaveFilter, std::string(kExtension.substr(1))});
     return chosen && SaveProjectAs(chosen->string());
 }
 

@@ -28,8 +28,8 @@ struct CellKey {
     int dim2 = 1;
 };
 
-/// The statement that makes the one table of a project file. Its key is the index `Lookup`: name
-/// without regard to case, then the subscripts.
+/// The statement that makes the one table of a project file. Its primary key is the name, without regard to
+/// case, then the subscripts.
 extern const char* const kProjectTable;
 
 /// The database of the open project: table Project and nothing else. It is locked for this process,

@@ -15,8 +15,8 @@
 #include "desktop/desktop_fixture.h"
 #include "desktop/layout_audit.h"
 #include "desktop/palettes.h"
-#include "forms/balance_state.h"
 #include "forms/form.h"
+#include "forms/indicator.h"
 #include "platform/number_picture.h"
 
 namespace kelvor::test {
@@ -138,8 +138,7 @@ TEST_F(LayoutTest, EveryFormFitsIntoTheWindowAsItStarts) {
     });
 }
 
-// --- The audit itself
-// ---------------------------------------------------------------------------------------
+// --- The audit itself --------------------------------------------------------------------------------
 
 class BadForm : public QWidget {
   public:

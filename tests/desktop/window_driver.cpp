@@ -191,8 +191,7 @@ void WindowDriver::OpenForm(const std::string& name) {
     OnModel([&] { ModelDriver::OpenForm(name); });
 }
 
-// --- Menus
-// --------------------------------------------------------------------------------------------------
+// --- Menus -------------------------------------------------------------------------------------------
 
 void WindowDriver::New() { ChooseMenu("NewProj", 0); }
 
@@ -235,8 +234,7 @@ void WindowDriver::ChooseMenu(const std::string& name, int index) {
     ClickEntry(*menu, *entry);
 }
 
-// --- Forms
-// ----------------------------------------------------------------------------------------------------
+// --- Forms -------------------------------------------------------------------------------------------
 
 FormView& WindowDriver::View() {
     ComeToFront();
@@ -290,8 +288,7 @@ void WindowDriver::SwitchTab(int tab) {
     throw ScriptError("there are no tabs");
 }
 
-// --- Controls
-// -----------------------------------------------------------------------------------------------
+// --- Controls ----------------------------------------------------------------------------------------
 
 void WindowDriver::Click(QWidget& widget) {
     if (!widget.isVisibleTo(&desktop_.window()) || !widget.isEnabled()) return;
@@ -381,8 +378,7 @@ void WindowDriver::Choose(const std::string& control, const std::string& item) {
     QApplication::processEvents();
 }
 
-// --- Grids
-// --------------------------------------------------------------------------------------------------
+// --- Grids -------------------------------------------------------------------------------------------
 
 GridView& WindowDriver::FindGridView() {
     auto* grid = dynamic_cast<GridView*>(View().findChild<QTableView*>());
@@ -460,8 +456,7 @@ std::vector<GridCellReport> WindowDriver::GridCells() {
     return cells;
 }
 
-// --- Reading
-// ------------------------------------------------------------------------------------------------
+// --- Reading -----------------------------------------------------------------------------------------
 
 PropertyValue WindowDriver::Read(const std::string& control, const std::string& property) {
     const QWidget& widget = Widget(control);

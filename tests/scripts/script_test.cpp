@@ -44,7 +44,10 @@ class ScriptTest : public testing::TestWithParam<std::string> {};
 TEST_P(ScriptTest, PrintsWhatIsExpected) {
     const Path expected = ScriptFolder() / (GetParam() + ".expected");
     const std::string actual = RunScriptFile(GetParam());
-    if (std::getenv("KELVOR_RENEW_EXPECTED") != nullptr) WriteFile(expected, actual);
+    if (std::getenv("KELVOR_RENEW_EXPECTED") != nullptr) {
+        WriteFile(expected, actual);
+        GTEST_SKIP() << "rewritten: read the difference";
+    }
     EXPECT_EQ(actual, ReadFile(expected));
 }
 

@@ -22,8 +22,6 @@ Json KeyObject(const CellKey& key) { return {{"name", key.name}, {"dim1", key.di
 
 }  // namespace
 
-const char* NameOf(FileRequest::Kind kind) { return kind == FileRequest::Kind::Open ? "open" : "save"; }
-
 void JsonOutput::Cell(const CellReport& cell) {
     Json object = KeyObject(cell.key);
     if (cell.value) {

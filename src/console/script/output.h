@@ -1,7 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <ostream>
 #include <string>
+#include <vector>
 
 #include "console/script/driver.h"
 #include "platform/dialogs.h"
@@ -70,6 +72,5 @@ class PlainOutput : public Output {
 };
 
 /// The name of a kind of file dialog.
-const char* NameOf(FileRequest::Kind kind);
 
 }  // namespace kelvor

@@ -1,13 +1,12 @@
 #include "console/script/output.h"
 #include "platform/number_text.h"
+#include "store/project_store.h"
 
 namespace kelvor {
 
 namespace {
 
-std::string KeyText(const CellKey& key) {
-    return key.name + "(" + std::to_string(key.dim1) + "," + std::to_string(key.dim2) + ")";
-}
+std::string KeyText(const CellKey& key) { return CellText(key.name, key.dim1, key.dim2); }
 
 std::string Quoted(const std::string& text) {
     std::string quoted = "\"";

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <istream>
@@ -13,6 +12,7 @@
 #include <vector>
 
 #include "console/script/command_line.h"
+#include "platform/number_text.h"
 #include "store/project_store.h"
 
 namespace kelvor {
@@ -30,13 +30,9 @@ class Arguments {
     /// A subscript, 1 where the word is left out.
     [[nodiscard]] int Subscript(std::size_t i) const {
         if (i >= words_.size()) return 1;
-        const std::string& word = words_[i];
-        std::int16_t value = 0;
-        const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), value);
-        if (error != std::errc{} || end != word.data() + word.size()) {
-            throw ScriptError("\"" + word + "\" is no subscript");
-        }
-        return value;
+        const auto subscript = ParseSubscript(words_[i]);
+        if (!subscript) throw ScriptError("\"" + words_[i] + "\" is no subscript");
+        return *subscript;
     }
 
     /// NAME [D1 [D2]]

@@ -6,8 +6,8 @@ namespace kelvor {
 
 namespace {
 
-constexpr double kPsiPerPci = 19.4;     // roadbed modulus over k, without a subbase
-constexpr double kMetricRatio = 0.477;  // the same for MPa and MPa/m
+constexpr double kPsiPerPci = 19.4;           // roadbed modulus over k, without a subbase
+constexpr double kMpaPerMpaPerMetre = 0.477;  // in MPa and MPa/m; not 19.4 converted, which is 0.493
 constexpr double kInchesPerFoot = 12.0;
 
 /// Runs a step; one that faults leaves k as it was.
@@ -63,7 +63,7 @@ std::optional<double> CompositeKEnglish(const SubgradeLayers& layers) {
 
 std::optional<double> CompositeKMetric(const SubgradeLayers& layers) {
     if (layers.roadbedModulus == 0.0) return std::nullopt;
-    return (Real(layers.roadbedModulus) / kMetricRatio).value();
+    return (Real(layers.roadbedModulus) / kMpaPerMpaPerMetre).value();
 }
 
 }  // namespace kelvor

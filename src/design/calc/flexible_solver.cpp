@@ -14,10 +14,9 @@ constexpr double kHighestStart = 30.0;
 
 /// Solves one term of the flexible design equation, log10 W18 = ZR S0 + 9.36 log10(SN + 1) - 0.20 +
 /// log10((P0 - Pt) / 2.7) / (0.40 + 1094 / (SN + 1)^5.19) + 2.32 log10 MR - 8.07.
-class FlexibleSolver {
+class FlexibleSolver : EquationSolver<kFlexibleTerms> {
   public:
-    FlexibleSolver(CalcContext& context, const FlexibleNames& names)
-        : context_(context), terms_(context.store, names) {}
+    using EquationSolver::EquationSolver;
 
     int Solve(int term) {
         return RunSolve(context_, term, terms_, [&] {
@@ -29,12 +28,12 @@ class FlexibleSolver {
   private:
     /// What the cases share of the equation.
     void ComputeTerms() {
-        const Real SN = terms_.Value(kSN);
-        ZS = context_.reliability.ZR * terms_.Value(kS0);
-        SNTerm = 9.36 * (Log(SN + 1.0) / Ln10);
-        ServTerm = Log((terms_.Value(kP0) - terms_.Value(kPt)) / 2.7) / Ln10;
-        ServDiv = 1.0 / (0.4 + 1094.0 / Pow(SN + 1.0, 5.19));
-        MRTerm = 2.32 * (Log(terms_.Value(kMR)) / Ln10);
+        const Real SN = Value(kSN);
+        deviateTerm_ = context_.reliability.ZR * Value(kS0);
+        snTerm_ = 9.36 * (Log(SN + 1.0) / Ln10);
+        serviceabilityTerm_ = Log((Value(kP0) - Value(kPt)) / 2.7) / Ln10;
+        serviceabilityFactor_ = 1.0 / (0.4 + 1094.0 / Pow(SN + 1.0, 5.19));
+        modulusTerm_ = 2.32 * (Log(Value(kMR)) / Ln10);
     }
 
     int SolveCase(int term) {
@@ -44,53 +43,42 @@ class FlexibleSolver {
             case kW18:
                 return SolveTraffic();
             case kReliability:
-                return SolveReliability();
+                return SolveReliability(DeviateTimesDeviation() / Value(kS0));
             case kS0:
                 return Write(term, DeviateTimesDeviation() / context_.reliability.ZR);
             case kMR:
-                return Write(term, Pow(10.0, (L() - ZS - C0 - SNTerm - ServDiv * ServTerm) / 2.32));
+                return Write(term, Pow(10.0, (LogTraffic() - deviateTerm_ - kConstant - snTerm_ -
+                                              serviceabilityFactor_ * serviceabilityTerm_) /
+                                                 2.32));
             case kP0:
-                return Write(term, terms_.Value(kPt) + ServiceabilityLoss());
+                return Write(term, Value(kPt) + ServiceabilityLoss());
             case kPt:
-                return Write(term, terms_.Value(kP0) - ServiceabilityLoss());
+                return Write(term, Value(kP0) - ServiceabilityLoss());
             default:
                 return kSolveDone;
         }
     }
 
-    int Write(int term, Real value) {
-        terms_.Write(term, value);
-        return kSolveDone;
-    }
-
-    /// The common logarithm of the traffic.
-    [[nodiscard]] Real L() const { return Log(terms_.Value(kW18)) / Ln10; }
-
+    /// ZR S0.
     [[nodiscard]] Real DeviateTimesDeviation() const {
-        return L() - C0 - SNTerm - ServDiv * ServTerm - MRTerm;
+        return LogTraffic() - kConstant - snTerm_ - serviceabilityFactor_ * serviceabilityTerm_ -
+               modulusTerm_;
     }
 
     /// P0 - Pt.
     [[nodiscard]] Real ServiceabilityLoss() const {
-        return 2.7 * Pow(10.0, (L() - ZS - C0 - SNTerm - MRTerm) / ServDiv);
+        return 2.7 * Pow(10.0, (LogTraffic() - deviateTerm_ - kConstant - snTerm_ - modulusTerm_) /
+                                   serviceabilityFactor_);
     }
 
     [[nodiscard]] FlexibleInputs Inputs() const {
-        return {terms_.Handle(kS0), terms_.Handle(kMR), terms_.Handle(kP0), terms_.Handle(kPt)};
+        return {Handle(kS0), Handle(kMR), Handle(kP0), Handle(kPt)};
     }
 
     int SolveTraffic() {
-        Real w18 = terms_.Value(kW18);
-        EvaluateFlexible(context_, Inputs(), terms_.Value(kSN), w18);
+        Real w18 = Value(kW18);
+        EvaluateFlexible(context_, Inputs(), Value(kSN), w18);
         return Write(kW18, w18);
-    }
-
-    int SolveReliability() {
-        Real& ZR = context_.reliability.ZR;
-        ZR = DeviateTimesDeviation() / terms_.Value(kS0);
-        Real reliability;
-        if (ZRToReliability(context_.dialogs, reliability, ZR) != 0) return kSolveFailed;
-        return Write(kReliability, reliability);
     }
 
     int SolveStructuralNumber() {
@@ -100,20 +88,18 @@ class FlexibleSolver {
         problem.traffic = [this, inputs = Inputs()](Real SN, Real& w18) {
             EvaluateFlexible(context_, inputs, SN, w18);
         };
-        problem.target = [this] { return terms_.Value(kW18); };
+        problem.target = [this] { return Value(kW18); };
         const SearchResult result = SearchBracket(problem, context_.clock);
-        if (result.end == SearchEnd::Found) terms_.Write(kSN, result.x);
-        return kSolveDone;
+        return result.end == SearchEnd::Found ? Write(kSN, result.x) : kSolveDone;
     }
 
-    CalcContext& context_;
-    TermCells<kFlexibleTerms> terms_;
-    Real ZS;
-    Real C0 = -8.27;
-    Real SNTerm;
-    Real ServTerm;
-    Real ServDiv;
-    Real MRTerm;
+    static constexpr double kConstant = -8.27;  // -0.20 - 8.07
+
+    Real deviateTerm_;           // ZR S0
+    Real snTerm_;                // 9.36 log10(SN + 1)
+    Real serviceabilityTerm_;    // log10((P0 - Pt) / 2.7)
+    Real serviceabilityFactor_;  // 1 / (0.40 + 1094 / (SN + 1)^5.19)
+    Real modulusTerm_;           // 2.32 log10 MR
 };
 
 }  // namespace

@@ -21,8 +21,8 @@ void CalcLayerStructuralNumber(CalcContext& context, std::string_view target, in
     context.store.SetVarDim(target, layer, 1, (coefficient * drainage * thickness).value());
 }
 
-/// The thickness, inches, of this layer's material that would supply what the structure still lacks.
-/// The drainage coefficient multiplies. A layer without coefficients gets none.
+/// The additional thickness, inches, of this layer: what the structure lacks, over a, times m. The Guide's SN
+/// = a m D would divide by m; with m = 1 both are the same. A layer without coefficients gets none.
 void CalcAdditionalThickness(CalcContext& context, std::string_view target, int layer, int /*dim2*/) {
     const Real remainder = context.store.GetVar("SN") - TotalStructuralNumber(context);
     const Real coefficient = context.store.GetVarDim("LDLayerCoef", layer, 1);

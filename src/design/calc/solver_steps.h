@@ -68,4 +68,35 @@ int RunSolve(CalcContext& context, int term, const TermCells<Count>& terms,
     }
 }
 
+/// What the solvers of both equations do alike.
+template <std::size_t Count>
+class EquationSolver {
+  public:
+    EquationSolver(CalcContext& context, const std::array<std::string_view, Count>& names)
+        : context_(context), terms_(context.store, names) {}
+
+  protected:
+    [[nodiscard]] Real Value(int term) const { return terms_.Value(term); }
+    [[nodiscard]] CellHandle Handle(int term) const { return terms_.Handle(term); }
+
+    int Write(int term, Real value) {
+        terms_.Write(term, value);
+        return kSolveDone;
+    }
+
+    /// The common logarithm of the traffic.
+    [[nodiscard]] Real LogTraffic() const { return Log(Value(kTrafficTerm)) / Ln10; }
+
+    /// The reliability whose standard normal deviate ZR the equation asks for.
+    int SolveReliability(Real zr) {
+        context_.reliability.ZR = zr;
+        Real reliability;
+        if (ZRToReliability(context_.dialogs, reliability, zr) != 0) return kSolveFailed;
+        return Write(kReliabilityTerm, reliability);
+    }
+
+    CalcContext& context_;
+    TermCells<Count> terms_;
+};
+
 }  // namespace kelvor

@@ -6,7 +6,8 @@ namespace kelvor {
 struct SubgradeModulus {
     double byCbr = 0.0;
     double byRValue = 0.0;
-    double governing = 0.0;  // the smaller of those whose test is at least 1; 0 if neither is
+    double governing = 0.0;  // of one test, its estimate; of both, the smaller; 0 if one that was
+                             // made is below 1, or none was
 };
 
 /// Correlations of NCHRP Project 128 for the California Bearing Ratio and the R-value; 0: no such test.

@@ -3,8 +3,8 @@
 #include <array>
 
 #include "design/calc/layered_structure.h"
-#include "forms/balance_state.h"
 #include "forms/form.h"
+#include "forms/recalculation.h"
 #include "forms/side_screen.h"
 #include "platform/number_text.h"
 

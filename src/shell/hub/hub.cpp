@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <iterator>
 #include <string_view>
+#include <utility>
 
 #include "forms/balance_state.h"
 #include "forms/form.h"

@@ -4,8 +4,8 @@
 #include <array>
 #include <string>
 
-#include "forms/balance_state.h"
 #include "forms/form_events.h"
+#include "forms/recalculation.h"
 #include "shell/hub/offer.h"
 
 namespace kelvor {
@@ -13,9 +13,9 @@ namespace kelvor {
 namespace {
 
 struct ScreenChoice {
-    const char* button;
-    const char* option;
-    const char* screen;
+    const char* button = "";
+    const char* option = "";
+    const char* screen = "";
     const char* pavement = "";  // of a screen that serves both: what its hidden Dim2 holds
 };
 

@@ -1,8 +1,8 @@
 #include "traffic/screens/axle_data_screen.h"
 
-#include "forms/balance_state.h"
 #include "forms/coded_list.h"
 #include "forms/form.h"
+#include "forms/recalculation.h"
 #include "traffic/screens/traffic_inputs.h"
 
 namespace kelvor {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "forms/balance_state.h"
 #include "forms/form.h"
+#include "forms/recalculation.h"
 #include "forms/side_screen.h"
 
 namespace kelvor {

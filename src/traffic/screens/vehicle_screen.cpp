@@ -2,10 +2,10 @@
 
 #include <array>
 
-#include "forms/balance_state.h"
 #include "forms/coded_list.h"
 #include "forms/field_entry.h"
 #include "forms/form.h"
+#include "forms/recalculation.h"
 #include "traffic/screens/traffic_inputs.h"
 
 namespace kelvor {

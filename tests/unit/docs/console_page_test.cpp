@@ -4,6 +4,7 @@
 #include <string>
 
 #include "console/application.h"
+#include "forms/control.h"
 #include "shell/calculations.h"
 #include "support/test_home.h"
 
@@ -43,6 +44,13 @@ TEST_F(ConsolePageTest, EveryKeyThatIsServedIsListed) {
     const Dispatch calculations = JoinCalculations();
     for (const std::string_view key : calculations.FieldKeys()) EXPECT_TRUE(isListed("calc", key)) << key;
     for (const std::string_view key : calculations.CellKeys()) EXPECT_TRUE(isListed("calccell", key)) << key;
+}
+
+TEST_F(ConsolePageTest, EveryKindOfControlIsListed) {
+    for (int kind = 0; kind <= static_cast<int>(ControlKind::TabStrip); ++kind) {
+        const std::string name = NameOf(static_cast<ControlKind>(kind));
+        EXPECT_NE(page_.find("`" + name + "`"), std::string::npos) << name;
+    }
 }
 
 }  // namespace

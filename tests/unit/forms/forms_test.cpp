@@ -13,8 +13,11 @@
 #include <string>
 #include <vector>
 
-#include "forms/balance_state.h"
+#include "forms/access_keys.h"
 #include "forms/form.h"
+#include "forms/indicator.h"
+#include "forms/recalculation.h"
+#include "shell/main_window.h"
 #include "support/test_host.h"
 
 namespace kelvor::test {
@@ -64,7 +67,7 @@ std::string FreeLetters(const Form& form, const Control& control) {
     std::string letters;
     for (const char c : control.text) {
         const char key = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-        const bool isMenu = std::string("FUWH").find(key) != std::string::npos;
+        const bool isMenu = kMenuAccessKeys.find(key) != std::string_view::npos;
         if (std::isalnum(static_cast<unsigned char>(key)) == 0 || isMenu) continue;
         const bool taken =
             std::any_of(form.controls().begin(), form.controls().end(), [&](const auto& other) {
@@ -74,6 +77,12 @@ std::string FreeLetters(const Form& form, const Control& control) {
         if (!taken) letters.push_back(key);
     }
     return letters;
+}
+
+TEST_F(FormsTest, TheKeysOfTheMenusAreKeptFree) {
+    std::string keys;
+    for (const MenuTitle& title : MenuTitles()) keys.push_back(MarkedKey(title.caption));
+    EXPECT_EQ(keys, kMenuAccessKeys);
 }
 
 TEST_F(FormsTest, AccessKeysAreUniqueOnEveryPageAndReachEveryControl) {

@@ -1,0 +1,110 @@
+#include "forms/recalculation.h"
+
+#include <set>
+#include <string>
+
+#include "forms/field_hint.h"
+#include "forms/form_builder.h"
+#include "forms/indicator.h"
+#include "platform/text.h"
+
+namespace kelvor {
+
+namespace {
+
+std::string FieldText(const ScreenContext& context, const Form& form, const Control& box) {
+    return context.units.GetDisplayValue(box.tag, form.dim1().value_or(1), form.dim2().value_or(1));
+}
+
+void RefreshColumns(const ScreenContext& context, GridData& grid) {
+    for (GridColumn& column : grid.columns) {
+        const std::string unit = context.units.UnitLabel(column.variable);
+        column.unit = IsNoUnit(unit) ? "" : unit;
+        column.hint = ColumnHint(context, column);
+    }
+}
+
+void RefreshControl(const ScreenContext& context, const Form& form, Control& control) {
+    if (control.grid && !control.grid->texts) RefreshColumns(context, *control.grid);
+    if (control.IsField()) control.toolTip = FieldHint(context, control);
+    if (control.kind == ControlKind::TextBox && !control.tag.empty()) {
+        control.text = FieldText(context, form, control);
+    } else if (control.kind == ControlKind::Label && control.tag.starts_with('u')) {
+        control.text = IsNoUnit(control.text) ? "" : context.units.UnitLabel(control.tag.substr(1));
+    }
+}
+
+void RecalcColumn(ScreenContext& context, const Field& output, const Variable& variable, int row) {
+    for (int dim2 = 1; dim2 <= variable.dim2; ++dim2) {
+        if (output.dim2 && *output.dim2 != dim2) continue;
+        context.calculations.CalcCell(context.calc, output.name, row, dim2, output.equation);
+    }
+}
+
+/// Recalculates the computed columns of a screen, each in the rows that are wanted of it.
+template <typename Wanted>
+void RecalcColumns(ScreenContext& context, const Form& form, Wanted isWanted) {
+    for (const Field* output : context.catalogue.OutputsOfScreen(form.tag)) {
+        const Variable* variable = context.catalogue.FindVariable(output->name);
+        if (!output->IsColumn() || variable == nullptr) continue;
+        for (int row = 1; row <= variable->dim1; ++row) {
+            if (isWanted(*output, row)) RecalcColumn(context, *output, *variable, row);
+        }
+    }
+}
+
+/// The cell of a column in a row; null if there is none.
+const CellValue* FindColumnCell(const ScreenContext& context, const Field& column, int row) {
+    return context.calc.store.FindCell(column.name, row, column.dim2.value_or(1));
+}
+
+/// The rows of a screen's grid in which a cell is filled.
+std::set<int> FilledRows(const ScreenContext& context, const Form& form) {
+    std::set<int> rows;
+    for (const Field* field : context.catalogue.FieldsOfScreen(form.tag)) {
+        const Variable* variable = context.catalogue.FindVariable(field->name);
+        if (!field->IsColumn() || variable == nullptr) continue;
+        for (int row = 1; row <= variable->dim1; ++row) {
+            const CellValue* cell = FindColumnCell(context, *field, row);
+            if (cell != nullptr && cell->IsFilled()) rows.insert(row);
+        }
+    }
+    return rows;
+}
+
+}  // namespace
+
+void RefreshScreen(ScreenContext& context, Form& form) {
+    for (const auto& control : form.controls()) RefreshControl(context, form, *control);
+    form.SetFieldChanged(false);
+    ShowSolved(context, form);
+}
+
+void RecalcOutputs(ScreenContext& context, Form& form, std::string_view changedName, int row) {
+    for (const Field* output : context.catalogue.OutputsOfScreen(form.tag)) {
+        const Variable* variable = context.catalogue.FindVariable(output->name);
+        if (output->IsGrid() || variable == nullptr) continue;
+        if (output->IsColumn()) {
+            if (row >= 1 && row <= variable->dim1) RecalcColumn(context, *output, *variable, row);
+        } else if (!EqualNoCase(output->name, changedName)) {
+            context.calculations.CalcField(context.calc, output->name, output->equation);
+        }
+    }
+    RefreshScreen(context, form);
+}
+
+void RecalcAllOutputs(ScreenContext& context, Form& form) {
+    RecalcColumns(context, form, [&](const Field& output, int row) {
+        const CellValue* cell = FindColumnCell(context, output, row);
+        return cell != nullptr && cell->number.has_value();
+    });
+    RefreshScreen(context, form);
+}
+
+void RecalcFilledRows(ScreenContext& context, Form& form) {
+    const std::set<int> rows = FilledRows(context, form);
+    RecalcColumns(context, form, [&](const Field& /*output*/, int row) { return rows.contains(row); });
+    RefreshScreen(context, form);
+}
+
+}  // namespace kelvor
