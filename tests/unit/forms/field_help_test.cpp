@@ -181,6 +181,22 @@ TEST_F(FieldHelpTest, AnEntryThatAListDoesNotOfferIsRefused) {
     EXPECT_EQ(Current().name(), "HelpGrid");
 }
 
+TEST_F(FieldHelpTest, TheListIsTheCallersAndWithoutItThereIsABox) {
+    program_.Set("AT51", 2.0);
+    Raise(Kind::OpenForm, "TrVe");
+    Raise(Kind::Focus, "AT51");
+    Raise(Kind::Key, "F1");
+    EXPECT_THAT(Current().Find("ComboBox")->items, ElementsAre("Single", "Tandem", "Tridem"));
+    EXPECT_EQ(Current().HiddenText("ComboBox"), "Tandem");
+    EXPECT_FALSE(Current().Find("TextBox")->visible);
+    Raise(Kind::Key, "Esc");
+    Raise(Kind::CloseForm, "TrVe");
+    Raise(Kind::OpenForm, "HelpForm");
+    EXPECT_EQ(Current().HiddenText("FieldName"), "AT51") << "the field of before";
+    EXPECT_FALSE(Current().Find("ComboBox")->visible);
+    EXPECT_EQ(Current().HiddenText("TextBox"), "2") << "the code";
+}
+
 TEST_F(FieldHelpTest, AHelpThatIsOpenForAnotherScreenGivesWay) {
     Raise(Kind::OpenForm, "DeR");
     Raise(Kind::Focus, "K");
