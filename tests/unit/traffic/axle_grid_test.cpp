@@ -12,6 +12,7 @@
 #include "forms/form.h"
 #include "reference_factors.h"
 #include "support/test_host.h"
+#include "traffic/screens/traffic_words.h"
 
 namespace kelvor::test {
 namespace {
