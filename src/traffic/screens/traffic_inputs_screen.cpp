@@ -76,11 +76,6 @@ void PeriodLeft(ScreenContext& context, Form& form, Control* list) {
     PeriodPicked(context, form, list);
 }
 
-/// Help for an option is asked for like that for a field.
-void OptionFocused(ScreenContext& /*context*/, Form& form, Control* option) {
-    if (option->IsChoice()) form.SetHiddenText("SolveForField", option->name);
-}
-
 void HelpClick(ScreenContext& context, Form& form, Control* /*button*/) {
     if (form.HiddenText("SolveForField") != "TrPer") {
         OpenFieldHelp(context, form);
@@ -128,7 +123,6 @@ FormType TrafficInputsForm() {
         {FormEvent::Activate, "", HandlerOrder::After, Activated},
         {FormEvent::Change, "TrPer", HandlerOrder::After, PeriodPicked},
         {FormEvent::LostFocus, "TrPer", HandlerOrder::Before, PeriodLeft},
-        {FormEvent::GotFocus, "", HandlerOrder::After, OptionFocused},
         {FormEvent::Click, "SSHelp", HandlerOrder::Instead, HelpClick},
     };
     for (const char* option : {"Option1", "Option2"}) {
