@@ -10,12 +10,12 @@ namespace kelvor {
 
 namespace {
 
-/// The standard axle: a load of 18 kips on one single axle.
+/// Load (18 kips) plus axle type (1) of the standard axle, as the equations add them.
 constexpr double kStandardAxle = 19.0;
 
 Real Log10(Real x) { return Log(x) / Ln10; }
 
-/// Standard axles to one axle on a slab of D inches that is worn out at the serviceability pt.
+/// Standard axles that one axle group is worth on a slab of D inches, with terminal serviceability pt.
 Real RigidFactor(Real axleType, Real load, Real D, Real pt) {
     const Real G = Log10((4.5 - pt) * 0.333);
     const Real B18 = 3.63 * Pow(kStandardAxle, 5.2) / Pow(D + 1.0, 8.46) + 1.0;
