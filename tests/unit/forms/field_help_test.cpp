@@ -51,7 +51,7 @@ class FieldHelpTest : public testing::Test {
                                                     "Dim1",      "Column",   "FieldChanged", "LDAdditThick"};
         std::vector<std::string> cells;
         program_.store().ForEachFilled([&](const CellKey& key, const CellValue& value) {
-            if (kKept.count(key.name) != 0) return;
+            if (kKept.contains(key.name)) return;
             cells.push_back(key.name + "(" + std::to_string(key.dim1) + "," + std::to_string(key.dim2) +
                             ") = " + (value.number ? std::to_string(*value.number) : "-") + " " +
                             value.text.value_or("-"));

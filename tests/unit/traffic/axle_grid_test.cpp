@@ -141,7 +141,9 @@ std::string Spelt(const std::vector<LetterWord>& words, const std::string& lette
     std::string shown;
     std::string spelt;
     for (const char letter : letters) {
-        shown = CompleteWord(words, shown, shown + letter, spelt).value_or(shown + letter);
+        std::string typed = shown;
+        typed += letter;
+        shown = CompleteWord(words, shown, typed, spelt).value_or(typed);
     }
     return shown;
 }
