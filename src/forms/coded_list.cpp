@@ -36,10 +36,6 @@ std::optional<char> TypedLetter(const std::vector<LetterWord>& words, const std:
 
 }  // namespace
 
-std::vector<LetterWord> AxleTypes() { return {{'S', "Single"}, {'T', "Tandem"}, {'R', "Tridem"}}; }
-
-std::vector<LetterWord> CountPeriods() { return {{'D', "Day"}, {'M', "Month"}, {'Y', "Year"}}; }
-
 std::optional<std::string> CompleteWord(const std::vector<LetterWord>& words, const std::string& shown,
                                         const std::string& text, std::string& spelt) {
     const std::optional<char> letter = TypedLetter(words, shown, text);

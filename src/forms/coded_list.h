@@ -8,12 +8,6 @@
 
 namespace kelvor {
 
-/// The types of axle groups, in the order of their codes from 1.
-std::vector<LetterWord> AxleTypes();
-
-/// The periods in which traffic is counted, in the order of their codes from 1.
-std::vector<LetterWord> CountPeriods();
-
 /// What a box that completes words shows once `text` was typed where `shown` stood: a letter becomes its
 /// word, and further letters of a word that is being spelt leave it. `spelt` holds the letters typed so far.
 /// Nothing if the last letter is none of a word's: the caller knows what becomes of the text then.

@@ -14,9 +14,6 @@ namespace {
 
 const char* const kTitle = "Help";
 
-/// The fields whose value is the code of an axle type begin with these letters.
-constexpr std::string_view kAxleTypeStart = "AT";
-
 /// What help is asked for.
 struct Subject {
     std::string variable;  // empty: nothing was selected
@@ -72,6 +69,7 @@ struct CallerField {
     bool locked = false;
     bool computed = false;
     std::vector<std::string> items;
+    std::vector<LetterWord> words;  // of a list that stores codes; the list of a grid stores its texts
 };
 
 CallerField FindCallerField(const ScreenContext& context, const Form& form) {
@@ -82,11 +80,17 @@ CallerField FindCallerField(const ScreenContext& context, const Form& form) {
         const GridData& grid = *caller->FindGrid()->grid;
         const auto column = grid.Find(field);
         if (!column) return {};
-        return {grid.columns[*column].locked, grid.columns[*column].locked, grid.columns[*column].items};
+        return {grid.columns[*column].locked, grid.columns[*column].locked, grid.columns[*column].items, {}};
     }
     const Control* box = caller->FindField(field);
-    return box == nullptr ? CallerField{}
-                          : CallerField{box->locked, box->backColor == colours::kLightCyan, box->items};
+    if (box == nullptr) return {};
+    return {box->locked, box->backColor == colours::kLightCyan, box->items, box->words};
+}
+
+/// Offers what the caller's list offers, in the same way.
+void OfferItems(Control& list, const CallerField& field) {
+    list.items = field.items;
+    if (!field.words.empty()) MakeCoded(list, field.words);
 }
 
 /// Puts the list in the place of the box.
@@ -126,11 +130,9 @@ void ShowCalledField(ScreenContext& context, Form& form, const std::string& capt
 
     Control& unit = *form.FindUnitOf(box->name);
     const CallerField field = FindCallerField(context, form);
-    const bool coded = variable->name.starts_with(kAxleTypeStart);
     Control* list = form.Find("ComboBox");
-    if (list != nullptr && (coded || !field.items.empty())) {
-        list->items = field.items;
-        if (coded) MakeCoded(*list, AxleTypes());
+    if (list != nullptr && !field.items.empty()) {
+        OfferItems(*list, field);
         box = &SwapForList(form, *box, *list);
     }
     BindBox(*box, unit, variable->name, variable);

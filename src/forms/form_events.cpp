@@ -188,7 +188,12 @@ void FormEvents::GetFocus(Form& form, Control& control) {
     if (control.grid) FindControlIndex(form, control.name);
     if (!control.IsField() && !control.IsChoice()) return;
     Handle(FormEvent::GotFocus, form, &control, [&] {
-        if (control.IsField()) FieldGotFocus(form, control);
+        if (control.IsField()) {
+            FieldGotFocus(form, control);
+        } else {
+            // Help for an option is asked for like that for a field.
+            form.SetHiddenText("SolveForField", control.name);
+        }
     });
 }
 

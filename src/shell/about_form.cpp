@@ -14,9 +14,8 @@ FormType AboutForm() {
         Heading("ProductLabel", "Kelvor"),
         Text("VersionLabel", "Version " KELVOR_VERSION),
         Text("PurposeLabel",
-             "Design of new pavements and overlays, evaluation of deflection tests, traffic and life-cycle "
-             "cost "
-             "by the 1993 AASHTO Guide for Design of Pavement Structures."),
+             "Design of new pavements and overlays, evaluation of deflection tests, traffic and "
+             "life-cycle cost by the 1993 AASHTO Guide for Design of Pavement Structures."),
         Buttons({{"cmdAction", "&OK"}}),
     });
     type.handlers = {

@@ -1,8 +1,8 @@
 #include "design/screens/layer_coefficient_help.h"
 
-#include <cmath>
 #include <utility>
 
+#include "design/calc/layer_coefficient.h"
 #include "forms/field_help.h"
 #include "forms/form.h"
 #include "platform/number_text.h"
@@ -11,7 +11,6 @@ namespace kelvor {
 
 namespace {
 
-constexpr double kPsiPerKsi = 1000.0;
 constexpr int kLeastModulus = 100;  // ksi
 constexpr int kGreatestModulus = 500;
 constexpr int kModulusStep = 20;
@@ -28,7 +27,7 @@ ChartData CoefficientChart() {
         .title = "Layer Coefficient, a", .least = 0.1, .greatest = 0.5, .step = 0.1, .picture = "0.0"};
     chart.series = {{"Layer Coefficient, a", "#1F5FBF"}};
     for (int ksi = kLeastModulus; ksi <= kGreatestModulus; ksi += kModulusStep) {
-        chart.rows.push_back({std::to_string(ksi), {AsphaltCoefficient(ksi)}});
+        chart.rows.push_back({std::to_string(ksi), {AsphaltCoefficient(ksi).value()}});
     }
     return chart;
 }
@@ -57,8 +56,6 @@ FormType CoefficientHelp(const char* name, const char* caption, std::vector<std:
 }
 
 }  // namespace
-
-double AsphaltCoefficient(double modulusKsi) { return 0.171 * std::log(modulusKsi * kPsiPerKsi) - 1.784; }
 
 FormType LayerCoefficientHelp() {
     return CoefficientHelp("H_LDLayerCoef", "Help Screen for Layer Coefficient",

@@ -16,7 +16,7 @@ constexpr const char* kForm = "LayDet";
 constexpr const char* kEnough = "OK";
 constexpr const char* kTooLittle = "Selected Structure is Less Than Required.";
 
-/// The layer coefficient of a material; 0 for any other.
+/// The layer coefficient of a material.
 struct MaterialCoefficient {
     std::string_view material;
     double coefficient;
@@ -29,6 +29,7 @@ constexpr std::array kCoefficients = {
     MaterialCoefficient{"Granular Subbase", 0.1},
 };
 
+/// 0 for any other material.
 double CoefficientOf(std::string_view material) {
     for (const MaterialCoefficient& row : kCoefficients) {
         if (row.material == material) return row.coefficient;

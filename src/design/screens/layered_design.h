@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "forms/form_type.h"
 #include "forms/screen_context.h"
 

@@ -23,20 +23,16 @@ constexpr std::array kBoxes = {"CBR", "RVAL", "OCBR", "ORVAL", "V"};
 
 const char* const kAboutTests =
     "Empirical relationships have been developed between the CBR (California Bearing Ratio) value (using "
-    "dynamic "
-    "compaction), the R-value, and the in-site resilient modulus of the soil.";
+    "dynamic compaction), the R-value, and the in-site resilient modulus of the soil.";
 
 const char* const kAboutCorrelation =
     "The correlation used in this program were developed under NCHRP Project 128, 'Evaluation of AASHTO "
-    "Interim "
-    "Guide for the Design of Pavement Structures.'"
+    "Interim Guide for the Design of Pavement Structures.'"
     "  This study found a non-linear relationship between resilient modulus and CBR or R-Value."
     "  Although equation 1.5.1 of the AASHTO Guide suggests a relationship of 1500 * CBR for the resilient "
-    "modulus "
-    "of the subgrade, this correlation is only valid for fine-grained soils with low CBR value."
+    "modulus of the subgrade, this correlation is only valid for fine-grained soils with low CBR value."
     "  Other studies (Indiana, Ohio) have shown a correlation as low as 800 * CBR, and ranging from 750 to "
-    "3,000 "
-    "times the CBR value."
+    "3,000 times the CBR value."
     "  This range agrees with the correlation established in NCHRP Project 128.";
 
 /// Both estimates from the tests as they stand; nothing, with a message, for values out of range.

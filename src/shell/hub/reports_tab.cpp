@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <array>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "forms/form_events.h"
 #include "shell/hub/offer.h"
@@ -19,21 +21,7 @@ struct ReportBox {
     const char* category;
     const char* screen;
     Wants wants;
-};
-
-constexpr std::array kBoxes = {
-    ReportBox{"rbNDopF", "rbND", "DeF", Wants::Nothing},
-    ReportBox{"rbNDopR", "rbND", "DeR", Wants::Nothing},
-    ReportBox{"rbOVopBP", "rbOV", "OvBP", Wants::Data},
-    ReportBox{"rbOVopUP", "rbOV", "OvUP", Wants::Data},
-    ReportBox{"rbOVopWT", "rbOV", "OvWT", Wants::Data},
-    ReportBox{"rbOVopAFP", "rbOV", "OvAFP", Wants::Data},
-    ReportBox{"rbOVopAA", "rbOV", "OvAA", Wants::Data},
-    ReportBox{"rbOVopAP", "rbOV", "OvAP", Wants::Data},
-    ReportBox{"rbOVopAAP", "rbOV", "OvAAP", Wants::Data},
-    ReportBox{"rbTRopTrAx", "rbTr", "TrAx", Wants::Cells},
-    ReportBox{"rbTRopTrVe", "rbTr", "TrVe", Wants::AxleCells},
-    ReportBox{"rbTRopTrTr", "rbTr", "TrTr", Wants::Data},
+    const char* caption;
 };
 
 constexpr const char* kDesign = "rbND";
@@ -41,10 +29,25 @@ constexpr const char* kOverlays = "rbOV";
 constexpr const char* kTraffic = "rbTr";
 constexpr const char* kCost = "rbCost";
 constexpr std::array kCategories = {kDesign, kOverlays, kTraffic, kCost};
+
+constexpr std::array kBoxes = {
+    ReportBox{"rbNDopF", kDesign, "DeF", Wants::Nothing, "Flexible"},
+    ReportBox{"rbNDopR", kDesign, "DeR", Wants::Nothing, "Rigid"},
+    ReportBox{"rbOVopBP", kOverlays, "OvBP", Wants::Data, "Bonded Overlay"},
+    ReportBox{"rbOVopUP", kOverlays, "OvUP", Wants::Data, "Unbonded Overlay"},
+    ReportBox{"rbOVopWT", kOverlays, "OvWT", Wants::Data, "PCC Overlay of Asphalt (Whitetopping)"},
+    ReportBox{"rbOVopAFP", kOverlays, "OvAFP", Wants::Data, "AC Overlay of Fractured PCC Pavement"},
+    ReportBox{"rbOVopAA", kOverlays, "OvAA", Wants::Data, "AC Overlay of AC Pavement"},
+    ReportBox{"rbOVopAP", kOverlays, "OvAP", Wants::Data, "AC Overlay of PCC Pavement"},
+    ReportBox{"rbOVopAAP", kOverlays, "OvAAP", Wants::Data, "AC Overlay of AC/PCC Pavement"},
+    ReportBox{"rbTRopTrAx", kTraffic, "TrAx", Wants::Cells, "ESAL Determination by Axle Data"},
+    ReportBox{"rbTRopTrVe", kTraffic, "TrVe", Wants::AxleCells, "ESAL Determination by Vehicle Type"},
+    ReportBox{"rbTRopTrTr", kTraffic, "TrTr", Wants::Data, "ESAL Determination by Traffic Factors"},
+};
+
 constexpr const char* kCostScreen = "LcA1";
 constexpr std::array kCostScreens = {"LcA1", "LcA1_2", "LcA1_4", "LcA2", "LcA2_2", "LcA2_4"};
 
-constexpr const char* kInputsMissing = "needs the values of Pavement & Traffic Inputs";
 constexpr const char* kNoData = "its screen holds no values yet";
 constexpr const char* kNoCosts = "no cost screen holds values yet";
 
@@ -126,8 +129,10 @@ void OfferCategory(const ScreenContext& context, Form& hub, std::string_view cat
 }
 
 /// A category above its boxes.
-LayoutNode Category(const char* frame, ButtonItem option, std::vector<ButtonItem> boxes) {
-    std::vector<LayoutNode> rows = {Options({std::move(option)})};
+LayoutNode Category(const char* frame, const char* category, const char* caption) {
+    std::vector<ButtonItem> boxes;
+    ForCategory(category, [&](const ReportBox& report) { boxes.push_back({report.box, report.caption}); });
+    std::vector<LayoutNode> rows = {Options({ButtonItem{category, caption}})};
     if (!boxes.empty()) rows.push_back(Checks(std::move(boxes)));
     return Section(frame, "", std::move(rows));
 }
@@ -146,21 +151,10 @@ std::vector<Handler> ReportHandlers() {
 }  // namespace
 
 HubPage ReportsTab() {
-    const LayoutNode design =
-        Category("FrameRepND", {"rbND", " New Design"}, {{"rbNDopF", "Flexible"}, {"rbNDopR", "Rigid"}});
-    const LayoutNode overlays = Category("FrameRepOV", {"rbOV", "Overlays"},
-                                         {{"rbOVopBP", "Bonded Overlay"},
-                                          {"rbOVopUP", "Unbonded Overlay"},
-                                          {"rbOVopWT", "PCC Overlay of Asphalt (Whitetopping)"},
-                                          {"rbOVopAFP", "AC Overlay of Fractured PCC Pavement"},
-                                          {"rbOVopAA", "AC Overlay of AC Pavement"},
-                                          {"rbOVopAP", "AC Overlay of PCC Pavement"},
-                                          {"rbOVopAAP", "AC Overlay of AC/PCC Pavement"}});
-    const LayoutNode traffic = Category("FrameRepTr", {"rbTr", "Traffic"},
-                                        {{"rbTRopTrAx", "ESAL Determination by Axle Data"},
-                                         {"rbTRopTrVe", "ESAL Determination by Vehicle Type"},
-                                         {"rbTRopTrTr", "ESAL Determination by Traffic Factors"}});
-    const LayoutNode costs = Category("FrameRepCost", {"rbCost", "Cost"}, {});
+    const LayoutNode design = Category("FrameRepND", kDesign, " New Design");
+    const LayoutNode overlays = Category("FrameRepOV", kOverlays, "Overlays");
+    const LayoutNode traffic = Category("FrameRepTr", kTraffic, "Traffic");
+    const LayoutNode costs = Category("FrameRepCost", kCost, "Cost");
     return {Page("Reports", {Columns({Rows({design, overlays}), Rows({traffic, costs})}),
                              Buttons({{"Command10", "&Report"}, {"cmdbExport", "&Export"}})}),
             ReportHandlers()};

@@ -23,7 +23,10 @@ HubPage ReportsTab();
 HubPage ListsTab();
 HubPage StartTab();
 
-/// True if the inputs that all routes to the ESALs share are filled.
+/// Why an option is off that needs the inputs that all routes to the ESALs share.
+inline constexpr const char* kInputsMissing = "needs the values of Pavement & Traffic Inputs";
+
+/// True if these inputs are filled.
 bool TrafficInputsFilled(const ScreenContext& context);
 
 /// The routes to the ESALs need the inputs that all of them share.

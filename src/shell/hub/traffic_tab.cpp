@@ -21,8 +21,6 @@ struct Route {
 constexpr std::array kRoutes = {Route{"AxleData", "TrAx"}, Route{"VehicleType", "TrVe"},
                                 Route{"TrafficFactor", "TrTr"}};
 
-constexpr const char* kInputsMissing = "needs the values of Pavement & Traffic Inputs";
-
 }  // namespace
 
 HubPage TrafficTab() {

@@ -4,24 +4,18 @@
 #include <limits>
 #include <string>
 
+#include "traffic/calc/traffic_codes.h"
+
 namespace kelvor {
 
 namespace {
 
-constexpr std::int16_t kDay = 1;
-constexpr std::int16_t kMonth = 2;
-constexpr double kDaysOfYear = 365.25;
-constexpr double kMonthsOfYear = 12.0;
-
-constexpr double kTotalTraffic = 2.0;
-constexpr double kTwoWay = 2.0;
-
-/// The standard axle: a load of 18 kips on one single axle.
+/// Load (18 kips) plus axle type (1) of the standard axle, as the equations add them.
 constexpr double kStandardAxle = 19.0;
 
 Real Log10(Real x) { return Log(x) / Ln10; }
 
-/// Standard axles to one axle on a slab of D inches that is worn out at the serviceability pt.
+/// Standard axles that one axle group is worth on a slab of D inches, with terminal serviceability pt.
 Real RigidFactor(Real axleType, Real load, Real D, Real pt) {
     const Real G = Log10((4.5 - pt) * 0.333);
     const Real B18 = 3.63 * Pow(kStandardAxle, 5.2) / Pow(D + 1.0, 8.46) + 1.0;
@@ -44,8 +38,8 @@ Real FlexibleFactor(Real axleType, Real load, Real SN, Real pt) {
 /// The growth factor, times how many periods of the count a year has.
 Real PeriodsOfLife(const ProjectStore& store, std::int16_t period) {
     const Real growth = GrowthFactor(store);
-    if (period == kDay) return growth * kDaysOfYear;
-    if (period == kMonth) return growth * kMonthsOfYear;
+    if (period == kCountedByDay) return growth * kDaysOfYear;
+    if (period == kCountedByMonth) return growth * kMonthsOfYear;
     return growth;
 }
 
@@ -86,9 +80,11 @@ void AxleEsal(const ProjectStore& store, std::int16_t axleType, Real load, Real 
 std::int16_t AxleTypeCode(const ProjectStore& store, std::int16_t row) {
     const CellValue* cell = store.FindCell("AxleType", row, 1);
     if (cell == nullptr) throw ProgramStop("no cell " + CellText("AxleType", row, 1));
-    if (cell->text == "Single") return 1;
-    if (cell->text == "Tandem") return 2;
-    if (cell->text == "Tridem") return 3;
+    std::int16_t code = 0;
+    for (const char* word : kAxleTypeWords) {
+        ++code;
+        if (cell->text == word) return code;
+    }
     return 0;
 }
 

@@ -9,9 +9,9 @@ namespace kelvor {
 
 /// The equivalent 18-kip single axle loads of one kind of axle over the design life, from its type (1 single,
 /// 2 tandem, 3 tridem), the load of the whole axle group in kips, how many such axles pass in one period, and
-/// the period (1 day, 2 month, 3 year). The parameters of the traffic come from the store: slab thickness and
-/// structural number assumed, terminal serviceability, growth, design life, and what of the traffic runs in
-/// the design lane.
+/// the period (1 day, 2 month, 3 year; any other period counts as a year). The parameters of the traffic come
+/// from the store: slab thickness and structural number assumed, terminal serviceability, growth, design
+/// life, and what of the traffic runs in the design lane.
 ///
 /// Both results are 0 without a type, a load or a count. A result whose thickness or structural number is 0,
 /// or whose terminal serviceability is 0, stays as it came in. Raises ArithmeticFault if a number has no

@@ -1,6 +1,7 @@
 #include "traffic/calc/traffic_factors.h"
 
 #include "traffic/calc/axle_esal.h"
+#include "traffic/calc/traffic_codes.h"
 
 namespace kelvor {
 
@@ -15,7 +16,7 @@ Real TrucksOfDay(const CalcContext& context) {
 /// `factor` names the ESALs of one truck.
 void CalcFactorEsal(CalcContext& context, std::string_view target, std::string_view factor) {
     const Real trucks = TrucksOfDay(context);
-    const Real esal = trucks * context.store.GetVar(factor) * 365.25 * GrowthFactor(context.store);
+    const Real esal = trucks * context.store.GetVar(factor) * kDaysOfYear * GrowthFactor(context.store);
     context.store.SetVar(target, DesignLanePart(context.store, esal).value());
 }
 

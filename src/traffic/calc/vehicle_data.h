@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include "calc/calc_context.h"
 #include "platform/real.h"
 

@@ -1,9 +1,9 @@
 #include "traffic/screens/axle_data_screen.h"
 
-#include "forms/coded_list.h"
 #include "forms/form.h"
 #include "forms/recalculation.h"
 #include "traffic/screens/traffic_inputs.h"
+#include "traffic/screens/traffic_words.h"
 
 namespace kelvor {
 

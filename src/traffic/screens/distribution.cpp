@@ -2,12 +2,11 @@
 
 #include <array>
 
+#include "traffic/calc/traffic_codes.h"
+
 namespace kelvor {
 
 namespace {
-
-constexpr double kTotalTraffic = 2.0;
-constexpr double kTwoWay = 2.0;
 
 constexpr std::array kOfTotalTraffic = {"Frame2",  "TRONEWAY", "TRTWOWAY", "TRLANDIS",
                                         "Label10", "Label11",  "Label12",  "Label13"};

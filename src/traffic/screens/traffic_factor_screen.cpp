@@ -45,11 +45,6 @@ void OptionClick(ScreenContext& context, Form& form, Control* option) {
     RecalcOutputs(context, form, "", 0);
 }
 
-/// Help for an option is asked for like that for a field.
-void OptionFocused(ScreenContext& /*context*/, Form& form, Control* option) {
-    if (option->IsChoice()) form.SetHiddenText("SolveForField", option->name);
-}
-
 void HelpClick(ScreenContext& context, Form& form, Control* /*button*/) {
     const std::string field = form.HiddenText("SolveForField");
     const bool traffic =
@@ -92,7 +87,6 @@ FormType TrafficFactorForm() {
         {FormEvent::Load, "", HandlerOrder::After, Load},
         {FormEvent::Click, "OpADTT", HandlerOrder::Instead, OptionClick},
         {FormEvent::Click, "OpADT", HandlerOrder::Instead, OptionClick},
-        {FormEvent::GotFocus, "", HandlerOrder::After, OptionFocused},
         {FormEvent::Click, "SSHelp", HandlerOrder::Instead, HelpClick},
         {FormEvent::Unload, "", HandlerOrder::After, Closing},
     };

@@ -45,11 +45,10 @@ FormType TrafficInputHelp() {
              "Label1",
              "ESAL calculation by Traffic Factors approximates the ESALs that a roadway will carry over its "
              "design life based on the average traffic that uses the roadway.  Because exact axle weights "
-             "and "
-             "configurations are not used, it is not as precise an ESAL calculation as when ESALs are based "
-             "on axle data or vehicle type.  Furthermore, this procedure recognizes that it is truck traffic "
-             "that is the major cause of damage.  As such traffic must be converted into the average daily "
-             "truck volume."),
+             "and configurations are not used, it is not as precise an ESAL calculation as when ESALs are "
+             "based on axle data or vehicle type.  Furthermore, this procedure recognizes that it is truck "
+             "traffic that is the major cause of damage.  As such traffic must be converted into the average "
+             "daily truck volume."),
          Text("Label2",
               "Average Daily Traffic (ADT) is the average number of vehicles that use the road each day."),
          Text("Label3", "% Heavy Trucks is the percentage of trucks in the ADT"),
@@ -64,9 +63,8 @@ FormType TrafficFactorsHelp() {
         {Text("Label1",
               "Traffic Factors approximate the average ESAL per truck.  It is based on historical data that "
               "tells, on average, the weights and axle configurations of all the trucks that use the "
-              "roadway.  "
-              "Because exact axle weights and configurations are not used, it is not as precise an ESAL "
-              "calculation as when ESALs are based on axle data or vehicle type."),
+              "roadway.  Because exact axle weights and configurations are not used, it is not as precise an "
+              "ESAL calculation as when ESALs are based on axle data or vehicle type."),
          Text("Label2",
               "Traffic Factors can be calculated using average weights and configuration values in the axle "
               "data or vehicle type screens, or in many cases, they can be obtained from the State DOT"),
@@ -85,19 +83,15 @@ FormType DistributionHelp() {
          Caption("Label4", "Design Lane Distribution (DLD):"),
          Text("Label5",
               "The Design lane Distribution accounts for the distribution of traffic when two or more lanes "
-              "are "
-              "available in one direction, expressed as a percentage.     A 50% Design Lane Distribution "
-              "means "
-              "that half the vehicles are in one lane and the other half are in the other.  A 100% Design "
-              "Lane "
-              "Distribution means all vehicles are in the design lane."),
+              "are available in one direction, expressed as a percentage.     A 50% Design Lane Distribution "
+              "means that half the vehicles are in one lane and the other half are in the other.  A 100% "
+              "Design Lane Distribution means all vehicles are in the design lane."),
          Caption("Label6", "Directional Distribution (DD):"),
          Text("Label7",
               "The Directional Distribution accounts for the distribution of traffic by direction (i.e. "
               "east-west, north-south, in-out). expressed as a percentage.  A 50% Directional Distribution "
               "means that half the vehicles are going one direction and the other half are going the other.  "
-              "A "
-              "100% Directional Distribution means all vehicles are going in the same direction."),
+              "A 100% Directional Distribution means all vehicles are going in the same direction."),
          Fields({{"TRDIRDIS"}, {"TRLANDIS"}})});
     type.handlers.push_back({FormEvent::Load, "", HandlerOrder::After, LoadDistribution});
     return type;

@@ -1,6 +1,7 @@
 #include "traffic/screens/traffic_inputs.h"
 
 #include "forms/coded_list.h"
+#include "traffic/screens/traffic_words.h"
 
 namespace kelvor {
 

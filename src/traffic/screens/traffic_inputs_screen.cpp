@@ -4,17 +4,13 @@
 #include "forms/field_entry.h"
 #include "forms/field_help.h"
 #include "forms/form.h"
+#include "traffic/calc/traffic_codes.h"
 #include "traffic/screens/distribution.h"
+#include "traffic/screens/traffic_words.h"
 
 namespace kelvor {
 
 namespace {
-
-constexpr double kDesignLane = 1.0;
-constexpr double kTotalTraffic = 2.0;
-constexpr double kOneWay = 1.0;
-constexpr double kTwoWay = 2.0;
-constexpr double kDay = 1.0;
 
 /// Stores a choice between two. True if it is another one than before.
 bool StoreChoice(ScreenContext& context, const char* variable, double choice) {
@@ -52,8 +48,8 @@ void Load(ScreenContext& context, Form& form, Control* /*control*/) {
 void Activated(ScreenContext& context, Form& form, Control* /*control*/) {
     Control& period = *form.Find("TrPer");
     ShowStoredValue(context, form, period);
-    if (!period.text.empty() && period.text != CountPeriods().front().word) return;
-    context.units.SetDisplayNumber("TrPer", 1, 1, kDay);
+    if (!period.text.empty() && period.text != WordOf(period.words, kCountedByDay)) return;
+    context.units.SetDisplayNumber("TrPer", 1, 1, kCountedByDay);
     ShowStoredValue(context, form, period);
 }
 
@@ -76,13 +72,8 @@ void PeriodPicked(ScreenContext& context, Form& form, Control* list) {
 /// A text that is neither the day nor the month counts as the year.
 void PeriodLeft(ScreenContext& context, Form& form, Control* list) {
     if (!form.fieldChanged() || list->text.empty() || CodeOf(list->words, list->text)) return;
-    list->text = CountPeriods().back().word;
+    list->text = WordOf(list->words, kCountedByYear);
     PeriodPicked(context, form, list);
-}
-
-/// Help for an option is asked for like that for a field.
-void OptionFocused(ScreenContext& /*context*/, Form& form, Control* option) {
-    if (option->IsChoice()) form.SetHiddenText("SolveForField", option->name);
 }
 
 void HelpClick(ScreenContext& context, Form& form, Control* /*button*/) {
@@ -132,7 +123,6 @@ FormType TrafficInputsForm() {
         {FormEvent::Activate, "", HandlerOrder::After, Activated},
         {FormEvent::Change, "TrPer", HandlerOrder::After, PeriodPicked},
         {FormEvent::LostFocus, "TrPer", HandlerOrder::Before, PeriodLeft},
-        {FormEvent::GotFocus, "", HandlerOrder::After, OptionFocused},
         {FormEvent::Click, "SSHelp", HandlerOrder::Instead, HelpClick},
     };
     for (const char* option : {"Option1", "Option2"}) {

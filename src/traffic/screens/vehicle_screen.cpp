@@ -1,19 +1,21 @@
 #include "traffic/screens/vehicle_screen.h"
 
 #include <array>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "forms/coded_list.h"
 #include "forms/field_entry.h"
 #include "forms/form.h"
 #include "forms/recalculation.h"
+#include "traffic/calc/traffic_codes.h"
 #include "traffic/screens/traffic_inputs.h"
+#include "traffic/screens/traffic_words.h"
 
 namespace kelvor {
 
 namespace {
-
-constexpr int kFirstAxle = 51;
-constexpr int kLastAxle = 70;
 
 struct Drawing {
     const char* file;
@@ -21,36 +23,24 @@ struct Drawing {
     const char* words;
 };
 
-/// A class of vehicles: its axles stand from `firstAxle` to `lastAxle`, which names its count.
+/// How a class of vehicles is shown.
 struct Vehicle {
-    int firstAxle;
-    int lastAxle;
     const char* name;
     std::vector<Drawing> drawings;
 };
 
-std::vector<Vehicle> Vehicles() {
-    return {
-        {51, 53, "2-axle truck, bus", {{"truck_2.svg", 11.0, "A truck with two axles"}}},
-        {54, 56, "3-axle truck", {{"truck_3.svg", 13.0, "A truck with three axles, two of them a tandem"}}},
-        {57,
-         59,
-         "2-S1",
-         {{"semitrailer_2_s1.svg", 19.0, "A tractor with two axles, a semitrailer with one"}}},
-        {60,
-         62,
-         "2-S2",
-         {{"semitrailer_2_s2.svg", 20.0, "A tractor with two axles, a semitrailer with a tandem"}}},
-        {63,
-         65,
-         "3-S2",
-         {{"semitrailer_3_s2.svg", 21.0, "A tractor with three axles, a semitrailer with a tandem"}}},
-        {66,
-         70,
-         "2-S1-2",
+/// In the order of the classes' axles.
+std::array<Vehicle, kVehicleAxles.size()> Vehicles() {
+    return {{
+        {"2-axle truck, bus", {{"truck_2.svg", 11.0, "A truck with two axles"}}},
+        {"3-axle truck", {{"truck_3.svg", 13.0, "A truck with three axles, two of them a tandem"}}},
+        {"2-S1", {{"semitrailer_2_s1.svg", 19.0, "A tractor with two axles, a semitrailer with one"}}},
+        {"2-S2", {{"semitrailer_2_s2.svg", 20.0, "A tractor with two axles, a semitrailer with a tandem"}}},
+        {"3-S2", {{"semitrailer_3_s2.svg", 21.0, "A tractor with three axles, a semitrailer with a tandem"}}},
+        {"2-S1-2",
          {{"semitrailer_2_s1.svg", 19.0, "A tractor with two axles, a semitrailer with one,"},
           {"trailer_2.svg", 14.0, "and a trailer with two axles behind it"}}},
-    };
+    }};
 }
 
 // --- Layout -------------------------------------------------------------------------------------------
@@ -75,22 +65,23 @@ void AddHeadings(std::vector<LayoutNode>& elements, int block, const std::string
 }
 
 /// The drawing, or drawings, of a class with its name below.
-LayoutNode Drawings(const Vehicle& vehicle, int& images) {
+LayoutNode Drawings(const Vehicle& vehicle, const VehicleAxles& axles, int& images) {
     std::vector<LayoutNode> rows;
     for (const Drawing& drawing : vehicle.drawings) {
         rows.push_back(
             SmallPicture("Image" + std::to_string(++images), drawing.file, drawing.letters, drawing.words));
     }
-    rows.push_back(Caption(Named("Class", vehicle.lastAxle), vehicle.name));
+    rows.push_back(Caption(Named("Class", axles.last), vehicle.name));
     return Rows(std::move(rows));
 }
 
 /// The axles of a class below each other, its count in the first line. An empty row sets the classes apart.
-int AddVehicle(std::vector<LayoutNode>& elements, const Vehicle& vehicle, int row, int& images) {
-    const int axles = vehicle.lastAxle - vehicle.firstAxle + 1;
-    elements.push_back(At(row, kPictureColumn, Drawings(vehicle, images), axles));
-    elements.push_back(At(row, kNumberColumn, Box({.variable = Named("NA", vehicle.lastAxle)})));
-    for (int axle = vehicle.firstAxle; axle <= vehicle.lastAxle; ++axle, ++row) {
+int AddVehicle(std::vector<LayoutNode>& elements, const Vehicle& vehicle, const VehicleAxles& axles, int row,
+               int& images) {
+    const int count = axles.last - axles.first + 1;
+    elements.push_back(At(row, kPictureColumn, Drawings(vehicle, axles, images), count));
+    elements.push_back(At(row, kNumberColumn, Box({.variable = Named("NA", axles.last)})));
+    for (int axle = axles.first; axle <= axles.last; ++axle, ++row) {
         elements.push_back(
             At(row, kTypeColumn,
                Box({.variable = Named("AT", axle), .words = AxleTypes(), .letters = kTypeLetters})));
@@ -102,11 +93,13 @@ int AddVehicle(std::vector<LayoutNode>& elements, const Vehicle& vehicle, int ro
 
 /// Some of the classes under their headings.
 LayoutNode Block(int block, std::size_t first, std::size_t last, int& images) {
-    const std::vector<Vehicle> vehicles = Vehicles();
+    const auto vehicles = Vehicles();
     std::vector<LayoutNode> elements;
-    AddHeadings(elements, block, Named("uAW", vehicles[first].firstAxle));
+    AddHeadings(elements, block, Named("uAW", kVehicleAxles.at(first).first));
     int row = kUnitRow + 1;
-    for (std::size_t i = first; i <= last; ++i) row = AddVehicle(elements, vehicles[i], row, images);
+    for (std::size_t i = first; i <= last; ++i) {
+        row = AddVehicle(elements, vehicles.at(i), kVehicleAxles.at(i), row, images);
+    }
     return Matrix(std::move(elements));
 }
 
@@ -134,12 +127,16 @@ bool HasVehicles(const ScreenContext& context, const Form& form) {
     return false;
 }
 
-/// A code that is none leaves the box of its axle as it stands.
+/// A code that is none leaves the box as it stands.
+void ShowType(const ScreenContext& context, const Form& form, Control& box) {
+    if (!WordOf(box.words, context.calc.store.GetVar(box.tag)).empty()) ShowStoredValue(context, form, box);
+}
+
 void ShowTypes(const ScreenContext& context, Form& form) {
-    for (int axle = kFirstAxle; axle <= kLastAxle; ++axle) {
-        Control& box = *form.Find(Named("AT", axle));
-        if (!WordOf(box.words, context.calc.store.GetVar(box.tag)).empty())
-            ShowStoredValue(context, form, box);
+    for (const VehicleAxles& axles : kVehicleAxles) {
+        for (int axle = axles.first; axle <= axles.last; ++axle) {
+            ShowType(context, form, *form.Find(Named("AT", axle)));
+        }
     }
 }
 

@@ -51,7 +51,7 @@ class FieldHelpTest : public testing::Test {
                                                     "Dim1",      "Column",   "FieldChanged", "LDAdditThick"};
         std::vector<std::string> cells;
         program_.store().ForEachFilled([&](const CellKey& key, const CellValue& value) {
-            if (kKept.count(key.name) != 0) return;
+            if (kKept.contains(key.name)) return;
             cells.push_back(key.name + "(" + std::to_string(key.dim1) + "," + std::to_string(key.dim2) +
                             ") = " + (value.number ? std::to_string(*value.number) : "-") + " " +
                             value.text.value_or("-"));
@@ -179,6 +179,22 @@ TEST_F(FieldHelpTest, AnEntryThatAListDoesNotOfferIsRefused) {
     Raise(Kind::Press, "Command1");
     EXPECT_THAT(Messages(), ElementsAre("Please select item from the list"));
     EXPECT_EQ(Current().name(), "HelpGrid");
+}
+
+TEST_F(FieldHelpTest, TheListIsTheCallersAndWithoutItThereIsABox) {
+    program_.Set("AT51", 2.0);
+    Raise(Kind::OpenForm, "TrVe");
+    Raise(Kind::Focus, "AT51");
+    Raise(Kind::Key, "F1");
+    EXPECT_THAT(Current().Find("ComboBox")->items, ElementsAre("Single", "Tandem", "Tridem"));
+    EXPECT_EQ(Current().HiddenText("ComboBox"), "Tandem");
+    EXPECT_FALSE(Current().Find("TextBox")->visible);
+    Raise(Kind::Key, "Esc");
+    Raise(Kind::CloseForm, "TrVe");
+    Raise(Kind::OpenForm, "HelpForm");
+    EXPECT_EQ(Current().HiddenText("FieldName"), "AT51") << "the field of before";
+    EXPECT_FALSE(Current().Find("ComboBox")->visible);
+    EXPECT_EQ(Current().HiddenText("TextBox"), "2") << "the code";
 }
 
 TEST_F(FieldHelpTest, AHelpThatIsOpenForAnotherScreenGivesWay) {

@@ -12,6 +12,7 @@
 #include "forms/form.h"
 #include "reference_factors.h"
 #include "support/test_host.h"
+#include "traffic/screens/traffic_words.h"
 
 namespace kelvor::test {
 namespace {
@@ -140,7 +141,9 @@ std::string Spelt(const std::vector<LetterWord>& words, const std::string& lette
     std::string shown;
     std::string spelt;
     for (const char letter : letters) {
-        shown = CompleteWord(words, shown, shown + letter, spelt).value_or(shown + letter);
+        std::string typed = shown;
+        typed += letter;
+        shown = CompleteWord(words, shown, typed, spelt).value_or(typed);
     }
     return shown;
 }
