@@ -479,8 +479,6 @@ TEST_F(WindowTest, AModalFormKeepsTheUserFromEverythingElse) {
     EXPECT_FALSE(behind->isEnabled());
     EXPECT_FALSE(window().menuBar()->isEnabled());
     window().door().Raise({UserEvent::Kind::ActivateForm, "DeF", {}, 0});
-    window().close();
-    EXPECT_TRUE(window().isVisible());
     EXPECT_EQ(window().CurrentView(), window().FindView("Asks"));
     Press(Qt::Key_O, Qt::AltModifier);
     EXPECT_EQ(window().FindView("Asks"), nullptr);

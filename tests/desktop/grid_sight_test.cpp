@@ -17,7 +17,7 @@
 namespace kelvor::test {
 namespace {
 
-class GridWindowTest : public KeyboardTest {
+class GridSightTest : public KeyboardTest {
   protected:
     void Open(const char* form) { window().door().Raise({UserEvent::Kind::OpenForm, form, {}, 0}); }
 
@@ -30,7 +30,7 @@ class GridWindowTest : public KeyboardTest {
     }
 };
 
-TEST_F(GridWindowTest, AnItemThatIsPickedShowsBeforeItIsStored) {
+TEST_F(GridSightTest, AnItemThatIsPickedShowsBeforeItIsStored) {
     Open("LayDet");
     GridView& grid = Grid("LayDet");
     Press(Qt::Key_F2);
@@ -48,7 +48,7 @@ TEST_F(GridWindowTest, AnItemThatIsPickedShowsBeforeItIsStored) {
     EXPECT_EQ(state().dbWork.FindCell("LDLayerMat", 1, 1)->text, picked);
 }
 
-TEST_F(GridWindowTest, WhatIsBeingTypedStaysInSightWhileAMenuIsOpen) {
+TEST_F(GridSightTest, WhatIsBeingTypedStaysInSightWhileAMenuIsOpen) {
     Open("LayDet");
     GridView& grid = Grid("LayDet");
     Press(Qt::Key_Tab);
@@ -69,7 +69,7 @@ TEST_F(GridWindowTest, WhatIsBeingTypedStaysInSightWhileAMenuIsOpen) {
     EXPECT_EQ(state().dbWork.GetVarDim("LDLayerCoef", 1, 1), 0.44);
 }
 
-TEST_F(GridWindowTest, DeleteEmptiesEveryMarkedCell) {
+TEST_F(GridSightTest, DeleteEmptiesEveryMarkedCell) {
     for (int row = 1; row <= 3; ++row) {
         desktop.program().SetValue("AxleWeight", row, 1, "18");
         desktop.program().SetValue("NumOfAxles", row, 1, "10");
@@ -87,7 +87,7 @@ TEST_F(GridWindowTest, DeleteEmptiesEveryMarkedCell) {
     }
 }
 
-TEST_F(GridWindowTest, AnAddedRowIsInSight) {
+TEST_F(GridSightTest, AnAddedRowIsInSight) {
     window().door().Raise({UserEvent::Kind::SwitchTab, {}, {}, 6});
     window().door().Raise({UserEvent::Kind::Choose, "CustCombo", "Layer Materials", 0});
     window().door().Raise({UserEvent::Kind::Press, "cmdbAddMaint", {}, 0});
@@ -98,7 +98,7 @@ TEST_F(GridWindowTest, AnAddedRowIsInSight) {
     EXPECT_TRUE(grid.viewport()->rect().contains(row)) << row.top() << " of " << grid.viewport()->height();
 }
 
-TEST_F(GridWindowTest, TheFocusOfAButtonCanBeSeen) {
+TEST_F(GridSightTest, TheFocusOfAButtonCanBeSeen) {
     Open("DeF");
     FormView& view = *window().FindView("DeF");
     auto& button = dynamic_cast<QPushButton&>(*view.FindWidget("cmdAction"));
@@ -109,7 +109,7 @@ TEST_F(GridWindowTest, TheFocusOfAButtonCanBeSeen) {
     EXPECT_NE(button.grab().toImage(), without);
 }
 
-TEST_F(GridWindowTest, AFieldOutsideASmallWindowIsScrolledIntoSight) {
+TEST_F(GridSightTest, AFieldOutsideASmallWindowIsScrolledIntoSight) {
     Open("DeS");
     window().resize(500, 360);
     QApplication::processEvents();
@@ -124,7 +124,7 @@ TEST_F(GridWindowTest, AFieldOutsideASmallWindowIsScrolledIntoSight) {
     }
 }
 
-TEST_F(GridWindowTest, TheWindowClosesOverAHelpWhoseValueGoesToItsFieldFirst) {
+TEST_F(GridSightTest, TheWindowClosesOverAHelpWhoseValueGoesToItsFieldFirst) {
     Open("DeF");
     Press(Qt::Key_F1);
     Type("5000");
@@ -135,7 +135,7 @@ TEST_F(GridWindowTest, TheWindowClosesOverAHelpWhoseValueGoesToItsFieldFirst) {
     EXPECT_EQ(state().dbWork.GetVar("FLEXE18"), 5000.0);
 }
 
-TEST_F(GridWindowTest, WithoutAProjectTheStatusLineSaysSo) {
+TEST_F(GridSightTest, WithoutAProjectTheStatusLineSaysSo) {
     const std::string broken = home / "broken.kvr";
     WriteFile(broken, "a text");
     window().door().Raise({UserEvent::Kind::OpenFile, {}, broken, 0});
