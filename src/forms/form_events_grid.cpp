@@ -139,26 +139,31 @@ void FormEvents::NoteCurrentCell(Form& form) {
 
 /// Moves the cursor by a key; Tab and Enter go on to the next row at the end of one, and leave the grid at
 /// its ends.
+/// Tab and Enter go from one cell that takes a value to the next, and out of the grid behind the last; the
+/// arrows reach every cell.
 void FormEvents::StepCell(Form& form, Control& control, const std::string& key) {
     if (!CommitCell(form, control)) return;
     const GridData& grid = *control.grid;
-    const int columns = static_cast<int>(grid.columns.size());
-    const int place = (grid.row - 1) * columns + static_cast<int>(grid.column);
-    const bool back = key == "BackTab" || key == "Left";
     if (key == "Up" || key == "Down") {
         if (grid.rows == 0) return;
         const int row = std::clamp(grid.row + (key == "Up" ? -1 : 1), 1, grid.rows);
         MoveGridCursor(form, control, row, grid.column);
         return;
     }
-    const int next = place + (back ? -1 : 1);
-    if (key == "Left" || key == "Right") {
-        if (next < 0 || next / columns + 1 != grid.row) return;
-    } else if (next < 0 || next >= columns * grid.rows) {
-        Tab(form, !back);
-        return;
+    const int columns = static_cast<int>(grid.columns.size());
+    const bool arrow = key == "Left" || key == "Right";
+    const int step = key == "BackTab" || key == "Left" ? -1 : 1;
+    const auto isIn = [&](int place) { return place >= 0 && place < columns * grid.rows; };
+    const auto isLocked = [&](int place) {
+        return grid.columns[static_cast<std::size_t>(place % columns)].locked;
+    };
+    int place = (grid.row - 1) * columns + static_cast<int>(grid.column) + step;
+    while (!arrow && isIn(place) && isLocked(place)) place += step;
+    if (!isIn(place)) {
+        if (!arrow) Tab(form, step > 0);
+    } else if (!arrow || place / columns + 1 == grid.row) {
+        MoveGridCursor(form, control, place / columns + 1, static_cast<std::size_t>(place % columns));
     }
-    MoveGridCursor(form, control, next / columns + 1, static_cast<std::size_t>(next % columns));
 }
 
 }  // namespace kelvor

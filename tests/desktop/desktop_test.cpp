@@ -346,6 +346,9 @@ TEST_F(GridWindowTest, ALayerIsTypedByKeysAlone) {
     Press(Qt::Key_Tab);
     EXPECT_EQ(Cell(1, 4), "1.76");
     EXPECT_EQ(Shown("SSN"), "1.76");
+    EXPECT_EQ(Table().currentIndex().row(), 1) << "Tab passes over what is computed";
+    Press(Qt::Key_Backtab);
+    Press(Qt::Key_Right);
     EXPECT_EQ(Find<QLabel>("Hint").text(), "Layer Struct No, SNi: computed");
     Press(Qt::Key_Left);
     Press(Qt::Key_F2);

@@ -243,6 +243,23 @@ TEST_F(GridTest, TabLeavesTheGridAtItsEnds) {
     EXPECT_EQ(form_->focus->name, "SSHelp");
 }
 
+TEST_F(GridTest, TabAndEnterPassOverComputedCellsAndTheArrowsDoNot) {
+    for (const char* key : {"Tab", "Enter"}) {
+        Raise(Kind::MoveToCell, "LDLayerThick", {}, 1);
+        Raise(Kind::Key, key);
+        EXPECT_EQ(Grid().row, 2) << key;
+        EXPECT_EQ(Grid().current().variable, "LDLayerMat") << key;
+    }
+    Raise(Kind::Key, "BackTab");
+    EXPECT_EQ(Grid().row, 1);
+    EXPECT_EQ(Grid().current().variable, "LDLayerThick");
+    Raise(Kind::Key, "Right");
+    EXPECT_EQ(Grid().current().variable, "LDLayerStructNo");
+    Raise(Kind::MoveToCell, "LDLayerThick", {}, 6);
+    Raise(Kind::Key, "Enter");
+    EXPECT_EQ(form_->focus->name, "cmdAction") << "there is nothing more to fill";
+}
+
 TEST_F(GridTest, WhatIsBeingTypedGoesWithItsRow) {
     AddLayer(1, "0.4", "1", "4");
     AddLayer(2, "0.1", "1", "8");
