@@ -8,7 +8,7 @@ namespace kelvor {
 
 namespace {
 
-enum Term : int { kD = 1, kW18, kReliability, kS0, kMR, kEc, kJ, kModulus, kCd, kP0, kPt };
+enum Term : int { kD = 1, kW18, kReliability, kS0, kMR, kEc, kJ, kSubgradeK, kCd, kP0, kPt };
 
 constexpr double kThinnestSlab = 4.0;   // inches
 constexpr double kThickestSlab = 20.0;  // inches; also where the search starts from above
@@ -57,12 +57,12 @@ class RigidSolver : EquationSolver<kRigidTerms> {
                                                 (215.63 * Value(kJ) * (ThicknessPower() - Stiffness()))));
             case kEc:
                 return Write(term,
-                             Pow(-18.42 / (RequiredMargin() - ThicknessPower()), 4.0) * Value(kModulus));
+                             Pow(-18.42 / (RequiredMargin() - ThicknessPower()), 4.0) * Value(kSubgradeK));
             case kJ:
                 return Write(term, (Value(kMR) * Value(kCd) * (ThicknessPower() - 1.132) /
                                     (215.63 * (ThicknessPower() - Stiffness()))) /
                                        RequiredRatio());
-            case kModulus:
+            case kSubgradeK:
                 return Write(term, Value(kEc) / Pow(-18.42 / (RequiredMargin() - ThicknessPower()), 4.0));
             case kCd:
                 return Write(term,
@@ -79,7 +79,7 @@ class RigidSolver : EquationSolver<kRigidTerms> {
     [[nodiscard]] Real ThicknessPower() const { return Pow(Value(kD), 0.75); }
 
     /// 18.42 / (Ec / k)^0.25, which D^0.75 must exceed.
-    [[nodiscard]] Real Stiffness() const { return 18.42 / Pow(Value(kEc) / Value(kModulus), 0.25); }
+    [[nodiscard]] Real Stiffness() const { return 18.42 / Pow(Value(kEc) / Value(kSubgradeK), 0.25); }
 
     /// The value of the ratio that the traffic requires.
     [[nodiscard]] Real RequiredRatio() const {
@@ -106,8 +106,8 @@ class RigidSolver : EquationSolver<kRigidTerms> {
     }
 
     [[nodiscard]] RigidInputs Inputs() const {
-        return {Handle(kS0),      Handle(kMR), Handle(kEc), Handle(kJ),
-                Handle(kModulus), Handle(kCd), Handle(kP0), Handle(kPt)};
+        return {Handle(kS0),        Handle(kMR), Handle(kEc), Handle(kJ),
+                Handle(kSubgradeK), Handle(kCd), Handle(kP0), Handle(kPt)};
     }
 
     int SolveTraffic() {
@@ -121,14 +121,14 @@ class RigidSolver : EquationSolver<kRigidTerms> {
     }
 
     /// About the thinnest slab for which the equation holds.
-    [[nodiscard]] Real LowestStarThicknessPower() const {
-        const Real low = 48.65 * Pow(Value(kModulus), 0.415) / Pow(Value(kEc), 0.341);
+    [[nodiscard]] Real LowestStart() const {
+        const Real low = 48.65 * Pow(Value(kSubgradeK), 0.415) / Pow(Value(kEc), 0.341);
         return Pow(low, 0.75) <= 1.132 ? Real(1.18) : low;
     }
 
     int SolveThickness() {
         SearchProblem problem;
-        problem.low = LowestStarThicknessPower();
+        problem.low = LowestStart();
         problem.high = kThickestSlab;
         problem.lowers = false;
         problem.traffic = [this, inputs = Inputs()](Real D, Real& w18) {

@@ -112,8 +112,7 @@ FormType SubgradeModulusHelp() {
         Buttons({{"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}}),
         Hidden({"FieldName", "FormName"}),
     });
-    type.handlers = {{FormEvent::Stored, "", HandlerOrder::After, TestLeft},
-                     {FormEvent::LostFocus, "", HandlerOrder::After, TestLeft},
+    type.handlers = {{FormEvent::LostFocus, "", HandlerOrder::After, TestLeft},
                      {FormEvent::Unload, "", HandlerOrder::Before, Closing}};
     return type;
 }

@@ -301,6 +301,17 @@ TEST_F(FieldHelpTest, TheModulusOfTheTestsIsHandedOverWheneverTheyGiveOne) {
     EXPECT_NEAR(program_.Get("OCBR"), 1941.488 * std::pow(10.0, 0.6844709), 1e-9);
 }
 
+TEST_F(FieldHelpTest, TestsThatAreOutOfRangeAreToldOnceAndTheOutputsStay) {
+    program_.Set("RVAL", 1e6);  // e to the power 34,350
+    program_.Set("V", 4000.0);
+    Raise(Kind::OpenForm, "H_SRM");
+    Raise(Kind::Type, {}, "5");
+    Raise(Kind::Key, "Tab");
+    EXPECT_THAT(Messages(), ElementsAre("Math Overflow Error: One or more values out of range."));
+    EXPECT_EQ(Current().HiddenText("V"), "4,000.0");
+    EXPECT_EQ(program_.Get("CBR"), 5.0);
+}
+
 TEST_F(FieldHelpTest, WhatAPictureHidesOfATestCounts) {
     Raise(Kind::OpenForm, "DeF");
     Raise(Kind::Focus, "RM");
