@@ -28,7 +28,7 @@ double PrepareSolve(BenchProgram& program) {
     if (SolveForVariable(context, kScreen, kStructuralNumber) != 0) {
         throw std::runtime_error("the structural number is not solved");
     }
-    return program.store().GetVar(names[0]);
+    return program.store().GetVar(names[0]).value();
 }
 
 void SolveThroughStore(benchmark::State& state, BenchProgram& program) {
@@ -85,7 +85,7 @@ SolveCount CountSolve(BenchProgram& program) {
     };
     problem.target = [&]() -> Real {
         ++targets;
-        return store.Number(traffic);
+        return store.Number(traffic).value();
     };
     if (SearchBracket(problem, program.clock()).x != solved) {
         throw std::runtime_error("the counted search finds another structural number");

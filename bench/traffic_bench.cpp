@@ -50,7 +50,7 @@ void CheckSpectrum(BenchProgram& program, const Dispatch& calculations) {
     ProjectStore& store = program.store();
     ChangeGrowth(program, calculations, 1.0);
     std::vector<double> before;
-    for (int row = 1; row <= kRows; ++row) before.push_back(store.GetVarDim("FE18", row, 1));
+    for (int row = 1; row <= kRows; ++row) before.push_back(store.GetVarDim("FE18", row, 1).value());
     ChangeGrowth(program, calculations, 2.0);
     for (int row = 1; row <= kRows; ++row) {
         if (!(store.GetVarDim("FE18", row, 1) > before[static_cast<std::size_t>(row - 1)])) {

@@ -15,9 +15,9 @@ namespace {
 /// soil resilient modulus, psi (1993 AASHTO Guide, Part II, Section 3.2.1). Nothing is written if the
 /// modulus was not entered.
 void CalcSubgradeK(CalcContext& context, std::string_view target) {
-    const Real resilientModulus = context.store.GetVar("MRSG");
+    const Real resilientModulus = context.Get("MRSG");
     if (resilientModulus == 0.0) return;
-    context.store.SetVar(target, (resilientModulus / 19.4).value());
+    context.Put(target, resilientModulus / 19.4);
 }
 
 constexpr std::array kFields = {FieldKey{"SUBGRADEK", CalcSubgradeK}};

@@ -1,10 +1,10 @@
 #include "store/project_store.h"
 
 #include <algorithm>
+#include <cmath>
 #include <tuple>
 #include <utility>
 
-#include "platform/real.h"
 #include "platform/sqlite.h"
 
 namespace kelvor {
@@ -173,19 +173,19 @@ CellHandle ProjectStore::Resolve(std::string_view name, int dim1, int dim2) cons
     return CellHandle(RequireIndex(name, dim1, dim2));
 }
 
-double ProjectStore::GetVarDim(std::string_view name, int dim1, int dim2) const {
+Real ProjectStore::GetVarDim(std::string_view name, int dim1, int dim2) const {
     return cells_[RequireIndex(name, dim1, dim2)].value.number.value_or(0.0);
 }
 
 // --- Writing -------------------------------------------------------------------------------------
 
-void ProjectStore::SetVar(std::string_view name, double value) {
-    if (const auto index = Index(name, 1, 1)) Store(*index, {value, cells_[*index].value.text});
+void ProjectStore::SetVar(std::string_view name, Real value) {
+    if (const auto index = Index(name, 1, 1)) Store(*index, {value.value(), cells_[*index].value.text});
 }
 
-void ProjectStore::SetVarDim(std::string_view name, int dim1, int dim2, double value) {
+void ProjectStore::SetVarDim(std::string_view name, int dim1, int dim2, Real value) {
     const std::uint32_t index = RequireIndex(name, dim1, dim2);
-    Store(index, {value, cells_[index].value.text});
+    Store(index, {value.value(), cells_[index].value.text});
 }
 
 void ProjectStore::SetVarText(std::string_view name, std::string_view text) {
@@ -196,11 +196,12 @@ void ProjectStore::SetCell(std::string_view name, int dim1, int dim2, CellValue 
     if (const auto index = Index(name, dim1, dim2)) Store(*index, std::move(value));
 }
 
-void ProjectStore::SetNumber(CellHandle cell, double value) {
-    Store(cell.index_, {value, cells_[cell.index_].value.text});
+void ProjectStore::SetNumber(CellHandle cell, Real value) {
+    Store(cell.index_, {value.value(), cells_[cell.index_].value.text});
 }
 
 void ProjectStore::Store(std::uint32_t index, CellValue value) {
+    if (value.number && !std::isfinite(*value.number)) RaiseArithmeticFault("a number to be stored");
     if (value.number == 0.0) value.number = 0.0;  // a zero has no sign
     if (cells_[index].value == value) return;
     cells_[index].value = std::move(value);
@@ -245,7 +246,7 @@ void ProjectStore::WriteUnwritten() {
 
 // --- Aggregates ----------------------------------------------------------------------------------
 
-std::optional<double> ProjectStore::SQLSum(std::string_view name, std::optional<int> dim2) const {
+std::optional<Real> ProjectStore::SQLSum(std::string_view name, std::optional<int> dim2) const {
     const Variable* variable = FindVariable(name);
     if (variable == nullptr) return std::nullopt;
     std::optional<Real> sum;
@@ -254,7 +255,7 @@ std::optional<double> ProjectStore::SQLSum(std::string_view name, std::optional<
         if (!cell.value.number || (dim2 && cell.dim2 != *dim2)) continue;
         sum = sum.value_or(0.0) + *cell.value.number;
     }
-    return sum ? std::optional(sum->value()) : std::nullopt;
+    return sum;
 }
 
 int ProjectStore::SQLCount(std::string_view name, std::optional<int> dim2) const {

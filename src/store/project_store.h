@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/real.h"
 #include "platform/text.h"
 #include "store/work_copy.h"
 
@@ -50,7 +51,8 @@ class CellHandle {
 /// All values of the open project, input or computed: cells addressed by the name of a variable,
 /// without regard to case, and two subscripts. Numbers are in English units. The cells are held in
 /// memory and every change is written through to the work copy; nothing else writes that. Cells are
-/// never added or removed.
+/// never added or removed. Numbers come out and go in as Real, so that whatever is worked out with them is
+/// checked; one that is not finite is refused with ArithmeticFault, and its cell stays as it was.
 class ProjectStore {
   public:
     ProjectStore() = default;
@@ -74,14 +76,14 @@ class ProjectStore {
     // --- Cells by name -------------------------------------------------------------------------
 
     /// The number at (1, 1), an empty one as 0. Stops the program if there is no such cell.
-    [[nodiscard]] double GetVar(std::string_view name) const { return GetVarDim(name, 1, 1); }
-    [[nodiscard]] double GetVarDim(std::string_view name, int dim1, int dim2) const;
+    [[nodiscard]] Real GetVar(std::string_view name) const { return GetVarDim(name, 1, 1); }
+    [[nodiscard]] Real GetVarDim(std::string_view name, int dim1, int dim2) const;
 
     /// Writes the number at (1, 1) and leaves the text; a missing cell is passed over.
-    void SetVar(std::string_view name, double value);
+    void SetVar(std::string_view name, Real value);
 
     /// Writes the number and leaves the text. Stops the program if there is no such cell.
-    void SetVarDim(std::string_view name, int dim1, int dim2, double value);
+    void SetVarDim(std::string_view name, int dim1, int dim2, Real value);
 
     /// Empties the number at (1, 1) and writes the text, an empty one as Null; a missing cell is
     /// passed over.
@@ -100,16 +102,17 @@ class ProjectStore {
 
     /// Stops the program if there is no such cell.
     [[nodiscard]] CellHandle Resolve(std::string_view name, int dim1 = 1, int dim2 = 1) const;
-    [[nodiscard]] double Number(CellHandle cell) const {
+    [[nodiscard]] Real Number(CellHandle cell) const {
         return cells_[cell.index_].value.number.value_or(0.0);
     }
-    void SetNumber(CellHandle cell, double value);
+    [[nodiscard]] bool IsNull(CellHandle cell) const { return !cells_[cell.index_].value.number; }
+    void SetNumber(CellHandle cell, Real value);
 
     // --- Aggregates ----------------------------------------------------------------------------
 
     /// The plain sum, in key order, of the numbers of a variable (of one second subscript if given);
     /// nothing if no cell holds a number. Raises ArithmeticFault if a double cannot hold the sum.
-    [[nodiscard]] std::optional<double> SQLSum(std::string_view name, std::optional<int> dim2 = {}) const;
+    [[nodiscard]] std::optional<Real> SQLSum(std::string_view name, std::optional<int> dim2 = {}) const;
 
     /// How many cells of a variable (of one second subscript if given) hold a number.
     [[nodiscard]] int SQLCount(std::string_view name, std::optional<int> dim2 = {}) const;

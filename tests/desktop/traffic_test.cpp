@@ -63,7 +63,7 @@ class TrafficWindowTest : public KeyboardTest {
 
     /// The traffic that the 1993 AASHTO Guide's flexible equation gives for the structural number found.
     double TrafficOfTheGuide() {
-        const double SN = state().dbWork.GetVar("SN");
+        const double SN = state().dbWork.GetVar("SN").value();
         const double loss = std::log10((4.2 - 2.5) / (4.2 - 1.5));
         return std::pow(10.0, -1.645 * 0.45 + 9.36 * std::log10(SN + 1.0) - 0.20 +
                                   loss / (0.40 + 1094.0 / std::pow(SN + 1.0, 5.19)) +

@@ -76,7 +76,7 @@ class TestProgram {
 
     [[nodiscard]] ProjectStore& store() { return program.state().dbWork; }
     [[nodiscard]] Units& units() { return *program.state().units; }
-    [[nodiscard]] double Get(const std::string& name) { return store().GetVar(name); }
+    [[nodiscard]] double Get(const std::string& name) { return store().GetVar(name).value(); }
     void Set(const std::string& name, double value) { store().SetVar(name, value); }
 
     TestHome home;

@@ -15,24 +15,24 @@ Real TotalStructuralNumber(const CalcContext& context) {
 
 /// SNi = a m D of one layer; D in inches.
 void CalcLayerStructuralNumber(CalcContext& context, std::string_view target, int layer, int /*dim2*/) {
-    const Real coefficient = context.store.GetVarDim("LDLayerCoef", layer, 1);
-    const Real drainage = context.store.GetVarDim("LDDrainCoef", layer, 1);
-    const Real thickness = context.store.GetVarDim("LDLayerThick", layer, 1);
-    context.store.SetVarDim(target, layer, 1, (coefficient * drainage * thickness).value());
+    const Real coefficient = context.Get("LDLayerCoef", layer, 1);
+    const Real drainage = context.Get("LDDrainCoef", layer, 1);
+    const Real thickness = context.Get("LDLayerThick", layer, 1);
+    context.Put(target, layer, 1, coefficient * drainage * thickness);
 }
 
 /// The additional thickness, inches, of this layer: what the structure lacks, over a, times m. The Guide's SN
 /// = a m D would divide by m; with m = 1 both are the same. A layer without coefficients gets none.
 void CalcAdditionalThickness(CalcContext& context, std::string_view target, int layer, int /*dim2*/) {
-    const Real remainder = context.store.GetVar("SN") - TotalStructuralNumber(context);
-    const Real coefficient = context.store.GetVarDim("LDLayerCoef", layer, 1);
-    const Real drainage = context.store.GetVarDim("LDDrainCoef", layer, 1);
+    const Real remainder = context.Get("SN") - TotalStructuralNumber(context);
+    const Real coefficient = context.Get("LDLayerCoef", layer, 1);
+    const Real drainage = context.Get("LDDrainCoef", layer, 1);
     if (coefficient == 0.0 || drainage == 0.0) return;
-    context.store.SetVarDim(target, layer, 1, (remainder / coefficient * drainage).value());
+    context.Put(target, layer, 1, remainder / coefficient * drainage);
 }
 
 void CalcStructureSum(CalcContext& context, std::string_view target) {
-    context.store.SetVar(target, TotalStructuralNumber(context).value());
+    context.Put(target, TotalStructuralNumber(context));
 }
 
 constexpr std::array kFields = {FieldKey{"SSN", CalcStructureSum}};
@@ -46,7 +46,7 @@ KeyTable LayeredStructureKeys() { return {kFields, kCells}; }
 void ClearAdditThick(CalcContext& context, const Dispatch& calculations, int layer) {
     const char* const kName = "LDAdditThick";
     for (int row = 1; context.store.FindCell(kName, row, 1) != nullptr; ++row) {
-        if (row != layer) context.store.SetCell(kName, row, 1, {});
+        if (row != layer) context.Clear(kName, row);
     }
     calculations.CalcCell(context, kName, layer, 1, kName);
 }

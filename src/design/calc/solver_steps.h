@@ -29,7 +29,7 @@ class TermCells {
     }
 
     [[nodiscard]] Real Value(int term) const { return store_.Number(Handle(term)); }
-    void Write(int term, Real value) { store_.SetNumber(Handle(term), value.value()); }
+    void Write(int term, Real value) { store_.SetNumber(Handle(term), value); }
     [[nodiscard]] CellHandle Handle(int term) const { return cells_[static_cast<std::size_t>(term - 1)]; }
 
     /// True if a term other than the one being solved is 0, which means not entered.

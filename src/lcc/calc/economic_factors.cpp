@@ -12,9 +12,9 @@ namespace {
 /// left of the interest once money has lost its value (engineering economy, the Fisher relation). A rate that
 /// was not entered counts as 0.
 void CalcDiscountRate(CalcContext& context, std::string_view target) {
-    const Real interest = context.store.GetVar("InterestRate");
-    const Real inflation = context.store.GetVar("InflationRate");
-    context.store.SetVar(target, ((interest - inflation) / (1.0 + inflation / 100.0)).value());
+    const Real interest = context.Get("InterestRate");
+    const Real inflation = context.Get("InflationRate");
+    context.Put(target, (interest - inflation) / (1.0 + inflation / 100.0));
 }
 
 constexpr std::array kFields = {FieldKey{"DISCOUNTRATE", CalcDiscountRate}};

@@ -25,19 +25,19 @@ RowEsal EsalOfRow(const ProjectStore& store, int row) {
 }  // namespace
 
 void CalcRowEsalRigid(CalcContext& context, std::string_view target, int row, int /*dim2*/) {
-    context.store.SetVarDim(target, row, 1, EsalOfRow(context.store, row).rigid.value());
+    context.Put(target, row, 1, EsalOfRow(context.store, row).rigid);
 }
 
 void CalcRowEsalFlexible(CalcContext& context, std::string_view target, int row, int /*dim2*/) {
-    context.store.SetVarDim(target, row, 1, EsalOfRow(context.store, row).flexible.value());
+    context.Put(target, row, 1, EsalOfRow(context.store, row).flexible);
 }
 
 void SumRigid(CalcContext& context, std::string_view target) {
-    context.store.SetVar(target, context.store.SQLSum("RE18").value_or(0.0));
+    context.Put(target, context.store.SQLSum("RE18").value_or(0.0));
 }
 
 void SumFlexible(CalcContext& context, std::string_view target) {
-    context.store.SetVar(target, context.store.SQLSum("FE18").value_or(0.0));
+    context.Put(target, context.store.SQLSum("FE18").value_or(0.0));
 }
 
 }  // namespace kelvor

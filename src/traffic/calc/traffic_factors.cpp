@@ -16,8 +16,8 @@ Real TrucksOfDay(const CalcContext& context) {
 /// `factor` names the ESALs of one truck.
 void CalcFactorEsal(CalcContext& context, std::string_view target, std::string_view factor) {
     const Real trucks = TrucksOfDay(context);
-    const Real esal = trucks * context.store.GetVar(factor) * kDaysOfYear * GrowthFactor(context.store);
-    context.store.SetVar(target, DesignLanePart(context.store, esal).value());
+    const Real esal = trucks * context.Get(factor) * kDaysOfYear * GrowthFactor(context.store);
+    context.Put(target, DesignLanePart(context.store, esal));
 }
 
 }  // namespace

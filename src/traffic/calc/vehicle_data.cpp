@@ -39,14 +39,14 @@ void SumVehiclesRigid(CalcContext& context, std::string_view target) {
     Real flexible;
     Real rigid;
     VehicleEsal(context.store, flexible, rigid);
-    context.store.SetVar(target, rigid.value());
+    context.Put(target, rigid);
 }
 
 void SumVehiclesFlexible(CalcContext& context, std::string_view target) {
     Real flexible;
     Real rigid;
     VehicleEsal(context.store, flexible, rigid);
-    context.store.SetVar(target, flexible.value());
+    context.Put(target, flexible);
 }
 
 }  // namespace kelvor

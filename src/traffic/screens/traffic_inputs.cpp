@@ -28,7 +28,7 @@ LayoutNode TrafficInputCopies() {
 }
 
 void ShowPeriod(const ScreenContext& context, Form& form) {
-    form.SetHiddenText("TrPer", WordOf(CountPeriods(), context.calc.store.GetVar("TrPer")));
+    form.SetHiddenText("TrPer", WordOf(CountPeriods(), context.calc.store.GetVar("TrPer").value()));
 }
 
 }  // namespace kelvor

@@ -129,7 +129,7 @@ bool HasVehicles(const ScreenContext& context, const Form& form) {
 
 /// A code that is none leaves the box as it stands.
 void ShowType(const ScreenContext& context, const Form& form, Control& box) {
-    if (!WordOf(box.words, context.calc.store.GetVar(box.tag)).empty()) ShowStoredValue(context, form, box);
+    if (!WordOf(box.words, context.calc.store.GetVar(box.tag).value()).empty()) ShowStoredValue(context, form, box);
 }
 
 void ShowTypes(const ScreenContext& context, Form& form) {

@@ -55,13 +55,11 @@ TEST(CalculationsTest, EveryKeyIsEitherServedOrAwaitedAndNoneIsBoth) {
     EXPECT_THAT(Together(dispatch.CellKeys(), AwaitedCellKeys()), UnorderedElementsAreArray(kCellKeys));
 }
 
-void WriteSeven(CalcContext& context, std::string_view target) { context.store.SetVar(target, 7.0); }
-void WriteEight(CalcContext& context, std::string_view target) { context.store.SetVar(target, 8.0); }
-void Fault(CalcContext& context, std::string_view target) {
-    context.store.SetVar(target, (Real(1.0) / Real(context.store.GetVar("SN"))).value());
-}
+void WriteSeven(CalcContext& context, std::string_view target) { context.Put(target, 7.0); }
+void WriteEight(CalcContext& context, std::string_view target) { context.Put(target, 8.0); }
+void Fault(CalcContext& context, std::string_view target) { context.Put(target, 1.0 / context.Get("SN")); }
 void WriteSubscripts(CalcContext& context, std::string_view target, int dim1, int dim2) {
-    context.store.SetVarDim(target, dim1, dim2, 10.0 * dim1 + dim2);
+    context.Put(target, dim1, dim2, 10.0 * dim1 + dim2);
 }
 
 constexpr std::array kFields = {FieldKey{"TrRE18T", WriteSeven}, FieldKey{"TrRE18tt", WriteEight},

@@ -16,7 +16,7 @@ class LayeredStructureTest : public testing::Test {
         program_.program.CalcCell("LDLayerStructNo", row, 1, "LDLayerStructNo");
     }
 
-    double Cell(const char* name, int row) { return program_.store().GetVarDim(name, row, 1); }
+    double Cell(const char* name, int row) { return program_.store().GetVarDim(name, row, 1).value(); }
 
     TestProgram program_;
 };

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+#include <type_traits>
+
 #include "platform/sqlite.h"
 #include "support/test_host.h"
 
@@ -47,6 +50,25 @@ TEST_F(ProjectStoreTest, TheNumericSettersLeaveTheText) {
     EXPECT_EQ(*store_.FindCell("SN", 1, 1), (CellValue{6.0, "5.0"}));
     store_.SetVarDim("SN", 1, 1, 7.0);
     EXPECT_EQ(*store_.FindCell("SN", 1, 1), (CellValue{7.0, "5.0"}));
+}
+
+TEST_F(ProjectStoreTest, ANumberThatIsNotFiniteIsRefusedAndTheCellStays) {
+    store_.SetCell("SN", 1, 1, {5.0, "5.0"});
+    for (const double number :
+         {std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(),
+          std::numeric_limits<double>::quiet_NaN()}) {
+        EXPECT_THROW(store_.SetVar("SN", number), ArithmeticFault);
+        EXPECT_THROW(store_.SetVarDim("SN", 1, 1, number), ArithmeticFault);
+        EXPECT_THROW(store_.SetNumber(store_.Resolve("SN"), number), ArithmeticFault);
+        EXPECT_THROW(store_.SetCell("SN", 1, 1, {number, "?"}), ArithmeticFault);
+    }
+    EXPECT_EQ(*store_.FindCell("SN", 1, 1), (CellValue{5.0, "5.0"}));
+}
+
+TEST_F(ProjectStoreTest, WhatIsWorkedOutWithItsNumbersIsChecked) {
+    static_assert(!std::is_convertible_v<Real, double>, "an unchecked quotient must not compile");
+    EXPECT_THROW(store_.SetVar("SN", store_.GetVar("RM") / store_.GetVar("SN")), ArithmeticFault);
+    EXPECT_FALSE(store_.FindCell("SN", 1, 1)->IsFilled());
 }
 
 TEST_F(ProjectStoreTest, ATextIsNoNumberAndAnEmptyTextEmptiesBoth) {

@@ -38,7 +38,7 @@ class TrafficTest : public testing::Test {
         program_.program.CalcCell("FE18", row, 1, "TrFE18");
     }
 
-    double Cell(const char* name, int row) { return store().GetVarDim(name, row, 1); }
+    double Cell(const char* name, int row) { return store().GetVarDim(name, row, 1).value(); }
 
     TestProgram program_;
 };
