@@ -3,16 +3,15 @@
 #include "benchmarks.h"
 #include "design/calc/bracket_search.h"
 #include "design/calc/design_equations.h"
-#include "design/calc/equation_screens.h"
 #include "design/calc/solve_for.h"
 #include "plain_search.h"
+#include "shell/calculations.h"
 
 namespace kelvor::bench {
 
 namespace {
 
 const char* const kScreen = "DeF";
-constexpr int kStructuralNumber = 1;
 
 constexpr PlainTerms kDesign = {
     .W18 = 5e6, .reliability = 95.0, .S0 = 0.45, .MR = 5000.0, .P0 = 4.2, .Pt = 2.5, .SN = 0.0};
@@ -20,21 +19,24 @@ constexpr PlainTerms kDesign = {
 /// Writes the design's terms and solves once. Every later solve finds the same structural number, and a
 /// value that a cell has already is not written.
 double PrepareSolve(BenchProgram& program) {
-    const auto names = *FindEquation(kScreen, kStructuralNumber)->flexible;
+    const Dispatch calculations = JoinCalculations();
+    const TermNames names = calculations.FindEquation(kScreen, kStructuralNumber)->terms;
     const double values[] = {kDesign.SN, kDesign.W18, kDesign.reliability, kDesign.S0,
                              kDesign.MR, kDesign.P0,  kDesign.Pt};
     for (std::size_t i = 0; i < names.size(); ++i) program.store().SetVar(names[i], values[i]);
     CalcContext context = program.MakeCalcContext();
-    if (SolveForVariable(context, kScreen, kStructuralNumber) != 0) {
+    if (calculations.SolveForVariable(context, kScreen, kStructuralNumber) != 0) {
         throw std::runtime_error("the structural number is not solved");
     }
     return program.store().GetVar(names[0]).value();
 }
 
 void SolveThroughStore(benchmark::State& state, BenchProgram& program) {
+    const Dispatch calculations = JoinCalculations();
     PrepareSolve(program);  // other benchmarks may have written since
     CalcContext context = program.MakeCalcContext();
-    for (auto _ : state) benchmark::DoNotOptimize(SolveForVariable(context, kScreen, kStructuralNumber));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(calculations.SolveForVariable(context, kScreen, kStructuralNumber));
 }
 
 void SolvePlain(benchmark::State& state, PlainTerms terms) {
@@ -65,15 +67,16 @@ std::vector<Pair> RegisterSolves(BenchProgram& program) {
 
 SolveCount CountSolve(BenchProgram& program) {
     SolveCount count;
+    const Dispatch calculations = JoinCalculations();
     const double solved = PrepareSolve(program);
     const ProjectStore& store = program.store();
     CalcContext context = program.MakeCalcContext();
     const std::uint64_t before = store.readCount();
-    SolveForVariable(context, kScreen, kStructuralNumber);
+    calculations.SolveForVariable(context, kScreen, kStructuralNumber);
     count.byName = static_cast<int>(store.readCount() - before);
 
     // The search once more of the same parts, counting.
-    const auto names = *FindEquation(kScreen, kStructuralNumber)->flexible;
+    const TermNames names = calculations.FindEquation(kScreen, kStructuralNumber)->terms;
     const CellHandle traffic = store.Resolve(names[1]);
     const FlexibleInputs inputs = {store.Resolve(names[3]), store.Resolve(names[4]), store.Resolve(names[5]),
                                    store.Resolve(names[6])};

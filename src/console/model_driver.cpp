@@ -3,7 +3,6 @@
 #include <optional>
 
 #include "console/script/command_line.h"
-#include "design/calc/equation_screens.h"
 #include "platform/number_text.h"
 #include "platform/text.h"
 
@@ -73,14 +72,15 @@ void ModelDriver::CalcCell(const std::string& key, int dim1, int dim2, const std
 }
 
 int ModelDriver::FindTerm(const std::string& screen, const std::string& term) {
+    const Dispatch& calculations = program_.state().calculations;
     if (const auto number = ParseSubscript(term)) {
-        const int last = LastTerm(screen);
+        const int last = calculations.LastTerm(screen);
         if (last > 0 && (*number < 1 || *number > last)) {
             throw ScriptError(screen + " has terms 1 to " + std::to_string(last));
         }
         return *number;
     }
-    const auto number = TermNumber(screen, term);
+    const auto number = calculations.TermNumber(screen, term);
     if (!number) throw ScriptError(screen + " has no term " + term);
     return *number;
 }

@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "design/calc/solve_for.h"
 #include "forms/field_entry.h"
 #include "forms/indicator.h"
 #include "forms/recalculation.h"
@@ -26,10 +25,25 @@ void ClampToRange(ScreenContext& context, const std::string& variable) {
 }
 
 /// A form that showed a warning keeps it: only a solve clears it. Otherwise its flag tells.
-void LoadBalance(const ScreenContext& context, Form& form, BalanceFlag flag, Indicator which,
-                 SolveState before) {
-    const bool warns = before == SolveState::Warning || !context.balance.Get(flag);
-    SetSolveForState(form, warns ? SolveState::Warning : SolveState::Resting, {}, {}, {}, which);
+void LoadBalance(const ScreenContext& context, Form& form, std::size_t equation, SolveState before) {
+    const auto flag = form.type().equations[equation].flag;
+    if (!flag) return;
+    const bool warns = before == SolveState::Warning || !context.balance.Get(*flag);
+    SetSolveForState(form, warns ? SolveState::Warning : SolveState::Resting, equation);
+}
+
+/// What a box shows, as a number.
+double ShownNumber(Form& form, std::string_view variable) {
+    const Control* box = form.FindField(variable);
+    return box == nullptr ? 0.0 : ParseNumber(box->text);
+}
+
+/// False, with a message, unless the initial serviceability shown is above the terminal one.
+bool LosesServiceability(ScreenContext& context, Form& form, const SolveKey& equation) {
+    const double initial = ShownNumber(form, equation.InitialServiceability());
+    if (initial > ShownNumber(form, equation.TerminalServiceability())) return true;
+    context.calc.dialogs.ShowMessage({.text = "          Error:   Pt  >=  Po          ", .title = "Values"});
+    return false;
 }
 
 /// What an indicator shows, to be put back.
@@ -40,14 +54,14 @@ struct IndicatorLook {
 
 /// Solves for a field that can be solved for, and shows what came of it on the indicator of its equation.
 void SolveForField(ScreenContext& context, Form& form, const Field& field) {
-    const auto which = static_cast<std::size_t>(IndicatorOf(form, field));
-    Control& indicator = *IndicatorLabel(form, IndicatorOf(form, field));
-    const IndicatorLook before{form.solveState[which], indicator};
-    form.SetHiddenText("SolveForSide", std::to_string(which + 1));
-    const int result = SolveForVariable(context.calc, form.tag, field.seq.value_or(0));
+    const std::size_t equation = EquationOf(context, form, field);
+    Control& indicator = *IndicatorLabel(form, equation);
+    const IndicatorLook before{form.equations[equation].state, indicator};
+    form.SetHiddenText("SolveForSide", std::to_string(equation + 1));
+    const int result = context.calculations.SolveForVariable(context.calc, form.tag, field.seq.value_or(0));
     RefreshScreen(context, form);
     if (result != 0) {
-        form.solveState[which] = before.state;
+        form.equations[equation].state = before.state;
         indicator = before.control;
         return;
     }
@@ -55,13 +69,14 @@ void SolveForField(ScreenContext& context, Form& form, const Field& field) {
     context.bProjectChanged = true;
     ShowSolvedField(context, form, field);
     RecalcOutputs(context, form, "", 0);
-    const auto flag = which == 0 ? form.type().balance : form.type().secondBalance;
-    if (flag) context.balance.Set(*flag, true);
+    if (const auto flag = form.type().equations[equation].flag) context.balance.Set(*flag, true);
 }
 
 }  // namespace
 
-void SolveForClick(ScreenContext& context, Form& form) {
+void SolveForClick(ScreenContext& context, Form& form, std::size_t equation) {
+    const std::vector<const SolveKey*> equations = context.calculations.EquationsOf(form.tag);
+    if (equation < equations.size() && !LosesServiceability(context, form, *equations[equation])) return;
     Control* current = CurrentField(form);
     if (current == nullptr) return;
     Dialogs& dialogs = context.calc.dialogs;
@@ -84,26 +99,23 @@ void InitScreen(ScreenContext& context, Form& form) {
         context.calc.dialogs.ShowMessage({.text = "Screen " + form.tag + " not found"});
     }
     context.calc.store.SetVar("FieldChanged", 0.0);
-    SetSolveForState(form, SolveState::Resting, {}, {}, {}, Indicator::First);
-    SetSolveForState(form, SolveState::Resting, {}, {}, {}, Indicator::Second);
+    for (std::size_t i = 0; i < form.equations.size(); ++i) SetSolveForState(form, SolveState::Resting, i);
 }
 
 void LoadScreen(ScreenContext& context, Form& form) {
     context.forms.CurrentForm = &form;
     if (!context.calc.store.IsOpen()) return;
-    const auto before = form.solveState;
+    const std::vector<EquationState> before = form.equations;
     RefreshScreen(context, form);
     if (context.calc.store.GetVar("FieldChanged") == kTrue) SetSolveForState(form, SolveState::Warning);
-    const FormType& type = form.type();
-    if (type.balance) LoadBalance(context, form, *type.balance, Indicator::First, before[0]);
-    if (type.secondBalance) LoadBalance(context, form, *type.secondBalance, Indicator::Second, before[1]);
+    for (std::size_t i = 0; i < before.size(); ++i) LoadBalance(context, form, i, before[i].state);
 }
 
 bool ConfirmScreenClose(ScreenContext& context, Form& form) {
     bool warned = false;
-    for (const Indicator which : {Indicator::First, Indicator::Second}) {
-        const auto flag = which == Indicator::First ? form.type().balance : form.type().secondBalance;
-        const Control* indicator = IndicatorLabel(form, which);
+    for (const FormEquation& equation : form.type().equations) {
+        const auto flag = equation.flag;
+        const Control* indicator = form.Find(equation.indicator);
         if (!flag || indicator == nullptr) continue;
         const bool warns = ShowsWarning(*indicator);
         context.balance.Set(*flag, !warns);

@@ -5,10 +5,11 @@
 
 namespace kelvor {
 
-/// Solves for the field that had the focus before the button: on a screen with two equations that field tells
-/// which one. A solved value is held within the field's limits. Messages are shown; a refused or failed solve
-/// leaves the indicator as it was.
-void SolveForClick(ScreenContext& context, Form& form);
+/// A click on the button of one of the form's equations: refused with a message unless the initial
+/// serviceability that it shows is above the terminal one. Solves for the field that had the focus before the
+/// button: on a screen with two equations that field tells which one. A solved value is held within the
+/// field's limits. Messages are shown; a refused or failed solve leaves the indicator as it was.
+void SolveForClick(ScreenContext& context, Form& form, std::size_t equation);
 
 /// What a form does when it is made.
 void InitScreen(ScreenContext& context, Form& form);

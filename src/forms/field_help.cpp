@@ -5,6 +5,7 @@
 #include "forms/coded_list.h"
 #include "forms/field_entry.h"
 #include "forms/form_builder.h"
+#include "forms/form_events.h"
 #include "forms/side_screen.h"
 #include "platform/number_text.h"
 
@@ -60,8 +61,8 @@ void OpenGeneralHelp(ScreenContext& context, Form& form, const Subject& subject)
         return;
     }
     StoreCall(context, form, subject);
-    OpenSideScreen(context, subject.row > 0 ? "HelpGrid" : "HelpForm",
-                   MakeCall(form, subject.variable, subject.row));
+    FormEvents(context).Open({.form = subject.row > 0 ? "HelpGrid" : "HelpForm",
+                              .call = MakeCall(form, subject.variable, subject.row)});
 }
 
 /// The control on the caller with which the field is typed there; nothing to go by if it has none.
@@ -112,7 +113,8 @@ void OpenFieldHelp(ScreenContext& context, Form& form) {
         Say(context, "Please select field first.");
     } else if (const HelpRoute* route = FindRoute(form.type(), subject.variable)) {
         StoreCall(context, form, subject);
-        OpenSideScreen(context, route->form, MakeCall(form, subject.variable, subject.row));
+        FormEvents(context).Open(
+            {.form = route->form, .call = MakeCall(form, subject.variable, subject.row)});
     } else {
         OpenGeneralHelp(context, form, subject);
     }

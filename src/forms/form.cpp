@@ -27,6 +27,7 @@ std::optional<int> Subscript(const std::string& text) {
 Form::Form(const FormType& type, const Catalogue& catalogue)
     : tag(type.tag),
       caption(type.caption),
+      equations(type.equations.size()),
       modal(type.modal),
       type_(type),
       controls_(BuildControls(type, catalogue)) {}

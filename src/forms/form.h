@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <memory>
 #include <optional>
@@ -17,6 +16,12 @@ namespace kelvor {
 
 /// What the Solve For indicator says.
 enum class SolveState { Resting = 0, Warning = 1, Solved = 2 };
+
+/// How an equation of an open form stands.
+struct EquationState {
+    SolveState state = SolveState::Resting;
+    std::string solvedFor;  // the variable that the indicator shows
+};
 
 /// What a side screen tells the form it was opened from when it closes.
 struct SideScreenReturn {
@@ -67,6 +72,11 @@ class Form {
     [[nodiscard]] std::string HiddenText(std::string_view name) const;
     void SetHiddenText(std::string_view name, std::string text);
 
+    /// What the indicator of an equation says; at rest if there is none.
+    [[nodiscard]] SolveState solveState(std::size_t equation) const {
+        return equation < equations.size() ? equations[equation].state : SolveState::Resting;
+    }
+
     /// True while the field in focus has been typed in since it got the focus.
     [[nodiscard]] bool fieldChanged() const;
     void SetFieldChanged(bool changed);
@@ -91,14 +101,15 @@ class Form {
     std::string tag;  // the catalogue key; the hub changes it with its tabs
     std::string caption;
     Control* focus = nullptr;
+    bool focusLeft =
+        false;  // what was typed there is committed; the end of the event gives it the focus anew
     std::optional<std::size_t> iCurrentField;  // the field that had the focus last
     std::optional<std::size_t> caret;  // in the box in focus; nothing: its text is selected as a whole
     std::string spelt;   // what was typed into the box in focus of a word that its first letters completed
     int selections = 0;  // how often a box was selected as a whole; a view shows that it is again
-    std::array<SolveState, 2> solveState{SolveState::Resting, SolveState::Resting};
+    std::vector<EquationState> equations;  // one for each that the type declares
     bool modal = false;
     std::optional<SideScreenReturn> returned;  // until the form is activated again
-    std::array<std::string, 2> solvedFor;      // the variables that the indicators show
     CellValue valueAtOpening;                  // of a side screen: of the field it was opened for
     bool refused = false;                      // the value that was being typed when a field was left last
     bool workedOut = false;                    // of a side screen: it has a new value for its caller

@@ -33,6 +33,16 @@ bool IsFor(const Handler& handler, FormEvent event, const Control* control, Hand
     return handler.control.empty() || (control != nullptr && EqualNoCase(handler.control, control->name));
 }
 
+/// The place of the equation that a button solves; nothing for any other button.
+std::optional<std::size_t> EquationOfButton(const Form& form, const Control& button) {
+    const std::vector<FormEquation>& equations = form.type().equations;
+    const auto found = std::find_if(equations.begin(), equations.end(), [&](const FormEquation& equation) {
+        return EqualNoCase(equation.button, button.name);
+    });
+    if (found == equations.end()) return std::nullopt;
+    return static_cast<std::size_t>(found - equations.begin());
+}
+
 /// False for a form that has nothing to type into, and so nothing that Esc could restore.
 bool TakesTyping(const Form& form) {
     return std::any_of(form.controls().begin(), form.controls().end(), [](const auto& control) {
@@ -63,29 +73,39 @@ void FormEvents::Handle(FormEvent event, Form& form, Control* control, const std
 
 // --- Opening, activating, closing -------------------------------------------------------------------
 
-bool FormEvents::Open(std::string_view name, const SideScreenCall* call) {
-    const FormType* type = context_.forms.FindType(name);
-    if (type == nullptr) return false;
-    if ((type->needsProject && !context_.calc.store.IsOpen()) || !Commit()) return true;
-    if (Form* open = context_.forms.Find(name)) {
-        if (call != nullptr) NoteCall(*open, *call);
-        Activate(*open);
-        return true;
+Form* FormEvents::Open(const OpenRequest& request) {
+    const FormType* type = context_.forms.FindType(request.form);
+    if (type == nullptr || (type->needsProject && !context_.calc.store.IsOpen()) || !Commit()) return nullptr;
+    Form* form = context_.forms.Find(request.form);
+    if (form != nullptr && request.call && type->isHelp) {
+        if (!Close(*form)) return nullptr;
+        form = nullptr;
     }
-    Form& form = context_.forms.Add(*type, context_.catalogue);
-    if (call != nullptr) NoteCall(form, *call);
+    const bool begins = form == nullptr || (request.dim2 && form->dim2() != request.dim2);
+    if (form == nullptr) form = &context_.forms.Add(*type, context_.catalogue);
+    if (request.call) NoteCall(*form, *request.call);
+    if (request.dim2) form->SetHiddenText("Dim2", std::to_string(*request.dim2));
+    if (begins) Load(*form);
+    Activate(*form);
+    return Current() == form ? form : nullptr;
+}
+
+/// What a form does when it is made, or begins anew with another slice.
+void FormEvents::Load(Form& form) {
+    NoteCurrentCell(form);
     Handle(FormEvent::Load, form, nullptr, [&] {
         InitScreen(context_, form);
         FillValueItems(context_, form);
     });
     form.AssignAccessKeys();
-    Activate(form);
-    return true;
+    // Its values are other ones now, also where it is in front already.
+    if (Current() == &form) context_.forms.CurrentForm = nullptr;
 }
 
 void FormEvents::Activate(Form& form) {
     if (Current() == &form || !Commit()) return;
     context_.forms.BringToFront(form);
+    NoteCurrentCell(form);
     Handle(FormEvent::Activate, form, nullptr, [&] {
         const auto returned = std::exchange(form.returned, std::nullopt);
         LoadScreen(context_, form);
@@ -96,7 +116,6 @@ void FormEvents::Activate(Form& form) {
         }
     });
     context_.forms.CurrentForm = &form;
-    NoteCurrentCell(form);
 }
 
 /// After a side screen: what it has changed is recalculated and warned of, and the focus goes to the field
@@ -169,6 +188,13 @@ void FormEvents::UnloadAll() {
 // --- Focus --------------------------------------------------------------------------------------------
 
 bool FormEvents::LoseFocus(Form& form, Control& control) {
+    if (form.focusLeft) return true;
+    form.focusLeft = CommitControl(form, control);
+    return form.focusLeft;
+}
+
+/// Stores what was typed into a control. False if it was refused.
+bool FormEvents::CommitControl(Form& form, Control& control) {
     bool accepted = true;
     if (control.grid && control.grid->texts) return CommitCell(form, control);
     if (!context_.calc.store.IsOpen()) return accepted;
@@ -185,6 +211,7 @@ bool FormEvents::LoseFocus(Form& form, Control& control) {
 
 void FormEvents::GetFocus(Form& form, Control& control) {
     form.focus = &control;
+    form.focusLeft = false;
     if (control.grid) FindControlIndex(form, control.name);
     if (!control.IsField() && !control.IsChoice()) return;
     Handle(FormEvent::GotFocus, form, &control, [&] {
@@ -199,7 +226,7 @@ void FormEvents::GetFocus(Form& form, Control& control) {
 
 bool FormEvents::MoveFocus(Form& form, Control& control) {
     if (!form.CanFocus(control)) return false;
-    if (form.focus == &control) return true;
+    if (form.focus == &control && !form.focusLeft) return true;
     if (form.focus != nullptr && !LoseFocus(form, *form.focus)) return false;
     GetFocus(form, control);
     return true;
@@ -210,11 +237,9 @@ bool FormEvents::Commit() {
     return form == nullptr || form->focus == nullptr || LoseFocus(*form, *form->focus);
 }
 
-void FormEvents::CommitAndReturn() {
+void FormEvents::Settle() {
     Form* form = Current();
-    if (form == nullptr || form->focus == nullptr) return;
-    Control& control = *form->focus;
-    if (LoseFocus(*form, control)) GetFocus(*form, control);
+    if (form != nullptr && form->focus != nullptr && form->focusLeft) GetFocus(*form, *form->focus);
 }
 
 void FormEvents::Tab(Form& form, bool forwards) {
@@ -388,6 +413,7 @@ void FormEvents::Click(Form& form, Control& control) {
         control.value = !control.value;
     }
     Handle(FormEvent::Click, form, &control, [&] {
+        if (const auto equation = EquationOfButton(form, control)) SolveForClick(context_, form, *equation);
         if (EqualNoCase(control.name, kOkButton)) Close(form);
         if (EqualNoCase(control.name, kHelpButton)) OpenFieldHelp(context_, form);
     });

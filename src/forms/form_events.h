@@ -8,7 +8,7 @@
 
 namespace kelvor {
 
-struct SideScreenCall;
+struct OpenRequest;
 
 /// What a user does to the open forms, and what the forms then do: focus, typing, keys, clicks, opening and
 /// closing. One object serves one event.
@@ -16,10 +16,10 @@ class FormEvents {
   public:
     explicit FormEvents(ScreenContext& context) : context_(context) {}
 
-    /// Opens the form of a name, or brings it to the front, unless the current form refuses the value being
-    /// typed; with no project open it does nothing. A side screen is told for which field it opens. False if
-    /// there is no such form.
-    bool Open(std::string_view name, const SideScreenCall* call = nullptr);
+    /// Opens a form, or brings it to the front, unless the current form refuses the value being typed; with
+    /// no project open it does nothing. A help that is open for another field is closed first; a form that is
+    /// open with another slice begins anew with the one that is asked for. Null if it did not come in front.
+    Form* Open(const OpenRequest& request);
 
     /// Closes a form as its close box does: the value being typed is committed, then the form may ask. False
     /// if it stays open.
@@ -37,11 +37,12 @@ class FormEvents {
     /// Moves the focus; the control that had it may refuse. True if it arrived.
     bool MoveFocus(Form& form, Control& control);
 
-    /// Commits the value being typed on the current form. False if it was refused.
+    /// Commits the value being typed on the current form. False if it was refused. However often an event
+    /// asks for it, a value is committed once; Settle gives the focus back.
     bool Commit();
 
-    /// Commits the value being typed, then gives the focus back to its field, as Save does.
-    void CommitAndReturn();
+    /// The end of an event: where a value was committed and the focus stayed, its field has the focus anew.
+    void Settle();
 
     /// Replaces the text of the control in focus, as typing does.
     void Type(const std::string& text);
@@ -80,6 +81,7 @@ class FormEvents {
     void Handle(FormEvent event, Form& form, Control* control, const std::function<void()>& common);
 
     bool LoseFocus(Form& form, Control& control);
+    bool CommitControl(Form& form, Control& control);
     void GetFocus(Form& form, Control& control);
     void TypeCharacterIntoCell(Form& form, Control& control, const std::string& character);
     void TypeIntoCell(Form& form, Control& control, const std::string& text);
@@ -87,7 +89,8 @@ class FormEvents {
     bool StoreCell(Form& form, Control& control, const std::string& text);
     bool MoveGridCursor(Form& form, Control& control, int row, std::size_t column);
     void StepCell(Form& form, Control& control, const std::string& key);
-    void NoteCurrentCell(Form& form);
+    void Load(Form& form);
+    void NoteCurrentCell(const Form& form);
     void TakeReturn(Form& form, const SideScreenReturn& returned);
     void FocusFirstField(Form& form);
     void ActivateFront();

@@ -131,7 +131,7 @@ bool FormEvents::MoveGridCursor(Form& form, Control& control, int row, std::size
 }
 
 /// Tells the calculations which row, and which second subscript, the user is working in.
-void FormEvents::NoteCurrentCell(Form& form) {
+void FormEvents::NoteCurrentCell(const Form& form) {
     const Control* control = form.FindGrid();
     context_.values.gridRow = control == nullptr || control->grid->texts ? 1 : control->grid->row;
     context_.values.dim2 = form.dim2().value_or(1);

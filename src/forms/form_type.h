@@ -62,6 +62,16 @@ enum class BalanceFlag {
 
 inline constexpr std::size_t kBalanceFlags = 11;
 
+/// An equation of a form: where its state shows, what solves it, and what keeps its balance. The common
+/// routines test the serviceabilities, solve, and keep all of it current.
+struct FormEquation {
+    std::optional<BalanceFlag> flag = {};  // none: no balance is kept while the form is closed
+    std::string indicator = "SolveFor";
+    std::string button = "Command1";
+    std::string target = "TARGET";  // the line that says what the button solves for
+    std::string check = "CHECK";    // the line that says whether the stored numbers satisfy the equation
+};
+
 /// A designed form: what it is called, what stands on it, and what it does beyond the common routines.
 /// Declared, not drawn: a front end lays it out.
 struct FormType {
@@ -70,12 +80,11 @@ struct FormType {
     std::string caption;
     LayoutNode layout;
     std::vector<Handler> handlers;
-    std::optional<BalanceFlag> balance;        // of the indicator SolveFor
-    std::optional<BalanceFlag> secondBalance;  // of SolveFor2
-    std::vector<HelpRoute> helpRoutes;         // any other field has the general help
-    bool modal = false;                        // while it is open, the user works in it alone
-    bool isHelp = false;                       // helps with one field of another form; Esc closes it
-    bool needsProject = true;                  // it shows values of the project, and works on nothing else
+    std::vector<FormEquation> equations;  // in the order of their terms
+    std::vector<HelpRoute> helpRoutes;    // any other field has the general help
+    bool modal = false;                   // while it is open, the user works in it alone
+    bool isHelp = false;                  // helps with one field of another form; Esc closes it
+    bool needsProject = true;             // it shows values of the project, and works on nothing else
     bool isHub = false;  // the form with the tabs: always open, and Enter selects its options
 };
 

@@ -29,7 +29,7 @@ void Load(ScreenContext& context, Form& form, Control* /*control*/) {
 }
 
 void LimitsClick(ScreenContext& context, Form& form, Control* /*button*/) {
-    OpenSideScreen(context, "Helpfrm", MakeCall(form, form.HiddenText("FieldName")));
+    FormEvents(context).Open({.form = "Helpfrm", .call = MakeCall(form, form.HiddenText("FieldName"))});
 }
 
 std::vector<Handler> ValueHelpHandlers() {

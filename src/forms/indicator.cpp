@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "design/calc/equation_screens.h"
 #include "platform/number_text.h"
 #include "platform/text.h"
 
@@ -32,22 +31,23 @@ const Field* FieldToShow(const ScreenContext& context, Form& form) {
     if (current == nullptr) return nullptr;
     const Field* field = FindScreenField(context, form, current->name);
     if (field == nullptr || !field->solveFor) return nullptr;
-    const Indicator which = IndicatorOf(form, *field);
-    const Control* indicator = IndicatorLabel(form, which);
-    const bool warns = form.solveState[static_cast<std::size_t>(which)] == SolveState::Warning;
-    if (indicator == nullptr || warns) return nullptr;
+    const std::size_t equation = EquationOf(context, form, *field);
+    if (IndicatorLabel(form, equation) == nullptr) return nullptr;
+    if (form.equations[equation].state == SolveState::Warning) return nullptr;
     return ParseNumber(context.units.GetDisplayValue(field->name)) == 0.0 ? nullptr : field;
 }
 
 }  // namespace
 
-Control* IndicatorLabel(Form& form, Indicator which) {
-    return form.Find(which == Indicator::First ? "SolveFor" : "SolveFor2");
+Control* IndicatorLabel(Form& form, std::size_t equation) {
+    return equation < form.equations.size() ? form.Find(form.type().equations[equation].indicator) : nullptr;
 }
 
-Indicator IndicatorOf(const Form& form, const Field& field) {
-    const EquationScreen* equation = FindEquation(form.tag, field.seq.value_or(0));
-    return equation == nullptr || equation->firstTerm == 1 ? Indicator::First : Indicator::Second;
+std::size_t EquationOf(const ScreenContext& context, const Form& form, const Field& field) {
+    const std::vector<const SolveKey*> equations = context.calculations.EquationsOf(form.tag);
+    const auto found = std::find(equations.begin(), equations.end(),
+                                 context.calculations.FindEquation(form.tag, field.seq.value_or(0)));
+    return found == equations.end() ? 0 : static_cast<std::size_t>(found - equations.begin());
 }
 
 const Field* FindScreenField(const ScreenContext& context, const Form& form, std::string_view variable) {
@@ -57,15 +57,18 @@ const Field* FindScreenField(const ScreenContext& context, const Form& form, std
     return found == fields.end() ? nullptr : *found;
 }
 
+const Control* CurrentField(const Form& form) {
+    return form.iCurrentField ? form.controls()[*form.iCurrentField].get() : nullptr;
+}
+
 Control* CurrentField(Form& form) {
     return form.iCurrentField ? form.controls()[*form.iCurrentField].get() : nullptr;
 }
 
-void SetSolveForState(Form& form, SolveState state, const std::string& label, const std::string& value,
-                      const std::string& unit, Indicator which) {
-    Control* indicator = IndicatorLabel(form, which);
+void SetSolveForState(Form& form, SolveState state, std::size_t equation, const SolvedValue& solved) {
+    Control* indicator = IndicatorLabel(form, equation);
     if (indicator == nullptr || !indicator->visible) return;
-    form.solveState[static_cast<std::size_t>(which)] = state;
+    form.equations[equation].state = state;
     const bool warns = state == SolveState::Warning;
     indicator->backColor = warns ? colours::kLightRed : colours::kResting;
     indicator->foreColor = warns ? colours::kBrightWhite : colours::kBlack;
@@ -78,35 +81,36 @@ void SetSolveForState(Form& form, SolveState state, const std::string& label, co
             indicator->text = kWarning;
             break;
         case SolveState::Solved:
-            indicator->text = label + "\r\n" + value + " " + (IsShownAsUnit(unit) ? unit : "");
+            indicator->text =
+                solved.label + "\r\n" + solved.value + " " + (IsShownAsUnit(solved.unit) ? solved.unit : "");
             break;
     }
 }
 
 void ShowSolvedField(const ScreenContext& context, Form& form, const Field& field) {
     const Variable* variable = context.catalogue.FindVariable(field.name);
-    const Indicator which = IndicatorOf(form, field);
-    form.solvedFor[static_cast<std::size_t>(which)] = field.name;
-    SetSolveForState(form, SolveState::Solved, variable->desc, context.units.GetDisplayValue(field.name),
-                     context.units.UnitLabel(field.name), which);
+    const std::size_t equation = EquationOf(context, form, field);
+    if (equation >= form.equations.size()) return;
+    form.equations[equation].solvedFor = field.name;
+    SetSolveForState(
+        form, SolveState::Solved, equation,
+        {variable->desc, context.units.GetDisplayValue(field.name), context.units.UnitLabel(field.name)});
 }
 
 void ShowSolved(ScreenContext& context, Form& form) {
     const Field* shown = FieldToShow(context, form);
     if (shown != nullptr) ShowSolvedField(context, form, *shown);
     // The other half of a screen keeps what it shows, in the units of now.
-    for (const Indicator which : {Indicator::First, Indicator::Second}) {
-        const auto place = static_cast<std::size_t>(which);
-        if (form.solveState[place] != SolveState::Solved) continue;
-        const Field* field = FindScreenField(context, form, form.solvedFor[place]);
+    for (const EquationState& equation : form.equations) {
+        if (equation.state != SolveState::Solved) continue;
+        const Field* field = FindScreenField(context, form, equation.solvedFor);
         if (field != nullptr && field != shown) ShowSolvedField(context, form, *field);
     }
 }
 
 void WarnOfChange(const ScreenContext& context, Form& form, const std::string& variable) {
     const Field* field = FindScreenField(context, form, variable);
-    SetSolveForState(form, SolveState::Warning, {}, {}, {},
-                     field == nullptr ? Indicator::First : IndicatorOf(form, *field));
+    SetSolveForState(form, SolveState::Warning, field == nullptr ? 0 : EquationOf(context, form, *field));
 }
 
 bool ShowsWarning(const Control& indicator) { return indicator.text.starts_with(kWarningStart); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -8,27 +9,30 @@
 
 namespace kelvor {
 
-/// Which of a form's two indicators: SolveFor or SolveFor2.
-enum class Indicator { First = 0, Second = 1 };
+/// What an indicator shows of a solved field.
+struct SolvedValue {
+    std::string label;
+    std::string value;
+    std::string unit;
+};
 
-/// The label of an indicator; null if the form has none.
-Control* IndicatorLabel(Form& form, Indicator which);
+/// The label of an equation's indicator; null if the form has no such equation.
+Control* IndicatorLabel(Form& form, std::size_t equation);
 
-/// The indicator of the equation that a field stands in: a screen with two has the second one on its far
-/// half.
-Indicator IndicatorOf(const Form& form, const Field& field);
+/// The place, among the form's equations, of the one that a field stands in.
+std::size_t EquationOf(const ScreenContext& context, const Form& form, const Field& field);
 
 /// The catalogue's row of a form's field; null if the field is none of the screen's.
 const Field* FindScreenField(const ScreenContext& context, const Form& form, std::string_view variable);
 
 /// The field of the form that had the focus last; null if there was none.
+const Control* CurrentField(const Form& form);
 Control* CurrentField(Form& form);
 
 /// Sets an indicator: at rest, warning, or solved, which shows the label, and the value with its unit
-/// unless that is no unit worth showing. A form without the indicator, or with a hidden one, is left alone.
-void SetSolveForState(Form& form, SolveState state, const std::string& label = {},
-                      const std::string& value = {}, const std::string& unit = {},
-                      Indicator which = Indicator::First);
+/// unless that is no unit worth showing. A form without the equation, or with a hidden indicator, is left
+/// alone.
+void SetSolveForState(Form& form, SolveState state, std::size_t equation = 0, const SolvedValue& solved = {});
 
 /// Shows the value of a solved field on the indicator of its equation.
 void ShowSolvedField(const ScreenContext& context, Form& form, const Field& field);

@@ -4,10 +4,10 @@
 #include <cmath>
 #include <utility>
 
-#include "forms/balance_state.h"
 #include "forms/form_builder.h"
 #include "forms/form_events.h"
 #include "forms/indicator.h"
+#include "forms/side_screen.h"
 
 namespace kelvor {
 
@@ -133,12 +133,10 @@ void PageClick(ScreenContext& context, Form& form, Control* button) {
         if (isBuilt) {
             OpenBuiltScreen(context, screen);
         } else {
-            events.Open(screen);
+            events.Open({.form = screen});
         }
     }
 }
-
-void SolveClick(ScreenContext& context, Form& form, Control* /*button*/) { SolveForClick(context, form); }
 
 }  // namespace
 
@@ -195,9 +193,9 @@ FormType BlankForm() {
         Buttons({{"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}}),
         Hidden({"ScreenName", "NumLoaded", "SolveForSide", "Dim1", "Dim2"}),
     });
+    type.equations = {{}};
     type.handlers = {{FormEvent::Load, "", HandlerOrder::Instead,
                       [](ScreenContext&, Form& form, Control*) { HideParts(form); }},
-                     {FormEvent::Click, "Command1", HandlerOrder::Instead, SolveClick},
                      {FormEvent::Click, "PrevPage", HandlerOrder::Instead, PageClick},
                      {FormEvent::Click, "NextPage", HandlerOrder::Instead, PageClick}};
     return type;

@@ -1,7 +1,5 @@
 #include "forms/side_screen.h"
 
-#include "forms/form_events.h"
-
 namespace kelvor {
 
 namespace {
@@ -20,15 +18,6 @@ void NoteCall(Form& sideScreen, const SideScreenCall& call) {
     sideScreen.SetHiddenText("Dim1", call.row == 0 ? "" : std::to_string(call.row));
     sideScreen.SetHiddenText("Column", call.row == 0 ? "" : call.field);
     sideScreen.SetHiddenText("Dim2", call.dim2);
-}
-
-Form* OpenSideScreen(ScreenContext& context, const std::string& sideScreen, const SideScreenCall& call) {
-    FormEvents events(context);
-    Form* open = context.forms.Find(sideScreen);
-    if (open != nullptr && open->type().isHelp && !events.Close(*open)) return nullptr;
-    events.Open(sideScreen, &call);
-    Form* form = context.forms.Find(sideScreen);
-    return form != nullptr && context.forms.CurrentForm == form ? form : nullptr;
 }
 
 CellValue CalledField(const ScreenContext& context, const Form& sideScreen) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "forms/screen_context.h"
@@ -16,15 +17,18 @@ struct SideScreenCall {
     std::string dim2;  // the caller's second subscript
 };
 
+/// What a form is opened with. It is noted on the form before any of its routines runs.
+struct OpenRequest {
+    std::string form;
+    std::optional<int> dim2 = {};             // the slice that it shows; nothing: as it has it
+    std::optional<SideScreenCall> call = {};  // of a side screen: the field it opens for
+};
+
 /// The call for a field of a form, or for the cell of its grid in a row.
 SideScreenCall MakeCall(const Form& caller, const std::string& field, int row = 0);
 
 /// Tells a form who called it.
 void NoteCall(Form& sideScreen, const SideScreenCall& call);
-
-/// Opens a side screen; a help that is open for another field is closed first. Null if it did not open: a
-/// value being typed was refused.
-Form* OpenSideScreen(ScreenContext& context, const std::string& sideScreen, const SideScreenCall& call);
 
 /// The value of the field that a side screen was opened for, as it is stored.
 CellValue CalledField(const ScreenContext& context, const Form& sideScreen);

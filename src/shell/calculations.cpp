@@ -3,7 +3,9 @@
 #include <array>
 
 #include "design/calc/layered_structure.h"
+#include "design/calc/new_pavement_equations.h"
 #include "lcc/calc/economic_factors.h"
+#include "rehab/calc/overlay_equations.h"
 #include "traffic/calc/traffic_keys.h"
 
 namespace kelvor {
@@ -28,7 +30,8 @@ constexpr std::array<std::string_view, 17> kAwaitedCellKeys = {
 }  // namespace
 
 Dispatch JoinCalculations() {
-    return Dispatch({LayeredStructureKeys(), TrafficKeys(), EconomicFactorKeys()});
+    return Dispatch({NewPavementEquations(), LayeredStructureKeys(), OverlayEquations(), TrafficKeys(),
+                     EconomicFactorKeys()});
 }
 
 std::span<const std::string_view> AwaitedFieldKeys() { return kAwaitedFieldKeys; }

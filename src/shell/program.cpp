@@ -1,12 +1,12 @@
 #include "shell/program.h"
 
-#include "design/calc/equation_screens.h"
-#include "design/calc/solve_for.h"
 #include "design/screens/design_forms.h"
+#include "forms/equation_lines.h"
 #include "forms/field_help.h"
 #include "forms/form_events.h"
 #include "forms/grid_entry.h"
 #include "forms/screen_builder.h"
+#include "forms/side_screen.h"
 #include "shell/about_form.h"
 #include "shell/hub/hub.h"
 #include "shell/project_files.h"
@@ -42,6 +42,13 @@ std::string Program::CellText(const Form& form, int row, const GridColumn& colum
 
 // --- Events of the windows -------------------------------------------------------------------------
 
+void Program::EndOfEvent() {
+    if (!state_.dbCatalogue || !state_.dbCustom) return;
+    ScreenContext context = state_.MakeScreenContext();
+    FormEvents(context).Settle();
+    for (Form* form : context.forms.InOpeningOrder()) ShowEquationLines(context, *form);
+}
+
 bool Program::Raise(const UserEvent& event) {
     return InEvent([&] { return Perform(event); });
 }
@@ -51,8 +58,7 @@ bool Program::Perform(const UserEvent& event) {
     switch (event.kind) {
         case UserEvent::Kind::OpenForm: {
             if (const auto tab = HubTabNamed(event.name)) return SwitchTab(static_cast<int>(*tab));
-            ScreenContext context = state_.MakeScreenContext();
-            return FormEvents(context).Open(event.name);
+            return OpenScreen(event);
         }
         case UserEvent::Kind::ActivateForm:
         case UserEvent::Kind::CloseForm:
@@ -86,6 +92,15 @@ bool Program::IsOutsideModalForm(const UserEvent& event) const {
         default:
             return false;
     }
+}
+
+/// The number of the event is the slice that the form shows; 0 for as it has it.
+bool Program::OpenScreen(const UserEvent& event) {
+    if (state_.formRegistry.FindType(event.name) == nullptr) return false;
+    ScreenContext context = state_.MakeScreenContext();
+    const auto dim2 = event.number > 0 ? std::optional(event.number) : std::nullopt;
+    FormEvents(context).Open({.form = event.name, .dim2 = dim2});
+    return true;
 }
 
 bool Program::OnOpenForm(const UserEvent& event) {
@@ -200,8 +215,8 @@ int Program::Solve(std::string_view screen, int term) {
     int result = 0;
     InEvent([&] {
         CalcContext context = state_.MakeCalcContext();
-        result = SolveForVariable(context, screen, term);
-        if (result == 0 && LastTerm(screen) > 0) state_.bProjectChanged = true;
+        result = state_.calculations.SolveForVariable(context, screen, term);
+        if (result == 0 && state_.calculations.LastTerm(screen) > 0) state_.bProjectChanged = true;
         return true;
     });
     return result;

@@ -62,12 +62,18 @@ class Program {
     bool InEvent(Action action) {
         if (running_) return true;
         const EventScope event(state_, running_);
-        return action();
+        const bool made = action();
+        EndOfEvent();
+        return made;
     }
+
+    /// What every event brings to an end: the focus, and the lines that tell the truth about equations.
+    void EndOfEvent();
 
     bool Perform(const UserEvent& event);
     bool PerformOnCurrentForm(const UserEvent& event);
     [[nodiscard]] bool IsOutsideModalForm(const UserEvent& event) const;
+    bool OpenScreen(const UserEvent& event);
     bool OnOpenForm(const UserEvent& event);
     bool SwitchTab(int tab);
     bool ChooseMenu(const std::string& name, int index);

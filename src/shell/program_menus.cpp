@@ -6,6 +6,7 @@
 
 #include "forms/form_events.h"
 #include "forms/screen_builder.h"
+#include "forms/side_screen.h"
 #include "platform/sqlite.h"
 #include "shell/hub/hub.h"
 #include "shell/program.h"
@@ -47,7 +48,7 @@ bool Program::ChooseMenu(const std::string& name, int index) {
 
 void Program::ShowAbout() {
     ScreenContext context = state_.MakeScreenContext();
-    FormEvents(context).Open("About");
+    FormEvents(context).Open({.form = "About"});
 }
 
 // --- Help ---------------------------------------------------------------------------------------------
@@ -81,7 +82,7 @@ bool Program::LeaveProject() {
 /// The hub in front, which is made when it is first asked for and never closed, with its start tab.
 void Program::ShowStartTab() {
     ScreenContext context = state_.MakeScreenContext();
-    FormEvents(context).Open(kHubForm);
+    FormEvents(context).Open({.form = kHubForm});
     if (Form* hub = state_.formRegistry.Find(kHubForm)) EnterHubTab(context, *hub, HubTab::Start);
 }
 
@@ -138,14 +139,14 @@ void Program::OpenRecentFile(int position) {
 bool Program::Save() {
     return InEvent([&] {
         ScreenContext context = state_.MakeScreenContext();
-        FormEvents(context).CommitAndReturn();
+        FormEvents(context).Commit();
         return ProjectFiles(state_).Save();
     });
 }
 
 void Program::SaveByMenu(bool underNewName) {
     ScreenContext context = state_.MakeScreenContext();
-    FormEvents(context).CommitAndReturn();
+    FormEvents(context).Commit();
     ProjectFiles files(state_);
     if (underNewName) {
         files.SaveProjectAs();
@@ -163,7 +164,7 @@ void Program::OpenProjectByDialog() {
 bool Program::SaveAs(const std::string& name) {
     return InEvent([&] {
         ScreenContext context = state_.MakeScreenContext();
-        FormEvents(context).CommitAndReturn();
+        FormEvents(context).Commit();
         return ProjectFiles(state_).SaveProjectAs(name);
     });
 }

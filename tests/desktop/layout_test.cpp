@@ -107,8 +107,8 @@ TEST_F(LayoutTest, EveryStateOfTheIndicatorsCanBeRead) {
         QApplication::setPalette(palette);
         OnEveryForm([&](FormView& view) {
             for (const SolveState shown : {SolveState::Resting, SolveState::Warning, SolveState::Solved}) {
-                SetSolveForState(*view.form(), shown, "A label as long as labels get", "1,000,000,000",
-                                 "psi/in");
+                SetSolveForState(*view.form(), shown, 0,
+                                 {"A label as long as labels get", "1,000,000,000", "psi/in"});
                 view.Sync();
                 EXPECT_THAT(FindCutWidgets(view), IsEmpty());
                 EXPECT_THAT(FindWeakContrast(view), IsEmpty());

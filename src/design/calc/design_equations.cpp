@@ -5,10 +5,7 @@
 
 namespace kelvor {
 
-namespace {
-
-Real FlexibleTraffic(const CalcContext& context, const FlexibleInputs& inputs, Real SN) {
-    const ProjectStore& store = context.store;
+Real FlexibleTraffic(const ProjectStore& store, Real ZR, const FlexibleInputs& inputs, Real SN) {
     const Real S0 = store.Number(inputs.S0);
     const Real MR = store.Number(inputs.MR);
     const Real P0 = store.Number(inputs.P0);
@@ -19,12 +16,11 @@ Real FlexibleTraffic(const CalcContext& context, const FlexibleInputs& inputs, R
     const Real t1 = 9.36 * a / Ln10;
     const Real t2 = Log((P0 - Pt) / 2.7) / (1094.0 / Pow(SN + 1.0, 5.19) + 0.4) / Ln10;
     const Real t3 = b / Ln10 * 2.32;
-    const Real exponent = context.reliability.ZR * S0 + t1 - 0.2 + t2 + t3 - 8.07;
+    const Real exponent = ZR * S0 + t1 - 0.2 + t2 + t3 - 8.07;
     return Pow(10.0, exponent);
 }
 
-Real RigidTraffic(const CalcContext& context, const RigidInputs& inputs, Real D) {
-    const ProjectStore& store = context.store;
+Real RigidTraffic(const ProjectStore& store, Real ZR, const RigidInputs& inputs, Real D) {
     const Real S0 = store.Number(inputs.S0);
     const Real MR = store.Number(inputs.MR);
     const Real Ec = store.Number(inputs.Ec);
@@ -36,15 +32,13 @@ Real RigidTraffic(const CalcContext& context, const RigidInputs& inputs, Real D)
 
     const Real t1 = 7.35 * Log(D + 1.0) / Ln10;
     const Real t2 = Log((P0 - Pt) / 3.0) / (1.624e7 / Pow(D + 1.0, 8.46) + 1.0) / Ln10;
-    const Real left = context.reliability.ZR * S0 + t1 - 0.06 + t2;
+    const Real left = ZR * S0 + t1 - 0.06 + t2;
     const Real numerator = MR * Cd * (Pow(D, 0.75) - 1.132);
     const Real tail = Pow(D, 0.75) - 18.42 / Pow(Ec / k, 0.25);
     const Real ratio = numerator / (215.63 * J * tail);
     const Real right = (4.22 - 0.32 * Pt) * Log(ratio) / Ln10;
     return Pow(10.0, left + right);
 }
-
-}  // namespace
 
 Real RoundTraffic(Real w18) {
     if (w18 <= 100.0) return w18;
@@ -53,7 +47,7 @@ Real RoundTraffic(Real w18) {
 
 void EvaluateFlexible(CalcContext& context, const FlexibleInputs& inputs, Real SN, Real& w18) {
     try {
-        w18 = RoundTraffic(FlexibleTraffic(context, inputs, SN));
+        w18 = RoundTraffic(FlexibleTraffic(context.store, context.reliability.ZR, inputs, SN));
     } catch (const ArithmeticFault&) {
         ReportMathOverflow(context.dialogs);
     }
@@ -61,7 +55,7 @@ void EvaluateFlexible(CalcContext& context, const FlexibleInputs& inputs, Real S
 
 void EvaluateRigid(CalcContext& context, const RigidInputs& inputs, Real D, Real& w18) {
     try {
-        w18 = RoundTraffic(RigidTraffic(context, inputs, D));
+        w18 = RoundTraffic(RigidTraffic(context.store, context.reliability.ZR, inputs, D));
     } catch (const ArithmeticFault&) {
         ReportMathOverflow(context.dialogs);
     }

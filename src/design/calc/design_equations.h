@@ -28,12 +28,19 @@ struct RigidInputs {
     CellHandle Pt;  // terminal serviceability
 };
 
-/// The traffic, in 18-kip ESALs, that a structural number carries (1993 AASHTO Guide, Part II, Figure
-/// 3.1), at the deviate ZR that was looked up last. Rounded to a multiple of 100 if it is above 100. A
+/// The traffic, in 18-kip ESALs and not rounded, that a structural number carries at a deviate ZR (1993
+/// AASHTO Guide, Part II, Figure 3.1). Raises ArithmeticFault where the equation has no value.
+Real FlexibleTraffic(const ProjectStore& store, Real ZR, const FlexibleInputs& inputs, Real SN);
+
+/// The same for a slab thickness D in inches (1993 AASHTO Guide, Part II, Figure 3.7).
+Real RigidTraffic(const ProjectStore& store, Real ZR, const RigidInputs& inputs, Real D);
+
+/// The traffic, in 18-kip ESALs, that a structural number carries, at the deviate ZR
+/// that was looked up last. Rounded to a multiple of 100 if it is above 100. A
 /// fault shows the overflow message and leaves `w18` as it was.
 void EvaluateFlexible(CalcContext& context, const FlexibleInputs& inputs, Real SN, Real& w18);
 
-/// The same for a slab thickness D in inches (1993 AASHTO Guide, Part II, Figure 3.7).
+/// The same for a slab thickness D in inches.
 void EvaluateRigid(CalcContext& context, const RigidInputs& inputs, Real D, Real& w18);
 
 /// The equation of a pavement type, "Flexible" (or "Flex") or "Rigid" in any case, with the names of its

@@ -7,8 +7,6 @@ namespace kelvor {
 
 namespace {
 
-enum Term : int { kSN = 1, kW18, kReliability, kS0, kMR, kP0, kPt };
-
 constexpr double kLowestStart = 0.01;
 constexpr double kHighestStart = 30.0;
 
@@ -28,32 +26,32 @@ class FlexibleSolver : EquationSolver<kFlexibleTerms> {
   private:
     /// What the cases share of the equation.
     void ComputeTerms() {
-        const Real SN = Value(kSN);
-        deviateTerm_ = context_.reliability.ZR * Value(kS0);
+        const Real SN = Value(kStructuralNumber);
+        deviateTerm_ = context_.reliability.ZR * Value(kFlexibleDeviation);
         snTerm_ = 9.36 * (Log(SN + 1.0) / Ln10);
-        serviceabilityTerm_ = Log((Value(kP0) - Value(kPt)) / 2.7) / Ln10;
+        serviceabilityTerm_ = Log((Value(kFlexiblePo) - Value(kFlexiblePt)) / 2.7) / Ln10;
         serviceabilityFactor_ = 1.0 / (0.4 + 1094.0 / Pow(SN + 1.0, 5.19));
-        modulusTerm_ = 2.32 * (Log(Value(kMR)) / Ln10);
+        modulusTerm_ = 2.32 * (Log(Value(kSoilModulus)) / Ln10);
     }
 
     int SolveCase(int term) {
         switch (term) {
-            case kSN:
+            case kStructuralNumber:
                 return SolveStructuralNumber();
-            case kW18:
+            case kFlexibleTraffic:
                 return SolveTraffic();
-            case kReliability:
-                return SolveReliability(DeviateTimesDeviation() / Value(kS0));
-            case kS0:
+            case kFlexibleReliability:
+                return SolveReliability(DeviateTimesDeviation() / Value(kFlexibleDeviation));
+            case kFlexibleDeviation:
                 return Write(term, DeviateTimesDeviation() / context_.reliability.ZR);
-            case kMR:
+            case kSoilModulus:
                 return Write(term, Pow(10.0, (LogTraffic() - deviateTerm_ - kConstant - snTerm_ -
                                               serviceabilityFactor_ * serviceabilityTerm_) /
                                                  2.32));
-            case kP0:
-                return Write(term, Value(kPt) + ServiceabilityLoss());
-            case kPt:
-                return Write(term, Value(kP0) - ServiceabilityLoss());
+            case kFlexiblePo:
+                return Write(term, Value(kFlexiblePt) + ServiceabilityLoss());
+            case kFlexiblePt:
+                return Write(term, Value(kFlexiblePo) - ServiceabilityLoss());
             default:
                 return kSolveDone;
         }
@@ -72,13 +70,13 @@ class FlexibleSolver : EquationSolver<kFlexibleTerms> {
     }
 
     [[nodiscard]] FlexibleInputs Inputs() const {
-        return {Handle(kS0), Handle(kMR), Handle(kP0), Handle(kPt)};
+        return {Handle(kFlexibleDeviation), Handle(kSoilModulus), Handle(kFlexiblePo), Handle(kFlexiblePt)};
     }
 
     int SolveTraffic() {
-        Real w18 = Value(kW18);
-        EvaluateFlexible(context_, Inputs(), Value(kSN), w18);
-        return Write(kW18, w18);
+        Real w18 = Value(kFlexibleTraffic);
+        EvaluateFlexible(context_, Inputs(), Value(kStructuralNumber), w18);
+        return Write(kFlexibleTraffic, w18);
     }
 
     int SolveStructuralNumber() {
@@ -88,9 +86,9 @@ class FlexibleSolver : EquationSolver<kFlexibleTerms> {
         problem.traffic = [this, inputs = Inputs()](Real SN, Real& w18) {
             EvaluateFlexible(context_, inputs, SN, w18);
         };
-        problem.target = [this] { return Value(kW18); };
+        problem.target = [this] { return Value(kFlexibleTraffic); };
         const SearchResult result = SearchBracket(problem, context_.clock);
-        return result.end == SearchEnd::Found ? Write(kSN, result.x) : kSolveDone;
+        return result.end == SearchEnd::Found ? Write(kStructuralNumber, result.x) : kSolveDone;
     }
 
     static constexpr double kConstant = -8.27;  // -0.20 - 8.07
@@ -104,7 +102,7 @@ class FlexibleSolver : EquationSolver<kFlexibleTerms> {
 
 }  // namespace
 
-int SolveForFlexible(CalcContext& context, int term, const FlexibleNames& names) {
+int SolveForFlexible(CalcContext& context, int term, TermNames names) {
     return FlexibleSolver(context, names).Solve(term);
 }
 

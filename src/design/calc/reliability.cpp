@@ -48,15 +48,27 @@ std::size_t FirstRow(Test test) {
     return row;
 }
 
+/// The deviate on the straight line of an interval, which notes the fraction used.
+Real DeviateWithin(ReliabilityInterval& interval, Real reliability) {
+    interval.fraction =
+        (reliability - interval.lowerReliability) / (interval.upperReliability - interval.lowerReliability);
+    return (interval.upperZR - interval.lowerZR) * interval.fraction + interval.lowerZR;
+}
+
 }  // namespace
+
+std::optional<Real> DeviateOf(Real reliability) {
+    if (reliability >= kFullReliability) return std::nullopt;
+    ReliabilityInterval interval =
+        IntervalEndingAt(FirstRow([&](std::size_t row) { return reliability < UpperBound(row); }));
+    return DeviateWithin(interval, reliability);
+}
 
 void ReliabilityToZR(ReliabilityInterval& interval, Dialogs& dialogs, Real reliability, Real& zr) {
     try {
         const std::size_t row = FirstRow([&](std::size_t i) { return reliability < UpperBound(i); });
         if (row < kTable.size()) interval = IntervalEndingAt(row);
-        interval.fraction = (reliability - interval.lowerReliability) /
-                            (interval.upperReliability - interval.lowerReliability);
-        zr = (interval.upperZR - interval.lowerZR) * interval.fraction + interval.lowerZR;
+        zr = DeviateWithin(interval, reliability);
     } catch (const ArithmeticFault&) {
         ReportMathOverflow(dialogs);
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "platform/dialogs.h"
 #include "platform/real.h"
 
@@ -25,6 +27,10 @@ struct ReliabilityState {
 /// the last one is extrapolated; from 100 on the interval of the previous call is, and if there was
 /// none, the overflow message is shown and `zr` stays as it was. Keeps the interval used.
 void ReliabilityToZR(ReliabilityInterval& interval, Dialogs& dialogs, Real reliability, Real& zr);
+
+/// The deviate of a reliability below 100 per cent by the same table, from nothing but that; nothing for 100
+/// and more.
+std::optional<Real> DeviateOf(Real reliability);
 
 /// The reliability, in per cent, of a standard normal deviate: 0 on success, -1 on failure with its
 /// message and `reliability` unwritten. A deviate above 0 is out of bounds, one of -3.75 or below

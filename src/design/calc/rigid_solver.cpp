@@ -8,8 +8,6 @@ namespace kelvor {
 
 namespace {
 
-enum Term : int { kD = 1, kW18, kReliability, kS0, kMR, kEc, kJ, kSubgradeK, kCd, kP0, kPt };
-
 constexpr double kThinnestSlab = 4.0;   // inches
 constexpr double kThickestSlab = 20.0;  // inches; also where the search starts from above
 
@@ -30,56 +28,59 @@ class RigidSolver : EquationSolver<kRigidTerms> {
   private:
     /// What the cases share of the equation.
     void ComputeTerms() {
-        const Real D = Value(kD);
-        deviateTerm_ = context_.reliability.ZR * Value(kS0);
+        const Real D = Value(kThickness);
+        deviateTerm_ = context_.reliability.ZR * Value(kRigidDeviation);
         thicknessTerm_ = 7.35 * (Log(D + 1.0) / Ln10);
-        serviceabilityTerm_ = Log((Value(kP0) - Value(kPt)) / 3.0) / Ln10;
+        serviceabilityTerm_ = Log((Value(kRigidPo) - Value(kRigidPt)) / 3.0) / Ln10;
         serviceabilityFactor_ = 1.0 / (1.0 + 1.624e7 / Pow(D + 1.0, 8.46));
-        ratioFactor_ = 4.22 - 0.32 * Value(kPt);
-        ratioTerm_ = Log(Value(kMR) * Value(kCd) * (ThicknessPower() - 1.132) /
-                         (215.63 * Value(kJ) * (ThicknessPower() - Stiffness()))) /
+        ratioFactor_ = 4.22 - 0.32 * Value(kRigidPt);
+        ratioTerm_ = Log(Value(kRupture) * Value(kDrainage) * (ThicknessPower() - 1.132) /
+                         (215.63 * Value(kLoadTransfer) * (ThicknessPower() - Stiffness()))) /
                      Ln10;
     }
 
     int SolveCase(int term) {
         switch (term) {
-            case kD:
+            case kThickness:
                 return SolveThickness();
-            case kW18:
+            case kRigidTraffic:
                 return SolveTraffic();
-            case kReliability:
-                return SolveReliability(DeviateTimesDeviation() / Value(kS0));
-            case kS0:
+            case kRigidReliability:
+                return SolveReliability(DeviateTimesDeviation() / Value(kRigidDeviation));
+            case kRigidDeviation:
                 return Write(term, DeviateTimesDeviation() / context_.reliability.ZR);
-            case kMR:
-                return Write(term,
-                             RequiredRatio() / (Value(kCd) * (ThicknessPower() - 1.132) /
-                                                (215.63 * Value(kJ) * (ThicknessPower() - Stiffness()))));
-            case kEc:
-                return Write(term,
-                             Pow(-18.42 / (RequiredMargin() - ThicknessPower()), 4.0) * Value(kSubgradeK));
-            case kJ:
-                return Write(term, (Value(kMR) * Value(kCd) * (ThicknessPower() - 1.132) /
+            case kRupture:
+                return Write(term, RequiredRatio() /
+                                       (Value(kDrainage) * (ThicknessPower() - 1.132) /
+                                        (215.63 * Value(kLoadTransfer) * (ThicknessPower() - Stiffness()))));
+            case kElasticity:
+                return Write(term, Pow(-18.42 / (RequiredMargin() - ThicknessPower()), 4.0) *
+                                       Value(kSubgradeReaction));
+            case kLoadTransfer:
+                return Write(term, (Value(kRupture) * Value(kDrainage) * (ThicknessPower() - 1.132) /
                                     (215.63 * (ThicknessPower() - Stiffness()))) /
                                        RequiredRatio());
-            case kSubgradeK:
-                return Write(term, Value(kEc) / Pow(-18.42 / (RequiredMargin() - ThicknessPower()), 4.0));
-            case kCd:
+            case kSubgradeReaction:
                 return Write(term,
-                             RequiredRatio() / (Value(kMR) * (ThicknessPower() - 1.132) /
-                                                (215.63 * Value(kJ) * (ThicknessPower() - Stiffness()))));
-            case kP0:
-                return Write(term, Value(kPt) + ServiceabilityLoss());
+                             Value(kElasticity) / Pow(-18.42 / (RequiredMargin() - ThicknessPower()), 4.0));
+            case kDrainage:
+                return Write(term, RequiredRatio() /
+                                       (Value(kRupture) * (ThicknessPower() - 1.132) /
+                                        (215.63 * Value(kLoadTransfer) * (ThicknessPower() - Stiffness()))));
+            case kRigidPo:
+                return Write(term, Value(kRigidPt) + ServiceabilityLoss());
             default:
                 return kSolveDone;  // Pt has no solution of its own: nothing is written
         }
     }
 
     /// D^0.75.
-    [[nodiscard]] Real ThicknessPower() const { return Pow(Value(kD), 0.75); }
+    [[nodiscard]] Real ThicknessPower() const { return Pow(Value(kThickness), 0.75); }
 
     /// 18.42 / (Ec / k)^0.25, which D^0.75 must exceed.
-    [[nodiscard]] Real Stiffness() const { return 18.42 / Pow(Value(kEc) / Value(kSubgradeK), 0.25); }
+    [[nodiscard]] Real Stiffness() const {
+        return 18.42 / Pow(Value(kElasticity) / Value(kSubgradeReaction), 0.25);
+    }
 
     /// The value of the ratio that the traffic requires.
     [[nodiscard]] Real RequiredRatio() const {
@@ -90,7 +91,8 @@ class RigidSolver : EquationSolver<kRigidTerms> {
 
     /// What D^0.75 - 18.42 / (Ec / k)^0.25 must be for the traffic.
     [[nodiscard]] Real RequiredMargin() const {
-        return Value(kMR) * Value(kCd) * (ThicknessPower() - 1.132) / (215.63 * Value(kJ) * RequiredRatio());
+        return Value(kRupture) * Value(kDrainage) * (ThicknessPower() - 1.132) /
+               (215.63 * Value(kLoadTransfer) * RequiredRatio());
     }
 
     [[nodiscard]] Real DeviateTimesDeviation() const {
@@ -106,8 +108,8 @@ class RigidSolver : EquationSolver<kRigidTerms> {
     }
 
     [[nodiscard]] RigidInputs Inputs() const {
-        return {Handle(kS0),        Handle(kMR), Handle(kEc), Handle(kJ),
-                Handle(kSubgradeK), Handle(kCd), Handle(kP0), Handle(kPt)};
+        return {Handle(kRigidDeviation),   Handle(kRupture),  Handle(kElasticity), Handle(kLoadTransfer),
+                Handle(kSubgradeReaction), Handle(kDrainage), Handle(kRigidPo),    Handle(kRigidPt)};
     }
 
     int SolveTraffic() {
@@ -115,14 +117,14 @@ class RigidSolver : EquationSolver<kRigidTerms> {
             ReportOutsideBounds(context_.dialogs);
             return kSolveFailed;
         }
-        Real w18 = Value(kW18);
-        EvaluateRigid(context_, Inputs(), Value(kD), w18);
-        return Write(kW18, w18);
+        Real w18 = Value(kRigidTraffic);
+        EvaluateRigid(context_, Inputs(), Value(kThickness), w18);
+        return Write(kRigidTraffic, w18);
     }
 
     /// About the thinnest slab for which the equation holds.
     [[nodiscard]] Real LowestStart() const {
-        const Real low = 48.65 * Pow(Value(kSubgradeK), 0.415) / Pow(Value(kEc), 0.341);
+        const Real low = 48.65 * Pow(Value(kSubgradeReaction), 0.415) / Pow(Value(kElasticity), 0.341);
         return Pow(low, 0.75) <= 1.132 ? Real(1.18) : low;
     }
 
@@ -134,14 +136,14 @@ class RigidSolver : EquationSolver<kRigidTerms> {
         problem.traffic = [this, inputs = Inputs()](Real D, Real& w18) {
             EvaluateRigid(context_, inputs, D, w18);
         };
-        problem.target = [this] { return Value(kW18); };
+        problem.target = [this] { return Value(kRigidTraffic); };
         const SearchResult result = SearchBracket(problem, context_.clock);
         if (result.end == SearchEnd::BelowBracket) {
             ReportOutsideBounds(context_.dialogs);
             return kSolveFailed;
         }
-        if (result.end == SearchEnd::Found) Write(kD, result.x);
-        return Write(kD, ClampValue(Value(kD), kThinnestSlab, kThickestSlab));
+        if (result.end == SearchEnd::Found) Write(kThickness, result.x);
+        return Write(kThickness, ClampValue(Value(kThickness), kThinnestSlab, kThickestSlab));
     }
 
     static constexpr double kConstant = -0.06;
@@ -156,7 +158,7 @@ class RigidSolver : EquationSolver<kRigidTerms> {
 
 }  // namespace
 
-int SolveForRigid(CalcContext& context, int term, const RigidNames& names) {
+int SolveForRigid(CalcContext& context, int term, TermNames names) {
     return RigidSolver(context, names).Solve(term);
 }
 

@@ -7,6 +7,7 @@
 
 #include "calc/calc_context.h"
 #include "calc/calc_messages.h"
+#include "calc/dispatch.h"
 #include "design/calc/reliability.h"
 #include "platform/real.h"
 
@@ -24,7 +25,7 @@ inline constexpr int kReliabilityTerm = 3;
 template <std::size_t Count>
 class TermCells {
   public:
-    TermCells(ProjectStore& store, const std::array<std::string_view, Count>& names) : store_(store) {
+    TermCells(ProjectStore& store, TermNames names) : store_(store) {
         for (std::size_t i = 0; i < Count; ++i) cells_[i] = store.Resolve(names[i]);
     }
 
@@ -72,8 +73,7 @@ int RunSolve(CalcContext& context, int term, const TermCells<Count>& terms,
 template <std::size_t Count>
 class EquationSolver {
   public:
-    EquationSolver(CalcContext& context, const std::array<std::string_view, Count>& names)
-        : context_(context), terms_(context.store, names) {}
+    EquationSolver(CalcContext& context, TermNames names) : context_(context), terms_(context.store, names) {}
 
   protected:
     [[nodiscard]] Real Value(int term) const { return terms_.Value(term); }

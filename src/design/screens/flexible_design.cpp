@@ -1,17 +1,11 @@
 #include "design/screens/flexible_design.h"
 
 #include "design/screens/layered_design.h"
-#include "design/screens/serviceability.h"
-#include "forms/balance_state.h"
 #include "forms/form.h"
 
 namespace kelvor {
 
 namespace {
-
-void SolveClick(ScreenContext& context, Form& form, Control* /*button*/) {
-    if (CheckServiceability(context, form, "FLEXPO", "FLEXPT")) SolveForClick(context, form);
-}
 
 void LayersClick(ScreenContext& context, Form& form, Control* /*button*/) {
     OpenLayeredDesign(context, form, "SN");
@@ -35,10 +29,9 @@ FormType FlexibleDesignForm() {
         Hidden({"SolveForSide", "Dim1", "Dim2"}),
     });
     type.handlers = {
-        {FormEvent::Click, "Command1", HandlerOrder::Instead, SolveClick},
         {FormEvent::Click, "Command2", HandlerOrder::Instead, LayersClick},
     };
-    type.balance = BalanceFlag::DeF;
+    type.equations = {{.flag = BalanceFlag::DeF}};
     type.helpRoutes = {{"RM", "H_SRM"}, {"SN", "H_SN"}};
     return type;
 }

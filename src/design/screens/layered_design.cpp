@@ -4,6 +4,7 @@
 
 #include "design/calc/layered_structure.h"
 #include "forms/form.h"
+#include "forms/form_events.h"
 #include "forms/recalculation.h"
 #include "forms/side_screen.h"
 #include "platform/number_text.h"
@@ -47,6 +48,11 @@ void ShowVerdict(Form& form) {
 }
 
 int CurrentRow(Form& form) { return form.FindGrid()->grid->row; }
+
+/// The total goes back to the variable for which the screen is opened.
+void Loaded(ScreenContext& /*context*/, Form& form, Control* /*control*/) {
+    form.SetHiddenText("SNCarry", form.HiddenText("FieldName"));
+}
 
 void Activated(ScreenContext& context, Form& form, Control* /*control*/) {
     RecalcAllOutputs(context, form);
@@ -121,6 +127,7 @@ FormType LayeredDesignForm() {
         Hidden({"SNCarry", "FieldName", "FormName", "Dim1", "Dim2", "Column"}),
     });
     type.handlers = {
+        {FormEvent::Load, "", HandlerOrder::After, Loaded},
         {FormEvent::Activate, "", HandlerOrder::After, Activated},
         {FormEvent::CellChanged, "", HandlerOrder::Before, MaterialChanged},
         {FormEvent::CellChanged, "", HandlerOrder::After, CellChanged},
@@ -134,8 +141,7 @@ FormType LayeredDesignForm() {
 }
 
 void OpenLayeredDesign(ScreenContext& context, Form& caller, const std::string& variable) {
-    if (Form* form = OpenSideScreen(context, kForm, MakeCall(caller, variable)))
-        form->SetHiddenText("SNCarry", variable);
+    FormEvents(context).Open({.form = kForm, .call = MakeCall(caller, variable)});
 }
 
 }  // namespace kelvor

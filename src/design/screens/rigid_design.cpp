@@ -1,20 +1,10 @@
 #include "design/screens/rigid_design.h"
 
-#include "design/screens/serviceability.h"
-#include "forms/balance_state.h"
 #include "forms/form.h"
 
 namespace kelvor {
 
 namespace {
-
-void SolveRigid(ScreenContext& context, Form& form, Control* /*button*/) {
-    if (CheckServiceability(context, form, "RIGPO", "RIGPT")) SolveForClick(context, form);
-}
-
-void SolveFlexible(ScreenContext& context, Form& form, Control* /*button*/) {
-    if (CheckServiceability(context, form, "FLEXPO", "FLEXPT")) SolveForClick(context, form);
-}
 
 LayoutNode RigidInputs() {
     return Fields({{"DEPTH"},
@@ -53,8 +43,7 @@ FormType RigidDesignForm() {
         FootButtons(),
         Hidden({"SolveForSide", "Dim1", "Dim2"}),
     });
-    type.handlers = {{FormEvent::Click, "Command1", HandlerOrder::Instead, SolveRigid}};
-    type.balance = BalanceFlag::DeR;
+    type.equations = {{.flag = BalanceFlag::DeR}};
     type.helpRoutes = {{"K", "H_K"}};
     return type;
 }
@@ -74,10 +63,12 @@ FormType BothDesignsForm() {
         FootButtons(),
         Hidden({"SolveForSide", "Dim1", "Dim2"}),
     });
-    type.handlers = {{FormEvent::Click, "Command1", HandlerOrder::Instead, SolveRigid},
-                     {FormEvent::Click, "Command2", HandlerOrder::Instead, SolveFlexible}};
-    type.balance = BalanceFlag::DeS;
-    type.secondBalance = BalanceFlag::DeS2;
+    type.equations = {{.flag = BalanceFlag::DeS},
+                      {.flag = BalanceFlag::DeS2,
+                       .indicator = "SolveFor2",
+                       .button = "Command2",
+                       .target = "TARGET2",
+                       .check = "CHECK2"}};
     type.helpRoutes = {{"K", "H_K"}, {"RM", "H_SRM"}};
     return type;
 }

@@ -6,6 +6,7 @@
 
 #include "forms/form_events.h"
 #include "forms/recalculation.h"
+#include "forms/side_screen.h"
 #include "shell/hub/offer.h"
 
 namespace kelvor {
@@ -83,7 +84,7 @@ bool OpensSomething(const ScreenContext& context, const Control& button) {
 void OpenChosenScreen(ScreenContext& context, Form& hub, Control* button) {
     for (const ScreenChoice& choice : kChoices) {
         if (button->name != choice.button || !IsSelected(hub, choice)) continue;
-        FormEvents(context).Open(choice.screen);
+        FormEvents(context).Open({.form = choice.screen});
         ShowPavement(context, choice);
         return;
     }

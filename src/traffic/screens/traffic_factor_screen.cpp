@@ -4,6 +4,7 @@
 #include <array>
 
 #include "forms/form.h"
+#include "forms/form_events.h"
 #include "forms/recalculation.h"
 #include "forms/side_screen.h"
 
@@ -49,7 +50,7 @@ void HelpClick(ScreenContext& context, Form& form, Control* /*button*/) {
     const std::string field = form.HiddenText("SolveForField");
     const bool traffic =
         std::find(kTrafficFields.begin(), kTrafficFields.end(), field) != kTrafficFields.end();
-    OpenSideScreen(context, traffic ? "H_TrIn" : "H_TrFa", MakeCall(form, field));
+    FormEvents(context).Open({.form = traffic ? "H_TrIn" : "H_TrFa", .call = MakeCall(form, field)});
 }
 
 /// From elsewhere the calculation sees the screen as it is designed.

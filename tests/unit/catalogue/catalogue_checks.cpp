@@ -7,7 +7,6 @@
 #include <set>
 #include <span>
 
-#include "design/calc/equation_screens.h"
 #include "platform/number_picture.h"
 #include "shell/calculations.h"
 
@@ -67,7 +66,7 @@ class Checker {
     std::vector<std::string> Run() {
         for (const Variable& variable : catalogue_.variables()) CheckVariable(variable);
         for (const Field& field : catalogue_.fields()) CheckField(field);
-        for (const EquationScreen& equation : EquationScreens()) CheckEquation(equation);
+        for (const SolveKey& equation : calculations_.SolveKeys()) CheckEquation(equation);
         for (const Screen& screen : catalogue_.screens()) CheckOutputOrder(screen.name);
         CheckUnitPairs();
         CheckHelpSentences();
@@ -125,10 +124,11 @@ class Checker {
 
     /// Only the terms of an equation can be solved for, and only they stand below 19.
     void CheckSolveFor(const Field& field, const std::string& where) {
-        const auto term = TermNumber(field.screen, field.name);
+        const auto term = calculations_.TermNumber(field.screen, field.name);
         if (term) {
             if (field.seq != term || field.solveFor != 1.0) Fault("term", where);
-        } else if (field.solveFor || (LastTerm(field.screen) > 0 && field.seq.value_or(0) < 19)) {
+        } else if (field.solveFor ||
+                   (calculations_.LastTerm(field.screen) > 0 && field.seq.value_or(0) < 19)) {
             Fault("term", where);
         }
     }
@@ -156,8 +156,8 @@ class Checker {
         }
     }
 
-    void CheckEquation(const EquationScreen& equation) {
-        for (const std::string_view term : equation.Terms()) {
+    void CheckEquation(const SolveKey& equation) {
+        for (const std::string_view term : equation.terms) {
             const auto fields = catalogue_.FieldsOfScreen(equation.screen);
             const bool there = std::any_of(fields.begin(), fields.end(), [&](const Field* field) {
                 return EqualNoCase(field->name, term);

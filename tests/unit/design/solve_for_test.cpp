@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "design/calc/design_equations.h"
-#include "design/calc/equation_screens.h"
 #include "reference_equations.h"
+#include "shell/calculations.h"
 #include "support/test_host.h"
 
 namespace kelvor::test {
@@ -32,17 +32,22 @@ constexpr FlexibleValues kFlexible = {0, 5e6, 95, 0.45, 5000, 4.2, 2.5};
 // Thickness, W18, reliability, S0, MR, Ec, J, k, Cd, P0, Pt.
 constexpr RigidValues kRigid = {0, 5e6, 95, 0.35, 650, 5e6, 3.2, 72, 1, 4.2, 2.5};
 
+bool IsFlexible(const SolveKey& equation) { return equation.terms.size() == kFlexibleTerms; }
+
 class SolveForTest : public testing::Test {
   protected:
     template <typename Values>
-    void Enter(const EquationScreen& equation, const Values& values) {
-        const auto terms = equation.Terms();
+    void Enter(const SolveKey& equation, const Values& values) {
+        const auto terms = equation.terms;
         for (std::size_t i = 0; i < values.size(); ++i) program_.Set(std::string(terms[i]), values[i]);
     }
 
-    void EnterFlexible(const FlexibleValues& values) { Enter(*FindEquation("DeF", 1), values); }
-    void EnterRigid(const RigidValues& values) { Enter(*FindEquation("DeR", 1), values); }
+    void EnterFlexible(const FlexibleValues& values) { Enter(Equation("DeF"), values); }
+    void EnterRigid(const RigidValues& values) { Enter(Equation("DeR"), values); }
 
+    const SolveKey& Equation(std::string_view screen) {
+        return *program_.program.state().calculations.FindEquation(screen, 1);
+    }
     int Solve(std::string_view screen, int term) { return program_.program.Solve(screen, term); }
     double Get(const std::string& name) { return program_.Get(name); }
     std::vector<std::string> Messages() { return program_.host.record.TakeTexts(); }
@@ -108,11 +113,11 @@ TEST_F(SolveForTest, ThePublishedSubgradeModulusHolds) {
 
 // --- Every term of every screen comes back -----------------------------------------------------------
 
-class EveryEquation : public SolveForTest, public testing::WithParamInterface<EquationScreen> {
+class EveryEquation : public SolveForTest, public testing::WithParamInterface<SolveKey> {
   protected:
     void EnterBalanced() {
-        const EquationScreen& equation = GetParam();
-        if (equation.flexible != nullptr) {
+        const SolveKey& equation = GetParam();
+        if (IsFlexible(equation)) {
             Enter(equation, kFlexible);
         } else {
             Enter(equation, kRigid);
@@ -122,17 +127,17 @@ class EveryEquation : public SolveForTest, public testing::WithParamInterface<Eq
     }
 
     int SolveTerm(int term) { return Solve(GetParam().screen, GetParam().firstTerm + term - 1); }
-    std::string Name(int term) { return std::string(GetParam().Terms()[static_cast<std::size_t>(term - 1)]); }
+    std::string Name(int term) { return std::string(GetParam().terms[static_cast<std::size_t>(term - 1)]); }
 };
 
 TEST_P(EveryEquation, EachTermSolvedFromAnotherStartComesBack) {
     EnterBalanced();
-    const int terms = static_cast<int>(GetParam().Terms().size());
+    const int terms = static_cast<int>(GetParam().terms.size());
     for (int term = 1; term <= terms; ++term) {
-        if (GetParam().rigid != nullptr && term == 11) continue;
+        if (!IsFlexible(GetParam()) && term == 11) continue;
         const double balanced = Get(Name(term));
         // Another start at which the equation still holds: a larger Po, a smaller of all others.
-        const bool isInitialServiceability = term == (GetParam().rigid != nullptr ? 10 : 6);
+        const bool isInitialServiceability = term == (!IsFlexible(GetParam()) ? 10 : 6);
         program_.Set(Name(term), balanced * (isInitialServiceability ? 1.1 : 0.8));
         EXPECT_EQ(SolveTerm(term), 0) << Name(term);
         const double tolerance =
@@ -146,7 +151,7 @@ TEST_P(EveryEquation, EachTermSolvedFromAnotherStartComesBack) {
 TEST_P(EveryEquation, TheTrafficIsWhatTheGuidesEquationGives) {
     EnterBalanced();
     const double x = Get(Name(1));
-    const double expected = GetParam().flexible != nullptr
+    const double expected = IsFlexible(GetParam())
                                 ? FlexibleCase{-1.645, 0.45, 5000, 4.2, 2.5}.Traffic(x)
                                 : RigidCase{-1.645, 0.35, 650, 5e6, 3.2, 72, 1, 4.2, 2.5}.Traffic(x);
     EXPECT_NEAR(Get(Name(2)), expected, 51.0);
@@ -155,7 +160,7 @@ TEST_P(EveryEquation, TheTrafficIsWhatTheGuidesEquationGives) {
 
 TEST_P(EveryEquation, OneMissingTermIsRefusedWithOneMessage) {
     EnterBalanced();
-    const int terms = static_cast<int>(GetParam().Terms().size());
+    const int terms = static_cast<int>(GetParam().terms.size());
     for (int missing = 2; missing <= terms; ++missing) {
         const double value = Get(Name(missing));
         program_.Set(Name(missing), 0.0);
@@ -168,7 +173,7 @@ TEST_P(EveryEquation, OneMissingTermIsRefusedWithOneMessage) {
 }
 
 TEST_P(EveryEquation, WithNothingEnteredEveryTermIsRefusedWithOneMessage) {
-    const int terms = static_cast<int>(GetParam().Terms().size());
+    const int terms = static_cast<int>(GetParam().terms.size());
     for (int term = 1; term <= terms; ++term) {
         EXPECT_EQ(SolveTerm(term), -1);
         EXPECT_THAT(Messages(), ElementsAre(kMissing)) << Name(term);
@@ -177,7 +182,7 @@ TEST_P(EveryEquation, WithNothingEnteredEveryTermIsRefusedWithOneMessage) {
 }
 
 TEST_P(EveryEquation, TheRigidTerminalServiceabilityIsLeftAlone) {
-    if (GetParam().rigid == nullptr) return;
+    if (IsFlexible(GetParam())) return;
     EnterBalanced();
     program_.Set(Name(11), 1.7);
     EXPECT_EQ(SolveTerm(11), 0);
@@ -195,12 +200,12 @@ TEST_P(EveryEquation, AReliabilityBetweenSeventyFiveAndEightyComesBackFromTheNex
     EXPECT_NEAR(Get(Name(3)), 80.0 + 5.0 * (zr + 0.841) / (0.841 - 1.037), 78.0 * 1e-4);
 }
 
-std::string EquationName(const testing::TestParamInfo<EquationScreen>& info) {
-    return std::string(info.param.screen) + (info.param.flexible != nullptr ? "Flexible" : "Rigid");
+std::string EquationName(const testing::TestParamInfo<SolveKey>& info) {
+    return std::string(info.param.screen) + (IsFlexible(info.param) ? "Flexible" : "Rigid");
 }
 
-INSTANTIATE_TEST_SUITE_P(AllScreens, EveryEquation,
-                         testing::ValuesIn(EquationScreens().begin(), EquationScreens().end()), EquationName);
+INSTANTIATE_TEST_SUITE_P(AllScreens, EveryEquation, testing::ValuesIn(JoinCalculations().SolveKeys()),
+                         EquationName);
 
 // --- The reliability ---------------------------------------------------------------------------------
 
@@ -363,7 +368,7 @@ TEST_F(SolveForTest, TermsWithALogarithmNeedAStart) {
         EnterRigid(values);
         EXPECT_EQ(Solve("DeR", term), -1) << term;
         EXPECT_THAT(Messages(), ElementsAre(kOverflow)) << term;
-        EXPECT_EQ(Get(std::string(FindEquation("DeR", 1)->Terms()[static_cast<std::size_t>(term - 1)])), 0.0);
+        EXPECT_EQ(Get(std::string(Equation("DeR").terms[static_cast<std::size_t>(term - 1)])), 0.0);
     }
 }
 
@@ -407,14 +412,15 @@ TEST_F(SolveForTest, ASolveLeavesTheTextThatWasTyped) {
 }
 
 TEST(EquationScreensTest, TermsAreFoundByTheirVariable) {
-    EXPECT_EQ(TermNumber("DeF", "SN"), 1);
-    EXPECT_EQ(TermNumber("DeS", "sn"), 12);
-    EXPECT_EQ(TermNumber("DeS", "RIGPT"), 11);
-    EXPECT_EQ(TermNumber("DeF", "RIGPT"), std::nullopt);
-    EXPECT_EQ(LastTerm("DeF"), 7);
-    EXPECT_EQ(LastTerm("OvWT"), 11);
-    EXPECT_EQ(LastTerm("DeS"), 18);
-    EXPECT_EQ(LastTerm("TabForm"), 0);
+    const Dispatch calculations = JoinCalculations();
+    EXPECT_EQ(calculations.TermNumber("DeF", "SN"), 1);
+    EXPECT_EQ(calculations.TermNumber("DeS", "sn"), 12);
+    EXPECT_EQ(calculations.TermNumber("DeS", "RIGPT"), 11);
+    EXPECT_EQ(calculations.TermNumber("DeF", "RIGPT"), std::nullopt);
+    EXPECT_EQ(calculations.LastTerm("DeF"), 7);
+    EXPECT_EQ(calculations.LastTerm("OvWT"), 11);
+    EXPECT_EQ(calculations.LastTerm("DeS"), 18);
+    EXPECT_EQ(calculations.LastTerm("TabForm"), 0);
 }
 
 }  // namespace

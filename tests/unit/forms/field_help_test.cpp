@@ -67,7 +67,7 @@ class FieldHelpTest : public testing::Test {
     }
 
     static std::vector<bool> Warnings(const Form& form) {
-        return {form.solveState[0] == SolveState::Warning, form.solveState[1] == SolveState::Warning};
+        return {form.solveState(0) == SolveState::Warning, form.solveState(1) == SolveState::Warning};
     }
 
     /// What screens that work a value out have to say is taken over by the fields for which they are opened.
@@ -142,7 +142,7 @@ TEST_F(FieldHelpTest, AMetricValueIsConvertedOnItsWayBack) {
     Raise(Kind::Type, {}, "203.2");
     Raise(Kind::Press, "Command1");
     EXPECT_EQ(program_.Get("DEPTH"), 203.2 / 25.4);
-    EXPECT_EQ(Current().solveState[0], SolveState::Warning);
+    EXPECT_EQ(Current().solveState(0), SolveState::Warning);
 }
 
 TEST_F(FieldHelpTest, AValueOutOfRangeKeepsTheHelpOpen) {
@@ -168,7 +168,7 @@ TEST_F(FieldHelpTest, AnEmptiedBoxEmptiesTheField) {
     Raise(Kind::Type, {}, "");
     Raise(Kind::Key, "Esc");
     EXPECT_FALSE(program_.store().FindCell("FLEXREL", 1, 1)->IsFilled());
-    EXPECT_EQ(Current().solveState[0], SolveState::Warning);
+    EXPECT_EQ(Current().solveState(0), SolveState::Warning);
 }
 
 TEST_F(FieldHelpTest, AnEntryThatAListDoesNotOfferIsRefused) {
@@ -210,8 +210,8 @@ TEST_F(FieldHelpTest, AHelpThatIsOpenForAnotherScreenGivesWay) {
     Raise(Kind::Key, "Esc");
     EXPECT_EQ(Current().name(), "DeS");
     EXPECT_EQ(program_.Get("K"), 360.8);
-    EXPECT_EQ(Current().solveState[0], SolveState::Warning);
-    EXPECT_EQ(Current().solveState[1], SolveState::Resting);
+    EXPECT_EQ(Current().solveState(0), SolveState::Warning);
+    EXPECT_EQ(Current().solveState(1), SolveState::Resting);
 }
 
 TEST_F(FieldHelpTest, InputsFromBeforeGiveAKWhereThereIsNone) {
@@ -267,7 +267,7 @@ TEST_F(FieldHelpTest, KIsWorkedOutWhenAnInputIsLeftAlsoFromInputsOfBefore) {
     EXPECT_EQ(Current().HiddenText("K"), "360.8");
     Raise(Kind::Press, "cmdAction");
     EXPECT_EQ(program_.Get("K"), 360.8);
-    EXPECT_EQ(Current().solveState[0], SolveState::Warning);
+    EXPECT_EQ(Current().solveState(0), SolveState::Warning);
 }
 
 TEST_F(FieldHelpTest, AnOverflowLeavesKAsItWas) {
@@ -293,7 +293,7 @@ TEST_F(FieldHelpTest, TheModulusOfTheTestsIsHandedOverWheneverTheyGiveOne) {
     program_.program.ChooseUnits(false);
     Raise(Kind::Press, "cmdAction");
     EXPECT_EQ(program_.Get("RM"), 5842.0) << "as it is shown";
-    EXPECT_EQ(Current().solveState[0], SolveState::Warning);
+    EXPECT_EQ(Current().solveState(0), SolveState::Warning);
     // Other tests than those that the outputs tell of.
     program_.Set("CBR", 10.0);
     Raise(Kind::OpenForm, "H_SRM");
@@ -353,7 +353,7 @@ TEST_F(FieldHelpTest, AHelpThatIsClosedFromOutsideReturnsItsValue) {
     Raise(Kind::CloseForm, "H_K");
     EXPECT_EQ(Current().name(), "DeR");
     EXPECT_EQ(Current().HiddenText("K"), "360.8");
-    EXPECT_EQ(Current().solveState[0], SolveState::Warning);
+    EXPECT_EQ(Current().solveState(0), SolveState::Warning);
 }
 
 TEST_F(FieldHelpTest, AnEntryThatHasLeftItsListStaysWithoutAnEdit) {
@@ -374,7 +374,7 @@ TEST_F(FieldHelpTest, AnEqualNumberIsNoChange) {
     Raise(Kind::Key, "F1");
     Raise(Kind::Type, {}, "5");
     Raise(Kind::Key, "Esc");
-    EXPECT_NE(Current().solveState[0], SolveState::Warning);
+    EXPECT_NE(Current().solveState(0), SolveState::Warning);
 }
 
 TEST_F(FieldHelpTest, ExistingPavementsHaveSubgradeDataOfTheirOwn) {

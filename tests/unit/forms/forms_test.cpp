@@ -173,7 +173,7 @@ TEST_F(FormsTest, LeavingAFieldThatWasNotTypedInStoresNothing) {
     Raise(Kind::Focus, "SN");
     EXPECT_EQ(form.focus->name, "SN");
     EXPECT_EQ(*program_.store().FindCell("RM", 1, 1), (CellValue{1.0, "1"}));
-    EXPECT_EQ(form.solveState[0], SolveState::Resting);
+    EXPECT_EQ(form.solveState(0), SolveState::Resting);
     EXPECT_FALSE(program_.program.state().bProjectChanged);
 }
 
@@ -188,12 +188,12 @@ TEST_F(FormsTest, AFieldOutsideTheEquationDoesNotWarn) {
     Raise(Kind::Type, {}, "5000");
     Raise(Kind::Focus, "SN");
     EXPECT_EQ(program_.Get("RM"), 5000.0);
-    EXPECT_EQ(form.solveState[0], SolveState::Resting);
+    EXPECT_EQ(form.solveState(0), SolveState::Resting);
     Raise(Kind::Focus, "RM");
     Raise(Kind::Press, "Command1");
     EXPECT_THAT(Messages(), ElementsAre("Cannot solve for: Soil Resilient Mod."));
     EXPECT_EQ(form.focus->name, "RM");
-    EXPECT_EQ(form.solveState[0], SolveState::Resting);
+    EXPECT_EQ(form.solveState(0), SolveState::Resting);
 }
 
 TEST_F(FormsTest, ALimitThatIsMissingBoundsNothingAndReadsEmpty) {
@@ -355,11 +355,11 @@ TEST_F(FormsTest, MillimetresTypedIntoAFieldAreStoredAsInches) {
 
 TEST_F(FormsTest, ALabelThatBeginsLikeAWarningCountsAsOne) {
     Form& form = Open("DeF");
-    SetSolveForState(form, SolveState::Solved, "WARNING!s per mile", "3");
+    SetSolveForState(form, SolveState::Solved, 0, {"WARNING!s per mile", "3", ""});
     program_.host.dialogs.QueueAnswer("no");
     Raise(Kind::CloseForm, "DeF");
     EXPECT_EQ(Messages().size(), 1U);
-    SetSolveForState(form, SolveState::Solved, "WARNING per mile", "3");
+    SetSolveForState(form, SolveState::Solved, 0, {"WARNING per mile", "3", ""});
     Raise(Kind::CloseForm, "DeF");
     EXPECT_THAT(Messages(), IsEmpty());
 }

@@ -191,12 +191,12 @@ TEST_F(GridTest, TheTotalIsCarriedBackOnlyToTheScreenThatAsked) {
     Raise(Kind::Press, "cmdAction");
     EXPECT_EQ(program_.Get("SN"), 3.0);
     const Form& design = *program_.program.state().formRegistry.Find("DeF");
-    EXPECT_EQ(design.solveState[0], SolveState::Resting);
+    EXPECT_EQ(design.solveState(0), SolveState::Resting);
     Raise(Kind::Press, "Command2");
     program_.host.dialogs.QueueAnswer("yes");
     Raise(Kind::Press, "cmdAction");
     EXPECT_EQ(program_.Get("SN"), 1.76);
-    EXPECT_EQ(design.solveState[0], SolveState::Warning);
+    EXPECT_EQ(design.solveState(0), SolveState::Warning);
     EXPECT_EQ(design.focus->name, "SN");
     EXPECT_THAT(Messages(), ElementsAre("Do you want to use this Structural Number on the previous form?",
                                         "Do you want to use this Structural Number on the previous form?"));

@@ -1,0 +1,108 @@
+#include "forms/equation_lines.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "forms/indicator.h"
+#include "platform/number_picture.h"
+
+namespace kelvor {
+
+namespace {
+
+/// How far the stored traffic may be from that of the equation. A search ends within a thousandth, and
+/// traffic is rounded to hundreds.
+constexpr double kBalanceTolerance = 0.002;
+
+constexpr const char* kTrafficPicture = "#,##0";
+constexpr const char* kPercentPicture = "0.00";
+
+/// So many missing terms are named; of more the first ones.
+constexpr std::size_t kMostNamed = 4;
+
+struct Line {
+    std::string text;
+    bool warns = false;
+};
+
+/// What a term is called on the form.
+std::string LabelOf(const ScreenContext& context, const Form& form, std::string_view variable) {
+    for (const auto& control : form.controls()) {
+        const Control* box = control->labelOf.empty() ? nullptr : form.Find(control->labelOf);
+        if (box != nullptr && EqualNoCase(box->tag, variable)) return control->text;
+    }
+    const Variable* row = context.catalogue.FindVariable(variable);
+    return row == nullptr ? std::string(variable) : row->desc;
+}
+
+/// The terms that are not entered, which a value of 0 tells.
+std::vector<std::string> MissingTerms(const ScreenContext& context, const Form& form,
+                                      const SolveKey& equation) {
+    std::vector<std::string> missing;
+    for (const std::string_view term : equation.terms) {
+        if (context.calc.Get(term) == 0.0) missing.push_back(LabelOf(context, form, term));
+    }
+    return missing;
+}
+
+Line MissingLine(const std::vector<std::string>& missing) {
+    const std::size_t named = missing.size() > kMostNamed ? kMostNamed - 1 : missing.size();
+    std::string text = "Missing: " + missing.front();
+    for (std::size_t i = 1; i < named; ++i) text += ", " + missing[i];
+    if (named < missing.size()) text += " and " + std::to_string(missing.size() - named) + " more";
+    return {text, false};
+}
+
+/// Sets the traffic that the equation gives beside the stored one.
+Line CompareLine(Real given, Real stored) {
+    const double difference = std::fabs((given - stored).value()) / std::fabs(stored.value());
+    const std::string both = "the equation gives " + FormatNumber(given.value(), kTrafficPicture) +
+                             " ESALs for " + FormatNumber(stored.value(), kTrafficPicture);
+    if (difference > kBalanceTolerance) return {"Not in balance: " + both + ".", true};
+    return {"In balance: " + both + " (" + FormatNumber(difference * 100.0, kPercentPicture) + " %).", false};
+}
+
+Line CheckLine(const ScreenContext& context, const Form& form, const SolveKey& equation) {
+    const std::vector<std::string> missing = MissingTerms(context, form, equation);
+    if (!missing.empty()) return MissingLine(missing);
+    try {
+        const EquationAnswer answer = equation.answer(context.calc, equation.terms);
+        if (answer.traffic) return CompareLine(*answer.traffic, context.calc.Get(equation.Traffic()));
+        return {"Not in balance: the equation has no value: " + answer.whyNot + ".", true};
+    } catch (const ArithmeticFault&) {
+        return {"Not in balance: the equation has no value.", true};
+    }
+}
+
+/// What a press of a Solve For button would do for the field that had the focus last.
+std::string TargetText(const ScreenContext& context, const Form& form) {
+    const Control* current = CurrentField(form);
+    if (current == nullptr) return {};
+    const Field* field = FindScreenField(context, form, current->name);
+    const Variable* variable = context.catalogue.FindVariable(current->name);
+    if (variable == nullptr) return {};
+    return (field != nullptr && field->solveFor ? "Solves for: " : "Cannot solve for: ") + variable->desc;
+}
+
+void Show(Form& form, const std::string& name, const Line& line) {
+    Control* label = form.Find(name);
+    if (label == nullptr) return;
+    label->text = line.text;
+    label->foreColor = line.warns ? colours::kRed : colours::kWindowText;
+}
+
+}  // namespace
+
+void ShowEquationLines(const ScreenContext& context, Form& form) {
+    const bool open = context.calc.store.IsOpen();
+    const std::vector<const SolveKey*> keys = context.calculations.EquationsOf(form.tag);
+    const std::vector<FormEquation>& equations = form.type().equations;
+    for (std::size_t i = 0; i < std::min(equations.size(), keys.size()); ++i) {
+        Show(form, equations[i].target, {open ? TargetText(context, form) : "", false});
+        Show(form, equations[i].check, open ? CheckLine(context, form, *keys[i]) : Line{});
+    }
+}
+
+}  // namespace kelvor
