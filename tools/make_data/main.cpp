@@ -1,16 +1,23 @@
 #include <cstdio>
 #include <exception>
+#include <string_view>
 
 #include "make_data/database_maker.h"
+#include "make_data/table_files.h"
 
-/// Usage: kelvor-make-data DATA HOME
+/// Usage: kelvor-make-data DATA HOME    makes the databases of HOME
+///        kelvor-make-data --align DATA aligns the columns of the text tables
 int main(int argc, char** argv) {
     if (argc != 3) {
-        std::fputs("usage: kelvor-make-data DATA HOME\n", stderr);
+        std::fputs("usage: kelvor-make-data DATA HOME\n       kelvor-make-data --align DATA\n", stderr);
         return 2;
     }
     try {
-        kelvor::MakeDatabases(argv[1], argv[2]);
+        if (argv[1] == std::string_view("--align")) {
+            kelvor::AlignTables(argv[2]);
+        } else {
+            kelvor::MakeDatabases(argv[1], argv[2]);
+        }
         return 0;
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "kelvor-make-data: %s\n", failure.what());

@@ -8,8 +8,6 @@
 
 #include "catalogue/list_database.h"
 #include "catalogue_checks.h"
-#include "make_data/database_maker.h"
-#include "make_data/text_table.h"
 #include "shell/calculations.h"
 #include "support/test_home.h"
 
@@ -19,9 +17,6 @@ namespace {
 using testing::Contains;
 using testing::IsEmpty;
 using testing::StartsWith;
-
-const Path kData = Path(KELVOR_SOURCE_FOLDER) / "data";
-const char* const kDefaultColumns = "Name\tDim1\tDim2\tRValue\tSValue";
 
 class CatalogueTest : public testing::Test {
   protected:
@@ -191,139 +186,6 @@ TEST_F(CatalogueTest, TheDataOfTheSubgradeMayBeAbsentAndReachAsFarAsTheGuidesTab
             EXPECT_TRUE(catalogue.HelpText(name).has_value()) << name;
         }
     }
-}
-
-// --- The databases that the build makes ------------------------------------------------------------------
-
-TEST(MakeDatabasesTest, TheSameTablesGiveTheSameBytes) {
-    TemporaryFolder folder;
-    MakeDatabases(kData, folder / "a");
-    MakeDatabases(kData, folder / "b");
-    for (const char* name : {"DataBase/Kelvor.mdb", "DataBase/custom.tpl", "kvrwork.tpl"}) {
-        EXPECT_EQ(ReadFile(folder / "a" / name), ReadFile(folder / "b" / name)) << name;
-        EXPECT_EQ(ReadFile(folder / "a" / name), ReadFile(Path(KELVOR_HOME_FOLDER) / name)) << name;
-    }
-}
-
-TEST(MakeDatabasesTest, TheTemplateHasEveryCellOfEveryVariableAndNoOther) {
-    TestHome home;
-    Catalogue catalogue(home / "DataBase/Kelvor.mdb");
-    int expected = 0;
-    for (const Variable& variable : catalogue.variables()) expected += variable.dim1 * variable.dim2;
-    SQLite::Database project((home / "kvrwork.tpl").string());
-    EXPECT_EQ(project.execAndGet("SELECT count(*) FROM Project").getInt(), expected);
-    SQLite::Statement defaults(
-        project,
-        "SELECT Name, Dim1, RValue, SValue FROM Project WHERE RValue IS NOT NULL OR SValue IS NOT NULL");
-    int filled = 0;
-    while (defaults.executeStep()) {
-        ++filled;
-        const std::string name = defaults.getColumn(0);
-        if (name == "LDLayerNumber") {
-            EXPECT_EQ(defaults.getColumn(2).getInt(), defaults.getColumn(1).getInt());
-        } else if (name == "MetricMode") {
-            EXPECT_EQ(defaults.getColumn(2).getDouble(), 0.0);
-        } else {
-            EXPECT_EQ(name, "EXISTMAT");
-            EXPECT_EQ(defaults.getColumn(3).getString(), "Flexible Surface");
-        }
-    }
-    EXPECT_EQ(filled, 8);
-}
-
-TEST(MakeDatabasesTest, TheBoundsOfTheArraysStand) {
-    TestHome home;
-    Catalogue catalogue(home / "DataBase/Kelvor.mdb");
-    struct Row {
-        const char* name;
-        int dim1, dim2;
-    };
-    for (const Row& row : {Row{"LDLayerNumber", 6, 1}, Row{"LDAdditThick", 6, 1},
-                           Row{"EXISTMAT", 10, 1},     Row{"ACSURFLC", 10, 1},
-                           Row{"EXISTEFSN", 10, 1},    Row{"AxleType", 50, 1},
-                           Row{"FE18", 50, 1},         Row{"NDTLOADF", 300, 1},
-                           Row{"Msg", 300, 1},         Row{"NDTEC", 300, 1},
-                           Row{"LayerWidth", 20, 2},   Row{"UnitWeight", 20, 2},
-                           Row{"LayerType", 35, 2},    Row{"InitialItemCost", 35, 2},
-                           Row{"MaintYear", 35, 2},    Row{"RehabItem", 36, 2},
-                           Row{"PWCostR", 36, 2},      Row{"PavDesc", 1, 2},
-                           Row{"ItemTotal2", 1, 2},    Row{"SN", 1, 1},
-                           Row{"MetricMode", 1, 1}}) {
-        const Variable* variable = catalogue.FindVariable(row.name);
-        ASSERT_NE(variable, nullptr) << row.name;
-        EXPECT_EQ(variable->dim1, row.dim1) << row.name;
-        EXPECT_EQ(variable->dim2, row.dim2) << row.name;
-    }
-}
-
-/// A copy of the text tables, to be broken in one place.
-class BrokenTablesTest : public testing::Test {
-  protected:
-    BrokenTablesTest() {
-        std::filesystem::copy(kData, folder_ / "data", std::filesystem::copy_options::recursive);
-    }
-
-    /// Replaces a table below data/ by one of a single row.
-    void WriteTable(const std::string& file, const std::string& columns, const std::string& row) {
-        WriteFile(folder_ / ("data/" + file), columns + "\n" + row + "\n");
-    }
-
-    /// Why the databases cannot be made; empty if they can.
-    std::string Fault() {
-        try {
-            MakeDatabases(folder_ / "data", folder_ / "home");
-            return {};
-        } catch (const TextTableError& failure) {
-            return failure.what();
-        }
-    }
-
-    TemporaryFolder folder_;
-};
-
-TEST_F(BrokenTablesTest, ADefaultForACellThatIsNoneIsRefused) {
-    EXPECT_EQ(Fault(), "");
-    WriteTable("template/defaults.tsv", kDefaultColumns, "NOSUCH\t1\t1\t5\t");
-    EXPECT_EQ(Fault(), "defaults.tsv: no cell NOSUCH");
-}
-
-TEST_F(BrokenTablesTest, ADefaultThatIsNoNumberIsRefused) {
-    WriteTable("template/defaults.tsv", kDefaultColumns, "SN\t1\t1\tfive\t");
-    EXPECT_EQ(Fault(), "defaults.tsv: \"five\" is no number");
-}
-
-TEST_F(BrokenTablesTest, ASubscriptThatIsNoWholeNumberIsRefused) {
-    const auto faultOf = [this](const std::string& subscript) {
-        WriteTable("template/defaults.tsv", kDefaultColumns, "LDLayerNumber\t" + subscript + "\t1\t5\t");
-        return Fault();
-    };
-    EXPECT_EQ(faultOf("2.5"), R"(defaults.tsv: "2.5" is no whole number)");
-    EXPECT_EQ(faultOf("one"), R"(defaults.tsv: "one" is no number)");
-    EXPECT_EQ(faultOf("40000"), R"(defaults.tsv: "40000" is too large)");
-    EXPECT_EQ(faultOf("2.0"), "");
-}
-
-TEST_F(BrokenTablesTest, ABoundOrAnOrderThatIsNoWholeNumberIsRefused) {
-    const auto makeTemplate = [this] { MakeTemplate(folder_ / "data", folder_ / "kvrwork.tpl"); };
-    const std::string variables = ReadFile(folder_ / "data/catalogue/Variable.tsv");
-    std::string broken = variables;
-    const std::size_t bounds = broken.find("\t6\t1\t");
-    ASSERT_NE(bounds, std::string::npos);
-    WriteFile(folder_ / "data/catalogue/Variable.tsv", broken.replace(bounds, 3, "\t2.5\t"));
-    EXPECT_EQ(Fault(), "Variable.tsv: \"2.5\" is no whole number");
-    EXPECT_THROW(makeTemplate(), TextTableError);
-    WriteFile(folder_ / "data/catalogue/Variable.tsv", variables);
-    WriteTable("catalogue/RecentFiles.tsv", "FileName\tOpenDate\tSortOrder", "\t\t2.5");
-    EXPECT_EQ(Fault(), "RecentFiles.tsv: \"2.5\" is no whole number");
-}
-
-TEST_F(BrokenTablesTest, AHelpTextWithoutItsVariableIsRefused) {
-    std::filesystem::rename(folder_ / "data/catalogue/help/SN.txt", folder_ / "data/catalogue/help/SNN.txt");
-    EXPECT_EQ(Fault(), "SNN.txt: there is no variable SNN");
-    std::filesystem::rename(folder_ / "data/catalogue/help/SNN.txt", folder_ / "data/catalogue/help/sn.txt");
-    EXPECT_EQ(Fault(), "sn.txt: there is no variable sn");
-    std::filesystem::remove(folder_ / "data/catalogue/help/sn.txt");
-    EXPECT_EQ(Fault(), "") << "a variable may have no help text";
 }
 
 TEST(ListDatabaseTest, AListComesInItsOrder) {
