@@ -2,12 +2,15 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <map>
 #include <optional>
 #include <set>
 #include <span>
+#include <unordered_set>
 
 #include "platform/number_picture.h"
+#include "platform/text.h"
 #include "shell/calculations.h"
 
 namespace kelvor::test {
@@ -20,6 +23,10 @@ const std::set<std::string, std::less<>> kConcreteThicknesses = {
     "WTDEPTH",     "EXISTDEPTH",   "ACACPCACT",  "ACPCEFFD",    "ACACPCEFFD",
     "BOLEFFDEPTH", "UBOLEFFDEPTH", "BOLDEPTH",   "UBOLDEPTH",   "TrafficDEPTH",
 };
+
+/// The counts of a survey and what follows from them: any number may be typed.
+const std::set<std::string, std::less<>> kWithoutLimits = {"APDETJTS", "APDETCRKS", "APDETPNCH",
+                                                           "APDETEXP", "APDETTOT",  "APBOLFJC"};
 
 /// What must be calculated before what, by key: on one screen the needed output stands first.
 const std::multimap<std::string, std::string, std::less<>> kNeeds = {
@@ -67,7 +74,10 @@ class Checker {
         for (const Variable& variable : catalogue_.variables()) CheckVariable(variable);
         for (const Field& field : catalogue_.fields()) CheckField(field);
         for (const SolveKey& equation : calculations_.SolveKeys()) CheckEquation(equation);
-        for (const Screen& screen : catalogue_.screens()) CheckOutputOrder(screen.name);
+        for (const Screen& screen : catalogue_.screens()) {
+            CheckOutputOrder(screen.name);
+            CheckGrid(screen.name);
+        }
         CheckUnitPairs();
         CheckHelpSentences();
         return faults_;
@@ -88,10 +98,16 @@ class Checker {
         const bool limitsOfConcrete = variable.low == 0.0 && variable.high == 20.0;
         if (limitsOfConcrete != kConcreteThicknesses.contains(variable.name))
             Fault("concrete", variable.name);
+        if (kWithoutLimits.contains(variable.name) && HasLimits(variable)) Fault("count", variable.name);
+    }
+
+    static bool HasLimits(const Variable& variable) {
+        return variable.low || variable.high || variable.lowMetric || variable.highMetric;
     }
 
     void CheckField(const Field& field) {
         const std::string where = field.screen + "." + field.name;
+        if (!fields_.insert(where).second) Fault("field twice", where);
         if (catalogue_.FindScreen(field.screen) == nullptr) Fault("screen", where);
         if (field.IsGrid()) return;  // the grid itself is no variable
         const Variable* variable = catalogue_.FindVariable(field.name);
@@ -100,7 +116,8 @@ class Checker {
             return;
         }
         if (variable->helpHead.empty() || !catalogue_.HelpText(field.name)) Fault("help", where);
-        if (!variable->IsText() && !field.IsOutput()) CheckLimits(*variable, where);
+        const bool isLimited = !variable->IsText() && !kWithoutLimits.contains(variable->name);
+        if (isLimited && !field.IsOutput()) CheckLimits(*variable, where);
         CheckSolveFor(field, where);
         if (field.IsOutput()) CheckOutput(field, where);
     }
@@ -141,6 +158,18 @@ class Checker {
                                ? contains(calculations_.CellKeys()) || contains(AwaitedCellKeys())
                                : contains(calculations_.FieldKeys()) || contains(AwaitedFieldKeys());
         if (!known) Fault("equation", where);
+    }
+
+    /// A screen with columns has the one grid that they are in, and the other way round.
+    void CheckGrid(const std::string& screen) {
+        std::ptrdiff_t grids = 0;
+        bool hasColumns = false;
+        for (const Field& field : catalogue_.fields()) {
+            if (!EqualNoCase(field.screen, screen)) continue;
+            if (field.IsGrid()) ++grids;
+            if (field.IsColumn()) hasColumns = true;
+        }
+        if (grids != (hasColumns ? 1 : 0)) Fault("grid", screen);
     }
 
     void CheckOutputOrder(const std::string& screen) {
@@ -207,6 +236,7 @@ class Checker {
 
     Catalogue& catalogue_;
     const Dispatch& calculations_;
+    std::unordered_set<std::string, NameHash, NameEqual> fields_;  // "screen.name"
     std::vector<std::string> faults_;
 };
 

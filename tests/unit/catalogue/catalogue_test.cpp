@@ -58,8 +58,12 @@ INSTANTIATE_TEST_SUITE_P(
         Damage{"limits", "UPDATE Variable SET LowMetric = 200, HighMetric = 100 WHERE Name = 'AREA'"},
         Damage{"concrete", "UPDATE Variable SET High = 19 WHERE Name = 'DEPTH'"},
         Damage{"concrete", "UPDATE Variable SET Low = 0, High = 20 WHERE Name = 'AREA'"},
+        Damage{"count", "UPDATE Variable SET Low = 0 WHERE Name = 'APDETJTS'"},
         Damage{"screen", "INSERT INTO Field (Screen, Name, Seq) VALUES ('NoSuch', 'SN', 19)"},
         Damage{"variable", "INSERT INTO Field (Screen, Name, Seq) VALUES ('DeF', 'NOSUCH', 19)"},
+        Damage{"field twice", "INSERT INTO Field (Screen, Name, Seq) VALUES ('exr', 'ExistC', 30)"},
+        Damage{"grid", "DELETE FROM Field WHERE Screen = 'ExF' AND Name = 'Grid'"},
+        Damage{"grid", "INSERT INTO Field (Screen, Name, Seq, Class) VALUES ('ExR', 'Grid', 30, 'G')"},
         Damage{"help", "UPDATE Variable SET HelpText = NULL WHERE Name = 'SN'"},
         Damage{"help", "UPDATE Variable SET HelpHead = NULL WHERE Name = 'SN'"},
         Damage{"range", "UPDATE Variable SET LowMetric = NULL WHERE Name = 'SN'"},
@@ -76,6 +80,7 @@ INSTANTIATE_TEST_SUITE_P(
                "UPDATE Variable SET HelpHead = 'x', HelpText = 'x' WHERE Name IN ('SSN', 'LDLayerStructNo');"
                "INSERT INTO Screen (Name) VALUES ('NotYet');"
                "INSERT INTO Field (Screen, Name, Seq, Class, Type, Equation) VALUES "
+               "('NotYet', 'Grid', 19, 'G', NULL, NULL),"
                "('NotYet', 'SSN', 20, NULL, 'O', 'SSN'),"
                "('NotYet', 'LDLayerStructNo', 21, 'C', 'O', 'LDLayerStructNo')"},
         Damage{"missing term", "DELETE FROM Field WHERE Screen = 'OvWT' AND Name = 'OLJ'"},
@@ -107,6 +112,33 @@ TEST_F(CatalogueTest, ATableOrColumnThatIsMissingIsRefused) {
         TestHome home;
         SQLite::Database((home / "DataBase/Kelvor.mdb").string(), SQLite::OPEN_READWRITE).exec(statement);
         EXPECT_THROW(Catalogue(home / "DataBase/Kelvor.mdb"), DatabaseError) << statement;
+    }
+}
+
+TEST_F(CatalogueTest, LimitsAdmitTheExtremesThatTheMethodsKnow) {
+    Catalogue catalogue(file());
+    struct Extreme {
+        const char* name;
+        double value;  // English units
+        const char* why;
+    };
+    for (const Extreme& extreme :
+         {Extreme{"LDLayerThick", 100, "a drawing holds a thick layer at its greatest height"},
+          Extreme{"SBD", 100, "likewise"}, Extreme{"EXISTLT", 100, "likewise"},
+          Extreme{"SUBLT", 100, "likewise; with a coefficient of 0.2 it alone exceeds an SNeff of 15"},
+          Extreme{"ACACOLLC", 0, "no overlay coefficient, no overlay"}, Extreme{"ACCSOLLC", 0, "likewise"},
+          Extreme{"NDTEFFSN", -1, "a number below zero does not count"}, Extreme{"CONDEFFSN", -1, "likewise"},
+          Extreme{"ACACPCFDUR", 0.955, "between two bands"}, Extreme{"ACACPCFJC", 0, "no slab is left"},
+          Extreme{"ACACPCACT", 0, "no asphalt on the slab"},
+          Extreme{"NDTEFFD", 10, "thickness of a textbook pavement"},
+          Extreme{"NDTEFFEP2", 100000, "its modulus"}}) {
+        const Variable* variable = catalogue.FindVariable(extreme.name);
+        ASSERT_NE(variable, nullptr) << extreme.name;
+        const double factor = catalogue.FindPairByEnglish(variable->units)->factor;
+        EXPECT_LE(variable->low, extreme.value) << extreme.name << ": " << extreme.why;
+        EXPECT_GE(variable->high, extreme.value) << extreme.name << ": " << extreme.why;
+        EXPECT_LE(variable->lowMetric, extreme.value * factor) << extreme.name << ": " << extreme.why;
+        EXPECT_GE(variable->highMetric, extreme.value * factor) << extreme.name << ": " << extreme.why;
     }
 }
 

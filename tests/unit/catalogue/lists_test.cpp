@@ -2,10 +2,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <set>
 #include <string>
 #include <vector>
 
 #include "catalogue/catalogue.h"
+#include "catalogue/list_database.h"
 #include "support/test_home.h"
 
 namespace kelvor::test {
@@ -36,6 +38,9 @@ constexpr ListRule kListRules[] = {
      "SELECT Name FROM (SELECT * FROM ValueDefault EXCEPT SELECT * FROM \"Value\")"},
 };
 
+/// The lists that are not named like their variable.
+const std::set<std::string> kListsOfOtherName = {"LayerMat"};
+
 /// Everything that is wrong with the lists, one line a fault.
 std::vector<std::string> CheckLists(const Path& home) {
     const Catalogue catalogue(home / "DataBase/Kelvor.mdb");
@@ -52,6 +57,7 @@ std::vector<std::string> CheckLists(const Path& home) {
         collect(rule.name, rule.query, [](const std::string& /*name*/) { return true; });
     }
     collect("variable", "SELECT DISTINCT Name FROM \"Value\"", [&](const std::string& name) {
+        if (kListsOfOtherName.contains(name)) return false;
         const Variable* variable = catalogue.FindVariable(name);
         return variable == nullptr || !variable->IsText();
     });
@@ -61,6 +67,16 @@ std::vector<std::string> CheckLists(const Path& home) {
 TEST(ListsTest, TheListsThatShipAreWhole) {
     const TestHome home;
     EXPECT_THAT(CheckLists(home.path()), IsEmpty());
+}
+
+TEST(ListsTest, AnExistingLayerHasTheMaterialsWhoseCoefficientsAreKnown) {
+    const TestHome home;
+    ListDatabase lists(home / "DataBase/custom.tpl");
+    for (const bool metric : {false, true}) {
+        EXPECT_THAT(lists.Values("LayerMat", metric),
+                    testing::ElementsAre("Flexible Surface", "Cement Fly Ash", "Graded Stone Base",
+                                         "Crushed Stone Base", "Granular Subbase"));
+    }
 }
 
 struct Damage {

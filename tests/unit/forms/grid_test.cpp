@@ -148,15 +148,15 @@ TEST_F(GridTest, AColumnWithGapsIsCompactedByItself) {
 TEST_F(GridTest, RefusedCellsKeepWhatTheyHeld) {
     AddLayer(1, "0.44", "1", "4");
     Edit(1, "LDLayerThick", "four");
-    Edit(1, "LDLayerThick", "61");
+    Edit(1, "LDLayerThick", "101");
     Edit(1, "LDLayerMat", "Chocolate");
     EXPECT_THAT(Messages(), ElementsAre("Please enter valid numeric value.",
-                                        "Warning: Input out of range. Enter value between 0 and 60",
+                                        "Warning: Input out of range. Enter value between 0 and 100",
                                         "Please select item from the list"));
     EXPECT_EQ(Number("LDLayerThick", 1), 4.0);
     EXPECT_EQ(*program_.store().FindCell("LDLayerMat", 1, 1), CellValue{});
-    Edit(1, "LDLayerThick", "60");  // at the limit
-    EXPECT_EQ(Number("LDLayerThick", 1), 60.0);
+    Edit(1, "LDLayerThick", "100");  // at the limit
+    EXPECT_EQ(Number("LDLayerThick", 1), 100.0);
     Edit(1, "LDLayerThick", "");
     EXPECT_EQ(*program_.store().FindCell("LDLayerThick", 1, 1), CellValue{});
     Edit(1, "LDLayerStructNo", "7");  // computed: takes nothing
