@@ -97,9 +97,30 @@ std::set<std::string> ScreensWithTerms(TextTable fields) {
     return screens;
 }
 
+/// The screens as they are written: `FieldsOf` is the screen whose fields this one has too.
+TextTable ReadScreenRows(const Path& data) {
+    return ReadOne(data, "Screen", {"Name", "FieldsOf", "Dim2", "Title", "Title1", "Title2"});
+}
+
+/// Adds the fields of the screens that have those of another one.
+void AddFieldsOfOthers(TextTable screens, TextTable& fields) {
+    for (TextRow& screen : screens.rows) {
+        const auto& other = screens.Cell(screen, "FieldsOf");
+        if (!other) continue;
+        const std::size_t count = fields.rows.size();
+        for (std::size_t i = 0; i < count; ++i) {
+            if (fields.Cell(fields.rows[i], "Screen") != other) continue;
+            TextRow copy = fields.rows[i];
+            fields.Cell(copy, "Screen") = screens.Cell(screen, "Name");
+            fields.rows.push_back(std::move(copy));
+        }
+        if (fields.rows.size() == count) screen.Refuse("there are no fields of " + *other);
+    }
+}
+
 /// An indicator stands on each screen that has an equation; two titles make two halves.
 TextTable ReadScreens(const Path& data) {
-    TextTable screens = ReadOne(data, "Screen", {"Name", "Dim2", "Title", "Title1", "Title2"});
+    TextTable screens = ReadScreenRows(data);
     AddFrom(ReadOne(data, "coarse_grid/Page",
                     {"Screen", "LeftX", "LeftY", "ScreenLeft", "RightX", "RightY", "ScreenRight"}),
             1, screens);
@@ -135,6 +156,7 @@ TextTable ReadFields(const Path& data) {
     TextTable fields = ReadTables(data / "catalogue" / "fields",
                                   {"Screen", "Name", "Seq", "Class", "Equation", "Dim2", "Heading"});
     AddFrom(ReadOne(data, "coarse_grid/Place", {"Screen", "Name", "x", "y"}), 2, fields);
+    AddFieldsOfOthers(ReadScreenRows(data), fields);
     fields.AddColumns({"Id", "Type", "SolveFor"});
     NumberFields(fields);
     for (TextRow& row : fields.rows) {
@@ -150,15 +172,6 @@ TextTable ReadCatalogueTable(const Path& data, const TableDefinition& definition
     if (definition.name == "Screen") return ReadScreens(data);
     if (definition.name == "Label") return ReadOne(data, "coarse_grid/Label", ColumnsOf(definition));
     return ReadOne(data, std::string(definition.name), ColumnsOf(definition));
-}
-
-TextTable ReadLists(const Path& data) {
-    TextTable values =
-        ReadTables(data / "lists", {"Name", "UnitSystem", "Value", "ShowValue", "ShowUnits", "Description"});
-    values.AddColumns({"Sort"});
-    std::map<std::string, int> last;
-    for (TextRow& row : values.rows) values.Cell(row, "Sort") = std::to_string(++last[KeyOf(row, 2)]);
-    return values;
 }
 
 }  // namespace kelvor

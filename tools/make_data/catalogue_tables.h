@@ -6,7 +6,7 @@
 
 namespace kelvor {
 
-// The tables of the databases, read from the text tables below the folder `data`, each with all the columns
+// The tables of the catalogue, read from the text tables below the folder `data`, each with all the columns
 // of the database. What follows from other cells stands in no text table and is worked out here. All throw
 // FileError or TextTableError.
 
@@ -18,11 +18,8 @@ TextTable ReadVariables(const Path& data);
 /// without it comes after the screen's row above, from 19 up. A row with a key in `Equation` is an output.
 TextTable ReadFields(const Path& data);
 
-/// A table of the catalogue by its definition.
+/// A table of the catalogue by its definition. A screen that names another one in `FieldsOf` has the same
+/// fields.
 TextTable ReadCatalogueTable(const Path& data, const TableDefinition& definition);
-
-/// The drop-down lists, from `lists`. `Sort` is the place within the entries that the list has for the unit
-/// system.
-TextTable ReadLists(const Path& data);
 
 }  // namespace kelvor

@@ -8,6 +8,7 @@
 
 #include "catalogue/schema.h"
 #include "make_data/catalogue_tables.h"
+#include "make_data/list_tables.h"
 #include "make_data/table_files.h"
 #include "make_data/text_table.h"
 #include "platform/sqlite.h"

@@ -28,6 +28,14 @@ const std::set<std::string, std::less<>> kConcreteThicknesses = {
 const std::set<std::string, std::less<>> kWithoutLimits = {"APDETJTS", "APDETCRKS", "APDETPNCH",
                                                            "APDETEXP", "APDETTOT",  "APBOLFJC"};
 
+/// Calculations that no output has: what an overlay of a given thickness would be good for, and the second
+/// name of one.
+const std::set<std::string, std::less<>> kKeysOfNoOutput = {"ACACFUTSN", "ACCSFUTSN", "BOLFUTDEPTH",
+                                                            "UBOLFUTDEPTH", "InitialItemCost"};
+
+/// Calculations of a column that work on the row in hand, which only the screen knows.
+const std::set<std::string, std::less<>> kKeysOfTheRowInHand = {"MaintItemCost", "PWCostM"};
+
 /// What must be calculated before what, by key: on one screen the needed output stands first.
 const std::multimap<std::string, std::string, std::less<>> kNeeds = {
     {"SSN", "LDLayerStructNo"},
@@ -59,6 +67,9 @@ const std::multimap<std::string, std::string, std::less<>> kNeeds = {
     {"AVGNDTEC", "NDTEC"},
     {"TrRE18T", "TrRE18"},
     {"TrFE18T", "TrFE18"},
+    {"PWCostM", "MaintItemCost"},
+    {"ItemTotal3", "MaintItemCost"},
+    {"PrWorthTotal3", "PWCostM"},
     {"PWCostR", "RehabItemCost"},
     {"ItemTotal2", "InitialItem"},
     {"ItemTotal4", "RehabItemCost"},
@@ -78,6 +89,7 @@ class Checker {
             CheckOutputOrder(screen.name);
             CheckGrid(screen.name);
         }
+        CheckKeysAreUsed();
         CheckUnitPairs();
         CheckHelpSentences();
         return faults_;
@@ -154,9 +166,9 @@ class Checker {
         const auto contains = [&](std::span<const std::string_view> keys) {
             return std::find(keys.begin(), keys.end(), field.equation) != keys.end();
         };
-        const bool known = field.IsColumn()
-                               ? contains(calculations_.CellKeys()) || contains(AwaitedCellKeys())
-                               : contains(calculations_.FieldKeys()) || contains(AwaitedFieldKeys());
+        const bool isOfCells = field.IsColumn() && !kKeysOfTheRowInHand.contains(field.equation);
+        const bool known = isOfCells ? contains(calculations_.CellKeys()) || contains(AwaitedCellKeys())
+                                     : contains(calculations_.FieldKeys()) || contains(AwaitedFieldKeys());
         if (!known) Fault("equation", where);
     }
 
@@ -170,6 +182,21 @@ class Checker {
             if (field.IsColumn()) hasColumns = true;
         }
         if (grids != (hasColumns ? 1 : 0)) Fault("grid", screen);
+    }
+
+    /// A calculation that no output has would never run.
+    void CheckKeysAreUsed() {
+        std::set<std::string, std::less<>> used = kKeysOfNoOutput;
+        for (const Field& field : catalogue_.fields()) used.insert(field.equation);
+        const auto check = [&](const auto& keys) {
+            for (const std::string_view key : keys) {
+                if (!used.contains(key)) Fault("key without output", std::string(key));
+            }
+        };
+        check(calculations_.FieldKeys());
+        check(calculations_.CellKeys());
+        check(AwaitedFieldKeys());
+        check(AwaitedCellKeys());
     }
 
     void CheckOutputOrder(const std::string& screen) {

@@ -76,6 +76,7 @@ INSTANTIATE_TEST_SUITE_P(
         Damage{"equation",
                "INSERT INTO Field (Screen, Name, Seq, Type, Equation) "
                "VALUES ('DeF', 'DEPTH', 20, 'O', 'NoSuchKey')"},
+        Damage{"key without output", "UPDATE Field SET Equation = 'SSN' WHERE Name = 'EXISTEFSNSUM'"},
         Damage{"order",
                "UPDATE Variable SET HelpHead = 'x', HelpText = 'x' WHERE Name IN ('SSN', 'LDLayerStructNo');"
                "INSERT INTO Screen (Name) VALUES ('NotYet');"
@@ -124,14 +125,26 @@ TEST_F(CatalogueTest, LimitsAdmitTheExtremesThatTheMethodsKnow) {
     };
     for (const Extreme& extreme :
          {Extreme{"LDLayerThick", 100, "a drawing holds a thick layer at its greatest height"},
-          Extreme{"SBD", 100, "likewise"}, Extreme{"EXISTLT", 100, "likewise"},
+          Extreme{"SBD", 100, "likewise"},
+          Extreme{"EXISTLT", 100, "likewise"},
           Extreme{"SUBLT", 100, "likewise; with a coefficient of 0.2 it alone exceeds an SNeff of 15"},
-          Extreme{"ACACOLLC", 0, "no overlay coefficient, no overlay"}, Extreme{"ACCSOLLC", 0, "likewise"},
-          Extreme{"NDTEFFSN", -1, "a number below zero does not count"}, Extreme{"CONDEFFSN", -1, "likewise"},
-          Extreme{"ACACPCFDUR", 0.955, "between two bands"}, Extreme{"ACACPCFJC", 0, "no slab is left"},
+          Extreme{"ACACOLLC", 0, "no overlay coefficient, no overlay"},
+          Extreme{"ACCSOLLC", 0, "likewise"},
+          Extreme{"NDTEFFSN", -1, "a number below zero does not count"},
+          Extreme{"CONDEFFSN", -1, "likewise"},
+          Extreme{"ACACPCFDUR", 0.955, "between two bands"},
+          Extreme{"ACACPCFJC", 0, "no slab is left"},
           Extreme{"ACACPCACT", 0, "no asphalt on the slab"},
           Extreme{"NDTEFFD", 10, "thickness of a textbook pavement"},
-          Extreme{"NDTEFFEP2", 100000, "its modulus"}}) {
+          Extreme{"NDTEFFEP2", 100000, "its modulus"},
+          Extreme{"NDTRMC", 0, "no correction was entered"},
+          Extreme{"NDTEAC", 0, "no modulus was entered"},
+          Extreme{"D0F", 999, "softer than the search reaches"},
+          Extreme{"DR", 0, "a sensor that failed"},
+          Extreme{"JointSpacing", 0, "no joints"},
+          Extreme{"RehabYear", 0, "the year of opening"},
+          Extreme{"RehabYear", 100, "the last of a histogram"},
+          Extreme{"RehabUnitCost", -1000, "what is left is worth something"}}) {
         const Variable* variable = catalogue.FindVariable(extreme.name);
         ASSERT_NE(variable, nullptr) << extreme.name;
         const double factor = catalogue.FindPairByEnglish(variable->units)->factor;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "catalogue/catalogue.h"
+#include "platform/text.h"
 #include "support/test_home.h"
 
 namespace kelvor::test {
@@ -19,12 +20,15 @@ using testing::IsEmpty;
 
 const Path kPages = Path(KELVOR_SOURCE_FOLDER) / "data" / "help";
 
-/// Screens whose page has another name: the fields of a tab, and the helps of a field, which need none.
+/// Screens without a page of their own: the fields of a tab, the helps of a field, the pavement that shares
+/// its screens with another one, and the drawings.
 bool NeedsNoPage(const std::string& screen) {
-    static const std::vector<std::string> kOthers = {"InfForm", "EcFa",   "HelpForm",   "HelpGrid",
-                                                     "Helpfrm", "H_SN",   "H_SRMII",    "H_LDLayerCoef",
-                                                     "H_TrIn",  "H_TrFa", "H_ACACOLLC", "H_TrDLD"};
-    return std::find(kOthers.begin(), kOthers.end(), screen) != kOthers.end();
+    static const std::vector<const char*> kPatterns = {
+        "InfForm", "EcFa",   "HelpForm", "HelpGrid", "Helpfrm",       "H_SN",
+        "H_SRMII", "H_TrIn", "H_TrFa",   "H_TrDLD",  "H_LDLayerCoef", "H_ACACOLLC",
+        "LcA2*",   "CSec",   "CSec2",    "D??CS",    "Ov*CS"};
+    return std::any_of(kPatterns.begin(), kPatterns.end(),
+                       [&](const char* pattern) { return Like(screen, pattern); });
 }
 
 TEST(HelpPagesTest, EveryScreenHasAPage) {

@@ -79,6 +79,49 @@ TEST(ListsTest, AnExistingLayerHasTheMaterialsWhoseCoefficientsAreKnown) {
     }
 }
 
+/// The number of an item is its place in the list; quantities are computed by it.
+TEST(ListsTest, CostItemsStandAtTheNumbersOfTheirQuantities) {
+    const TestHome home;
+    ListDatabase lists(home / "DataBase/custom.tpl");
+    for (const char* list : {"LayerType", "InitialItem", "RehabItem"}) {
+        for (const bool metric : {false, true}) {
+            const std::vector<std::string> items = lists.Values(list, metric);
+            ASSERT_GE(items.size(), 24U);
+            const auto item = [&](std::size_t number) { return items[number - 1]; };
+            for (std::size_t layer = 1; layer <= 8; ++layer) {
+                EXPECT_EQ(item(layer), "Layer " + std::to_string(layer) + ", area");
+                EXPECT_EQ(item(layer + 9), "Layer " + std::to_string(layer) + ", weight");
+            }
+            EXPECT_EQ(item(9), "Layers 1, 7 and 8, area");
+            EXPECT_EQ(item(18), "Layers 1, 7 and 8, weight");
+            EXPECT_EQ(item(19), "Length of the project");
+            EXPECT_EQ(item(20), "Twice the length of the project");
+            EXPECT_EQ(item(21), "Transverse joints");
+            for (std::size_t thickness = 1; thickness <= 3; ++thickness) {
+                EXPECT_EQ(item(21 + thickness),
+                          "Overlay of layer 1, " + std::to_string(thickness) + (metric ? " m" : " in"));
+            }
+        }
+    }
+}
+
+TEST(ListsTest, EveryUnitOfACostHasItsPairAtTheSamePlace) {
+    const TestHome home;
+    const Catalogue catalogue(home / "DataBase/Kelvor.mdb");
+    ListDatabase lists(home / "DataBase/custom.tpl");
+    for (const char* list : {"InitialUnit", "RehabUnit", "MaintUnit"}) {
+        const std::vector<std::string> english = lists.Values(list, false);
+        const std::vector<std::string> metric = lists.Values(list, true);
+        ASSERT_EQ(english.size(), metric.size());
+        for (std::size_t i = 0; i < english.size(); ++i) {
+            const UnitPair* pair = catalogue.FindPairByEnglish(english[i]);
+            ASSERT_NE(pair, nullptr) << english[i];
+            EXPECT_EQ(pair->metric, metric[i]);
+        }
+        EXPECT_THAT(english, testing::IsSupersetOf({"sq yd", "ton (e)", "In feet"}));
+    }
+}
+
 struct Damage {
     const char* rule;
     const char* statement;

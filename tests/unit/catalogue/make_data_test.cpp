@@ -10,6 +10,7 @@
 
 #include "catalogue/catalogue.h"
 #include "make_data/catalogue_tables.h"
+#include "make_data/list_tables.h"
 #include "make_data/table_files.h"
 #include "make_data/text_table.h"
 #include "support/test_home.h"
@@ -188,16 +189,51 @@ TEST_F(TablesTest, AFieldBelowTheTermsHasItsPlaceByItsRow) {
                                            "Other RM RM 19 - - ", "New DEPTH DEPTH 26 - - "));
 }
 
-TEST_F(TablesTest, AnEntryOfAListHasItsPlaceAmongThoseOfItsUnitSystem) {
-    WriteTable("lists/more.tsv", "Name\tUnitSystem\tValue",
-               "Road\tE\tMile\nRoad\tM\tKilometre\nRoad\tE\tYard\nRoad\tM\tMetre");
-    TextTable lists = ReadLists(folder_ / "data");
+/// The entries of the lists whose name begins so, each with its list, unit system and place.
+std::string ListsOf(const Path& data, const std::string& start) {
+    TextTable lists = ReadLists(data);
     std::string rows;
     for (TextRow& row : lists.rows) {
-        if (lists.Cell(row, "Name") == "Road")
-            rows += lists.Cell(row, "Value").value_or("") + lists.Cell(row, "Sort").value_or("") + " ";
+        if (!lists.Cell(row, "Name").value_or("").starts_with(start)) continue;
+        for (const char* column : {"Name", "UnitSystem", "Value", "Sort"})
+            rows += lists.Cell(row, column).value_or("-") + " ";
+        rows.back() = '\n';
     }
-    EXPECT_EQ(rows, "Mile1 Kilometre1 Yard2 Metre2 ");
+    return rows;
+}
+
+TEST_F(TablesTest, AnEntryOfAListHasItsPlaceAmongThoseOfItsUnitSystem) {
+    WriteTable("lists/List.tsv", "Name\tDescription\tEntriesOf",
+               "Road\tRoads\t\nRoad2\tOther roads\tRoad\nLDLayerMat\tMaterials\t\n"
+               "LayerMat\tMaterials\t\nAxleType\tAxles\t\nLayerType\tItems\t\nMaintItem\tItems\t\n"
+               "InitialUnit\tUnits\t");
+    WriteTable("lists/entries/more.tsv", "Name\tUnitSystem\tValue",
+               "Road\tE\tMile\nRoad\tM\tMetre\nRoad\tEM\tPiece\nRoad\t\tAny");
+    EXPECT_EQ(ListsOf(folder_ / "data", "Road"),
+              "Road E Mile 1\nRoad M Metre 1\nRoad E Piece 2\nRoad M Piece 2\nRoad - Any 1\n"
+              "Road2 E Mile 1\nRoad2 M Metre 1\nRoad2 E Piece 2\nRoad2 M Piece 2\nRoad2 - Any 1\n");
+}
+
+TEST_F(TablesTest, AListWithoutEntriesAndAnEntryWithoutItsListAreRefused) {
+    WriteTable("lists/entries/more.tsv", "Name\tValue", "Road\tMile");
+    EXPECT_EQ(Fault(), "more.tsv, line 2: there is no list Road");
+    WriteTable("lists/entries/more.tsv", "Name\tValue", "AxleType\tQuad");
+    EXPECT_EQ(Fault(), "");
+    WriteTable("lists/List.tsv", "Name\tDescription", "Road\tRoads");
+    EXPECT_EQ(Fault(), "List.tsv, line 2: the list has no entries");
+}
+
+TEST_F(TablesTest, AScreenMayHaveTheFieldsOfAnotherOne) {
+    WriteTable("catalogue/Screen.tsv", "Name\tFieldsOf\tTitle", "DeF\t\tDesign\nTwin\tDeF\tDesign once more");
+    TextTable fields = ReadFields(folder_ / "data");
+    std::string names;
+    for (TextRow& row : fields.rows) {
+        if (fields.Cell(row, "Screen") == "Twin")
+            names += fields.Cell(row, "Name").value_or("") + fields.Cell(row, "Seq").value_or("") + " ";
+    }
+    EXPECT_EQ(names, "SN1 FLEXE182 FLEXREL3 FLEXDEV4 RM5 FLEXPO6 FLEXPT7 ");
+    WriteTable("catalogue/Screen.tsv", "Name\tFieldsOf", "Twin\tNoSuch");
+    EXPECT_EQ(Fault(), "Screen.tsv, line 2: there are no fields of NoSuch");
 }
 
 // --- The form of the tables ------------------------------------------------------------------------------
