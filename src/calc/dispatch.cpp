@@ -4,7 +4,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "platform/real.h"
+#include "calc/ignore_faults.h"
 #include "platform/text.h"
 
 namespace kelvor {
@@ -38,15 +38,6 @@ std::vector<std::string_view> SortedKeys(const Map& map) {
     for (const auto& entry : map) keys.push_back(entry.first);
     std::sort(keys.begin(), keys.end());
     return keys;
-}
-
-/// Runs a calculation; a fault abandons it and its target keeps the value it had.
-template <typename Calculation>
-void IgnoreFaults(Calculation calculate) {
-    try {
-        calculate();
-    } catch (const ArithmeticFault&) {  // NOLINT(bugprone-empty-catch): no message belongs here
-    }
 }
 
 }  // namespace

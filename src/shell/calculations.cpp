@@ -5,33 +5,27 @@
 #include "design/calc/layered_structure.h"
 #include "design/calc/new_pavement_equations.h"
 #include "lcc/calc/economic_factors.h"
+#include "ndt/calc/ndt_keys.h"
 #include "rehab/calc/overlay_equations.h"
+#include "rehab/calc/rehab_keys.h"
 #include "traffic/calc/traffic_keys.h"
 
 namespace kelvor {
 
 namespace {
 
-constexpr std::array<std::string_view, 33> kAwaitedFieldKeys = {
-    "BOLEFFDEPTH",   "BOLDEPTH",    "BOLFUTDEPTH",   "UBOLEFFDEPTH", "UBOLDEPTH",    "UBOLFUTDEPTH",
-    "ACACEFFSN",     "ACACTHICK",   "ACACFUTSN",     "ACCSEFFSN",    "ACCSTHICK",    "ACCSFUTSN",
-    "ACACPCEFFD",    "ACACPCOLT",   "ACPCEFFD",      "ACPCOLT",      "EXISTEFSNSUM", "SNEFFTOT",
-    "AVGNDTRM",      "AVGNDTEFFEP", "AVGBACKL",      "AVGSTATK",     "AVGBACKLC",    "AVGSTATKC",
-    "AVGNDTEC",      "AVGNDTE",     "ItemTotal2",    "ItemTotal3",   "ItemTotal4",   "PrWorthTotal3",
-    "PrWorthTotal4", "PWCostM",     "MaintItemCost",
+constexpr std::array<std::string_view, 7> kAwaitedFieldKeys = {
+    "ItemTotal2", "ItemTotal3", "ItemTotal4", "PrWorthTotal3", "PrWorthTotal4", "PWCostM", "MaintItemCost",
 };
 
-constexpr std::array<std::string_view, 17> kAwaitedCellKeys = {
-    "InitialItemCost", "InitialItem", "RehabItemCost", "PWCostR", "EXISTEFSN", "NDTRM",
-    "NDTEFFEP",        "AREA",        "BACKL",         "DYNK",    "STATK",     "NDTE",
-    "AREAC",           "BACKLC",      "DYNKC",         "STATKC",  "NDTEC",
-};
+constexpr std::array<std::string_view, 4> kAwaitedCellKeys = {"InitialItemCost", "InitialItem",
+                                                              "RehabItemCost", "PWCostR"};
 
 }  // namespace
 
 Dispatch JoinCalculations() {
-    return Dispatch({NewPavementEquations(), LayeredStructureKeys(), OverlayEquations(), TrafficKeys(),
-                     EconomicFactorKeys()});
+    return Dispatch({NewPavementEquations(), LayeredStructureKeys(), OverlayEquations(), RehabKeys(),
+                     NdtKeys(), TrafficKeys(), EconomicFactorKeys()});
 }
 
 std::span<const std::string_view> AwaitedFieldKeys() { return kAwaitedFieldKeys; }

@@ -1,5 +1,6 @@
 #include "design/calc/composite_k.h"
 
+#include "calc/ignore_faults.h"
 #include "platform/real.h"
 
 namespace kelvor {
@@ -9,16 +10,6 @@ namespace {
 constexpr double kPsiPerPci = 19.4;           // roadbed modulus over k, without a subbase
 constexpr double kMpaPerMpaPerMetre = 0.477;  // in MPa and MPa/m; not 19.4 converted, which is 0.493
 constexpr double kInchesPerFoot = 12.0;
-
-/// Runs a step; one that faults leaves k as it was.
-template <typename Step>
-void Try(Step step) {
-    try {
-        step();
-    } catch (const ArithmeticFault&) {
-        // The next step goes on with the k of before.
-    }
-}
 
 Real WithSubbase(const SubgradeLayers& layers) {
     const Real s = Log(layers.subbaseThickness);
@@ -49,14 +40,14 @@ std::optional<double> CompositeKEnglish(const SubgradeLayers& layers) {
     if (layers.roadbedModulus == 0.0) return std::nullopt;
     Real k = Real(layers.roadbedModulus) / kPsiPerPci;
     if (layers.subbaseModulus != 0.0 && layers.subbaseThickness != 0.0) {
-        Try([&] { k = WithSubbase(layers); });
+        IgnoreFaults([&] { k = WithSubbase(layers); });
     }
     if (layers.depthToFoundation != 0.0) {
-        Try([&] { k = WithRigidFoundation(layers, k); });
+        IgnoreFaults([&] { k = WithRigidFoundation(layers, k); });
     }
     const double exponent = SupportExponent(layers.lossOfSupport);
     if (exponent != 1.0) {
-        Try([&] { k = Pow(k, exponent); });
+        IgnoreFaults([&] { k = Pow(k, exponent); });
     }
     return k.value();
 }
