@@ -6,8 +6,9 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstring>
 #include <utility>
+
+#include "platform/system_reason.h"
 
 namespace kelvor {
 
@@ -27,7 +28,7 @@ bool IsStillAt(int fd, const Path& path) {
 FileLock::FileLock(Path path) : path_(std::move(path)) {
     for (;;) {
         const int fd = ::open(path_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0666);
-        if (fd < 0) throw FileError(std::strerror(errno));
+        if (fd < 0) throw FileError(SystemReason(errno));
         if (::flock(fd, LOCK_EX | LOCK_NB) != 0) {
             ::close(fd);
             return;

@@ -6,8 +6,9 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <system_error>
+
+#include "platform/system_reason.h"
 
 namespace kelvor {
 
@@ -16,10 +17,10 @@ namespace {
 /// A chain of more links than this counts as a circle, as it does for the kernel.
 constexpr int kMostLinks = 40;
 
-[[noreturn]] void ThrowErrno() { throw FileError(std::strerror(errno)); }
+[[noreturn]] void ThrowErrno() { throw FileError(SystemReason(errno)); }
 
 void ThrowIf(const std::error_code& error) {
-    if (error) throw FileError(error.message());
+    if (error) throw FileError(SystemReason(error.value()));
 }
 
 /// An open file that closes itself.
@@ -65,7 +66,7 @@ class RegularFile {
     explicit RegularFile(const Path& path) : file_(path, O_RDONLY | O_NONBLOCK) {
         struct stat status {};
         if (::fstat(file_.get(), &status) != 0) ThrowErrno();
-        if (S_ISDIR(status.st_mode)) throw FileError(std::strerror(EISDIR));
+        if (S_ISDIR(status.st_mode)) throw FileError(SystemReason(EISDIR));
         if (!S_ISREG(status.st_mode)) throw FileError("Not a regular file");
         size_ = static_cast<std::size_t>(status.st_size);
     }
@@ -108,7 +109,7 @@ void RemoveQuietly(FileSystem& files, const Path& path) {
 
 }  // namespace
 
-FileTooLarge::FileTooLarge() : FileError(std::strerror(EFBIG)) {}
+FileTooLarge::FileTooLarge() : FileError(SystemReason(EFBIG)) {}
 
 FileKind NativeFileSystem::Kind(const Path& path) const {
     std::error_code error;
@@ -197,16 +198,16 @@ Path NativeFileSystem::Resolve(const Path& path) const {
         resolved = resolved.parent_path() / std::filesystem::read_symlink(resolved, error);
         ThrowIf(error);
     }
-    throw FileError(std::strerror(ELOOP));
+    throw FileError(SystemReason(ELOOP));
 }
 
 void ReplaceFile(FileSystem& files, const Path& target, std::string_view content) {
     const Path resolved = files.Resolve(target);
     const FileKind kind = files.Kind(resolved);
-    if (kind == FileKind::Directory) throw FileError(std::strerror(EISDIR));
+    if (kind == FileKind::Directory) throw FileError(SystemReason(EISDIR));
     if (kind == FileKind::Other) throw FileError("Not a regular file");
     // Renaming would replace a write-protected file all the same.
-    if (kind == FileKind::Regular && !files.IsWritable(resolved)) throw FileError(std::strerror(EACCES));
+    if (kind == FileKind::Regular && !files.IsWritable(resolved)) throw FileError(SystemReason(EACCES));
     const Path temporary = TemporaryBeside(resolved);
     try {
         if (kind == FileKind::Regular) {
@@ -217,7 +218,7 @@ void ReplaceFile(FileSystem& files, const Path& target, std::string_view content
         }
         files.Flush(temporary);
         files.Rename(temporary, resolved);
-    } catch (const FileError&) {
+    } catch (...) {
         RemoveQuietly(files, temporary);
         throw;
     }

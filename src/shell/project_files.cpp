@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "platform/database_error.h"
 #include "platform/sqlite.h"
 #include "shell/recent_files.h"
 
@@ -177,7 +178,7 @@ bool ProjectFiles::SaveProject(const std::string& path) {
         if (IsWorkCopy(path)) throw FileError("it is the program's own work copy");
         ReplaceFile(state_.host.files, path,
                     state_.host.files.Read(state_.home.WorkCopyFile(), kLargestProject));
-    } catch (const FileError& failure) {
+    } catch (const std::exception& failure) {  // whatever it is: the work copy is opened again
         Report(failed + failure.what());
         ReopenAfterFailedSave();
         return false;

@@ -1,11 +1,13 @@
 #include "support/file_system_doubles.h"
 
 #include <csignal>
+#include <new>
 
 namespace kelvor::test {
 
 void FaultyFileSystem::Fail() const {
     if (plan_.kill) std::raise(SIGKILL);
+    if (plan_.outOfMemory) throw std::bad_alloc();
     throw FileError(kReason);
 }
 

@@ -21,6 +21,9 @@ class FaultyFileSystem : public FileSystem {
 
         /// The process ends there, by SIGKILL, instead of getting a FileError. For death tests.
         bool kill = false;
+
+        /// There is no memory for it: std::bad_alloc instead of a FileError.
+        bool outOfMemory = false;
     };
 
     /// What a FileError of this file system says.
