@@ -2,8 +2,12 @@
 
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace kelvor {
+
+/// What every database begins with: a file with another beginning is none.
+inline constexpr std::string_view kDatabaseMagic("SQLite format 3\0", 16);
 
 /// A database that cannot be used; what() is the reason, for a message.
 class DatabaseError : public std::runtime_error {

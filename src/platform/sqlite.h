@@ -16,9 +16,6 @@
 
 namespace kelvor {
 
-/// What every database begins with: a file with another beginning is none.
-inline constexpr std::string_view kDatabaseMagic("SQLite format 3\0", 16);
-
 enum class DatabaseAccess { ReadOnly, ReadWrite };
 
 /// What a database must hold to be one of ours: a table with exactly these columns, in this order.

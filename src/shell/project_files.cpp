@@ -4,7 +4,7 @@
 #include <cstddef>
 
 #include "platform/database_error.h"
-#include "platform/sqlite.h"
+#include "platform/replace_file.h"
 #include "shell/recent_files.h"
 
 namespace kelvor {
@@ -140,6 +140,7 @@ bool ProjectFiles::LoadProject(const std::string& path) {
         WriteWorkCopy(ReadProject(path));
         OpenWorkCopy(true);
         NameProject(path);
+        RemoveLeftovers(state_.host.files, path);
         return true;
     } catch (const FileError& failure) {
         Report(failed + failure.what());
