@@ -48,13 +48,6 @@ struct FormState {
     bool refused = false;                      // the value that was being typed when a field was left last
     bool workedOut = false;                    // of a side screen: it has a new value for its caller
 };
-bool modal = false;
-std::optional<SideScreenReturn> returned;  // until the form is activated again
-std::array<std::string, 2> solvedFor;      // the variables that the indicators show
-CellValue valueAtOpening;                  // of a side screen: of the field it was opened for
-bool refused = false;                      // the value that was being typed when a field was left last
-bool workedOut = false;                    // of a side screen: it has a new value for its caller
-};
 
 /// An open form: its controls in the order of the declaration, which is the reading order and the tab
 /// order, and where the focus is.

@@ -271,7 +271,7 @@ TEST_F(EventFaultTest, AFailedSolveLeavesEveryTermAndSaysSo) {
     EXPECT_TRUE(program.SaveAs((home / "plan.kvr").string())) << "the recent files are told no time";
     clock.failing = false;
     EXPECT_EQ(program.Solve("DeF", 1), 0);
-    EXPECT_NEAR(program.state().dbWork.GetVar("SN"), 5.41, 0.01);
+    EXPECT_NEAR(program.state().dbWork.GetVar("SN").value(), 5.41, 0.01);
 }
 
 TEST_F(EventFaultTest, AMissingCellStillStopsTheProgram) {
