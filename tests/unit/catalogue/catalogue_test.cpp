@@ -10,6 +10,7 @@
 #include "catalogue_checks.h"
 #include "make_data/database_maker.h"
 #include "make_data/text_table.h"
+#include "platform/database_error.h"
 #include "shell/calculations.h"
 #include "support/test_home.h"
 
