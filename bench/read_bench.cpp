@@ -28,7 +28,7 @@ void ReadMap(benchmark::State& state, const std::vector<std::string>& names) {
 
 std::vector<Pair> RegisterReads(BenchProgram& program) {
     const std::vector<std::string> names = program.ShuffledNames();
-    const Pair pair{"keyed read by name", "Read/Store", "Read/UnorderedMap", Measure::Cpu, 4.0};
+    const Pair pair{"keyed read by name", "Read/Store", "Read/UnorderedMap", Measure::Cpu, 2.0};
     const ProjectStore& store = program.store();
     Repeat(benchmark::RegisterBenchmark(pair.ours.c_str(),
                                         [&store, names](auto& state) { ReadStore(state, store, names); }),

@@ -10,7 +10,7 @@ namespace {
 /// How often each of the two programs is started.
 constexpr int kStarts = 41;
 
-constexpr double kLongestRatio = 2.0;
+constexpr double kLongestRatio = 1.5;
 
 std::string WriteScript(const Path& home) {
     std::string script = (home / "start.kvs").string();

@@ -6,6 +6,7 @@
 
 #include "catalogue/schema.h"
 #include "platform/number_picture.h"
+#include "platform/sqlite.h"
 
 namespace kelvor {
 
@@ -44,9 +45,9 @@ bool Variable::IsText() const {
     return IsTextPicture(format) && !hasLimit;
 }
 
-Catalogue::Catalogue(const Path& path) : database_(OpenCatalogue(path)) {
+Catalogue::Catalogue(const Path& path) : database_(std::make_unique<SQLite::Database>(OpenCatalogue(path))) {
     try {
-        SQLite::Transaction reading(database_);  // one, so that the file is not locked for each table
+        SQLite::Transaction reading(*database_);  // one, so that the file is not locked for each table
         ReadVariables();
         ReadFields();
         ReadScreens();
@@ -57,8 +58,10 @@ Catalogue::Catalogue(const Path& path) : database_(OpenCatalogue(path)) {
     }
 }
 
+Catalogue::~Catalogue() = default;
+
 void Catalogue::ReadVariables() {
-    VisitRows(database_, "Variable",
+    VisitRows(*database_, "Variable",
               "Name, Format, Units, \"Desc\", Dim1, Dim2, High, Low, HighMetric, LowMetric, HelpHead",
               "rowid", [this](const RowView& row) {
                   Variable variable;
@@ -79,7 +82,7 @@ void Catalogue::ReadVariables() {
 }
 
 void Catalogue::ReadFields() {
-    VisitRows(database_, "Field",
+    VisitRows(*database_, "Field",
               "Screen, Name, Id, Seq, Class, Type, Equation, SolveFor, Dim2, x, y, Heading", "rowid",
               [this](const RowView& row) {
                   Field field;
@@ -100,7 +103,7 @@ void Catalogue::ReadFields() {
 }
 
 void Catalogue::ReadScreens() {
-    VisitRows(database_, "Screen",
+    VisitRows(*database_, "Screen",
               "Name, Dim2, Sf1Y, Layout, Title, Title1, Title2, LeftX, LeftY, ScreenLeft, RightX, RightY, "
               "ScreenRight",
               "rowid", [this](const RowView& row) {
@@ -119,7 +122,7 @@ void Catalogue::ReadScreens() {
 }
 
 void Catalogue::ReadUnitPairs() {
-    VisitRows(database_, "Convert", "English, Metric, Factor", "rowid", [this](const RowView& row) {
+    VisitRows(*database_, "Convert", "English, Metric, Factor", "rowid", [this](const RowView& row) {
         const auto factor = row.Number(2);
         if (!factor || *factor <= 0.0) throw DatabaseError("a unit factor is not above 0", false);
         unitPairs_.push_back({Text(row, 0), Text(row, 1), *factor});
@@ -128,7 +131,7 @@ void Catalogue::ReadUnitPairs() {
 
 std::vector<ScreenLabel> Catalogue::LabelsOfScreen(std::string_view screen) const {
     std::vector<ScreenLabel> labels;
-    VisitRows(database_, "Label", "Screen, Label, x, y", "rowid", [&](const RowView& row) {
+    VisitRows(*database_, "Label", "Screen, Label, x, y", "rowid", [&](const RowView& row) {
         if (!EqualNoCase(Text(row, 0), screen)) return;
         labels.push_back({Text(row, 1), row.Number(2).value_or(0.0), row.Number(3).value_or(1.0)});
     });
@@ -142,7 +145,7 @@ const Variable* Catalogue::FindVariable(std::string_view name) const {
 
 std::optional<std::string> Catalogue::HelpText(std::string_view name) const {
     try {
-        SQLite::Statement row(database_, "SELECT HelpText FROM Variable WHERE Name = ?");
+        SQLite::Statement row(*database_, "SELECT HelpText FROM Variable WHERE Name = ?");
         row.bind(1, std::string(name));
         if (!row.executeStep() || row.getColumn(0).isNull()) return std::nullopt;
         return row.getColumn(0).getString();
@@ -183,7 +186,7 @@ const UnitPair* Catalogue::FindPairByMetric(std::string_view metric) const {
 
 std::vector<RecentFile> Catalogue::RecentFiles() {
     std::vector<RecentFile> rows;
-    VisitRows(database_, "RecentFiles", "FileName, OpenDate, SortOrder", "rowid", [&](const RowView& row) {
+    VisitRows(*database_, "RecentFiles", "FileName, OpenDate, SortOrder", "rowid", [&](const RowView& row) {
         rows.push_back({row.IsText(0) ? std::optional(Text(row, 0)) : std::nullopt, Text(row, 1),
                         Whole(row, 2).value_or(0)});
     });
@@ -194,14 +197,14 @@ std::vector<RecentFile> Catalogue::RecentFiles() {
 
 void Catalogue::EditRecentFiles(const std::function<void(std::vector<RecentFile>&)>& edit) {
     try {
-        SQLite::Transaction transaction(database_, SQLite::TransactionBehavior::IMMEDIATE);
+        SQLite::Transaction transaction(*database_, SQLite::TransactionBehavior::IMMEDIATE);
         std::vector<RecentFile> rows = RecentFiles();
         std::vector<std::int64_t> places;
-        VisitRows(database_, "RecentFiles", "rowid", "rowid",
+        VisitRows(*database_, "RecentFiles", "rowid", "rowid",
                   [&](const RowView& row) { places.push_back(row.Whole(0).value_or(0)); });
         edit(rows);
         SQLite::Statement update(
-            database_, "UPDATE RecentFiles SET FileName = ?, OpenDate = ?, SortOrder = ? WHERE rowid = ?");
+            *database_, "UPDATE RecentFiles SET FileName = ?, OpenDate = ?, SortOrder = ? WHERE rowid = ?");
         for (std::size_t i = 0; i < std::min(rows.size(), places.size()); ++i) {
             update.reset();
             update.clearBindings();

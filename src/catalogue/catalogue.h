@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -9,8 +10,11 @@
 #include <vector>
 
 #include "platform/file_system.h"
-#include "platform/sqlite.h"
 #include "platform/text.h"
+
+namespace SQLite {
+class Database;
+}  // namespace SQLite
 
 namespace kelvor {
 
@@ -98,6 +102,9 @@ class Catalogue {
   public:
     /// Opens and reads the database. Throws DatabaseError.
     explicit Catalogue(const Path& path);
+    Catalogue(const Catalogue&) = delete;
+    Catalogue& operator=(const Catalogue&) = delete;
+    ~Catalogue();
 
     [[nodiscard]] const std::vector<Variable>& variables() const { return variables_; }
 
@@ -140,7 +147,7 @@ class Catalogue {
     void ReadScreens();
     void ReadUnitPairs();
 
-    mutable SQLite::Database database_;  // a query needs it so, also one that only reads
+    std::unique_ptr<SQLite::Database> database_;
     std::vector<Variable> variables_;
     std::unordered_map<std::string, std::size_t, NameHash, NameEqual> variableByName_;
     std::vector<Field> fields_;

@@ -1,6 +1,7 @@
 #include "catalogue/list_database.h"
 
 #include "catalogue/schema.h"
+#include "platform/sqlite.h"
 #include "platform/text.h"
 
 namespace kelvor {
@@ -48,15 +49,18 @@ void DeleteById(SQLite::Database& database, std::int64_t id) {
 
 }  // namespace
 
-ListDatabase::ListDatabase() : database_(EmptyLists()) {}
+ListDatabase::ListDatabase() : database_(std::make_unique<SQLite::Database>(EmptyLists())) {}
 
-ListDatabase::ListDatabase(const Path& path) : database_(OpenLists(path)) {}
+ListDatabase::ListDatabase(const Path& path)
+    : database_(std::make_unique<SQLite::Database>(OpenLists(path))) {}
+
+ListDatabase::~ListDatabase() = default;
 
 std::vector<std::string> ListDatabase::Values(std::string_view list, bool metric) {
     try {
         std::vector<std::string> values;
         SQLite::Statement rows(
-            database_,
+            *database_,
             "SELECT Value FROM \"Value\" WHERE Name = ? AND "
             "(UnitSystem IS NULL OR UnitSystem = '' OR UnitSystem = ?) ORDER BY Sort, rowid");
         rows.bind(1, std::string(list));
@@ -74,7 +78,7 @@ std::vector<std::string> ListDatabase::Values(std::string_view list, bool metric
 std::vector<std::string> ListDatabase::Descriptions() {
     try {
         std::vector<std::string> descriptions;
-        SQLite::Statement rows(database_,
+        SQLite::Statement rows(*database_,
                                "SELECT Description FROM \"Value\" WHERE Description IS NOT NULL AND "
                                "Description <> '' GROUP BY Description");
         while (rows.executeStep()) descriptions.push_back(rows.getColumn(0).getString());
@@ -87,8 +91,8 @@ std::vector<std::string> ListDatabase::Descriptions() {
 std::vector<ListRow> ListDatabase::Rows(const std::string& description) {
     try {
         std::vector<ListRow> found;
-        SQLite::Statement row(database_, R"(SELECT Name, Sort, "Value" FROM "Value" WHERE rowid = ?)");
-        for (const std::int64_t id : RowsLike(database_, "Value", description)) {
+        SQLite::Statement row(*database_, R"(SELECT Name, Sort, "Value" FROM "Value" WHERE rowid = ?)");
+        for (const std::int64_t id : RowsLike(*database_, "Value", description)) {
             row.reset();
             row.bind(1, id);
             if (!row.executeStep()) continue;
@@ -107,7 +111,7 @@ void ListDatabase::AddRow(const std::string& description) {
     const std::vector<ListRow> rows = Rows(description);
     const double last = rows.empty() ? 0.0 : rows.back().sort.value_or(0.0);
     Change([&] {
-        SQLite::Statement insert(database_,
+        SQLite::Statement insert(*database_,
                                  R"(INSERT INTO "Value" (Sort, Description, Name) VALUES (?, ?, ?))");
         insert.bind(1, last + 1.0);
         insert.bind(2, description);
@@ -122,17 +126,17 @@ void ListDatabase::DeleteRows(const std::string& description, const ListRow& row
     Change([&] {
         for (const ListRow& other : rows) {
             const bool sameValue = !row.value.empty() && EqualNoCase(other.value, row.value);
-            if (other.sort == row.sort || sameValue) DeleteById(database_, other.id);
+            if (other.sort == row.sort || sameValue) DeleteById(*database_, other.id);
         }
     });
 }
 
 void ListDatabase::Restore(const std::string& description) {
     Change([&] {
-        for (const std::int64_t id : RowsLike(database_, "Value", description)) DeleteById(database_, id);
-        SQLite::Statement insert(database_, std::string("INSERT INTO \"Value\" (") + kColumns + ") SELECT " +
-                                                kColumns + " FROM ValueDefault WHERE rowid = ?");
-        for (const std::int64_t id : RowsLike(database_, "ValueDefault", description)) {
+        for (const std::int64_t id : RowsLike(*database_, "Value", description)) DeleteById(*database_, id);
+        SQLite::Statement insert(*database_, std::string("INSERT INTO \"Value\" (") + kColumns + ") SELECT " +
+                                                 kColumns + " FROM ValueDefault WHERE rowid = ?");
+        for (const std::int64_t id : RowsLike(*database_, "ValueDefault", description)) {
             insert.reset();
             insert.bind(1, id);
             insert.exec();
@@ -142,7 +146,7 @@ void ListDatabase::Restore(const std::string& description) {
 
 void ListDatabase::Write(const ListRow& row) {
     Change([&] {
-        SQLite::Statement update(database_,
+        SQLite::Statement update(*database_,
                                  R"(UPDATE "Value" SET Name = ?, Sort = ?, "Value" = ? WHERE rowid = ?)");
         update.bind(1, row.name);
         if (row.sort) update.bind(2, *row.sort);
@@ -155,7 +159,7 @@ void ListDatabase::Write(const ListRow& row) {
 /// One transaction: all of it, or nothing.
 void ListDatabase::Change(const std::function<void()>& statements) {
     try {
-        SQLite::Transaction transaction(database_, SQLite::TransactionBehavior::IMMEDIATE);
+        SQLite::Transaction transaction(*database_, SQLite::TransactionBehavior::IMMEDIATE);
         statements();
         transaction.commit();
     } catch (const SQLite::Exception& failure) {

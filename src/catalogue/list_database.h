@@ -2,12 +2,17 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "platform/sqlite.h"
+#include "platform/file_system.h"
+
+namespace SQLite {
+class Database;
+}  // namespace SQLite
 
 namespace kelvor {
 
@@ -28,6 +33,9 @@ class ListDatabase {
 
     /// Opens the database. Throws DatabaseError.
     explicit ListDatabase(const Path& path);
+    ListDatabase(const ListDatabase&) = delete;
+    ListDatabase& operator=(const ListDatabase&) = delete;
+    ~ListDatabase();
 
     /// The entries of a list in their order: those of a unit system, and those of none, which are offered in
     /// both. Throws DatabaseError.
@@ -59,7 +67,7 @@ class ListDatabase {
   private:
     void Change(const std::function<void()>& statements);
 
-    SQLite::Database database_;
+    std::unique_ptr<SQLite::Database> database_;
 };
 
 }  // namespace kelvor

@@ -1,14 +1,14 @@
 #include "forms/access_keys.h"
 
 #include <algorithm>
-#include <cctype>
 #include <set>
 
 namespace kelvor {
 
 namespace {
 
-char ToUpper(char c) { return static_cast<char>(std::toupper(static_cast<unsigned char>(c))); }
+/// The capital of an ASCII letter; any other character as it is, whatever the locale.
+char ToUpper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
 using Controls = std::vector<std::unique_ptr<Control>>;
 

@@ -17,20 +17,15 @@ const char* const kFieldChanged = "FieldChanged";
 const char* const kTrue = "-1";
 const char* const kFalse = "0";
 
-std::optional<int> Subscript(const std::string& text) {
-    if (text.empty()) return std::nullopt;
-    return static_cast<int>(Val(text));
-}
-
 }  // namespace
 
 Form::Form(const FormType& type, const Catalogue& catalogue)
-    : tag(type.tag),
-      caption(type.caption),
-      equations(type.equations.size()),
-      modal(type.modal),
-      type_(type),
-      controls_(BuildControls(type, catalogue)) {}
+    : type_(type), controls_(BuildControls(type, catalogue)) {
+    tag = type.tag;
+    caption = type.caption;
+    equations.resize(type.equations.size());
+    modal = type.modal;
+}
 
 Control* Form::Find(std::string_view name) {
     const auto index = IndexOf(name);
@@ -105,8 +100,8 @@ bool Form::fieldChanged() const { return Val(HiddenText(kFieldChanged)) != 0.0; 
 
 void Form::SetFieldChanged(bool changed) { SetHiddenText(kFieldChanged, changed ? kTrue : kFalse); }
 
-std::optional<int> Form::dim2() const { return Subscript(HiddenText("Dim2")); }
-std::optional<int> Form::dim1() const { return Subscript(HiddenText("Dim1")); }
+std::optional<int> Form::dim2() const { return ParseSubscript(HiddenText("Dim2")); }
+std::optional<int> Form::dim1() const { return ParseSubscript(HiddenText("Dim1")); }
 
 void Form::ShowPage(int page) {
     page_ = page;
@@ -114,6 +109,20 @@ void Form::ShowPage(int page) {
         if (control->kind == ControlKind::TabStrip)
             control->text = control->items[static_cast<std::size_t>(page)];
     }
+}
+
+Form::Image Form::TakeImage() const {
+    Image image{*this, page_, {}};
+    image.controls.reserve(controls_.size());
+    for (const auto& control : controls_) image.controls.push_back(*control);
+    return image;
+}
+
+void Form::BecomeAgain(Image image) {
+    static_cast<FormState&>(*this) = std::move(image.state);
+    page_ = image.page;
+    controls_.resize(image.controls.size());
+    for (std::size_t i = 0; i < controls_.size(); ++i) *controls_[i] = std::move(image.controls[i]);
 }
 
 bool Form::CanFocus(const Control& control) const {

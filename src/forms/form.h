@@ -10,7 +10,7 @@
 #include "catalogue/catalogue.h"
 #include "forms/control.h"
 #include "forms/form_type.h"
-#include "store/work_copy.h"
+#include "store/cell.h"
 
 namespace kelvor {
 
@@ -30,9 +30,28 @@ struct SideScreenReturn {
     bool valueTaken = false;  // that variable has a new value
 };
 
+/// What an open form is beside its controls and the page that shows.
+struct FormState {
+    std::string tag;  // the catalogue key; the hub changes it with its tabs
+    std::string caption;
+    Control* focus = nullptr;
+    bool focusLeft =
+        false;  // what was typed there is committed; the end of the event gives it the focus anew
+    std::optional<std::size_t> iCurrentField;  // the field that had the focus last
+    std::optional<std::size_t> caret;  // in the box in focus; nothing: its text is selected as a whole
+    std::string spelt;   // what was typed into the box in focus of a word that its first letters completed
+    int selections = 0;  // how often a box was selected as a whole; a view shows that it is again
+    std::vector<EquationState> equations;  // one for each that the type declares
+    bool modal = false;
+    std::optional<SideScreenReturn> returned;  // until the form is activated again
+    CellValue valueAtOpening;                  // of a side screen: of the field it was opened for
+    bool refused = false;                      // the value that was being typed when a field was left last
+    bool workedOut = false;                    // of a side screen: it has a new value for its caller
+};
+
 /// An open form: its controls in the order of the declaration, which is the reading order and the tab
 /// order, and where the focus is.
-class Form {
+class Form : public FormState {
   public:
     /// Makes the controls that a type's layout declares, bound to the catalogue.
     Form(const FormType& type, const Catalogue& catalogue);
@@ -98,21 +117,17 @@ class Form {
     /// The control that Tab reaches from here, forwards or backwards, round the form; null if none can.
     [[nodiscard]] Control* NextInTabOrder(const Control* from, bool forwards);
 
-    std::string tag;  // the catalogue key; the hub changes it with its tabs
-    std::string caption;
-    Control* focus = nullptr;
-    bool focusLeft =
-        false;  // what was typed there is committed; the end of the event gives it the focus anew
-    std::optional<std::size_t> iCurrentField;  // the field that had the focus last
-    std::optional<std::size_t> caret;  // in the box in focus; nothing: its text is selected as a whole
-    std::string spelt;   // what was typed into the box in focus of a word that its first letters completed
-    int selections = 0;  // how often a box was selected as a whole; a view shows that it is again
-    std::vector<EquationState> equations;  // one for each that the type declares
-    bool modal = false;
-    std::optional<SideScreenReturn> returned;  // until the form is activated again
-    CellValue valueAtOpening;                  // of a side screen: of the field it was opened for
-    bool refused = false;                      // the value that was being typed when a field was left last
-    bool workedOut = false;                    // of a side screen: it has a new value for its caller
+    /// All of a form that an event may change.
+    struct Image {
+        FormState state;
+        int page = 0;
+        std::vector<Control> controls;
+    };
+
+    [[nodiscard]] Image TakeImage() const;
+
+    /// Makes the form again what it was. Controls made since then go; the others stay where they are.
+    void BecomeAgain(Image image);
 
   private:
     const FormType& type_;

@@ -378,6 +378,7 @@ void FormEvents::StepOption(Form& form, const Control& option, int step) {
         const bool isIn = control->kind == ControlKind::OptionButton && control->group == option.group;
         if (isIn && form.CanFocus(*control)) group.push_back(control.get());
     }
+    if (group.empty()) return;
     const auto place = std::find(group.begin(), group.end(), &option) - group.begin();
     const auto count = static_cast<std::ptrdiff_t>(group.size());
     Press(form, *group[static_cast<std::size_t>((place + step + count) % count)]);

@@ -1,6 +1,7 @@
 #include "forms/form_registry.h"
 
 #include <algorithm>
+#include <iterator>
 #include <stdexcept>
 #include <utility>
 
@@ -51,6 +52,35 @@ void FormRegistry::Remove(Form& form) {
     std::erase(opened_, &form);
     removed_.push_back(std::move(*found));
     stack_.erase(found);
+}
+
+FormRegistry::Image FormRegistry::TakeImage() const {
+    Image image{{}, opened_, CurrentForm};
+    image.stack.reserve(stack_.size());
+    for (const auto& form : stack_) image.stack.emplace_back(form.get(), form->TakeImage());
+    return image;
+}
+
+void FormRegistry::BecomeAgain(Image image) {
+    std::move(stack_.begin(), stack_.end(), std::back_inserter(removed_));
+    stack_.clear();
+    for (auto& [form, former] : image.stack) {
+        const auto found =
+            std::find_if(removed_.begin(), removed_.end(), [&](const auto& f) { return f.get() == form; });
+        stack_.push_back(std::move(*found));
+        removed_.erase(found);
+        form->BecomeAgain(std::move(former));
+    }
+    opened_ = std::move(image.opened);
+    CurrentForm = image.current;
+}
+
+void FormRegistry::RemoveOpenedSince(const Image& image) {
+    for (Form* form : std::vector<Form*>(opened_)) {
+        const auto& former = image.opened;
+        if (std::find(former.begin(), former.end(), form) == former.end()) Remove(*form);
+    }
+    if (CurrentForm == nullptr) CurrentForm = Front();
 }
 
 Form* FormRegistry::Front() const { return stack_.empty() ? nullptr : stack_.back().get(); }

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "catalogue/catalogue.h"
@@ -38,6 +39,22 @@ class FormRegistry {
 
     /// The front form; null if none is open.
     [[nodiscard]] Form* Front() const;
+
+    /// The open forms at one moment of an event, and what they were.
+    struct Image {
+        std::vector<std::pair<Form*, Form::Image>> stack;
+        std::vector<Form*> opened;
+        Form* current = nullptr;
+    };
+
+    [[nodiscard]] Image TakeImage() const;
+
+    /// Makes the open forms again those of an image of the same event. Forms opened since then go, and those
+    /// closed since then come back.
+    void BecomeAgain(Image image);
+
+    /// Takes the forms off that an image of the same event does not have.
+    void RemoveOpenedSince(const Image& image);
 
     /// The form in which the user works: the one that was activated last.
     Form* CurrentForm = nullptr;

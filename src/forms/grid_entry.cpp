@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "forms/field_entry.h"
+#include "platform/database_error.h"
 #include "platform/number_picture.h"
 #include "platform/number_text.h"
 
@@ -102,7 +103,17 @@ void FillValueItems(ScreenContext& context, Form& form) {
     Control* control = form.FindGrid();
     if (control == nullptr) return;
     for (GridColumn& column : control->grid->columns) {
-        if (!column.list.empty()) column.items = context.lists.Values(column.list, context.units.bMetric());
+        if (!column.list.empty()) column.items.clear();
+    }
+    try {
+        for (GridColumn& column : control->grid->columns) {
+            if (!column.list.empty())
+                column.items = context.lists.Values(column.list, context.units.bMetric());
+        }
+    } catch (const DatabaseError& failure) {
+        // The screen serves without what it would offer.
+        context.calc.dialogs.ShowMessage(
+            {.text = std::string("The drop-down lists cannot be read: ") + failure.what(), .title = "Error"});
     }
 }
 

@@ -30,7 +30,8 @@ bool GridDeleteRow(ScreenContext& context, Form& form, const GridData& grid, int
 /// Moves the filled cells of a column up, so that they stand from row 1 on without a gap.
 void CompactColumn(ProjectStore& store, const std::string& name, int rows, int dim2);
 
-/// Fills the lists of a form's grid with the entries for the active unit system.
+/// Fills the lists of a form's grid with the entries for the active unit system. If they cannot be read, it
+/// says so, and they are empty.
 void FillValueItems(ScreenContext& context, Form& form);
 
 }  // namespace kelvor

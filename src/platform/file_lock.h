@@ -1,8 +1,12 @@
 #pragma once
 
+#include <memory>
+
 #include "platform/file_system.h"
 
 namespace kelvor {
+
+class Descriptor;
 
 /// A lock that one process at a time holds on a path, for as long as this object lives. The lock file
 /// goes with it; a process that is killed leaves the file behind but not the lock.
@@ -15,11 +19,11 @@ class FileLock {
     FileLock& operator=(const FileLock&) = delete;
     ~FileLock();
 
-    [[nodiscard]] bool holds() const { return fd_ >= 0; }
+    [[nodiscard]] bool holds() const { return file_ != nullptr; }
 
   private:
     Path path_;
-    int fd_ = -1;
+    std::unique_ptr<Descriptor> file_;
 };
 
 }  // namespace kelvor

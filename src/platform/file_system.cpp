@@ -5,9 +5,10 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdio>
-#include <cstring>
 #include <system_error>
+
+#include "platform/descriptor.h"
+#include "platform/system_reason.h"
 
 namespace kelvor {
 
@@ -16,47 +17,34 @@ namespace {
 /// A chain of more links than this counts as a circle, as it does for the kernel.
 constexpr int kMostLinks = 40;
 
-[[noreturn]] void ThrowErrno() { throw FileError(std::strerror(errno)); }
-
 void ThrowIf(const std::error_code& error) {
-    if (error) throw FileError(error.message());
+    if (error) throw FileError(SystemReason(error.value()));
 }
 
-/// An open file that closes itself.
-class Descriptor {
-  public:
-    Descriptor(const Path& path, int flags, mode_t mode = 0666)
-        : fd_(::open(path.c_str(), flags | O_CLOEXEC, mode)) {
-        if (fd_ < 0) ThrowErrno();
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() {
-        if (fd_ >= 0) ::close(fd_);
-    }
-
-    [[nodiscard]] int get() const { return fd_; }
-
-    /// Some file systems report a failed write only here.
-    void Close() {
-        const int fd = fd_;
-        fd_ = -1;
-        if (::close(fd) != 0) ThrowErrno();
-    }
-
-  private:
-    int fd_;
-};
-
-void WriteAndClose(Descriptor& file, std::string_view content) {
+void WriteAll(const Descriptor& file, std::string_view content) {
     while (!content.empty()) {
         const ssize_t count = ::write(file.get(), content.data(), content.size());
         if (count < 0 && errno == EINTR) continue;
         if (count < 0) ThrowErrno();
         content.remove_prefix(static_cast<std::size_t>(count));
     }
-    file.Close();
 }
+
+/// A new file, which its maker keeps open and locked.
+class NewFile : public FileHold {
+  public:
+    NewFile(const Path& path, std::string_view content, mode_t mode)
+        : file_(path, O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, mode) {
+        // Where there are no locks nobody can have one, and so nobody takes the file for abandoned either.
+        static_cast<void>(file_.Lock());
+        if (!file_.IsStillAt(path)) throw FileError(SystemReason(ENOENT));
+        WriteAll(file_, content);
+        file_.Settle();
+    }
+
+  private:
+    Descriptor file_;
+};
 
 /// A regular file that is open for reading.
 class RegularFile {
@@ -65,7 +53,7 @@ class RegularFile {
     explicit RegularFile(const Path& path) : file_(path, O_RDONLY | O_NONBLOCK) {
         struct stat status {};
         if (::fstat(file_.get(), &status) != 0) ThrowErrno();
-        if (S_ISDIR(status.st_mode)) throw FileError(std::strerror(EISDIR));
+        if (S_ISDIR(status.st_mode)) throw FileError(SystemReason(EISDIR));
         if (!S_ISREG(status.st_mode)) throw FileError("Not a regular file");
         size_ = static_cast<std::size_t>(status.st_size);
     }
@@ -91,24 +79,9 @@ class RegularFile {
     std::size_t size_ = 0;
 };
 
-/// A path beside the target under a name that no other process uses. Of a long name only the beginning
-/// is in it, as the platform limits names.
-Path TemporaryBeside(const Path& target) {
-    const std::string name = target.filename().string().substr(0, 200);
-    return target.parent_path() / ("." + name + "." + std::to_string(::getpid()) + ".new");
-}
-
-/// Removes a half-made file without hiding the failure that made it one.
-void RemoveQuietly(FileSystem& files, const Path& path) {
-    try {
-        files.Remove(path);
-    } catch (const FileError&) {  // NOLINT(bugprone-empty-catch): nothing was made, or it cannot be removed
-    }
-}
-
 }  // namespace
 
-FileTooLarge::FileTooLarge() : FileError(std::strerror(EFBIG)) {}
+FileTooLarge::FileTooLarge() : FileError(SystemReason(EFBIG)) {}
 
 FileKind NativeFileSystem::Kind(const Path& path) const {
     std::error_code error;
@@ -137,15 +110,33 @@ std::string NativeFileSystem::ReadStart(const Path& path, std::size_t count) con
 
 void NativeFileSystem::Write(const Path& path, std::string_view content) {
     Descriptor file(path, O_WRONLY | O_CREAT | O_TRUNC);
-    WriteAndClose(file, content);
+    WriteAll(file, content);
+    file.Close();
 }
 
-void NativeFileSystem::WritePrivate(const Path& path, std::string_view content) {
-    // What stands there may be open to others, or be open at another program: its content would not be
-    // private. The new file is one that nobody has yet.
-    Remove(path);
-    Descriptor file(path, O_WRONLY | O_CREAT | O_EXCL, 0600);
-    WriteAndClose(file, content);
+std::unique_ptr<FileHold> NativeFileSystem::WriteNew(const Path& path, std::string_view content,
+                                                     FileAccess access) {
+    return std::make_unique<NewFile>(path, content, access == FileAccess::Private ? 0600 : 0666);
+}
+
+std::vector<std::string> NativeFileSystem::Names(const Path& folder) const {
+    std::vector<std::string> names;
+    std::error_code error;
+    for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        names.push_back(entry->path().filename().string());
+    }
+    ThrowIf(error);
+    return names;
+}
+
+void NativeFileSystem::RemoveUnheld(const Path& path) {
+    // Without O_NONBLOCK the opening of a pipe would wait for a reader.
+    const Descriptor file(path, O_RDWR | O_NOFOLLOW | O_NONBLOCK);
+    struct stat status {};
+    if (::fstat(file.get(), &status) != 0) ThrowErrno();
+    const bool isOurs = S_ISREG(status.st_mode) && status.st_uid == ::geteuid() && status.st_nlink == 1;
+    if (isOurs && file.Lock() && file.IsStillAt(path)) Remove(path);
 }
 
 void NativeFileSystem::Flush(const Path& path) {
@@ -197,36 +188,7 @@ Path NativeFileSystem::Resolve(const Path& path) const {
         resolved = resolved.parent_path() / std::filesystem::read_symlink(resolved, error);
         ThrowIf(error);
     }
-    throw FileError(std::strerror(ELOOP));
-}
-
-void ReplaceFile(FileSystem& files, const Path& target, std::string_view content) {
-    const Path resolved = files.Resolve(target);
-    const FileKind kind = files.Kind(resolved);
-    if (kind == FileKind::Directory) throw FileError(std::strerror(EISDIR));
-    if (kind == FileKind::Other) throw FileError("Not a regular file");
-    // Renaming would replace a write-protected file all the same.
-    if (kind == FileKind::Regular && !files.IsWritable(resolved)) throw FileError(std::strerror(EACCES));
-    const Path temporary = TemporaryBeside(resolved);
-    try {
-        if (kind == FileKind::Regular) {
-            files.WritePrivate(temporary, content);
-            files.CopyPermissions(resolved, temporary);
-        } else {
-            files.Write(temporary, content);
-        }
-        files.Flush(temporary);
-        files.Rename(temporary, resolved);
-    } catch (const FileError&) {
-        RemoveQuietly(files, temporary);
-        throw;
-    }
-    // From here on the new file is in place, whole. Only its survival of a power cut is still open, and a
-    // folder that cannot be flushed is no reason to report a failure.
-    try {
-        files.Flush(resolved.parent_path());
-    } catch (const FileError&) {  // NOLINT(bugprone-empty-catch)
-    }
+    throw FileError(SystemReason(ELOOP));
 }
 
 }  // namespace kelvor

@@ -2,9 +2,11 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kelvor {
 
@@ -23,6 +25,18 @@ class FileTooLarge : public FileError {
 };
 
 enum class FileKind { Missing, Regular, Directory, Other };
+
+/// Who may open a new file: its owner alone, or whom the user lets by habit (the umask).
+enum class FileAccess { Private, Usual };
+
+/// While it lives, no process takes the file that came with it for an abandoned one.
+class FileHold {
+  public:
+    FileHold() = default;
+    FileHold(const FileHold&) = delete;
+    FileHold& operator=(const FileHold&) = delete;
+    virtual ~FileHold() = default;
+};
 
 /// The file operations that Kelvor needs. Each throws FileError on failure, but for Kind.
 class FileSystem {
@@ -44,9 +58,15 @@ class FileSystem {
     /// Creates the file, or empties it if it is there, and writes the content.
     virtual void Write(const Path& path, std::string_view content) = 0;
 
-    /// Makes the file anew, whatever stood there, and writes the content. Nobody but its owner may open it
-    /// until it is given other permissions.
-    virtual void WritePrivate(const Path& path, std::string_view content) = 0;
+    /// Makes a file where nothing stands, not even a link, and writes the content.
+    [[nodiscard]] virtual std::unique_ptr<FileHold> WriteNew(const Path& path, std::string_view content,
+                                                             FileAccess access) = 0;
+
+    /// The names of what stands in a folder.
+    [[nodiscard]] virtual std::vector<std::string> Names(const Path& folder) const = 0;
+
+    /// Removes a plain file of this user that no process holds; leaves anything else.
+    virtual void RemoveUnheld(const Path& path) = 0;
 
     /// Brings a file's content, or a folder's entries, to the disk.
     virtual void Flush(const Path& path) = 0;
@@ -74,7 +94,10 @@ class NativeFileSystem : public FileSystem {
     [[nodiscard]] std::string Read(const Path& path, std::size_t limit) const override;
     [[nodiscard]] std::string ReadStart(const Path& path, std::size_t count) const override;
     void Write(const Path& path, std::string_view content) override;
-    void WritePrivate(const Path& path, std::string_view content) override;
+    [[nodiscard]] std::unique_ptr<FileHold> WriteNew(const Path& path, std::string_view content,
+                                                     FileAccess access) override;
+    [[nodiscard]] std::vector<std::string> Names(const Path& folder) const override;
+    void RemoveUnheld(const Path& path) override;
     void Flush(const Path& path) override;
     void Rename(const Path& from, const Path& to) override;
     void Remove(const Path& path) override;
@@ -83,11 +106,5 @@ class NativeFileSystem : public FileSystem {
     void CopyPermissions(const Path& from, const Path& to) override;
     [[nodiscard]] Path Resolve(const Path& path) const override;
 };
-
-/// Replaces a file's content so that a crash or a full disk at any moment leaves the old file or the
-/// new one, whole: written beside the target, flushed, renamed. A link keeps pointing at its file, and
-/// a file keeps its permissions, so that nobody else ever reads what a private one gets; one that is
-/// write-protected stays. Throws FileError and leaves the target as it was.
-void ReplaceFile(FileSystem& files, const Path& target, std::string_view content);
 
 }  // namespace kelvor

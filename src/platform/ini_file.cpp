@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <vector>
 
+#include "platform/replace_file.h"
 #include "platform/text.h"
 
 namespace kelvor {

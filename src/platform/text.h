@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -29,17 +30,36 @@ bool Like(std::string_view text, std::string_view pattern);
 struct NameHash {
     using is_transparent = void;
     std::size_t operator()(std::string_view name) const {
-        std::uint64_t hash = 14695981039346656037ULL;  // FNV-1a
-        for (const char c : name) {
-            hash = (hash ^ static_cast<unsigned char>(FoldLetter(c))) * 1099511628211ULL;
+        std::uint64_t hash = name.size();
+        while (name.size() > kWord) {
+            hash = Mix(hash, TakeWord(name, kWord));
+            name.remove_prefix(kWord);
         }
-        return static_cast<std::size_t>(hash);
+        return static_cast<std::size_t>(Mix(hash, TakeWord(name, name.size())));
+    }
+
+  private:
+    static constexpr std::size_t kWord = sizeof(std::uint64_t);
+
+    /// The first letters as a number. The bit in which a letter's cases differ is set in each, also in what
+    /// is no letter, which at worst gives two names one hash.
+    static std::uint64_t TakeWord(std::string_view name, std::size_t count) {
+        constexpr std::uint64_t kCaseBits = 0x2020202020202020ULL;
+        std::uint64_t word = 0;
+        if (count > 0) std::memcpy(&word, name.data(), count);
+        return word | kCaseBits;
+    }
+
+    static std::uint64_t Mix(std::uint64_t hash, std::uint64_t word) {
+        constexpr std::uint64_t kOdd = 0x9E3779B97F4A7C15ULL;  // 2^64 by the golden ratio
+        hash = (hash ^ word) * kOdd;
+        return hash ^ hash >> 32U;
     }
 };
 
 struct NameEqual {
     using is_transparent = void;
-    bool operator()(std::string_view a, std::string_view b) const { return EqualNoCase(a, b); }
+    bool operator()(std::string_view a, std::string_view b) const { return a == b || EqualNoCase(a, b); }
 };
 
 }  // namespace kelvor

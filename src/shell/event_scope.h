@@ -4,24 +4,41 @@
 
 namespace kelvor {
 
-/// Makes the writes between its making and its end one transaction, and keeps further events out.
+/// One event: makes the writes between its making and its end one transaction, and keeps further events out.
 class EventScope {
   public:
-    EventScope(ProcessState& state, bool& running) : state_(state), running_(running) {
-        running_ = true;
-        state_.dbWork.BeginEvent();
-    }
+    EventScope(ProcessState& state, bool& running);
     EventScope(const EventScope&) = delete;
     EventScope& operator=(const EventScope&) = delete;
-    ~EventScope() {
-        state_.dbWork.EndEvent();
-        state_.formRegistry.DestroyRemoved();
-        running_ = false;
-    }
+    ~EventScope();
+
+    /// Makes everything what it was before the event: the cells, the forms, what is marked as changed and the
+    /// unit system. If the event has opened another project, or this one anew, then that one stays, and only
+    /// what was written since then and the forms opened since then go.
+    void Undo();
 
   private:
+    /// What a fault takes back, beside cells and forms.
+    struct Marks {
+        BalanceFlags balance;
+        bool projectChanged = false;
+        bool metric = false;
+        ReliabilityState reliability;
+        FormValues formValues;
+    };
+
+    [[nodiscard]] Marks TakeMarks() const;
+
+    [[nodiscard]] bool HasSameProject() const;
+
     ProcessState& state_;
     bool& running_;
+
+    // At the beginning:
+    int openings_;  // of the store
+    bool open_;
+    FormRegistry::Image forms_;
+    Marks marks_;
 };
 
 }  // namespace kelvor

@@ -8,12 +8,19 @@
 #include "forms/screen_builder.h"
 #include "forms/side_screen.h"
 #include "shell/about_form.h"
+#include "shell/event_scope.h"
 #include "shell/hub/hub.h"
 #include "shell/project_files.h"
 #include "shell/recent_files.h"
 #include "traffic/screens/traffic_forms.h"
 
 namespace kelvor {
+
+namespace {
+
+constexpr int kNotSolved = -1;  // as SolveForVariable tells it
+
+}  // namespace
 
 Program::Program(Host host, Home home) : state_(host, std::move(home)) {
     state_.formRegistry.Declare({HubForm(), AboutForm()});
@@ -40,7 +47,29 @@ std::string Program::CellText(const Form& form, int row, const GridColumn& colum
     return GridReadCell(state_.MakeScreenContext(), form, row, column);
 }
 
-// --- Events of the windows -------------------------------------------------------------------------
+// --- Events -------------------------------------------------------------------------------------------
+
+bool Program::InEvent(const std::function<bool()>& action) {
+    if (running_) return true;
+    EventScope event(state_, running_);
+    try {
+        const bool made = action();
+        EndOfEvent();
+        return made;
+    } catch (const ProgramStop&) {
+        throw;
+    } catch (const std::exception& fault) {
+        event.Undo();
+        ShowFault(fault.what());
+        return false;
+    }
+}
+
+void Program::ShowFault(const std::string& reason) {
+    state_.host.dialogs.SetWaitCursor(false);
+    state_.host.dialogs.ShowMessage(
+        {.text = "The last step could not be carried out: " + reason, .title = "Error"});
+}
 
 void Program::EndOfEvent() {
     if (!state_.dbCatalogue || !state_.dbCustom) return;
@@ -50,7 +79,9 @@ void Program::EndOfEvent() {
 }
 
 bool Program::Raise(const UserEvent& event) {
-    return InEvent([&] { return Perform(event); });
+    bool makesSense = true;  // also an event that is dropped or fails
+    InEvent([&] { return makesSense = Perform(event); });
+    return makesSense;
 }
 
 bool Program::Perform(const UserEvent& event) {
@@ -212,7 +243,7 @@ void Program::CalcCell(std::string_view target, int dim1, int dim2, std::string_
 }
 
 int Program::Solve(std::string_view screen, int term) {
-    int result = 0;
+    int result = running_ ? 0 : kNotSolved;
     InEvent([&] {
         CalcContext context = state_.MakeCalcContext();
         result = state_.calculations.SolveForVariable(context, screen, term);

@@ -1,11 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
-#include "shell/event_scope.h"
 #include "shell/main_window.h"
 #include "shell/process_state.h"
 #include "shell/start_up.h"
@@ -15,7 +15,9 @@ namespace kelvor {
 
 /// The program behind every front end. What a user does enters by Raise; a script also has the commands
 /// below, which stand for menus and for calculations. Each is one event: what it writes reaches the work copy
-/// in one transaction, and a further event while it runs (from a message box, say) is dropped.
+/// in one transaction, and a further event while it runs (from a message box, say) is dropped. A fault that
+/// ends an event, such as a database that cannot be read, is shown, and everything is as it was before; only
+/// a ProgramStop passes.
 class Program {
   public:
     Program(Host host, Home home);
@@ -50,22 +52,16 @@ class Program {
     void CalcField(std::string_view target, std::string_view key);
     void CalcCell(std::string_view target, int dim1, int dim2, std::string_view key);
 
-    /// Solves one term of a screen's equation; see SolveForVariable.
+    /// Solves one term of a screen's equation; see SolveForVariable. -1 also after a fault.
     int Solve(std::string_view screen, int term);
 
   private:
     /// The menu entry that ends the program.
     static constexpr const char* kExit = "MenuFileExit";
 
-    /// Does something as one event; while one runs, further ones are dropped.
-    template <typename Action>
-    bool InEvent(Action action) {
-        if (running_) return true;
-        const EventScope event(state_, running_);
-        const bool made = action();
-        EndOfEvent();
-        return made;
-    }
+    /// Does something as one event; while one runs, further ones are dropped. False after a fault.
+    bool InEvent(const std::function<bool()>& action);
+    void ShowFault(const std::string& reason);
 
     /// What every event brings to an end: the focus, and the lines that tell the truth about equations.
     void EndOfEvent();

@@ -7,7 +7,7 @@
 #include "forms/form_events.h"
 #include "forms/screen_builder.h"
 #include "forms/side_screen.h"
-#include "platform/sqlite.h"
+#include "platform/database_error.h"
 #include "shell/hub/hub.h"
 #include "shell/program.h"
 #include "shell/project_files.h"
@@ -95,7 +95,7 @@ void Program::ShowHub() {
 }
 
 bool Program::NewProject() {
-    return InEvent([&] { return MakeNewProject(); });
+    return InEvent([&] { return MakeNewProject(); }) || state_.dbWork.IsOpen();
 }
 
 bool Program::MakeNewProject() {

@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "platform/sqlite.h"
+#include "platform/database_error.h"
+#include "platform/replace_file.h"
 #include "shell/recent_files.h"
 
 namespace kelvor {
@@ -139,6 +140,7 @@ bool ProjectFiles::LoadProject(const std::string& path) {
         WriteWorkCopy(ReadProject(path));
         OpenWorkCopy(true);
         NameProject(path);
+        RemoveLeftovers(state_.host.files, path);
         return true;
     } catch (const FileError& failure) {
         Report(failed + failure.what());
@@ -177,7 +179,7 @@ bool ProjectFiles::SaveProject(const std::string& path) {
         if (IsWorkCopy(path)) throw FileError("it is the program's own work copy");
         ReplaceFile(state_.host.files, path,
                     state_.host.files.Read(state_.home.WorkCopyFile(), kLargestProject));
-    } catch (const FileError& failure) {
+    } catch (const std::exception& failure) {  // whatever it is: the work copy is opened again
         Report(failed + failure.what());
         ReopenAfterFailedSave();
         return false;

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <exception>
 #include <string_view>
 #include <vector>
 
 #include "platform/number_text.h"
-#include "platform/sqlite.h"
 #include "platform/text.h"
 
 namespace kelvor {
@@ -47,8 +47,7 @@ std::string TenYearsBefore(std::string date) {
     constexpr std::size_t kYearDigits = 4;
     constexpr int kYears = 10;
     constexpr int kFirstYear = 1000;  // of those with four digits
-    const std::string year = date.substr(0, kYearDigits);
-    const int before = IsNumeric(year) ? static_cast<int>(ParseNumber(year)) - kYears : 0;
+    const int before = ParseSubscript(date.substr(0, kYearDigits)).value_or(0) - kYears;
     if (before < kFirstYear) return date;
     const bool isLeap = (before % 4 == 0 && before % 100 != 0) || before % 400 == 0;
     date.replace(0, kYearDigits, std::to_string(before));
@@ -78,7 +77,7 @@ void DropRecentFile(ProcessState& state, int position) {
             }
             RenumberRecentFiles(rows);
         });
-    } catch (const DatabaseError&) {  // NOLINT(bugprone-empty-catch): the list is a convenience
+    } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch): the list is a convenience
     }
     RebuildRecentMenu(state);
 }
@@ -92,7 +91,7 @@ void RebuildRecentMenu(ProcessState& state) {
                 state.recentMenu.push_back({row.sortOrder, *row.fileName});
             }
         }
-    } catch (const DatabaseError&) {
+    } catch (const std::exception&) {
         state.recentMenu.clear();
     }
 }
@@ -103,7 +102,7 @@ void AddRecentFile(ProcessState& state, const std::string& path) {
     try {
         const std::string now = state.host.clock.Timestamp();
         state.dbCatalogue->EditRecentFiles([&](std::vector<RecentFile>& rows) { Record(rows, path, now); });
-    } catch (const DatabaseError&) {  // NOLINT(bugprone-empty-catch): the list is a convenience
+    } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch): the list is a convenience
     }
     RebuildRecentMenu(state);
     state.host.dialogs.SetWaitCursor(false);

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/database_error.h"
 #include "platform/ini_file.h"
-#include "platform/sqlite.h"
 #include "platform/text.h"
 #include "shell/project_files.h"
 #include "shell/recent_files.h"

@@ -5,7 +5,8 @@
 #include <tuple>
 #include <utility>
 
-#include "platform/sqlite.h"
+#include "platform/database_error.h"
+#include "store/work_copy.h"
 
 namespace kelvor {
 
@@ -30,12 +31,15 @@ std::string CellText(std::string_view name, int dim1, int dim2) {
     return std::string(name) + "(" + std::to_string(dim1) + "," + std::to_string(dim2) + ")";
 }
 
+ProjectStore::ProjectStore() = default;
+
 ProjectStore::~ProjectStore() { Abandon(); }
 
 // --- Opening and closing -----------------------------------------------------------------------
 
 void ProjectStore::Open(const Path& workCopy, const std::vector<CellBounds>& bounds, bool checkPages) {
     Abandon();
+    ++openings_;
     workCopy_ = std::make_unique<WorkCopy>(workCopy, checkPages);
     try {
         Load(bounds);
@@ -52,29 +56,30 @@ void ProjectStore::Load(const std::vector<CellBounds>& bounds) {
     cells_.reserve(std::min(expected, kUsualCells));  // a damaged catalogue may ask for any number
     variables_.reserve(bounds.size());
     byName_.reserve(bounds.size());
-    workCopy_->ReadRows([this](const WorkCopy::Row& row) { AddCell(row); });
+    workCopy_->ReadRows(
+        [this](const WorkCopy::Row& row) { AddCell(row.name, row.dim1, row.dim2, row.value); });
     MarkBlocks();
     for (const CellBounds& variable : bounds) CheckBounds(variable);
 }
 
-void ProjectStore::AddCell(const WorkCopy::Row& row) {
+void ProjectStore::AddCell(std::string_view name, int dim1, int dim2, const CellValue& value) {
     // The rows come in key order, so a variable's cells follow each other. In a damaged work copy that has
     // them in another order no change would find its row.
-    const int order = variables_.empty() ? 1 : CompareNames(row.name, variables_.back().name);
+    const int order = variables_.empty() ? 1 : CompareNames(name, variables_.back().name);
     if (order < 0 ||
-        (order == 0 && std::pair(row.dim1, row.dim2) <= std::pair(cells_.back().dim1, cells_.back().dim2))) {
+        (order == 0 && std::pair(dim1, dim2) <= std::pair(cells_.back().dim1, cells_.back().dim2))) {
         throw DatabaseError("rows out of order", false);
     }
     if (order > 0) {
-        byName_.emplace(row.name, static_cast<std::uint32_t>(variables_.size()));
-        variables_.push_back({std::string(row.name), static_cast<std::uint32_t>(cells_.size()), 0, 0});
+        byName_.emplace(name, static_cast<std::uint32_t>(variables_.size()));
+        variables_.push_back({std::string(name), static_cast<std::uint32_t>(cells_.size()), 0, 0});
     }
     ++variables_.back().count;
     Cell& cell = cells_.emplace_back();
     cell.variable = static_cast<std::uint32_t>(variables_.size() - 1);
-    cell.dim1 = row.dim1;
-    cell.dim2 = row.dim2;
-    if (row.value.IsFilled()) cell.value = row.value;
+    cell.dim1 = dim1;
+    cell.dim2 = dim2;
+    if (value.IsFilled()) cell.value = value;
 }
 
 void ProjectStore::MarkBlocks() {
@@ -119,7 +124,7 @@ void ProjectStore::Forget() noexcept {
     cells_.clear();
     variables_.clear();
     byName_.clear();
-    touched_.clear();
+    formers_.clear();
     inEvent_ = false;
     inTransaction_ = false;
 }
@@ -203,8 +208,10 @@ void ProjectStore::SetNumber(CellHandle cell, Real value) {
 void ProjectStore::Store(std::uint32_t index, CellValue value) {
     if (value.number && !std::isfinite(*value.number)) RaiseArithmeticFault("a number to be stored");
     if (value.number == 0.0) value.number = 0.0;  // a zero has no sign
-    if (cells_[index].value == value) return;
-    cells_[index].value = std::move(value);
+    Cell& cell = cells_[index];
+    if (cell.value == value) return;
+    CellValue former = std::exchange(cell.value, std::move(value));
+    if (inEvent_) formers_.push_back({index, std::move(former), cell.unwritten});
     WriteThrough(index);
 }
 
@@ -217,7 +224,6 @@ void ProjectStore::WriteThrough(std::uint32_t index) {
         }
         workCopy_->Update(variables_[cell.variable].name, cell.dim1, cell.dim2, cell.value);
         cell.unwritten = false;
-        if (inTransaction_) touched_.push_back(index);
     } catch (const DatabaseError&) {
         cell.unwritten = true;  // kept in memory; Close writes it or reports
     }
@@ -225,15 +231,32 @@ void ProjectStore::WriteThrough(std::uint32_t index) {
 
 void ProjectStore::EndEvent() {
     inEvent_ = false;
-    if (!inTransaction_) return;
-    inTransaction_ = false;
-    try {
-        workCopy_->Commit();
-    } catch (const DatabaseError&) {
-        workCopy_->Rollback();
-        for (const std::uint32_t index : touched_) cells_[index].unwritten = true;
+    if (std::exchange(inTransaction_, false)) {
+        try {
+            workCopy_->Commit();
+        } catch (const DatabaseError&) {
+            workCopy_->Rollback();
+            MarkUnwritten();
+        }
     }
-    touched_.clear();
+    formers_.clear();
+}
+
+void ProjectStore::UndoEvent() noexcept {
+    inEvent_ = false;
+    // The last write goes first, as a cell may have been written more than once.
+    for (auto former = formers_.rbegin(); former != formers_.rend(); ++former) {
+        cells_[former->index].value = std::move(former->value);
+        cells_[former->index].unwritten = former->unwritten;
+    }
+    // A transaction that a failure had ended before may have left some of the writes behind.
+    if (std::exchange(inTransaction_, false) && !workCopy_->Rollback()) MarkUnwritten();
+    formers_.clear();
+}
+
+/// The work copy is not known to have what the memory holds of the open event's cells.
+void ProjectStore::MarkUnwritten() noexcept {
+    for (const Former& former : formers_) cells_[former.index].unwritten = true;
 }
 
 void ProjectStore::WriteUnwritten() {

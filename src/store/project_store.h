@@ -12,11 +12,14 @@
 #include <utility>
 #include <vector>
 
+#include "platform/file_system.h"
 #include "platform/real.h"
 #include "platform/text.h"
-#include "store/work_copy.h"
+#include "store/cell.h"
 
 namespace kelvor {
+
+class WorkCopy;
 
 /// The program's stop: a read, or a subscripted write, of a cell that has no row. A fault of the
 /// program or of its template; nothing that ignores failures may swallow it.
@@ -55,7 +58,7 @@ class CellHandle {
 /// checked; one that is not finite is refused with ArithmeticFault, and its cell stays as it was.
 class ProjectStore {
   public:
-    ProjectStore() = default;
+    ProjectStore();
     ProjectStore(const ProjectStore&) = delete;
     ProjectStore& operator=(const ProjectStore&) = delete;
     ~ProjectStore();
@@ -126,6 +129,12 @@ class ProjectStore {
     void BeginEvent() { inEvent_ = true; }
     void EndEvent();
 
+    /// Takes back what the open event has written, in memory and in the work copy, and ends the event.
+    void UndoEvent() noexcept;
+
+    /// Counts the work copies that were opened: another number means another set of cells.
+    [[nodiscard]] int openings() const { return openings_; }
+
     /// How many keyed reads by name were made: a measure for benchmarks and tests.
     [[nodiscard]] std::uint64_t readCount() const { return readCount_; }
 
@@ -149,8 +158,15 @@ class ProjectStore {
         int width = 0;  // cells of each first subscript if they form a full block; else 0
     };
 
+    /// What a cell was before the open event wrote to it.
+    struct Former {
+        std::uint32_t index = 0;
+        CellValue value;
+        bool unwritten = false;
+    };
+
     void Load(const std::vector<CellBounds>& bounds);
-    void AddCell(const WorkCopy::Row& row);
+    void AddCell(std::string_view name, int dim1, int dim2, const CellValue& value);
     void MarkBlocks();
     void CheckBounds(const CellBounds& bounds) const;
 
@@ -162,6 +178,7 @@ class ProjectStore {
     void Store(std::uint32_t index, CellValue value);
     void WriteThrough(std::uint32_t index);
     void WriteUnwritten();
+    void MarkUnwritten() noexcept;
     void Forget() noexcept;
 
     std::unique_ptr<WorkCopy> workCopy_;
@@ -170,7 +187,8 @@ class ProjectStore {
     std::unordered_map<std::string, std::uint32_t, NameHash, NameEqual> byName_;
     bool inEvent_ = false;
     bool inTransaction_ = false;
-    std::vector<std::uint32_t> touched_;  // written in the open transaction
+    std::vector<Former> formers_;  // of the open event, in the order of its writes
+    int openings_ = 0;
     mutable std::uint64_t readCount_ = 0;
 };
 

@@ -68,11 +68,15 @@ void Run(const std::function<void()>& action) {
 }  // namespace
 
 WorkCopy::WorkCopy(const Path& path, bool checkPages)
-    : database_(OpenProject(path, checkPages)), update_(database_, kUpdate) {}
+    : database_(std::make_unique<SQLite::Database>(OpenProject(path, checkPages))) {
+    Run([&] { update_ = std::make_unique<SQLite::Statement>(*database_, kUpdate); });
+}
+
+WorkCopy::~WorkCopy() = default;
 
 void WorkCopy::ReadRows(const std::function<void(const Row&)>& visit) {
     Row row;
-    VisitRows(database_, "Project", "Name, Dim1, Dim2, RValue, SValue", "Name, Dim1, Dim2",
+    VisitRows(*database_, "Project", "Name, Dim1, Dim2, RValue, SValue", "Name, Dim1, Dim2",
               [&](const RowView& columns) {
                   row.name = columns.Letters(0);
                   row.dim1 = Subscript(columns, 1);
@@ -86,32 +90,34 @@ void WorkCopy::ReadRows(const std::function<void(const Row&)>& visit) {
 
 void WorkCopy::Update(std::string_view name, int dim1, int dim2, const CellValue& value) {
     Run([&] {
-        update_.reset();
-        update_.clearBindings();
-        if (value.number) update_.bind(1, *value.number);
-        if (value.text) update_.bind(2, *value.text);
-        update_.bind(3, std::string(name));
-        update_.bind(4, dim1);
-        update_.bind(5, dim2);
-        const int rows = update_.exec();
-        update_.reset();
+        update_->tryReset();  // what failed before is no failure of this change
+        update_->clearBindings();
+        if (value.number) update_->bind(1, *value.number);
+        if (value.text) update_->bind(2, *value.text);
+        update_->bind(3, std::string(name));
+        update_->bind(4, dim1);
+        update_->bind(5, dim2);
+        const int rows = update_->exec();
+        update_->reset();
         if (rows != 1) throw DatabaseError("the row of " + std::string(name) + " is missing", false);
     });
 }
 
 void WorkCopy::Begin() {
-    Run([&] { database_.exec("BEGIN IMMEDIATE"); });
+    Run([&] { database_->exec("BEGIN IMMEDIATE"); });
 }
 
 void WorkCopy::Commit() {
-    Run([&] { database_.exec("COMMIT"); });
+    Run([&] { database_->exec("COMMIT"); });
 }
 
-void WorkCopy::Rollback() noexcept {
+bool WorkCopy::Rollback() noexcept {
     try {
-        update_.reset();
-        database_.exec("ROLLBACK");
-    } catch (const SQLite::Exception&) {  // NOLINT(bugprone-empty-catch): no transaction was left open
+        update_->tryReset();
+        database_->exec("ROLLBACK");
+        return true;
+    } catch (const SQLite::Exception&) {
+        return false;
     }
 }
 

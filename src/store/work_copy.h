@@ -1,32 +1,18 @@
 #pragma once
 
-#include <SQLiteCpp/SQLiteCpp.h>
-
 #include <functional>
-#include <optional>
-#include <string>
+#include <memory>
 #include <string_view>
 
 #include "platform/file_system.h"
+#include "store/cell.h"
+
+namespace SQLite {
+class Database;
+class Statement;
+}  // namespace SQLite
 
 namespace kelvor {
-
-/// The two values of a cell. A number is in English units; a text is what was typed, or the value of
-/// a text variable. Both empty: the cell is not filled.
-struct CellValue {
-    std::optional<double> number;
-    std::optional<std::string> text;
-
-    [[nodiscard]] bool IsFilled() const { return number.has_value() || text.has_value(); }
-    friend bool operator==(const CellValue&, const CellValue&) = default;
-};
-
-/// Where a cell stands: its variable's name and its two subscripts, from 1.
-struct CellKey {
-    std::string name;
-    int dim1 = 1;
-    int dim2 = 1;
-};
 
 /// The statement that makes the one table of a project file. Its primary key is the name, without regard to
 /// case, then the subscripts.
@@ -40,6 +26,9 @@ class WorkCopy {
     /// Opens the database and checks that it is a project. `checkPages` also reads every page for
     /// damage, as is due for a file from outside.
     WorkCopy(const Path& path, bool checkPages);
+    WorkCopy(const WorkCopy&) = delete;
+    WorkCopy& operator=(const WorkCopy&) = delete;
+    ~WorkCopy();
 
     /// A row, while it is visited.
     struct Row {
@@ -56,11 +45,13 @@ class WorkCopy {
 
     void Begin();
     void Commit();
-    void Rollback() noexcept;
+
+    /// False if no transaction was open.
+    bool Rollback() noexcept;
 
   private:
-    SQLite::Database database_;
-    SQLite::Statement update_;
+    std::unique_ptr<SQLite::Database> database_;
+    std::unique_ptr<SQLite::Statement> update_;
 };
 
 }  // namespace kelvor

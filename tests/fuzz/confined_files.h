@@ -1,8 +1,10 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "platform/file_system.h"
 
@@ -29,9 +31,18 @@ class ConfinedFiles : public NativeFileSystem {
         Check(path);
         NativeFileSystem::Write(path, content);
     }
-    void WritePrivate(const Path& path, std::string_view content) override {
+    [[nodiscard]] std::unique_ptr<FileHold> WriteNew(const Path& path, std::string_view content,
+                                                     FileAccess access) override {
         Check(path);
-        NativeFileSystem::WritePrivate(path, content);
+        return NativeFileSystem::WriteNew(path, content, access);
+    }
+    [[nodiscard]] std::vector<std::string> Names(const Path& folder) const override {
+        Check(folder / "file");
+        return NativeFileSystem::Names(folder);
+    }
+    void RemoveUnheld(const Path& path) override {
+        Check(path);
+        NativeFileSystem::RemoveUnheld(path);
     }
     void Flush(const Path& path) override { Check(path); }
     void Rename(const Path& from, const Path& to) override {

@@ -27,7 +27,13 @@ class MemoryFiles : public FileSystem {
         return Content(path).substr(0, count);
     }
     void Write(const Path& path, std::string_view content) override { files_[path] = content; }
-    void WritePrivate(const Path& path, std::string_view content) override { Write(path, content); }
+    [[nodiscard]] std::unique_ptr<FileHold> WriteNew(const Path& path, std::string_view content,
+                                                     FileAccess /*access*/) override {
+        Write(path, content);
+        return std::make_unique<FileHold>();
+    }
+    [[nodiscard]] std::vector<std::string> Names(const Path& /*folder*/) const override { return {}; }
+    void RemoveUnheld(const Path& path) override { Remove(path); }
     void Flush(const Path& /*path*/) override {}
     void Rename(const Path& from, const Path& to) override {
         files_[to] = files_.at(from);

@@ -1,11 +1,13 @@
 #include "support/file_system_doubles.h"
 
 #include <csignal>
+#include <new>
 
 namespace kelvor::test {
 
 void FaultyFileSystem::Fail() const {
     if (plan_.kill) std::raise(SIGKILL);
+    if (plan_.outOfMemory) throw std::bad_alloc();
     throw FileError(kReason);
 }
 
@@ -31,12 +33,14 @@ void FaultyFileSystem::Write(const Path& path, std::string_view content) {
     inner_.Write(path, content);
 }
 
-void FaultyFileSystem::WritePrivate(const Path& path, std::string_view content) {
+std::unique_ptr<FileHold> FaultyFileSystem::WriteNew(const Path& path, std::string_view content,
+                                                     FileAccess access) {
     if (GoesWrong()) {
-        if (plan_.bytes > 0) inner_.WritePrivate(path, content.substr(0, plan_.bytes));
+        std::unique_ptr<FileHold> half;
+        if (plan_.bytes > 0) half = inner_.WriteNew(path, content.substr(0, plan_.bytes), access);
         Fail();
     }
-    inner_.WritePrivate(path, content);
+    return inner_.WriteNew(path, content, access);
 }
 
 void FaultyFileSystem::Flush(const Path& path) {

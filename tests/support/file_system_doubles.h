@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/file_system.h"
 
@@ -21,6 +23,9 @@ class FaultyFileSystem : public FileSystem {
 
         /// The process ends there, by SIGKILL, instead of getting a FileError. For death tests.
         bool kill = false;
+
+        /// There is no memory for it: std::bad_alloc instead of a FileError.
+        bool outOfMemory = false;
     };
 
     /// What a FileError of this file system says.
@@ -28,15 +33,20 @@ class FaultyFileSystem : public FileSystem {
 
     FaultyFileSystem(FileSystem& inner, Plan plan) : inner_(inner), plan_(plan) {}
 
-    /// How many operations were asked for so far. Kind, IsWritable and Resolve do not count and never go
-    /// wrong.
+    /// How many operations were asked for so far. Kind, IsWritable, Resolve, Names and RemoveUnheld do
+    /// not count and never go wrong.
     [[nodiscard]] int operations() const { return operations_; }
 
     [[nodiscard]] FileKind Kind(const Path& path) const override { return inner_.Kind(path); }
     [[nodiscard]] std::string Read(const Path& path, std::size_t limit) const override;
     [[nodiscard]] std::string ReadStart(const Path& path, std::size_t count) const override;
     void Write(const Path& path, std::string_view content) override;
-    void WritePrivate(const Path& path, std::string_view content) override;
+    [[nodiscard]] std::unique_ptr<FileHold> WriteNew(const Path& path, std::string_view content,
+                                                     FileAccess access) override;
+    [[nodiscard]] std::vector<std::string> Names(const Path& folder) const override {
+        return inner_.Names(folder);
+    }
+    void RemoveUnheld(const Path& path) override { inner_.RemoveUnheld(path); }
     void Flush(const Path& path) override;
     void Rename(const Path& from, const Path& to) override;
     void Remove(const Path& path) override;

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "forms/chart.h"
-#include "store/work_copy.h"
+#include "store/cell.h"
 
 namespace kelvor {
 

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "forms/form_events.h"
+#include "platform/database_error.h"
 #include "platform/number_text.h"
-#include "platform/sqlite.h"
 #include "shell/hub/offer.h"
 #include "shell/hub/tabs.h"
 

@@ -8,6 +8,7 @@
 
 #include "catalogue/list_database.h"
 #include "catalogue_checks.h"
+#include "platform/database_error.h"
 #include "shell/calculations.h"
 #include "support/test_home.h"
 

@@ -50,6 +50,24 @@ class FormsTest : public testing::Test {
         std::make_unique<ScreenContext>(program_.program.state().MakeScreenContext());
 };
 
+TEST_F(FormsTest, AnArrowKeyInAGroupWithoutAnOptionThatTakesTheFocusDoesNothing) {
+    ASSERT_TRUE(Raise(Kind::SwitchTab, {}, {}, 2));
+    Form& hub = *program_.program.state().formRegistry.CurrentForm;
+    for (const auto& control : hub.controls()) {
+        if (control->kind != ControlKind::OptionButton) continue;
+        if (hub.CanFocus(*control)) hub.focus = control.get();
+        control->enabled = false;
+    }
+    ASSERT_NE(hub.focus, nullptr);
+    ASSERT_EQ(hub.focus->kind, ControlKind::OptionButton);
+    const Control* focus = hub.focus;
+    EXPECT_TRUE(Raise(Kind::Key, "Down"));
+    EXPECT_TRUE(Raise(Kind::Key, "Left"));
+    EXPECT_EQ(hub.focus, focus);
+    EXPECT_FALSE(focus->value);
+    EXPECT_THAT(Messages(), IsEmpty());
+}
+
 TEST_F(FormsTest, EveryFieldOfEveryFormIsBoundToTheCatalogue) {
     const Catalogue& catalogue = *program_.program.state().dbCatalogue;
     for (const std::string& name : program_.program.state().formRegistry.TypeNames()) {

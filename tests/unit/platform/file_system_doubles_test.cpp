@@ -22,7 +22,9 @@ class FaultyFileSystemTest : public testing::Test {
             [this](FileSystem& files) { (void)files.Read(file_, 100); },
             [this](FileSystem& files) { (void)files.ReadStart(file_, 2); },
             [this](FileSystem& files) { files.Write(folder_ / "written", "content"); },
-            [this](FileSystem& files) { files.WritePrivate(folder_ / "private", "content"); },
+            [this](FileSystem& files) {
+                (void)files.WriteNew(folder_ / "private", "content", FileAccess::Private);
+            },
             [this](FileSystem& files) { files.Flush(file_); },
             [this](FileSystem& files) { files.MakeDirectory(folder_ / "made"); },
             [this](FileSystem& files) { files.CopyPermissions(file_, file_); },
@@ -50,9 +52,11 @@ TEST_F(FaultyFileSystemTest, WithoutAPlanEverythingWorksAndCounts) {
 }
 
 TEST_F(FaultyFileSystemTest, LookingDoesNotCountAndNeverFails) {
-    const FaultyFileSystem files(native_, {.operation = 0});
+    FaultyFileSystem files(native_, {.operation = 0});
     EXPECT_EQ(files.Kind(file_), FileKind::Regular);
     EXPECT_EQ(files.Resolve(file_), native_.Resolve(file_));
+    files.RemoveUnheld(folder_ / files.Names(folder_.path()).front());
+    EXPECT_FALSE(std::filesystem::exists(file_));
     EXPECT_EQ(files.operations(), 0);
 }
 
@@ -86,8 +90,8 @@ TEST_F(FaultyFileSystemTest, AFullDiskTakesTheFirstBytes) {
     EXPECT_THROW(all.Write(file_, "content"), FileError);
     EXPECT_EQ(ReadFile(file_), "content");
     FaultyFileSystem secret(native_, {.operation = 0, .bytes = 3});
-    EXPECT_THROW(secret.WritePrivate(file_, "secret"), FileError);
-    EXPECT_EQ(ReadFile(file_), "sec");
+    EXPECT_THROW((void)secret.WriteNew(folder_ / "secret", "secret", FileAccess::Private), FileError);
+    EXPECT_EQ(ReadFile(folder_ / "secret"), "sec");
 }
 
 using FaultyFileSystemDeathTest = FaultyFileSystemTest;

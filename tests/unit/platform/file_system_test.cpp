@@ -1,5 +1,6 @@
 #include "platform/file_system.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -13,6 +14,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/replace_file.h"
+#include "support/child_process.h"
 #include "support/file_system_doubles.h"
 #include "support/test_home.h"
 
@@ -134,21 +137,61 @@ class OpenUmask {
     mode_t former_;
 };
 
-TEST_F(FileSystemTest, APrivateFileIsOpenToItsOwnerAloneWhateverStoodThere) {
+TEST_F(FileSystemTest, ANewFileIsOpenToItsOwnerAloneOrToWhomTheUserLets) {
     const OpenUmask open;
-    const Path target = folder_ / "private";
-    files_.WritePrivate(target, "abc");
-    EXPECT_EQ(ReadFile(target), "abc");
-    EXPECT_EQ(std::filesystem::status(target).permissions(), perms(0600));
-    std::filesystem::permissions(target, perms(0666));
-    files_.WritePrivate(target, "x");
-    EXPECT_EQ(ReadFile(target), "x");
-    EXPECT_EQ(std::filesystem::status(target).permissions(), perms(0600));
-    files_.WritePrivate(folder_ / "link", "in the place of the link");
-    EXPECT_FALSE(std::filesystem::is_symlink(folder_ / "link"));
-    EXPECT_EQ(ReadFile(file_), "content");
-    EXPECT_EQ(Failure([&] { files_.WritePrivate(folder_ / "none" / "file", "x"); }), Reason(ENOENT));
-    EXPECT_NE(Failure([&] { files_.WritePrivate(folder_.path(), "x"); }), "");
+    const auto usual = files_.WriteNew(folder_ / "usual", "abc", FileAccess::Usual);
+    EXPECT_EQ(ReadFile(folder_ / "usual"), "abc");
+    EXPECT_EQ(std::filesystem::status(folder_ / "usual").permissions(), perms(0666));
+    const auto secret = files_.WriteNew(folder_ / "private", "x", FileAccess::Private);
+    EXPECT_EQ(ReadFile(folder_ / "private"), "x");
+    EXPECT_EQ(std::filesystem::status(folder_ / "private").permissions(), perms(0600));
+    EXPECT_EQ(Failure([&] { (void)files_.WriteNew(folder_ / "none" / "file", "x", FileAccess::Usual); }),
+              Reason(ENOENT));
+}
+
+TEST_F(FileSystemTest, ANewFileTakesNobodysPlaceAndFollowsNoLink) {
+    std::filesystem::remove(folder_ / "circle");  // no checksum can be made of it
+    const std::string before = Checksum(folder_.path());
+    for (const char* name : {"file", "link", "dangling", "folder", "pipe"}) {
+        for (const FileAccess access : {FileAccess::Usual, FileAccess::Private}) {
+            EXPECT_EQ(Failure([&] { (void)files_.WriteNew(folder_ / name, "x", access); }), Reason(EEXIST))
+                << name;
+        }
+    }
+    EXPECT_EQ(Checksum(folder_.path()), before);
+}
+
+TEST_F(FileSystemTest, OnlyAPlainFileThatNobodyHoldsIsRemovedAsUnheld) {
+    const Path target = folder_ / "held";
+    auto hold = files_.WriteNew(target, "abc", FileAccess::Private);
+    files_.RemoveUnheld(target);
+    EXPECT_TRUE(std::filesystem::exists(target));
+    EXPECT_EQ(RunInChild([&]() -> std::string {
+                  files_.RemoveUnheld(target);
+                  return std::filesystem::exists(target) ? "there" : "gone";
+              }).report,
+              "there");
+    hold.reset();
+    std::filesystem::create_hard_link(target, folder_ / "second name");
+    files_.RemoveUnheld(target);
+    EXPECT_TRUE(std::filesystem::exists(target));
+    std::filesystem::remove(folder_ / "second name");
+    files_.RemoveUnheld(target);
+    EXPECT_FALSE(std::filesystem::exists(target));
+
+    std::filesystem::remove(folder_ / "circle");  // no checksum can be made of it
+    const std::string before = Checksum(folder_.path());
+    for (const char* name : {"link", "dangling", "folder", "none"}) {
+        EXPECT_NE(Failure([&] { files_.RemoveUnheld(folder_ / name); }), "") << name;
+    }
+    files_.RemoveUnheld(folder_ / "pipe");
+    EXPECT_EQ(Checksum(folder_.path()), before);
+}
+
+TEST_F(FileSystemTest, TheNamesOfAFolderAreThoseOfAllThatStandsInIt) {
+    EXPECT_THAT(files_.Names(folder_ / "folder"), testing::IsEmpty());
+    EXPECT_THAT(files_.Names(folder_.path()), testing::IsSupersetOf({"file", "folder", "link", "pipe"}));
+    EXPECT_EQ(Failure([&] { (void)files_.Names(folder_ / "none"); }), Reason(ENOENT));
 }
 
 TEST_F(FileSystemTest, WhatCannotBeWrittenHasAReason) {
@@ -398,16 +441,64 @@ using ReplaceFileDeathTest = ReplaceFileTest;
 
 TEST_F(ReplaceFileDeathTest, AKillAtAnyMomentLeavesTheOldFileOrTheNewOneWhole) {
     WriteFile(target_, old_);
+    const auto names = Names();
     const int operations = OperationsFor(target_);
     for (int operation = 0; operation < operations; ++operation) {
         WriteFile(target_, old_);
         FaultyFileSystem killing(files_, {.operation = operation, .bytes = 5, .kill = true});
         EXPECT_EXIT(ReplaceFile(killing, target_, new_), testing::KilledBySignal(SIGKILL), "");
         EXPECT_EQ(ReadFile(target_), operation == operations - 1 ? new_ : old_) << operation;
-        // What the killed process left behind is in nobody's way.
+        // What the killed process left behind goes with the next replacement.
         ReplaceFile(files_, target_, new_);
         EXPECT_EQ(ReadFile(target_), new_) << operation;
+        EXPECT_EQ(Names(), names) << operation;
     }
+}
+
+TEST_F(ReplaceFileDeathTest, OnlyWhatIsSurelyALeftoverOfThisVeryFileIsRemoved) {
+    WriteFile(target_, old_);
+    FaultyFileSystem killing(files_, {.operation = 0, .bytes = 5, .kill = true});
+    EXPECT_EXIT(ReplaceFile(killing, target_, new_), testing::KilledBySignal(SIGKILL), "");
+    EXPECT_EXIT(ReplaceFile(killing, folder_ / "target.old", new_), testing::KilledBySignal(SIGKILL), "");
+    const auto isOfOther = [](const std::string& name) { return name.starts_with(".target.old."); };
+    const auto left = Names();
+    ASSERT_EQ(std::count_if(left.begin(), left.end(), isOfOther), 1);
+    for (const char* name : {".target.new", ".target.0123456789abcde.new", ".target.0123456789ABCDEF.new",
+                             ".target.0123456789abcdef.newer", "target.0123456789abcdef.new"}) {
+        WriteFile(folder_ / name, "the user's");
+    }
+    const auto hold = files_.WriteNew(folder_ / ".target.0123456789abcdef.new", new_, FileAccess::Private);
+    auto expected = Names();
+    std::erase_if(expected, [&](const std::string& name) {
+        const bool isOurs =
+            name.starts_with(".target.") && name.size() == std::string(".target.").size() + 20;
+        return isOurs && !isOfOther(name) && name.find("0123456789") == std::string::npos;
+    });
+    RemoveLeftovers(files_, target_);
+    EXPECT_EQ(Names(), expected);
+    EXPECT_EQ(expected.size() + 1, left.size() + 6);
+    RemoveLeftovers(files_, folder_ / "none" / "file");  // a failure is nobody's concern
+    RemoveLeftovers(files_, "");
+}
+
+TEST_F(ReplaceFileDeathTest, AReplacementInAnotherProcessIsLeftAlone) {
+    WriteFile(target_, old_);
+    /// Clears up just before the file gets its place, as another process might.
+    class Meddling : public NativeFileSystem {
+      public:
+        void Rename(const Path& from, const Path& to) override {
+            EXPECT_EQ(RunInChild([&]() -> std::string {
+                          NativeFileSystem files;
+                          RemoveLeftovers(files, to);
+                          return "cleared up";
+                      }).report,
+                      "cleared up");
+            NativeFileSystem::Rename(from, to);
+        }
+    };
+    Meddling files;
+    ReplaceFile(files, target_, new_);
+    EXPECT_EQ(ReadFile(target_), new_);
 }
 
 TEST_F(ReplaceFileDeathTest, WhatAPrivateFileGetsIsAtNoMomentOpenToOthers) {

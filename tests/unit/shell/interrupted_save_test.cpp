@@ -144,6 +144,18 @@ class InterruptedSaveTest : public testing::Test {
         EXPECT_THAT(names, ElementsAre("plan.kvr")) << "a half-made file was left behind";
     }
 
+    /// Opening the project has cleared up; beside another name the next save under it does.
+    void ExpectNothingIsLeft(const Save& save) {
+        if (!save.replaces) {
+            TestHost host;
+            Program program(host.host(), home_.home());
+            EXPECT_EQ(program.Start(""), StartResult::Running);
+            EXPECT_TRUE(program.SaveAs(Other()));
+            std::filesystem::remove(Other());
+        }
+        EXPECT_THAT(NamesIn(folder_.path()), ElementsAre("plan.kvr"));
+    }
+
     void ExpectOpens(const std::string& path, double value) {
         TestHost host;
         Program program(host.host(), home_.home());
@@ -213,6 +225,7 @@ TEST_F(InterruptedSaveTest, AKillAtAnyMomentLeavesTheOldOrTheNewFileWhole) {
         });
         ASSERT_EQ(end.signal, SIGKILL) << end.report;
         ++(ExpectOldOrNew(save) ? alreadyNew : stillOld);
+        ExpectNothingIsLeft(save);
     }
     EXPECT_GT(stillOld, 0);
     EXPECT_GT(alreadyNew, 0) << "no moment lay behind the replacement";

@@ -152,6 +152,32 @@ TEST_F(ProjectStoreTest, WhatAnEventWroteIsThereAfterReopening) {
     EXPECT_EQ(store.FindCell("Agency", 1, 1)->text, "O'Brien \"& Sons\" \xC3\xA4");
 }
 
+TEST_F(ProjectStoreTest, WhatAnUndoneEventWroteIsGoneFromMemoryAndWorkCopy) {
+    store_.SetCell("SN", 1, 1, {5.0, "5.0"});
+    store_.BeginEvent();
+    store_.SetVar("SN", 6.0);
+    store_.SetCell("SN", 1, 1, {7.0, "7"});
+    store_.SetVarText("Agency", "County");
+    store_.UndoEvent();
+    EXPECT_EQ(*store_.FindCell("SN", 1, 1), (CellValue{5.0, "5.0"}));
+    EXPECT_FALSE(store_.FindCell("Agency", 1, 1)->IsFilled());
+    EXPECT_TRUE(store_.CompareWithWorkCopy().empty());
+    store_.UndoEvent();  // no event is open
+    store_.SetVar("SN", 8.0);
+    store_.UndoEvent();
+    EXPECT_EQ(store_.GetVar("SN"), 8.0) << "a write outside an event stays";
+    EXPECT_TRUE(store_.CompareWithWorkCopy().empty());
+}
+
+TEST_F(ProjectStoreTest, AnEndedEventIsNotUndoneByTheNextOne) {
+    store_.BeginEvent();
+    store_.SetVar("SN", 6.0);
+    store_.EndEvent();
+    store_.BeginEvent();
+    store_.UndoEvent();
+    EXPECT_EQ(store_.GetVar("SN"), 6.0);
+}
+
 TEST_F(ProjectStoreTest, ClosingLeavesNoFileBesideTheWorkCopy) {
     TestHome other;
     std::filesystem::copy_file(other / "kvrwork.tpl", other / "kvrwork.tmp");

@@ -1,0 +1,47 @@
+#include "shell/event_scope.h"
+
+#include <utility>
+
+namespace kelvor {
+
+EventScope::EventScope(ProcessState& state, bool& running)
+    : state_(state),
+      running_(running),
+      openings_(state.dbWork.openings()),
+      open_(state.dbWork.IsOpen()),
+      forms_(state.formRegistry.TakeImage()),
+      marks_(TakeMarks()) {
+    running_ = true;
+    state_.dbWork.BeginEvent();
+}
+
+EventScope::~EventScope() {
+    state_.dbWork.EndEvent();
+    state_.formRegistry.DestroyRemoved();
+    running_ = false;
+}
+
+EventScope::Marks EventScope::TakeMarks() const {
+    return {state_.balance, state_.bProjectChanged, state_.units && state_.units->bMetric(),
+            state_.reliability, state_.formValues};
+}
+
+bool EventScope::HasSameProject() const {
+    return state_.dbWork.openings() == openings_ && state_.dbWork.IsOpen() == open_;
+}
+
+void EventScope::Undo() {
+    state_.dbWork.UndoEvent();
+    if (!HasSameProject()) {
+        state_.formRegistry.RemoveOpenedSince(forms_);
+        return;
+    }
+    state_.formRegistry.BecomeAgain(std::move(forms_));
+    state_.balance = marks_.balance;
+    state_.bProjectChanged = marks_.projectChanged;
+    if (state_.units) state_.units->SetMetric(marks_.metric);
+    state_.reliability = marks_.reliability;
+    state_.formValues = marks_.formValues;
+}
+
+}  // namespace kelvor
