@@ -448,9 +448,11 @@ std::vector<GridCellReport> WindowDriver::GridCells() {
     const QAbstractItemModel& shown = *FindGridView().model();
     for (int row = 0; row < shown.rowCount(); ++row) {
         for (int column = 0; column < shown.columnCount(); ++column) {
-            const std::string text = FromQt(shown.data(shown.index(row, column)).toString());
+            const QModelIndex cell = shown.index(row, column);
+            const std::string text = FromQt(cell.data().toString());
             const std::string variable = FindGrid().columns[static_cast<std::size_t>(column)].variable;
-            if (!text.empty()) cells.push_back({row + 1, variable, text});
+            const std::string note = FromQt(cell.data(Qt::AccessibleDescriptionRole).toString());
+            if (!text.empty()) cells.push_back({row + 1, variable, text, note});
         }
     }
     return cells;
