@@ -264,7 +264,18 @@ std::optional<CellRange> GridView::MarkedCells() const {
 
 void GridView::EndEdit() {
     if (editor_ != nullptr) closeEditor(editor_, QAbstractItemDelegate::NoHint);
+}
+
+/// A line that closes loses the focus, and its delegate asks a second time.
+void GridView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+    if (editor == nullptr || editor != editor_) return;
     editor_.clear();
+    QTableView::closeEditor(editor, hint);
+}
+
+void GridView::reset() {
+    editor_.clear();  // the toolkit lets go of it
+    QTableView::reset();
 }
 
 // --- Keys and clicks ---------------------------------------------------------------------------------

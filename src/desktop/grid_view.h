@@ -81,10 +81,14 @@ class GridView : public QTableView {
     /// The block of cells that is marked; nothing unless it is more than one.
     [[nodiscard]] std::optional<CellRange> MarkedCells() const;
 
+    /// All cells are others than before.
+    void reset() override;
+
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 
   private:
     class Delegate;

@@ -262,10 +262,11 @@ FormType RuledForm() {
     FormType type;
     type.name = "Ruled";
     type.tag = "LayDet";
-    type.layout = Grid("Grid",
-                       {{.variable = "LDLayerCoef"},
-                        {.variable = "LDLayerThick", .routines = {.read = ReadTenths, .write = WriteTenths}}},
-                       0, {.mayDelete = MayDelete, .mayEdit = MayEdit, .note = NoteOf});
+    const FieldItem tenths = {.variable = "LDLayerThick",
+                              .routines = {.read = ReadTenths, .write = WriteTenths}};
+    type.layout = Rows({Grid("Grid", {{.variable = "LDLayerCoef"}, tenths}, 0,
+                             {.mayDelete = MayDelete, .mayEdit = MayEdit, .note = NoteOf}),
+                        Buttons({{"cmdAction", "&OK"}})});
     type.handlers = Listening();
     return type;
 }
@@ -309,7 +310,7 @@ TEST_F(RuledGridTest, ACellThatIsReadOnlyInItsRowTakesNothing) {
     EXPECT_EQ(Number("LDLayerCoef", 2), std::nullopt);
     program_.program.Raise({Kind::MoveToCell, "LDLayerThick", {}, 1});
     program_.program.Raise({Kind::Key, "BackTab"});
-    EXPECT_NE(form_->focus, form_->FindGrid()) << "Tab goes from one cell that takes a value to the next";
+    EXPECT_EQ(form_->focus->name, "cmdAction") << "Tab goes from one cell that takes a value to the next";
 }
 
 TEST_F(RuledGridTest, ARowThatMayNotGoStaysAndIsNotAskedFor) {
