@@ -26,6 +26,8 @@ endif()
 if(KELVOR_SANITIZE)
   target_compile_options(
     kelvor_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
-                             -fno-omit-frame-pointer)
+                             -fno-omit-frame-pointer
+                             # What the sanitizers put in looks to GCC like a use before a value is there.
+                             -Wno-maybe-uninitialized)
   target_link_options(kelvor_options INTERFACE -fsanitize=address,undefined)
 endif()

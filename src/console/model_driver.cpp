@@ -202,7 +202,8 @@ std::vector<GridCellReport> ModelDriver::GridCells() {
     for (int row = 1; row <= grid.rows; ++row) {
         for (const GridColumn& column : grid.columns) {
             const std::string text = program_.CellText(CurrentForm(), row, column);
-            if (!text.empty()) cells.push_back({row, column.variable, text});
+            if (text.empty()) continue;
+            cells.push_back({row, column.variable, text, program_.CellNote(CurrentForm(), row, column)});
         }
     }
     return cells;

@@ -1,12 +1,12 @@
 #include "desktop/chart_view.h"
 
+#include <QAbstractBarSeries>
 #include <QChart>
 #include <QChartView>
-#include <QLineSeries>
-#include <QValueAxis>
+#include <QPainter>
 
+#include "desktop/chart_drawing.h"
 #include "desktop/qt_text.h"
-#include "platform/number_text.h"
 
 namespace kelvor {
 
@@ -14,43 +14,31 @@ namespace {
 
 constexpr int kChartLetters = 90;
 constexpr int kChartLines = 22;
-constexpr qreal kLineWidth = 2.0;
+constexpr qreal kDarkest = 0.5;  // of a layer whose label is black
 
-QValueAxis* MakeAxis(const ChartAxis& axis) {
-    auto* made = new QValueAxis;
-    made->setTitleText(ToQt(axis.title).replace(u' ', QChar::Nbsp));  // which a rich text keeps
-    QFont font = made->titleFont();
-    font.setBold(false);
-    made->setTitleFont(font);
-    made->setRange(axis.least, axis.greatest);
-    made->setTickType(QValueAxis::TicksDynamic);
-    made->setTickAnchor(axis.least);
-    made->setTickInterval(axis.step);
-    const std::size_t point = axis.picture.find('.');
-    const std::size_t places = point == std::string::npos ? 0 : axis.picture.size() - point - 1;
-    made->setLabelFormat(QStringLiteral("%.%1f").arg(places));
-    return made;
-}
-
-QLineSeries* MakeLine(const ChartData& data, std::size_t place) {
-    auto* line = new QLineSeries;
-    line->setName(ToQt(data.series[place].name));
-    line->setPen(QPen(QColor(ToQt(data.series[place].colour)), kLineWidth));
-    for (const ChartRow& row : data.rows) {
-        if (row.cells[place]) line->append(ParseNumber(row.label), *row.cells[place]);
-    }
-    return line;
-}
-
-/// The colours of the window, also after they have changed.
-class ThemedChartView : public QChartView {
+/// A chart in the colours of the window, also after they have changed.
+class ChartView : public QChartView {
   public:
-    ThemedChartView(QChart* chart, QWidget* parent) : QChartView(chart, parent) { ApplyPalette(); }
+    ChartView(const ChartData& sheet, QWidget* parent) : QChartView(new QChart, parent) { Show(sheet); }
+
+    void Show(const ChartData& sheet) {
+        shown_ = sheet;
+        DrawChart(sheet, *chart());
+        ApplyPalette();
+        setAccessibleName(ToQt(sheet.title));
+    }
+
+    [[nodiscard]] const ChartData& shown() const { return shown_; }
 
   protected:
     void changeEvent(QEvent* event) override {
         if (event->type() == QEvent::PaletteChange) ApplyPalette();
         QChartView::changeEvent(event);
+    }
+
+    void drawForeground(QPainter* painter, const QRectF& rect) override {
+        QChartView::drawForeground(painter, rect);
+        if (shown_.kind == ChartKind::StackedBars) DrawLayerLabels(*painter);
     }
 
   private:
@@ -60,6 +48,7 @@ class ThemedChartView : public QChartView {
         lines.setAlphaF(0.25F);
         chart()->setBackgroundBrush(palette().color(QPalette::Base));
         chart()->setTitleBrush(text);
+        chart()->legend()->setLabelColor(text);
         for (QAbstractAxis* axis : chart()->axes()) {
             axis->setLabelsBrush(text);
             axis->setTitleBrush(text);
@@ -67,46 +56,69 @@ class ThemedChartView : public QChartView {
             axis->setGridLineColor(lines);
         }
     }
+
+    /// A label stands in the middle of its layer, or beside one that is too thin for it.
+    void DrawLayerLabels(QPainter& painter) {
+        std::vector<double> tops;
+        for (std::size_t layer = 0; layer < shown_.rows.size(); ++layer) {
+            const ChartRow& row = shown_.rows[layer];
+            tops.resize(std::max(tops.size(), row.cells.size()));
+            for (std::size_t bar = 0; bar < row.cells.size(); ++bar) {
+                const double base = tops[bar];
+                tops[bar] += row.cells[bar].value_or(0.0);
+                if (tops[bar] > base) DrawLabel(painter, layer, PlaceOf(bar, base, tops[bar]));
+            }
+        }
+    }
+
+    [[nodiscard]] QRectF PlaceOf(std::size_t bar, double base, double top) const {
+        auto* bars = qobject_cast<QAbstractBarSeries*>(chart()->series().value(0));
+        if (bars == nullptr) return {};
+        const double middle = static_cast<double>(bar);
+        const double half = bars->barWidth() / 2.0;
+        const QPointF upper = chart()->mapToPosition({middle - half, top}, bars);
+        const QPointF lower = chart()->mapToPosition({middle + half, base}, bars);
+        return chart()->mapRectToScene(QRectF(upper, lower));
+    }
+
+    void DrawLabel(QPainter& painter, std::size_t layer, const QRectF& place) const {
+        const QString label = ToQt(shown_.rows[layer].label);
+        const QRectF size = painter.boundingRect(QRectF(), Qt::AlignCenter, label);
+        if (size.height() <= place.height()) {
+            const QColor colour =
+                layer < shown_.series.size() ? QColor(ToQt(shown_.series[layer].colour)) : QColor(Qt::white);
+            painter.setPen(colour.lightnessF() > kDarkest ? Qt::black : Qt::white);
+            painter.drawText(place, Qt::AlignCenter, label);
+        } else {
+            painter.setPen(palette().color(QPalette::WindowText));
+            const QPointF start(place.right() + fontMetrics().averageCharWidth(),
+                                place.center().y() - size.height() / 2.0);
+            painter.drawText(QRectF(start, size.size()), Qt::AlignLeft, label);
+        }
+    }
+
+    ChartData shown_;
 };
 
 }  // namespace
 
 QWidget* MakeChart(const Control& control, QWidget* parent) {
-    const ChartData& data = *control.chart;
-    auto* chart = new QChart;
-    chart->setTitle(ToQt(data.title));
-    chart->legend()->setVisible(data.series.size() > 1);
-    chart->addAxis(MakeAxis(data.across), Qt::AlignBottom);
-    chart->addAxis(MakeAxis(data.up), Qt::AlignLeft);
-    for (std::size_t i = 0; i < data.series.size(); ++i) {
-        QLineSeries* line = MakeLine(data, i);
-        chart->addSeries(line);
-        for (QAbstractAxis* axis : chart->axes()) line->attachAxis(axis);
-    }
-    auto* view = new ThemedChartView(chart, parent);
+    auto* view = new ChartView(*control.chart, parent);
     view->setRenderHint(QPainter::Antialiasing);
     view->setFocusPolicy(Qt::NoFocus);
-    view->setAccessibleName(ToQt(data.title));
     view->setMinimumSize(view->fontMetrics().averageCharWidth() * kChartLetters,
                          view->fontMetrics().lineSpacing() * kChartLines);
     return view;
 }
 
-ChartData DrawnChart(const QWidget& chart) {
-    ChartData data;
-    const QChart& drawn = *dynamic_cast<const QChartView&>(chart).chart();
-    data.title = FromQt(drawn.title());
-    for (const QAbstractSeries* series : drawn.series()) {
-        const auto& line = dynamic_cast<const QLineSeries&>(*series);
-        data.series.push_back({FromQt(line.name()), FromQt(line.pen().color().name().toUpper())});
-        data.rows.resize(static_cast<std::size_t>(line.count()));
-        for (int i = 0; i < line.count(); ++i) {
-            ChartRow& row = data.rows[static_cast<std::size_t>(i)];
-            row.label = NumberToText(line.at(i).x());
-            row.cells.emplace_back(line.at(i).y());
-        }
-    }
-    return data;
+void MirrorChart(const Control& control, QWidget& widget) {
+    auto& view = dynamic_cast<ChartView&>(widget);
+    if (view.shown() != *control.chart) view.Show(*control.chart);
+}
+
+ChartData DrawnChart(const QWidget& widget) {
+    const auto& view = dynamic_cast<const ChartView&>(widget);
+    return ReadChart(view.shown(), *view.chart());
 }
 
 }  // namespace kelvor

@@ -6,10 +6,13 @@
 
 namespace kelvor {
 
-/// Draws the chart of a control.
+/// Makes the widget that draws the chart of a control.
 QWidget* MakeChart(const Control& control, QWidget* parent);
 
-/// The data sheet of a chart as it is drawn.
-ChartData DrawnChart(const QWidget& chart);
+/// Draws what the control's chart holds now; what is the same is not touched.
+void MirrorChart(const Control& control, QWidget& widget);
+
+/// The data sheet of a chart as it is drawn, for tests.
+ChartData DrawnChart(const QWidget& widget);
 
 }  // namespace kelvor

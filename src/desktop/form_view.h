@@ -60,7 +60,7 @@ class FormView : public QWidget {
 
     /// Handles a key that is the model's; false if it is the widget's own.
     bool HandleKey(const QKeyEvent& key);
-    bool EmptyMarkedCells(const Control& control, const GridView& grid);
+    bool EmptyMarkedCells(const GridView& grid);
     bool HandleGridKey(const Control& control, const QKeyEvent& key);
     void CloseCellEditor(const Control& control);
     bool HandleTabKey(const QKeyEvent& key);

@@ -42,15 +42,15 @@ int LettersOf(const GridColumn& column) {
 // --- The cells ------------------------------------------------------------------------------------------
 
 int CellModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : control_.grid->rows;
+    return parent.isValid() || control_ == nullptr ? 0 : control_->grid->rows;
 }
 
 int CellModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(control_.grid->columns.size());
+    return parent.isValid() || control_ == nullptr ? 0 : static_cast<int>(control_->grid->columns.size());
 }
 
 void CellModel::Refresh() {
-    if (std::exchange(shownRows_, control_.grid->rows) != control_.grid->rows) {
+    if (std::exchange(shownRows_, control_->grid->rows) != control_->grid->rows) {
         beginResetModel();
         endResetModel();
     } else if (rowCount() > 0) {
@@ -58,15 +58,36 @@ void CellModel::Refresh() {
     }
 }
 
+void CellModel::Detach() {
+    beginResetModel();
+    control_ = nullptr;
+    endResetModel();
+}
+
 /// What is being typed shows in its cell, also while the line in which it is typed is closed.
 std::string CellModel::ShownText(const QModelIndex& index) const {
-    const GridData& grid = *control_.grid;
+    const GridData& grid = *control_->grid;
     const bool isCursor = index.row() + 1 == grid.row && index.column() == static_cast<int>(grid.column);
     if (isCursor && grid.typed) return *grid.typed;
     return hooks_.read(index.row() + 1, ColumnAt(index.column()));
 }
 
+QString CellModel::NoteOf(const QModelIndex& index) const {
+    return ToQt(hooks_.note(index.row() + 1, ColumnAt(index.column())));
+}
+
+bool CellModel::TakesEdit(const QModelIndex& index) const {
+    return hooks_.takesEdit(index.row() + 1, ColumnAt(index.column()));
+}
+
+/// A computed cell looks like a computed field, one that is kept as it is like the window around it.
+QVariant CellModel::BackgroundOf(const QModelIndex& index) const {
+    if (ColumnAt(index.column()).locked) return ScreenColour(colours::kLightCyan, QPalette());
+    return TakesEdit(index) ? QVariant() : QPalette().color(QPalette::Window);
+}
+
 QVariant CellModel::data(const QModelIndex& index, int role) const {
+    if (control_ == nullptr || !index.isValid()) return {};
     const GridColumn& column = ColumnAt(index.column());
     switch (role) {
         case Qt::DisplayRole:
@@ -76,9 +97,11 @@ QVariant CellModel::data(const QModelIndex& index, int role) const {
             return QVariant::fromValue((IsTextPicture(column.picture) ? Qt::AlignLeft : Qt::AlignRight) |
                                        Qt::AlignVCenter);
         case Qt::BackgroundRole:
-            return column.locked ? QVariant(ScreenColour(colours::kLightCyan, QPalette())) : QVariant();
+            return BackgroundOf(index);
         case Qt::ToolTipRole:
-            return ToQt(column.hint);
+            return NoteOf(index).isEmpty() ? ToQt(column.hint) : NoteOf(index);
+        case Qt::AccessibleDescriptionRole:
+            return NoteOf(index);
         case Qt::AccessibleTextRole:
             return ToQt(column.caption) + " " + ToQt(ShownText(index));
         default:
@@ -87,13 +110,14 @@ QVariant CellModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant CellModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (role != Qt::DisplayRole) return {};
+    if (role != Qt::DisplayRole || control_ == nullptr) return {};
     return orientation == Qt::Horizontal ? QVariant(HeadingOf(ColumnAt(section))) : QVariant(section + 1);
 }
 
 Qt::ItemFlags CellModel::flags(const QModelIndex& index) const {
+    if (control_ == nullptr || !index.isValid()) return Qt::NoItemFlags;
     const Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
-    return ColumnAt(index.column()).locked ? flags : flags | Qt::ItemIsEditable;
+    return TakesEdit(index) ? flags | Qt::ItemIsEditable : flags;
 }
 
 // --- Editing ----------------------------------------------------------------------------------------------
@@ -161,7 +185,7 @@ class GridView::Delegate : public QStyledItemDelegate {
 };
 
 GridView::GridView(const Control& control, GridHooks hooks, QWidget* parent)
-    : QTableView(parent), control_(control), hooks_(std::move(hooks)), cells_(control, hooks_) {
+    : QTableView(parent), control_(&control), hooks_(std::move(hooks)), cells_(control, hooks_) {
     setModel(&cells_);
     setItemDelegate(new Delegate(*this));
     setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::EditKeyPressed |
@@ -192,9 +216,9 @@ void GridView::SizeColumns() {
     lines += fontMetrics().lineSpacing() / 2;
     horizontalHeader()->setFixedHeight(lines);
     // A list may grow.
-    const int most = control_.grid->rowsShown > 0 ? control_.grid->rowsShown : kMostRowsShown;
-    const int rows = control_.grid->texts ? most : std::min(cells_.rowCount(), most);
-    if (control_.grid->texts || cells_.rowCount() > rows) width += verticalScrollBar()->sizeHint().width();
+    const int most = control_->grid->rowsShown > 0 ? control_->grid->rowsShown : kMostRowsShown;
+    const int rows = control_->grid->texts ? most : std::min(cells_.rowCount(), most);
+    if (control_->grid->texts || cells_.rowCount() > rows) width += verticalScrollBar()->sizeHint().width();
     setMinimumSize(width, lines + rows * verticalHeader()->defaultSectionSize() + 2 * frameWidth());
 }
 
@@ -204,8 +228,9 @@ void GridView::OpenEditor(QWidget& editor) {
 }
 
 void GridView::Show() {
+    if (control_ == nullptr) return;
     showing_ = true;
-    const GridData& grid = *control_.grid;
+    const GridData& grid = *control_->grid;
     cells_.Refresh();
     const QModelIndex cursor = cells_.index(grid.row - 1, static_cast<int>(grid.column));
     const bool moved = currentIndex() != cursor;
@@ -223,12 +248,34 @@ void GridView::Show() {
 
 void GridView::Detach() {
     EndEdit();
+    cells_.Detach();
     setModel(nullptr);
+    control_ = nullptr;
+}
+
+std::optional<CellRange> GridView::MarkedCells() const {
+    if (selectionModel() == nullptr) return std::nullopt;
+    const QModelIndexList marked = selectionModel()->selectedIndexes();
+    if (marked.size() < 2) return std::nullopt;
+    const auto [first, last] = std::minmax_element(marked.begin(), marked.end());
+    return CellRange{first->row() + 1, last->row() + 1, static_cast<std::size_t>(first->column()),
+                     static_cast<std::size_t>(last->column())};
 }
 
 void GridView::EndEdit() {
     if (editor_ != nullptr) closeEditor(editor_, QAbstractItemDelegate::NoHint);
+}
+
+/// A line that closes loses the focus, and its delegate asks a second time.
+void GridView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+    if (editor == nullptr || editor != editor_) return;
     editor_.clear();
+    QTableView::closeEditor(editor, hint);
+}
+
+void GridView::reset() {
+    editor_.clear();  // the toolkit lets go of it
+    QTableView::reset();
 }
 
 // --- Keys and clicks ---------------------------------------------------------------------------------

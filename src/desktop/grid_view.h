@@ -6,15 +6,20 @@
 #include <QTableView>
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 
+#include "forms/cell_block.h"
 #include "forms/control.h"
 
 namespace kelvor {
 
-/// What a grid on the screen asks of, and tells, the form it stands on. Rows count from 1.
+/// What a grid on the screen asks of, and tells, the form it stands on. Rows count from 1. What is asked is
+/// asked while painting.
 struct GridHooks {
     std::function<std::string(int row, const GridColumn& column)> read;
+    std::function<std::string(int row, const GridColumn& column)> note;
+    std::function<bool(int row, const GridColumn& column)> takesEdit;
     std::function<void(int row, const GridColumn& column)> moveTo;
     std::function<void(const std::string& text)> type;  // into the cell under the cursor
     std::function<void(const std::string& block)> paste;
@@ -25,7 +30,7 @@ struct GridHooks {
 /// The cells of a grid for the toolkit's table. It holds none of them.
 class CellModel : public QAbstractTableModel {
   public:
-    CellModel(const Control& control, const GridHooks& hooks) : control_(control), hooks_(hooks) {}
+    CellModel(const Control& control, const GridHooks& hooks) : control_(&control), hooks_(hooks) {}
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
@@ -36,16 +41,22 @@ class CellModel : public QAbstractTableModel {
     /// Everything may have changed.
     void Refresh();
 
+    /// The control is gone: there are no cells from now on.
+    void Detach();
+
     [[nodiscard]] const GridColumn& ColumnAt(int column) const {
-        return control_.grid->columns[static_cast<std::size_t>(column)];
+        return control_->grid->columns[static_cast<std::size_t>(column)];
     }
 
   private:
     [[nodiscard]] std::string ShownText(const QModelIndex& index) const;
+    [[nodiscard]] QString NoteOf(const QModelIndex& index) const;
+    [[nodiscard]] bool TakesEdit(const QModelIndex& index) const;
+    [[nodiscard]] QVariant BackgroundOf(const QModelIndex& index) const;
 
-    const Control& control_;
+    const Control* control_;  // null once it is gone
     const GridHooks& hooks_;
-    int shownRows_ = control_.grid->rows;
+    int shownRows_ = control_->grid->rows;
 };
 
 /// A grid that works like a spreadsheet: arrows, Tab and Enter move, typing replaces, F2 edits, Delete
@@ -67,10 +78,17 @@ class GridView : public QTableView {
     /// The line in which a cell is edited; null while none is.
     [[nodiscard]] QWidget* editor() const { return editor_; }
 
+    /// The block of cells that is marked; nothing unless it is more than one.
+    [[nodiscard]] std::optional<CellRange> MarkedCells() const;
+
+    /// All cells are others than before.
+    void reset() override;
+
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 
   private:
     class Delegate;
@@ -80,7 +98,7 @@ class GridView : public QTableView {
     void SizeColumns();
     void OpenEditor(QWidget& editor);
 
-    const Control& control_;
+    const Control* control_;  // null once it is gone
     GridHooks hooks_;
     CellModel cells_;
     QPointer<QWidget> editor_;

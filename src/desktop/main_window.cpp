@@ -86,6 +86,7 @@ MainWindow::MainWindow(Program& program)
 /// The child windows go first: they speak to the door as long as they live.
 MainWindow::~MainWindow() {
     area_->disconnect(this);
+    area_->viewport()->removeEventFilter(this);
     delete takeCentralWidget();
 }
 

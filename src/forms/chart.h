@@ -6,33 +6,54 @@
 
 namespace kelvor {
 
+/// How the rows of a chart's data sheet are drawn.
+enum class ChartKind {
+    Line,         // a line a series; a row's label is its place on the axis across
+    Points,       // the same as single points
+    GroupedBars,  // a group of bars a row, one bar a series; the labels stand below the groups
+    StackedBars,  // a layer a row, the lowest first, in the colour of the series of the same place; its
+                  // cells are its parts of the bars from left to right, and its label stands in them
+};
+
 struct ChartSeries {
     std::string name;
     std::string colour;  // "#RRGGBB"
+
+    bool operator==(const ChartSeries&) const = default;
 };
 
-/// A row of the data sheet: a cell for each series. The label of a line's row is its place on the axis
-/// across.
+/// A row of the data sheet. Its cells are the series' in their order; of stacked bars, those of the bars.
 struct ChartRow {
     std::string label;
     std::vector<std::optional<double>> cells;
+
+    bool operator==(const ChartRow&) const = default;
 };
 
+/// An axis. Without a range of its own it reaches as far as the data, in round numbers.
 struct ChartAxis {
     std::string title;
     double least = 0.0;
-    double greatest = 1.0;
-    double step = 1.0;
-    std::string picture;  // of the numbers along it
+    double greatest = 0.0;  // no more than the least: as far as the data reach
+    double step = 0.0;      // between its numbers; 0: found
+    std::string picture;    // of the numbers along it
+
+    bool operator==(const ChartAxis&) const = default;
 };
 
-/// A chart of lines with its data sheet: all that it draws stands here.
+/// A chart with its data sheet: all that it draws stands here. A screen may change any of it at any time; a
+/// front end shows what stands here after each event.
 struct ChartData {
-    std::string title;
+    ChartKind kind = ChartKind::Line;
+    std::string title;         // its lines divided by "\n"
+    double ceiling = 0.0;      // the greatest number of the axis up that was passed in; 0: none
+    bool showsValues = false;  // each bar or point has its number beside it
     ChartAxis across;
     ChartAxis up;
     std::vector<ChartSeries> series;
     std::vector<ChartRow> rows;
+
+    bool operator==(const ChartData&) const = default;
 };
 
 }  // namespace kelvor

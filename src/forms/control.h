@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "forms/chart.h"
+#include "forms/grid_routines.h"
 
 namespace kelvor {
 
@@ -60,6 +61,7 @@ struct GridColumn {
     std::vector<LetterWord> words;   // that a letter typed into a cell stands for
     double letters = 0.0;            // its width; 0: by its picture
     bool locked = false;             // shows computed values and takes none
+    ColumnRoutines routines = {};    // if its cells are not simply the project's
 };
 
 /// What a grid shows, and where its cursor is. Unless it has texts of its own it holds no values: a cell is
@@ -72,6 +74,10 @@ struct GridData {
     int row = 1;        // of the cursor, from 1
     std::size_t column = 0;
     std::optional<std::string> typed;  // into the cell under the cursor, and not yet stored
+    GridRoutines routines = {};
+
+    /// The rows that the act under way has written, in ascending order: for RowsWritten.
+    std::vector<int> writtenRows = {};
 
     /// Of a grid that shows no cells of the project: its texts, row by row, which may go on behind the
     /// columns.

@@ -232,6 +232,7 @@ class Builder {
         control.backColor = colours::kWindow;
         control.grid.emplace();
         control.grid->rowsShown = node.rowsShown;
+        control.grid->routines = node.gridRoutines;
         for (const FieldItem& item : node.fields) {
             const Variable* variable = catalogue_.FindVariable(item.variable);
             GridColumn column;
@@ -241,6 +242,7 @@ class Builder {
             column.list = item.list ? item.variable : "";
             column.words = item.words;
             column.letters = item.letters;
+            column.routines = item.routines;
             column.locked = item.locked || IsOutput(item.variable);
             control.grid->columns.push_back(std::move(column));
             if (variable != nullptr) control.grid->rows = std::max(control.grid->rows, variable->dim1);

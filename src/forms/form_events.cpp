@@ -123,7 +123,8 @@ void FormEvents::Activate(Form& form) {
 void FormEvents::TakeReturn(Form& form, const SideScreenReturn& returned) {
     Control* grid = returned.row > 0 ? form.FindGrid() : nullptr;
     if (grid != nullptr && returned.valueTaken) {
-        Handle(FormEvent::CellChanged, form, grid, [&] { RecalcOutputs(context_, form, "", returned.row); });
+        Handle(FormEvent::CellChanged, form, grid, [] {});
+        NoteRowsWritten(form, *grid, {returned.row});
     }
     RecalcOutputs(context_, form, "", 0);
     FocusFirstField(form);

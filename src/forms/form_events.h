@@ -3,7 +3,9 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "forms/cell_block.h"
 #include "forms/screen_context.h"
 
 namespace kelvor {
@@ -60,9 +62,15 @@ class FormEvents {
     bool MoveToCell(Form& form, int row, const std::string& variable);
     bool DeleteRow(Form& form, int row);
 
-    /// Puts a block of tab-separated lines into the cells from the cursor on, each cell like a typed one; one
-    /// that is refused ends it. What reaches beyond the grid, and what meets a computed column, is left out.
+    /// Puts a block of tab-separated lines into the cells from the cursor on, as one act. Cells that cannot
+    /// be edited, and those to the right of the grid, are passed over. A row with a cell that is refused, or
+    /// beyond the grid's end, is left out whole, and one message tells of all of them; then the rows that
+    /// were written are recalculated. A single cell is refused with the message of a typed one.
     bool PasteCells(Form& form, const std::string& block);
+
+    /// Empties a block of cells as one act; those that cannot be edited are passed over. False if the form
+    /// has no such cells.
+    bool EmptyCells(Form& form, const CellRange& range);
 
     /// Selects an option, toggles a check box, or picks an item of a list. False if that makes no sense.
     bool Choose(Form& form, Control& control, const std::string& item);
@@ -87,6 +95,8 @@ class FormEvents {
     void TypeIntoCell(Form& form, Control& control, const std::string& text);
     bool CommitCell(Form& form, Control& control);
     bool StoreCell(Form& form, Control& control, const std::string& text);
+    void WriteCells(Form& form, Control& control, const std::vector<CellEntry>& cells);
+    void NoteRowsWritten(Form& form, Control& control, std::vector<int> rows);
     bool MoveGridCursor(Form& form, Control& control, int row, std::size_t column);
     void StepCell(Form& form, Control& control, const std::string& key);
     void Load(Form& form);

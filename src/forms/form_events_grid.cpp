@@ -1,10 +1,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "forms/cell_block.h"
 #include "forms/coded_list.h"
 #include "forms/form_events.h"
 #include "forms/grid_entry.h"
+#include "forms/grid_rows.h"
 #include "forms/recalculation.h"
 
 namespace kelvor {
@@ -23,7 +23,8 @@ Control* FindGridWith(Form& form, int row, const std::string& variable) {
 // --- Cells --------------------------------------------------------------------------------------------
 
 void FormEvents::TypeIntoCell(Form& form, Control& control, const std::string& text) {
-    if (control.grid->current().locked || control.grid->rows == 0) return;
+    const GridData& grid = *control.grid;
+    if (grid.rows == 0 || !GridTakesEdit(context_, form, grid.row, grid.current())) return;
     const std::vector<LetterWord>& words = control.grid->current().words;
     const std::string shown = control.grid->typed.value_or("");
     auto entry = words.empty() ? text : CompleteWord(words, shown, text, form.spelt);
@@ -54,9 +55,9 @@ bool FormEvents::StoreCell(Form& form, Control& control, const std::string& text
     const GridColumn& column = control.grid->current();
     const int row = control.grid->row;
     if (!GridBeforeColUpdate(context_, form, column, text)) return false;
-    GridWriteCell(context_, form, row, column, text);
+    WriteCells(form, control, {{row, control.grid->column, text}});
     GridAfterColUpdate(form);
-    Handle(FormEvent::CellChanged, form, &control, [&] { RecalcOutputs(context_, form, "", row); });
+    NoteRowsWritten(form, control, {row});
     return true;
 }
 
@@ -67,25 +68,6 @@ bool FormEvents::EditCell(Form& form, int row, const std::string& variable, cons
     if (!arrived || control.grid->Find(variable) != control.grid->column) return true;
     TypeIntoCell(form, control, text);
     CommitCell(form, control);
-    return true;
-}
-
-bool FormEvents::PasteCells(Form& form, const std::string& block) {
-    Control* control = form.FindGrid();
-    if (control == nullptr || form.focus != control || !CommitCell(form, *control)) return control != nullptr;
-    const int firstRow = control->grid->row;
-    const std::size_t firstColumn = control->grid->column;
-    int row = firstRow;
-    for (const std::vector<std::string>& line : SplitCells(block)) {
-        if (row > control->grid->rows) break;
-        for (std::size_t i = 0; i < line.size() && firstColumn + i < control->grid->columns.size(); ++i) {
-            MoveGridCursor(form, *control, row, firstColumn + i);
-            TypeIntoCell(form, *control, line[i]);
-            if (!CommitCell(form, *control)) return true;
-        }
-        ++row;
-    }
-    MoveGridCursor(form, *control, firstRow, firstColumn);
     return true;
 }
 
@@ -104,9 +86,11 @@ bool FormEvents::DeleteRow(Form& form, int row) {
     if (control == nullptr) return false;
     if (!MoveFocus(form, *control)) return true;
     if (!MoveGridCursor(form, *control, row, control->grid->column)) return true;
+    const auto mayDelete = control->grid->routines.mayDelete;
+    if (mayDelete != nullptr && !mayDelete(context_, form, row)) return true;
     if (control->grid->texts) {
         if (!CommitCell(form, *control)) return true;
-    } else if (GridDeleteRow(context_, form, *control->grid, row)) {
+    } else if (GridDeleteRow(context_, form, row)) {
         control->grid->typed.reset();  // what was being typed has gone with its row
         form.SetFieldChanged(false);
     } else {
@@ -155,7 +139,8 @@ void FormEvents::StepCell(Form& form, Control& control, const std::string& key) 
     const int step = key == "BackTab" || key == "Left" ? -1 : 1;
     const auto isIn = [&](int place) { return place >= 0 && place < columns * grid.rows; };
     const auto isLocked = [&](int place) {
-        return grid.columns[static_cast<std::size_t>(place % columns)].locked;
+        const GridColumn& column = grid.columns[static_cast<std::size_t>(place % columns)];
+        return !GridTakesEdit(context_, form, place / columns + 1, column);
     };
     int place = (grid.row - 1) * columns + static_cast<int>(grid.column) + step;
     while (!arrow && isIn(place) && isLocked(place)) place += step;

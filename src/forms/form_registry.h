@@ -30,7 +30,8 @@ class FormRegistry {
 
     void BringToFront(Form& form);
 
-    /// Takes a form off the open ones. It is destroyed when the event that closes it has ended.
+    /// Takes a form off the open ones. It is destroyed when the next event begins, by which time no routine
+    /// and no window refers to it any more.
     void Remove(Form& form);
     void DestroyRemoved() { removed_.clear(); }
 

@@ -21,7 +21,8 @@ enum class FormEvent {
     LostFocus,
     Stored,  // of a field: a changed value has been stored
     Click,
-    CellChanged,  // of a grid: the cell under its cursor was written
+    CellChanged,  // of a grid: the cell under its cursor was written; once for each cell of a block
+    RowsWritten,  // of a grid: once after the cells that one act has written; see GridData::writtenRows
     RowChanged,   // its cursor has moved to another row
     RowDeleted,
     UnitsSwitched,

@@ -32,7 +32,21 @@ const std::string* OwnText(const Form& form, int row, const GridColumn& column) 
 
 std::string GridReadCell(const ScreenContext& context, const Form& form, int row, const GridColumn& column) {
     if (const std::string* text = OwnText(form, row, column)) return *text;
+    if (column.routines.read != nullptr) return column.routines.read(context, form, row);
     return context.units.GetDisplayValue(column.variable, row, SecondSubscript(form));
+}
+
+std::string GridCellNote(const ScreenContext& context, const Form& form, int row, const GridColumn& column) {
+    const Control* grid = form.FindGrid();
+    if (grid == nullptr || grid->grid->routines.note == nullptr) return {};
+    return grid->grid->routines.note(context, form, row, column);
+}
+
+bool GridTakesEdit(const ScreenContext& context, const Form& form, int row, const GridColumn& column) {
+    if (column.locked) return false;
+    const Control* grid = form.FindGrid();
+    if (grid == nullptr || grid->grid->routines.mayEdit == nullptr) return true;
+    return grid->grid->routines.mayEdit(context, form, row, column);
 }
 
 void GridWriteCell(ScreenContext& context, Form& form, int row, const GridColumn& column,
@@ -43,8 +57,12 @@ void GridWriteCell(ScreenContext& context, Form& form, int row, const GridColumn
         return;
     }
     const std::string* item = column.list.empty() ? nullptr : FindItem(column, text);
-    context.units.SetDisplayValue(column.variable, row, SecondSubscript(form),
-                                  item != nullptr ? *item : text);
+    const std::string& stored = item != nullptr ? *item : text;
+    if (column.routines.write != nullptr) {
+        column.routines.write(context, form, row, stored);
+    } else {
+        context.units.SetDisplayValue(column.variable, row, SecondSubscript(form), stored);
+    }
 }
 
 void GridChange(ScreenContext& context, Form& form) {
@@ -52,52 +70,30 @@ void GridChange(ScreenContext& context, Form& form) {
     if (!form.FindGrid()->grid->texts) context.bProjectChanged = true;
 }
 
+std::optional<Message> GridRefusal(const ScreenContext& context, const GridColumn& column,
+                                   const std::string& text) {
+    if (text.empty()) return std::nullopt;
+    if (!column.list.empty()) {
+        if (FindItem(column, text) != nullptr) return std::nullopt;
+        return Message{.text = "Please select item from the list", .title = "List"};
+    }
+    if (!IsTextPicture(column.picture) && !IsNumeric(text)) {
+        return Message{.text = "Please enter valid numeric value.", .title = "Value"};
+    }
+    const Range range = context.units.VariableRange(column.variable);
+    if (!IsOutOfRange(range, ParseNumber(text))) return std::nullopt;
+    return Message{.text = OutOfRangeText(range)};
+}
+
 bool GridBeforeColUpdate(ScreenContext& context, Form& form, const GridColumn& column,
                          const std::string& text) {
     form.SetFieldChanged(false);
-    if (text.empty()) return true;
-    if (!column.list.empty()) {
-        if (FindItem(column, text) != nullptr) return true;
-        context.calc.dialogs.ShowMessage({.text = "Please select item from the list", .title = "List"});
-        return false;
-    }
-    if (!IsTextPicture(column.picture) && !IsNumeric(text)) {
-        context.calc.dialogs.ShowMessage({.text = "Please enter valid numeric value.", .title = "Value"});
-        return false;
-    }
-    const Range range = context.units.VariableRange(column.variable);
-    if (!IsOutOfRange(range, ParseNumber(text))) return true;
-    context.calc.dialogs.ShowMessage({.text = OutOfRangeText(range)});
-    return false;
+    const auto refusal = GridRefusal(context, column, text);
+    if (refusal) context.calc.dialogs.ShowMessage(*refusal);
+    return !refusal;
 }
 
 void GridAfterColUpdate(Form& form) { form.SetFieldChanged(false); }
-
-bool GridDeleteRow(ScreenContext& context, Form& form, const GridData& grid, int row) {
-    const Answer answer = context.calc.dialogs.ShowMessage(
-        {.text = "Do you want to delete this row?", .title = "Delete", .style = MessageStyle::YesNo});
-    if (answer != Answer::Yes) return false;
-    context.bProjectChanged = true;
-    for (const Field* field : context.catalogue.FieldsOfScreen(form.tag)) {
-        if (!field->IsColumn()) continue;
-        const int dim2 = field->dim2.value_or(SecondSubscript(form));
-        context.units.SetDisplayValue(field->name, row, dim2, "");
-        CompactColumn(context.calc.store, field->name, grid.rows, dim2);
-    }
-    return true;
-}
-
-void CompactColumn(ProjectStore& store, const std::string& name, int rows, int dim2) {
-    if (name.empty()) return;
-    int source = 0;  // the last row that was looked at for a value
-    for (int row = 1; row <= rows && store.FindCell(name, row, dim2) != nullptr; ++row) {
-        CellValue value;
-        while (source < rows && !value.IsFilled()) {
-            if (const CellValue* cell = store.FindCell(name, ++source, dim2)) value = *cell;
-        }
-        store.SetCell(name, row, dim2, value);
-    }
-}
 
 void FillValueItems(ScreenContext& context, Form& form) {
     Control* control = form.FindGrid();

@@ -1,13 +1,21 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "forms/screen_context.h"
+#include "platform/dialogs.h"
 
 namespace kelvor {
 
 /// The text of a cell of a form's grid, in the active unit system. Reads the cells in memory, never a query.
 std::string GridReadCell(const ScreenContext& context, const Form& form, int row, const GridColumn& column);
+
+/// What a cell has to say beside its text; empty if there is nothing.
+std::string GridCellNote(const ScreenContext& context, const Form& form, int row, const GridColumn& column);
+
+/// True if the user can edit a cell: it is not computed, and the grid does not keep it as it is.
+bool GridTakesEdit(const ScreenContext& context, const Form& form, int row, const GridColumn& column);
 
 /// Stores a text, given in the active unit system, in a cell of a form's grid.
 void GridWriteCell(ScreenContext& context, Form& form, int row, const GridColumn& column,
@@ -16,19 +24,17 @@ void GridWriteCell(ScreenContext& context, Form& form, int row, const GridColumn
 /// A cell is being edited: the project has changed, unless the grid shows none of it.
 void GridChange(ScreenContext& context, Form& form);
 
-/// True if a text may be stored in a column; else its message was shown. A number must be one and lie within
-/// the range of the active unit system; a list takes its entries alone; any cell takes an empty text.
+/// Why a column does not take a text; nothing if it does. A number must be one and lie within the range of
+/// the active unit system; a list takes its entries alone; any cell takes an empty text.
+std::optional<Message> GridRefusal(const ScreenContext& context, const GridColumn& column,
+                                   const std::string& text);
+
+/// True if a text may be stored in a column; else its message was shown.
 bool GridBeforeColUpdate(ScreenContext& context, Form& form, const GridColumn& column,
                          const std::string& text);
 
 /// The edit of a cell is over.
 void GridAfterColUpdate(Form& form);
-
-/// Asks, then empties a row and closes the gap, column by column. False if the answer was No.
-bool GridDeleteRow(ScreenContext& context, Form& form, const GridData& grid, int row);
-
-/// Moves the filled cells of a column up, so that they stand from row 1 on without a gap.
-void CompactColumn(ProjectStore& store, const std::string& name, int rows, int dim2);
 
 /// Fills the lists of a form's grid with the entries for the active unit system. If they cannot be read, it
 /// says so, and they are empty.

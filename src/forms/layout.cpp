@@ -116,10 +116,11 @@ LayoutNode Caption(std::string name, std::string text) {
     return Leaf(LayoutKind::Caption, std::move(name), std::move(text));
 }
 
-LayoutNode Grid(std::string name, std::vector<FieldItem> columns, int rowsShown) {
+LayoutNode Grid(std::string name, std::vector<FieldItem> columns, int rowsShown, GridRoutines routines) {
     LayoutNode node = Leaf(LayoutKind::Grid, std::move(name), {});
     node.fields = std::move(columns);
     node.rowsShown = rowsShown;
+    node.gridRoutines = routines;
     return node;
 }
 

@@ -49,8 +49,9 @@ struct FieldItem {
     std::string unitName = {};   // of the unit behind it; empty: UnitLabelName
     std::string choice = {};     // a list that may take the place of the box; hidden at first
     std::vector<LetterWord> words =
-        {};                // of a list: a letter gives its word; on a field, whose code is stored
-    double letters = 0.0;  // the width of the box or column; 0: by the picture
+        {};                        // of a list: a letter gives its word; on a field, whose code is stored
+    double letters = 0.0;          // the width of the box or column; 0: by the picture
+    ColumnRoutines routines = {};  // of a column whose cells are not simply the project's
 
     [[nodiscard]] const std::string& Box() const { return box.empty() ? variable : box; }
     [[nodiscard]] std::string Label() const;
@@ -87,6 +88,7 @@ struct LayoutNode {
     MatrixPlace place;
     double letters = 0.0;        // the width of a picture; 0: as the start page has it
     int rowsShown = 0;           // of a grid, before it scrolls; 0: as many as most show
+    GridRoutines gridRoutines;   // of a grid
     std::string shows;           // what a picture shows, in words
     bool sharesOptions = false;  // of a frame: its options and those around it exclude each other
 };
@@ -114,7 +116,8 @@ LayoutNode Picture(std::string name, std::string file);
 LayoutNode SmallPicture(std::string name, std::string file, double letters, std::string shows);
 
 /// A table with a column for each variable; an item that is a list offers the list of the variable's name.
-LayoutNode Grid(std::string name, std::vector<FieldItem> columns, int rowsShown = 0);
+LayoutNode Grid(std::string name, std::vector<FieldItem> columns, int rowsShown = 0,
+                GridRoutines routines = {});
 
 /// A table of fixed texts with its headings in the first row. Its labels are called by the name, the row and
 /// the column, both from 1: Guide1_1.

@@ -2,6 +2,7 @@
 
 #include <set>
 #include <string>
+#include <utility>
 
 #include "forms/field_hint.h"
 #include "forms/form_builder.h"
@@ -34,11 +35,14 @@ void RefreshControl(const ScreenContext& context, const Form& form, Control& con
     }
 }
 
+/// A calculation that works on the current row sees the row that is recalculated.
 void RecalcColumn(ScreenContext& context, const Field& output, const Variable& variable, int row) {
+    const int current = std::exchange(context.values.gridRow, row);
     for (int dim2 = 1; dim2 <= variable.dim2; ++dim2) {
         if (output.dim2 && *output.dim2 != dim2) continue;
         context.calculations.CalcCell(context.calc, output.name, row, dim2, output.equation);
     }
+    context.values.gridRow = current;
 }
 
 /// Recalculates the computed columns of a screen, each in the rows that are wanted of it.
@@ -72,6 +76,21 @@ std::set<int> FilledRows(const ScreenContext& context, const Form& form) {
     return rows;
 }
 
+void RecalcOutputsOf(ScreenContext& context, const Form& form, std::string_view changedName,
+                     std::span<const int> rows) {
+    for (const Field* output : context.catalogue.OutputsOfScreen(form.tag)) {
+        const Variable* variable = context.catalogue.FindVariable(output->name);
+        if (output->IsGrid() || variable == nullptr) continue;
+        if (output->IsColumn()) {
+            for (const int row : rows) {
+                if (row >= 1 && row <= variable->dim1) RecalcColumn(context, *output, *variable, row);
+            }
+        } else if (!EqualNoCase(output->name, changedName)) {
+            context.calculations.CalcField(context.calc, output->name, output->equation);
+        }
+    }
+}
+
 }  // namespace
 
 void RefreshScreen(ScreenContext& context, Form& form) {
@@ -81,15 +100,12 @@ void RefreshScreen(ScreenContext& context, Form& form) {
 }
 
 void RecalcOutputs(ScreenContext& context, Form& form, std::string_view changedName, int row) {
-    for (const Field* output : context.catalogue.OutputsOfScreen(form.tag)) {
-        const Variable* variable = context.catalogue.FindVariable(output->name);
-        if (output->IsGrid() || variable == nullptr) continue;
-        if (output->IsColumn()) {
-            if (row >= 1 && row <= variable->dim1) RecalcColumn(context, *output, *variable, row);
-        } else if (!EqualNoCase(output->name, changedName)) {
-            context.calculations.CalcField(context.calc, output->name, output->equation);
-        }
-    }
+    RecalcOutputsOf(context, form, changedName, {&row, 1});
+    RefreshScreen(context, form);
+}
+
+void RecalcRows(ScreenContext& context, Form& form, std::span<const int> rows) {
+    RecalcOutputsOf(context, form, "", rows);
     RefreshScreen(context, form);
 }
 

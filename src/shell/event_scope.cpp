@@ -4,12 +4,22 @@
 
 namespace kelvor {
 
+namespace {
+
+/// The open forms as they are, once those that the event before has closed are gone.
+FormRegistry::Image ImageOfOpenForms(FormRegistry& forms) {
+    forms.DestroyRemoved();
+    return forms.TakeImage();
+}
+
+}  // namespace
+
 EventScope::EventScope(ProcessState& state, bool& running)
     : state_(state),
       running_(running),
       openings_(state.dbWork.openings()),
       open_(state.dbWork.IsOpen()),
-      forms_(state.formRegistry.TakeImage()),
+      forms_(ImageOfOpenForms(state.formRegistry)),
       marks_(TakeMarks()) {
     running_ = true;
     state_.dbWork.BeginEvent();
@@ -17,7 +27,6 @@ EventScope::EventScope(ProcessState& state, bool& running)
 
 EventScope::~EventScope() {
     state_.dbWork.EndEvent();
-    state_.formRegistry.DestroyRemoved();
     running_ = false;
 }
 

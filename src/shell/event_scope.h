@@ -5,6 +5,8 @@
 namespace kelvor {
 
 /// One event: makes the writes between its making and its end one transaction, and keeps further events out.
+/// The forms that were closed by the event before are destroyed when it begins: until then a front end may
+/// still look at them, since it is brought in step only after an event.
 class EventScope {
   public:
     EventScope(ProcessState& state, bool& running);

@@ -47,6 +47,14 @@ std::string Program::CellText(const Form& form, int row, const GridColumn& colum
     return GridReadCell(state_.MakeScreenContext(), form, row, column);
 }
 
+std::string Program::CellNote(const Form& form, int row, const GridColumn& column) {
+    return GridCellNote(state_.MakeScreenContext(), form, row, column);
+}
+
+bool Program::TakesEdit(const Form& form, int row, const GridColumn& column) {
+    return GridTakesEdit(state_.MakeScreenContext(), form, row, column);
+}
+
 // --- Events -------------------------------------------------------------------------------------------
 
 bool Program::InEvent(const std::function<bool()>& action) {
@@ -170,6 +178,7 @@ bool Program::PerformOnCurrentForm(const UserEvent& event) {
     }
     if (event.kind == UserEvent::Kind::MoveToCell) return events.MoveToCell(*form, event.number, event.name);
     if (event.kind == UserEvent::Kind::PasteCells) return events.PasteCells(*form, event.text);
+    if (event.kind == UserEvent::Kind::EmptyCells) return events.EmptyCells(*form, event.cells);
     if (event.kind == UserEvent::Kind::DeleteRow) return events.DeleteRow(*form, event.number);
     Control* control = form->Find(event.name);
     if (control == nullptr) return false;

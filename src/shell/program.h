@@ -33,8 +33,11 @@ class Program {
     [[nodiscard]] ProcessState& state() { return state_; }
     [[nodiscard]] std::vector<MenuEntry> Menus() const;
 
-    /// What a cell of a form's grid shows. For painting: it reads, and may be called while an event runs.
+    /// What a cell of a form's grid shows, what it has to say beside that, and whether it can be edited. For
+    /// painting: they read, and may be called while an event runs.
     [[nodiscard]] std::string CellText(const Form& form, int row, const GridColumn& column);
+    [[nodiscard]] std::string CellNote(const Form& form, int row, const GridColumn& column);
+    [[nodiscard]] bool TakesEdit(const Form& form, int row, const GridColumn& column);
 
     /// The File menu; the messages were shown. False from New only if no project can be made any more; it is
     /// true if a refused value kept the old one. The others tell whether they succeeded.

@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "forms/cell_block.h"
+
 namespace kelvor {
 
 /// One act of the user on the windows. A front end tells the program nothing else.
@@ -18,6 +20,7 @@ struct UserEvent {
         MoveToCell,    // number: row; name: variable of the column, empty: the cursor stays in its column
         DeleteRow,     // number: row
         PasteCells,    // text: tab-separated lines, for the cells from the cursor on
+        EmptyCells,    // cells: the block to be emptied
         Choose,        // name: an option, a check box or a list; text: the item of a list
         SwitchTab,     // number: of the hub's tab, from 0
         Menu,          // name: of the entry; number: of one that shares its name
@@ -28,6 +31,7 @@ struct UserEvent {
     std::string name = {};
     std::string text = {};
     int number = 0;
+    CellRange cells = {};
 };
 
 }  // namespace kelvor

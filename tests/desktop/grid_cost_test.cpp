@@ -18,8 +18,12 @@ namespace {
 /// Statements that any database of this process has begun.
 std::atomic<int> statements{0};
 
-int NoteStatement(unsigned /*kind*/, void* /*context*/, void* /*statement*/, void* /*text*/) {
+/// Transactions among them that were ended.
+std::atomic<int> transactions{0};
+
+int NoteStatement(unsigned /*kind*/, void* /*context*/, void* /*statement*/, void* text) {
     ++statements;
+    if (std::string_view(static_cast<const char*>(text)).starts_with("COMMIT")) ++transactions;
     return 0;
 }
 
@@ -117,12 +121,31 @@ TEST_F(GridCostTest, ARaggedBlockLeavesTheCellsThatItDoesNotName) {
     EXPECT_EQ(state().dbWork.GetVarDim("D0F", 3, 1), 12.0);
 }
 
-TEST_F(GridCostTest, ABadCellStopsThePasteWithItsMessage) {
+TEST_F(GridCostTest, ARowWithABadCellIsLeftOut) {
     Paste(QStringLiteral("7\t8\n9\tmany\n10\t11\n"));
-    EXPECT_THAT(Messages(), testing::ElementsAre("Please enter valid numeric value."));
-    EXPECT_EQ(state().dbWork.GetVarDim("DR", 2, 1), 9.0) << "what came before it stands";
+    EXPECT_THAT(Messages(),
+                testing::ElementsAre("1 row was left out: row 2, Load: Please enter valid numeric value."));
+    EXPECT_EQ(state().dbWork.GetVarDim("DR", 2, 1), 3.0) << "as it was";
     EXPECT_EQ(state().dbWork.GetVarDim("NDTLOADF", 2, 1), 3.0) << "as it was";
-    EXPECT_EQ(state().dbWork.GetVarDim("DR", 3, 1), 4.5) << "as it was";
+    EXPECT_EQ(state().dbWork.GetVarDim("DR", 3, 1), 10.0);
+}
+
+TEST_F(GridCostTest, ABlockIsOneTransaction) {
+    QString block;
+    for (int row = 1; row <= 300; ++row) block += QStringLiteral("%1\t5\n").arg(row);
+    transactions = 0;
+    Paste(block);
+    EXPECT_EQ(transactions, 1);
+    Table().setFocus();
+    Table().selectionModel()->select(
+        QItemSelection(Table().model()->index(0, 1), Table().model()->index(299, 2)),
+        QItemSelectionModel::ClearAndSelect);
+    transactions = 0;
+    QTest::keyClick(&Table(), Qt::Key_Delete);
+    EXPECT_EQ(transactions, 1);
+    EXPECT_EQ(Cell(1, "DR"), "");
+    EXPECT_EQ(Cell(300, "NDTLOADF"), "");
+    EXPECT_EQ(Table().currentIndex(), Table().model()->index(0, 1)) << "the cursor stands where it stood";
 }
 
 TEST_F(GridCostTest, ADecimalCommaIsReadAsAGroupOfDigits) {
@@ -134,7 +157,9 @@ TEST_F(GridCostTest, ABlockBeyondTheLastRowIsCut) {
     QString block;
     for (int row = 1; row <= 320; ++row) block += "3\n";
     Paste(block);
-    EXPECT_THAT(Messages(), testing::IsEmpty());
+    EXPECT_THAT(Messages(),
+                testing::ElementsAre("20 rows were left out. The first is row 301, Deflection dr: "
+                                     "The table has no such row."));
     EXPECT_EQ(state().dbWork.GetVarDim("DR", 300, 1), 3.0);
     EXPECT_EQ(Table().model()->rowCount(), 300);
 }

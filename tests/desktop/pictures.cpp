@@ -1,5 +1,5 @@
-// Makes the pictures of the windows that the documents show: each script below docs/pictures/scripts, in both
-// unit systems, light and dark. A script with a line `# picture: menu MenuFile`, `# picture: dialog` or
+// Makes pictures of the windows: of each script below docs/pictures/scripts, in both unit systems, light and
+// dark. A script with a line `# picture: menu MenuFile`, `# picture: dialog` or
 // `# picture: help` shows that menu, the first dialog that comes up or the window of the help, and the units
 // that it has at its end.
 
@@ -173,9 +173,10 @@ void TakePictures(const Path& script, const Look& look, const Path& folder) {
     }
 }
 
-int TakeAllPictures(const Path& folder) {
+int TakeAllPictures(const Path& scriptFolder, const Path& folder) {
+    std::filesystem::create_directories(folder);
     std::vector<Path> scripts;
-    for (const auto& entry : std::filesystem::directory_iterator(folder / "scripts")) {
+    for (const auto& entry : std::filesystem::directory_iterator(scriptFolder)) {
         if (entry.path().extension() == ".kvs") scripts.push_back(entry.path());
     }
     std::sort(scripts.begin(), scripts.end());
@@ -198,7 +199,8 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     try {
-        return kelvor::test::TakeAllPictures(argc > 1 ? argv[1] : KELVOR_SOURCE_FOLDER "/docs/pictures");
+        if (argc != 2) throw std::runtime_error("usage: kelvor-pictures FOLDER");
+        return kelvor::test::TakeAllPictures(KELVOR_SOURCE_FOLDER "/docs/pictures/scripts", argv[1]);
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "%s\n", failure.what());
         return 1;

@@ -138,7 +138,8 @@ TEST_F(TrafficWindowTest, ASpectrumIsPastedFromASpreadsheet) {
     EXPECT_EQ(Shown("TrAx", "FLEXE18"), "100,000");  // 50 rows of 100 a year, 20 years
     QApplication::clipboard()->setText("Tandem\t34\t10\nQuad\t18\t1\n");
     Press(Qt::Key_V, Qt::ControlModifier);
-    EXPECT_THAT(Messages(), ElementsAre("Please select item from the list"));
+    EXPECT_THAT(Messages(),
+                ElementsAre("1 row was left out: row 2, Axle Type: Please select item from the list"));
 }
 
 }  // namespace

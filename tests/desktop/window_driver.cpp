@@ -6,9 +6,6 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
-#include <QGraphicsView>
-#include <QGroupBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMenuBar>
@@ -23,10 +20,8 @@
 
 #include "console/script/command_line.h"
 #include "desktop/chart_view.h"
-#include "desktop/control_widgets.h"
-#include "desktop/picture_view.h"
 #include "desktop/qt_text.h"
-#include "desktop/theme.h"
+#include "desktop/widget_reading.h"
 
 namespace kelvor::test {
 
@@ -48,94 +43,6 @@ const std::map<std::string, Qt::Key>& NamedKeys() {
 bool IsTypable(const std::string& text) {
     if (text.size() > kLongestTyped) return false;
     return std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c <= '~'; });
-}
-
-ControlKind KindOf(const QWidget& widget) {
-    if (qobject_cast<const QGraphicsView*>(&widget) != nullptr) return ControlKind::Chart;
-    if (qobject_cast<const QTableView*>(&widget) != nullptr) return ControlKind::Grid;
-    if (qobject_cast<const QLineEdit*>(&widget) != nullptr) return ControlKind::TextBox;
-    if (qobject_cast<const QComboBox*>(&widget) != nullptr) return ControlKind::ComboBox;
-    if (qobject_cast<const QPushButton*>(&widget) != nullptr) return ControlKind::CommandButton;
-    if (qobject_cast<const QRadioButton*>(&widget) != nullptr) return ControlKind::OptionButton;
-    if (qobject_cast<const QCheckBox*>(&widget) != nullptr) return ControlKind::CheckBox;
-    if (qobject_cast<const QGroupBox*>(&widget) != nullptr) return ControlKind::Frame;
-    if (qobject_cast<const QTabWidget*>(&widget) != nullptr) return ControlKind::TabStrip;
-    if (dynamic_cast<const PictureView*>(&widget) != nullptr) return ControlKind::Image;
-    return ControlKind::Label;
-}
-
-/// True for the sunken label of an indicator, whose caption has the line ends of the model.
-bool IsIndicator(const QWidget& widget) {
-    const auto* label = qobject_cast<const QLabel*>(&widget);
-    return label != nullptr && label->frameShadow() == QFrame::Sunken;
-}
-
-/// A caption without the mark that the view put in.
-std::string CaptionText(const QWidget& widget, QString text) {
-    const auto mark = widget.property(kAddedMarkProperty).value<qsizetype>();
-    if (mark >= 0 && mark < text.size() && text[mark] == u'&') text.remove(mark, 1);
-    return FromQt(IsIndicator(widget) ? text.replace("\n", "\r\n") : text);
-}
-
-std::string TextOf(const QWidget& widget) {
-    if (const auto* box = qobject_cast<const QLineEdit*>(&widget)) return FromQt(box->text());
-    if (const auto* list = qobject_cast<const QComboBox*>(&widget)) return FromQt(list->currentText());
-    if (const auto* frame = qobject_cast<const QGroupBox*>(&widget)) return FromQt(frame->title());
-    if (const auto* picture = dynamic_cast<const PictureView*>(&widget)) return picture->file();
-    if (const auto* tabs = qobject_cast<const QTabWidget*>(&widget)) {
-        return FromQt(tabs->tabText(tabs->currentIndex()).replace("&&", "&"));
-    }
-    if (const auto* label = qobject_cast<const QLabel*>(&widget)) return CaptionText(widget, label->text());
-    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
-        return CaptionText(widget, button->text());
-    }
-    return {};
-}
-
-/// What is chosen: whether an option is, which tab shows, or a text.
-PropertyValue ValueOf(const QWidget& widget) {
-    if (const auto* tabs = qobject_cast<const QTabWidget*>(&widget)) return tabs->currentIndex();
-    const auto* choice = qobject_cast<const QAbstractButton*>(&widget);
-    if (choice != nullptr && KindOf(widget) != ControlKind::CommandButton) return choice->isChecked();
-    return TextOf(widget);
-}
-
-bool IsEnabled(const QWidget& widget) { return !widget.testAttribute(Qt::WA_ForceDisabled); }
-
-/// The colour of the model that a widget shows in a role; what the widget has from the palette is `usual`.
-std::string ColourName(const QWidget& widget, QPalette::ColorRole role, Colour usual) {
-    const QPalette& palette = widget.palette();
-    if (!widget.testAttribute(Qt::WA_SetPalette) || !palette.isBrushSet(QPalette::Active, role)) {
-        return std::string(usual);
-    }
-    const QColor shown = palette.color(QPalette::Active, role);
-    for (const Colour colour : {colours::kLightCyan, colours::kLightRed, colours::kBrightWhite,
-                                colours::kResting, colours::kBlue, colours::kBlack}) {
-        const bool isText = role == QPalette::Text || role == QPalette::WindowText;
-        const QColor own = isText ? ScreenTextColour(colour, QPalette()) : ScreenColour(colour, QPalette());
-        if (own == shown) return std::string(colour);
-    }
-    return std::string(usual);
-}
-
-std::string BackColour(const QWidget& widget) {
-    const ControlKind kind = KindOf(widget);
-    const bool isBox = kind == ControlKind::TextBox || kind == ControlKind::ComboBox;
-    const bool hidden = isBox && widget.isHidden();
-    const auto* line = qobject_cast<const QLineEdit*>(&widget);
-    const QPalette& palette = widget.palette();
-    if (line != nullptr && !line->isReadOnly() && widget.testAttribute(Qt::WA_SetPalette) &&
-        palette.color(QPalette::Active, QPalette::Base) ==
-            palette.color(QPalette::Active, QPalette::Window)) {
-        return std::string(colours::kButtonFace);
-    }
-    return ColourName(widget, isBox ? QPalette::Base : QPalette::Window,
-                      isBox && !hidden ? colours::kWindow : colours::kButtonFace);
-}
-
-std::string ForeColour(const QWidget& widget) {
-    const bool isBox = KindOf(widget) == ControlKind::TextBox;
-    return ColourName(widget, isBox ? QPalette::Text : QPalette::WindowText, colours::kWindowText);
 }
 
 }  // namespace
@@ -376,84 +283,6 @@ void WindowDriver::Choose(const std::string& control, const std::string& item) {
         throw ScriptError(control + " has no such choice");
     }
     QApplication::processEvents();
-}
-
-// --- Grids -------------------------------------------------------------------------------------------
-
-GridView& WindowDriver::FindGridView() {
-    auto* grid = dynamic_cast<GridView*>(View().findChild<QTableView*>());
-    if (grid == nullptr) throw ScriptError(CurrentForm().name() + " has no grid");
-    return *grid;
-}
-
-/// Clicks a cell, unless a value that is being typed elsewhere keeps the cursor.
-bool WindowDriver::ClickCell(GridView& grid, int row, int column) {
-    const QModelIndex cell = grid.model()->index(row - 1, column);
-    grid.scrollTo(cell);
-    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(cell).center());
-    ComeToFront();
-    return grid.currentIndex() == cell && grid.isAncestorOf(QApplication::focusWidget());
-}
-
-void WindowDriver::EditCell(int row, const std::string& column, const std::string& text) {
-    CheckRow(row);
-    CheckColumn(column);
-    GridView& grid = FindGridView();
-    const auto place = static_cast<int>(*FindGrid().Find(column));
-    if (!ClickCell(grid, row, place) || FindGrid().columns[static_cast<std::size_t>(place)].locked) return;
-    QTest::keyClick(&grid, Qt::Key_F2);
-    if (auto* line = qobject_cast<QLineEdit*>(grid.editor())) {
-        TypeInto(*line, text);
-        if (text.empty() && grid.model()->data(grid.currentIndex()).toString().isEmpty()) {
-            QTest::keyClick(line, Qt::Key_Escape);
-            return;
-        }
-    } else if (auto* list = qobject_cast<QComboBox*>(grid.editor())) {
-        PickInList(*list, text);
-    }
-    // Leaves the cell for another one of the row, and comes back.
-    const int beside = place == 0 ? 1 : place - 1;
-    ClickCell(grid, row, beside);
-    if (CurrentForm().focus != nullptr) ClickCell(grid, row, place);
-}
-
-/// An entry that the list does not offer cannot be picked; it is handed to the form as if typed.
-void WindowDriver::PickInList(QComboBox& list, const std::string& text) {
-    const int entry = list.findText(ToQt(text), Qt::MatchFixedString);
-    if (entry < 0) {
-        QTest::keyClick(&list, Qt::Key_Escape);
-        desktop_.window().door().Raise({UserEvent::Kind::Type, {}, text, 0});
-        return;
-    }
-    list.showPopup();
-    const QModelIndex index = list.model()->index(entry, 0);
-    QTest::mouseClick(list.view()->viewport(), Qt::LeftButton, {}, list.view()->visualRect(index).center());
-}
-
-void WindowDriver::MoveToRow(int row) {
-    CheckRow(row);
-    ClickCell(FindGridView(), row, static_cast<int>(FindGrid().column));
-}
-
-void WindowDriver::DeleteRow(int row) {
-    CheckRow(row);
-    GridView& grid = FindGridView();
-    if (!ClickCell(grid, row, static_cast<int>(FindGrid().column))) return;
-    QTest::keyClick(&grid, Qt::Key_Delete, Qt::ControlModifier);
-    QApplication::processEvents();
-}
-
-std::vector<GridCellReport> WindowDriver::GridCells() {
-    std::vector<GridCellReport> cells;
-    const QAbstractItemModel& shown = *FindGridView().model();
-    for (int row = 0; row < shown.rowCount(); ++row) {
-        for (int column = 0; column < shown.columnCount(); ++column) {
-            const std::string text = FromQt(shown.data(shown.index(row, column)).toString());
-            const std::string variable = FindGrid().columns[static_cast<std::size_t>(column)].variable;
-            if (!text.empty()) cells.push_back({row + 1, variable, text});
-        }
-    }
-    return cells;
 }
 
 // --- Reading -----------------------------------------------------------------------------------------

@@ -35,6 +35,7 @@ struct GridCellReport {
     int row = 1;
     std::string column;  // its variable
     std::string text;
+    std::string note = {};  // what it has to say beside its text
 };
 
 /// A property of a control: a truth value, the number of a tab, or a text.

@@ -66,7 +66,9 @@ void JsonOutput::Controls(const std::vector<ControlReport>& controls) {
 void JsonOutput::Grid(const std::vector<GridCellReport>& cells) {
     Json list = Json::array();
     for (const GridCellReport& cell : cells) {
-        list.push_back({{"row", cell.row}, {"column", cell.column}, {"text", cell.text}});
+        Json object = {{"row", cell.row}, {"column", cell.column}, {"text", cell.text}};
+        if (!cell.note.empty()) object["note"] = cell.note;
+        list.push_back(std::move(object));
     }
     Print(stream_, {{"grid", list}});
 }
@@ -80,7 +82,9 @@ void JsonOutput::Chart(const ChartData& chart) {
         for (const std::optional<double>& cell : row.cells) cells.push_back(OrNull(cell));
         rows.push_back({{"label", row.label}, {"cells", cells}});
     }
-    Print(stream_, {{"chart", {{"title", chart.title}, {"series", series}, {"rows", rows}}}});
+    const Json ceiling = chart.ceiling > 0.0 ? Json(chart.ceiling) : Json(0);
+    Print(stream_,
+          {{"chart", {{"title", chart.title}, {"ceiling", ceiling}, {"series", series}, {"rows", rows}}}});
 }
 
 void JsonOutput::Forms(const std::vector<std::string>& names) { Print(stream_, {{"forms", names}}); }

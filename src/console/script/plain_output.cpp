@@ -60,12 +60,16 @@ void PlainOutput::Controls(const std::vector<ControlReport>& controls) {
 
 void PlainOutput::Grid(const std::vector<GridCellReport>& cells) {
     for (const GridCellReport& cell : cells) {
-        stream_ << cell.column << "(" << cell.row << "): " << cell.text << '\n';
+        stream_ << cell.column << "(" << cell.row << "): " << cell.text;
+        if (!cell.note.empty()) stream_ << " (" << cell.note << ")";
+        stream_ << '\n';
     }
 }
 
 void PlainOutput::Chart(const ChartData& chart) {
-    stream_ << "chart " << Quoted(chart.title) << ":";
+    stream_ << "chart " << Quoted(chart.title);
+    if (chart.ceiling > 0.0) stream_ << " up to " << ExactNumberText(chart.ceiling);
+    stream_ << ":";
     for (const ChartSeries& series : chart.series) {
         stream_ << " " << Quoted(series.name) << " " << series.colour;
     }

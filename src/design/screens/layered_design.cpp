@@ -70,7 +70,7 @@ void MaterialChanged(ScreenContext& context, Form& form, Control* control) {
     SetLayerCoefFromMaterial(context, form, grid.row, context.units.GetDisplayValue("LDLayerMat", grid.row));
 }
 
-void CellChanged(ScreenContext& context, Form& form, Control* /*control*/) {
+void RowsWritten(ScreenContext& context, Form& form, Control* /*control*/) {
     ClearAdditThick(context.calc, context.calculations, CurrentRow(form));
     RefreshScreen(context, form);
     ShowVerdict(form);
@@ -83,7 +83,7 @@ void RowChanged(ScreenContext& context, Form& form, Control* /*control*/) {
 
 void RowDeleted(ScreenContext& context, Form& form, Control* control) {
     context.calculations.CalcField(context.calc, "SSN", "SSN");
-    CellChanged(context, form, control);
+    RowsWritten(context, form, control);
 }
 
 /// Offers the total to the screen that asked for it.
@@ -130,7 +130,7 @@ FormType LayeredDesignForm() {
         {FormEvent::Load, "", HandlerOrder::After, Loaded},
         {FormEvent::Activate, "", HandlerOrder::After, Activated},
         {FormEvent::CellChanged, "", HandlerOrder::Before, MaterialChanged},
-        {FormEvent::CellChanged, "", HandlerOrder::After, CellChanged},
+        {FormEvent::RowsWritten, "", HandlerOrder::After, RowsWritten},
         {FormEvent::RowChanged, "", HandlerOrder::After, RowChanged},
         {FormEvent::RowDeleted, "", HandlerOrder::After, RowDeleted},
         {FormEvent::UnitsSwitched, "", HandlerOrder::After, UnitsSwitched},

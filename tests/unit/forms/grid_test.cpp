@@ -6,7 +6,7 @@
 
 #include "forms/cell_block.h"
 #include "forms/form.h"
-#include "forms/grid_entry.h"
+#include "forms/grid_rows.h"
 #include "support/test_host.h"
 
 namespace kelvor::test {
@@ -134,15 +134,15 @@ TEST_F(GridTest, NoToTheQuestionDeletesNothing) {
     EXPECT_FALSE(program_.program.state().bProjectChanged);
 }
 
-TEST_F(GridTest, AColumnWithGapsIsCompactedByItself) {
+TEST_F(GridTest, AColumnWithGapsIsClosedUp) {
     ProjectStore& store = program_.store();
     for (const int row : {2, 4, 5}) store.SetCell("LDLayerThick", row, 1, {1.0 * row, std::to_string(row)});
     store.SetCell("LDLayerThick", 6, 1, {std::nullopt, "text"});
-    CompactColumn(store, "LDLayerThick", 6, 1);
+    CompactRows(store, {{"LDLayerThick", 1}}, 6);
     const std::optional<double> expected[] = {2.0, 4.0, 5.0, std::nullopt, std::nullopt, std::nullopt};
     for (int row = 1; row <= 6; ++row) EXPECT_EQ(Number("LDLayerThick", row), expected[row - 1]) << row;
     EXPECT_EQ(store.FindCell("LDLayerThick", 4, 1)->text, "text");
-    CompactColumn(store, "", 6, 1);
+    CompactRows(store, {{"", 1}}, 6);
 }
 
 TEST_F(GridTest, RefusedCellsKeepWhatTheyHeld) {
@@ -308,14 +308,15 @@ TEST_F(GridTest, ABlockIsPastedCellByCell) {
     EXPECT_EQ(Grid().current().variable, "LDLayerCoef");
 }
 
-TEST_F(GridTest, ARefusedCellEndsThePaste) {
+TEST_F(GridTest, ARefusedCellLeavesItsRowOut) {
     Raise(Kind::MoveToCell, "LDLayerThick", {}, 1);
     Raise(Kind::PasteCells, {}, "1\n2\nthree\n4\n");
-    EXPECT_THAT(Messages(), ElementsAre("Please enter valid numeric value."));
+    EXPECT_THAT(Messages(), ElementsAre("1 row was left out: row 3, Layer Thickness: Please enter valid "
+                                        "numeric value."));
     EXPECT_EQ(Number("LDLayerThick", 2), 2.0);
     EXPECT_EQ(Number("LDLayerThick", 3), std::nullopt);
-    EXPECT_EQ(Number("LDLayerThick", 4), std::nullopt);
-    EXPECT_EQ(Grid().row, 3) << "the cursor stays where the paste has ended";
+    EXPECT_EQ(Number("LDLayerThick", 4), 4.0);
+    EXPECT_EQ(Grid().row, 1) << "the cursor stands where it stood";
 }
 
 TEST_F(GridTest, ABlockLargerThanTheGridIsCutAtItsEdges) {
@@ -323,7 +324,9 @@ TEST_F(GridTest, ABlockLargerThanTheGridIsCutAtItsEdges) {
     for (int row = 0; row < 50; ++row) block += "0.1\t1\t2\t3\t4\n";
     Raise(Kind::MoveToCell, "LDLayerCoef", {}, 1);
     Raise(Kind::PasteCells, {}, block);
-    EXPECT_THAT(Messages(), IsEmpty());
+    EXPECT_THAT(Messages(),
+                ElementsAre("44 rows were left out. The first is row 7, Layer Coefficient, a: The "
+                            "table has no such row."));
     EXPECT_EQ(Number("LDLayerThick", 6), 2.0);
     EXPECT_NEAR(program_.Get("SSN"), 6 * 0.2, 1e-12);
 }

@@ -1,0 +1,72 @@
+#include "forms/grid_rows.h"
+
+#include <algorithm>
+
+namespace kelvor {
+
+namespace {
+
+/// The columns of a form's grid, also those that it does not show.
+std::vector<ColumnCells> ColumnsOf(const ScreenContext& context, const Form& form) {
+    std::vector<ColumnCells> columns;
+    for (const Field* field : context.catalogue.FieldsOfScreen(form.tag)) {
+        if (field->IsColumn() && !field->name.empty()) {
+            columns.push_back({field->name, field->dim2.value_or(form.dim2().value_or(1))});
+        }
+    }
+    return columns;
+}
+
+/// The rows that the variables have, which may be more than the grid shows.
+int RowsOf(const ScreenContext& context, const std::vector<ColumnCells>& columns) {
+    int rows = 0;
+    for (const ColumnCells& column : columns) {
+        const Variable* variable = context.catalogue.FindVariable(column.variable);
+        if (variable != nullptr) rows = std::max(rows, variable->dim1);
+    }
+    return rows;
+}
+
+bool IsRowFilled(const ProjectStore& store, const std::vector<ColumnCells>& columns, int row) {
+    return std::any_of(columns.begin(), columns.end(), [&](const ColumnCells& column) {
+        const CellValue* cell = store.FindCell(column.variable, row, column.dim2);
+        return cell != nullptr && cell->IsFilled();
+    });
+}
+
+void EmptyRow(ProjectStore& store, const std::vector<ColumnCells>& columns, int row) {
+    for (const ColumnCells& column : columns) store.SetCell(column.variable, row, column.dim2, {});
+}
+
+void MoveRow(ProjectStore& store, const std::vector<ColumnCells>& columns, int from, int to) {
+    for (const ColumnCells& column : columns) {
+        const CellValue* cell = store.FindCell(column.variable, from, column.dim2);
+        const CellValue value = cell != nullptr ? *cell : CellValue{};
+        store.SetCell(column.variable, to, column.dim2, value);
+    }
+    EmptyRow(store, columns, from);
+}
+
+}  // namespace
+
+bool GridDeleteRow(ScreenContext& context, Form& form, int row) {
+    const Answer answer = context.calc.dialogs.ShowMessage(
+        {.text = "Do you want to delete this row?", .title = "Delete", .style = MessageStyle::YesNo});
+    if (answer != Answer::Yes) return false;
+    context.bProjectChanged = true;
+    const std::vector<ColumnCells> columns = ColumnsOf(context, form);
+    EmptyRow(context.calc.store, columns, row);
+    CompactRows(context.calc.store, columns, RowsOf(context, columns));
+    return true;
+}
+
+void CompactRows(ProjectStore& store, const std::vector<ColumnCells>& columns, int rows) {
+    int next = 1;
+    for (int row = 1; row <= rows; ++row) {
+        if (!IsRowFilled(store, columns, row)) continue;
+        if (row != next) MoveRow(store, columns, row, next);
+        ++next;
+    }
+}
+
+}  // namespace kelvor
