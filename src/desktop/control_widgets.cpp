@@ -11,6 +11,7 @@
 #include <QStyle>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QToolButton>
 #include <algorithm>
 
 #include "desktop/picture_view.h"
@@ -96,6 +97,14 @@ QWidget* MakeButton(QWidget* parent) {
     auto* button = new Button(parent);
     // The model moves the focus; a click of the mouse asks it to.
     button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+/// A small button beside a field is as wide as its caption, and named by what it does.
+QWidget* MakeCommandButton(const Control& control, QWidget* parent) {
+    if (control.worksOut.empty()) return MakeButton<QPushButton>(parent);
+    QWidget* button = MakeButton<QToolButton>(parent);
+    button->setAccessibleName(ToQt(control.toolTip));
     return button;
 }
 
@@ -195,7 +204,7 @@ QWidget* MakeWidget(const Control& control, QWidget* parent) {
         case ControlKind::ComboBox:
             return MakeComboBox(control, parent);
         case ControlKind::CommandButton:
-            return MakeButton<QPushButton>(parent);
+            return MakeCommandButton(control, parent);
         case ControlKind::OptionButton:
             return MakeOption(parent);
         case ControlKind::CheckBox:
