@@ -13,9 +13,9 @@ KeyTable SubgradeKeys();
 namespace {
 
 /// Once the modulus is left, k is that of a slab on the subgrade itself.
-void ModulusLeft(ScreenContext& context, Form& form, Control* /*field*/) {
-    context.calculations.CalcField(context.calc, "K", "SUBGRADEK");
-    RefreshScreen(context, form);
+void ModulusLeft(ScreenEvent& event) {
+    event.context.calculations.CalcField(event.context.calc, "K", "SUBGRADEK");
+    RefreshScreen(event.context, event.form);
 }
 
 }  // namespace
@@ -24,12 +24,8 @@ void ModulusLeft(ScreenContext& context, Form& form, Control* /*field*/) {
 FormType SubgradeForm() {
     FormType type;
     type.name = "SubG";
-    type.tag = "SubG";  // the key of its rows in the catalogue
     type.caption = "Subgrade";
-    type.layout = Rows({
-        Frame("Frame1", "Subgrade", {Fields({{"MRSG"}, {"K"}})}),
-        Buttons({{"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}}),
-    });
+    type.layout = Frame("Frame1", "Subgrade", {Fields({{"MRSG"}, {"K"}})});
     type.handlers = {{FormEvent::LostFocus, "MRSG", HandlerOrder::After, ModulusLeft}};
     return type;
 }

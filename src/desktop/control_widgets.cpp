@@ -11,6 +11,7 @@
 #include <QStyle>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QToolButton>
 #include <algorithm>
 
 #include "desktop/picture_view.h"
@@ -99,6 +100,14 @@ QWidget* MakeButton(QWidget* parent) {
     return button;
 }
 
+/// A small button beside a field is as wide as its caption, and named by what it does.
+QWidget* MakeCommandButton(const Control& control, QWidget* parent) {
+    if (control.worksOut.empty()) return MakeButton<QPushButton>(parent);
+    QWidget* button = MakeButton<QToolButton>(parent);
+    button->setAccessibleName(ToQt(control.toolTip));
+    return button;
+}
+
 QWidget* MakeOption(QWidget* parent) {
     auto* option = new QRadioButton(parent);
     option->setAutoExclusive(false);  // which options exclude each other is the model's to say
@@ -121,7 +130,10 @@ void MirrorLabel(const Control& control, QLabel& label) {
     label.setProperty(kAddedMarkProperty, label.buddy() != nullptr ? caption.addedMark : qsizetype{-1});
     if (label.text() != text) label.setText(text);
     // A paragraph is as high as its lines; the layouts above it do not ask for that.
-    if (label.wordWrap()) label.setMinimumHeight(std::max(0, label.heightForWidth(label.minimumWidth())));
+    if (label.wordWrap()) {
+        const int least = label.property(kLeastLinesProperty).toInt() * label.fontMetrics().lineSpacing();
+        label.setMinimumHeight(std::max(least, label.heightForWidth(label.minimumWidth())));
+    }
     ApplyColours(label, control, QPalette::Window, QPalette::WindowText);
 }
 
@@ -195,7 +207,7 @@ QWidget* MakeWidget(const Control& control, QWidget* parent) {
         case ControlKind::ComboBox:
             return MakeComboBox(control, parent);
         case ControlKind::CommandButton:
-            return MakeButton<QPushButton>(parent);
+            return MakeCommandButton(control, parent);
         case ControlKind::OptionButton:
             return MakeOption(parent);
         case ControlKind::CheckBox:

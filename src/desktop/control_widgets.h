@@ -7,6 +7,9 @@
 namespace kelvor {
 
 /// The name of the widget property that holds where CaptionOf put in the mark of an access key.
+/// So many lines a label has room for, however few it shows.
+inline constexpr const char* kLeastLinesProperty = "kelvorLeastLines";
+
 inline constexpr const char* kAddedMarkProperty = "kelvorAddedMark";
 
 /// Makes the widget of a control, which shows nothing yet.

@@ -9,7 +9,9 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
+#include <variant>
 
+#include "desktop/control_widgets.h"
 #include "desktop/qt_text.h"
 
 namespace kelvor {
@@ -18,10 +20,13 @@ namespace {
 
 /// Units of measure up to this many letters leave the columns where they are when the system changes.
 constexpr int kUnitLetters = 6;
-constexpr int kFieldColumns = 3;
 constexpr int kGridRows = 8;  // of a built screen, for its grid
 constexpr int kParagraphLetters = 84;
+constexpr double kStatementLetters = 36.0;  // about as wide as an indicator
 constexpr double kHeadingScale = 2.4;
+
+/// The columns of a group of fields.
+enum FieldColumn { kLabelColumn, kBoxColumn, kUnitColumn, kButtonColumn };
 
 class LayoutMaker {
   public:
@@ -29,86 +34,40 @@ class LayoutMaker {
         : model_(model), form_(form), find_(find) {}
 
     void MakeRoot() {
-        const LayoutNode& layout = model_.type().layout;
+        const LayoutElement& layout = model_.type().layout;
         auto* root = new QVBoxLayout(&form_);
-        if (layout.kind != LayoutKind::Rows) {
-            Add(*root, layout);
-            return;
+        if (const auto* rows = std::get_if<layout::Rows>(&layout.kind)) {
+            AddElements(*root, rows->elements);
+        } else {
+            AddElement(*root, layout);
         }
-        for (const LayoutNode& child : layout.children) {
-            if (child.kind == LayoutKind::Buttons) {
-                root->addStretch(1);
-                AddFootButtons(*root, child);
-            } else {
-                Add(*root, child);
-            }
-        }
+        AddFoot(*root);
     }
 
     [[nodiscard]] QTabWidget* tabs() const { return tabs_; }
 
   private:
-    void Add(QBoxLayout& to, const LayoutNode& node) {
-        switch (node.kind) {
-            case LayoutKind::Pages:
-                return AddPages(to, node);
-            case LayoutKind::Columns:
-                return AddColumns(to, node);
-            case LayoutKind::Rows:
-                return AddRows(to, node);
-            case LayoutKind::Frame:
-                return AddFrame(to, node);
-            case LayoutKind::Fields:
-                return AddFields(to, node);
-            case LayoutKind::Options:
-                return AddOptions(to, node);
-            case LayoutKind::Checks:
-                return AddChecks(to, node);
-            case LayoutKind::Table:
-                return AddTable(to, node);
-            case LayoutKind::Matrix:
-                return AddMatrix(to, node);
-            case LayoutKind::Placed:
-                return AddPlaced(to);
-            case LayoutKind::Buttons:
-                return AddButtons(to, node);
-            default:
-                return AddSingle(to, node);
-        }
+    void AddElement(QBoxLayout& to, const LayoutElement& element) {
+        std::visit([&](const auto& kind) { Add(to, kind); }, element.kind);
     }
 
-    /// What is one control, with a label at most.
-    void AddSingle(QBoxLayout& to, const LayoutNode& node) {
-        switch (node.kind) {
-            case LayoutKind::Heading:
-                return AddHeading(to, node);
-            case LayoutKind::Text:
-                return AddText(to, node);
-            case LayoutKind::Choice:
-                return AddChoice(to, node);
-            case LayoutKind::Box:
-                return to.addWidget(FixedBox(node.fields.front()));
-            case LayoutKind::Grid:
-            case LayoutKind::Chart:
-                return to.addWidget(find_(node.name), 1);
-            case LayoutKind::Hidden:
-                return;
-            default:
-                return to.addWidget(find_(node.name));
-        }
+    void AddElements(QBoxLayout& to, const std::vector<LayoutElement>& elements) {
+        for (const LayoutElement& element : elements) AddElement(to, element);
     }
 
-    void AddPages(QBoxLayout& to, const LayoutNode& node) {
-        tabs_ = qobject_cast<QTabWidget*>(find_(node.name));
-        for (const LayoutNode& child : node.children) {
+    // --- Elements with others inside them -----------------------------------------------------------
+
+    void Add(QBoxLayout& to, const layout::Pages& strip) {
+        tabs_ = qobject_cast<QTabWidget*>(find_(strip.name));
+        for (const layout::Page& declared : strip.pages) {
             auto* page = new QWidget(tabs_);
             auto* rows = new QVBoxLayout(page);
             rows->setContentsMargins(PageMargins());
             onPage_ = true;
-            for (const LayoutNode& element : child.children) Add(*rows, element);
+            AddElements(*rows, declared.elements);
             onPage_ = false;
             rows->addStretch(1);
-            const int index = tabs_->addTab(page, ToQt(child.title).replace("&", "&&"));
+            const int index = tabs_->addTab(page, ToQt(declared.title).replace("&", "&&"));
             tabs_->setTabToolTip(index, QStringLiteral("Ctrl+Page Up, Ctrl+Page Down: the tab beside"));
         }
         to.addWidget(tabs_);
@@ -119,31 +78,66 @@ class LayoutMaker {
         return {line * 2, line * 3 / 2, line * 2, line};
     }
 
-    void AddColumns(QBoxLayout& to, const LayoutNode& node) {
+    void Add(QBoxLayout& to, const layout::Columns& declared) {
         auto* columns = new QHBoxLayout;
-        for (const LayoutNode& child : node.children) Add(*columns, child);
+        AddElements(*columns, declared.elements);
         to.addLayout(columns);
     }
 
-    void AddRows(QBoxLayout& to, const LayoutNode& node) {
+    void Add(QBoxLayout& to, const layout::Rows& declared) {
         auto* rows = new QVBoxLayout;
-        for (const LayoutNode& child : node.children) Add(*rows, child);
+        AddElements(*rows, declared.elements);
         rows->addStretch(1);
         to.addLayout(rows);
     }
 
-    void AddFrame(QBoxLayout& to, const LayoutNode& node) {
-        QWidget* frame = find_(node.name);
+    void Add(QBoxLayout& to, const layout::Frame& declared) {
+        QWidget* frame = find_(declared.name);
         auto* rows = new QVBoxLayout(frame);
         const bool outer = std::exchange(onPage_, false);
-        for (const LayoutNode& child : node.children) Add(*rows, child);
+        AddElements(*rows, declared.elements);
         onPage_ = outer;
         rows->addStretch(1);
         to.addWidget(frame);
     }
 
+    /// Elements in rows and columns. What takes several rows stands at their top.
+    void Add(QBoxLayout& to, const layout::Matrix& matrix) {
+        auto* grid = new QGridLayout;
+        grid->setHorizontalSpacing(form_.fontMetrics().averageCharWidth());
+        int columns = 0;
+        for (const MatrixCell& place : matrix.cells) {
+            auto* cell = new QVBoxLayout;
+            AddCell(*cell, place.element);
+            const Qt::Alignment side = place.rows > 1 ? Qt::AlignTop : Qt::Alignment();
+            grid->addLayout(cell, place.row, place.column, place.rows, 1, side);
+            columns = std::max(columns, place.column + 1);
+        }
+        SetRowsApart(*grid);
+        grid->setColumnStretch(columns, 1);
+        to.addLayout(grid);
+    }
+
+    /// An option stands in the line of the box beside it.
+    void AddCell(QBoxLayout& cell, const LayoutElement& element) {
+        const auto* options = std::get_if<layout::Options>(&element.kind);
+        if (options == nullptr) return AddElement(cell, element);
+        for (const ButtonItem& option : options->options) cell.addWidget(find_(option.name));
+    }
+
+    /// A row without elements sets those around it apart.
+    void SetRowsApart(QGridLayout& grid) {
+        for (int row = 0; row < grid.rowCount(); ++row) {
+            bool empty = true;
+            for (int column = 0; column < grid.columnCount(); ++column) {
+                empty = empty && grid.itemAtPosition(row, column) == nullptr;
+            }
+            if (empty) grid.setRowMinimumHeight(row, form_.fontMetrics().lineSpacing() / 2);
+        }
+    }
+
     /// The controls of a built screen, in its coarse grid of letters and rows.
-    void AddPlaced(QBoxLayout& to) {
+    void Add(QBoxLayout& to, const layout::CoarseGrid& /*place*/) {
         auto* canvas = new QWidget(&form_);
         QSize extent(0, 0);
         for (const auto& control : model_.controls()) {
@@ -173,142 +167,142 @@ class LayoutMaker {
         return {QPoint(qRound(left), qRound((place.y - 1.0) * row)), size};
     }
 
-    void AddTable(QBoxLayout& to, const LayoutNode& node) {
-        auto* grid = new QGridLayout;
-        grid->setHorizontalSpacing(3 * form_.fontMetrics().averageCharWidth());
-        for (std::size_t row = 0; row < node.table.size(); ++row) {
-            for (std::size_t column = 0; column < node.table[row].size(); ++column) {
-                QWidget* cell = find_(TableCellName(node.name, row + 1, column + 1));
-                const Qt::Alignment side = column == 0 ? Qt::AlignLeft : Qt::AlignRight;
-                grid->addWidget(cell, static_cast<int>(row), static_cast<int>(column), side);
-            }
-        }
-        to.addLayout(grid);
-    }
+    // --- Fields ---------------------------------------------------------------------------------------
 
-    /// Label, box and unit, one field a row; the boxes of a group are of one width.
-    void AddFields(QBoxLayout& to, const LayoutNode& node) {
+    /// Label, box, unit and small button, one field a row; the boxes of a group are of one width.
+    void Add(QBoxLayout& to, const layout::Fields& group) {
         auto* grid = new QGridLayout;
         grid->setHorizontalSpacing(form_.fontMetrics().averageCharWidth());
         int width = 0;
-        for (const FieldItem& field : node.fields) {
+        for (const FieldItem& field : group.fields) {
             QWidget* box = find_(field.Box());
             width = std::max({width, box->minimumWidth(), box->minimumSizeHint().width()});
         }
-        for (std::size_t i = 0; i < node.fields.size(); ++i) {
-            const FieldItem& field = node.fields[i];
-            const int row = static_cast<int>(i);
-            grid->addWidget(find_(field.Label()), row, 0);
-            find_(field.Box())->setFixedWidth(width);
-            grid->addWidget(find_(field.Box()), row, 1);
-            if (!field.choice.empty()) grid->addWidget(find_(field.choice), row, 1);
-            grid->addWidget(find_(field.Unit()), row, 2);
+        for (std::size_t i = 0; i < group.fields.size(); ++i) {
+            AddField(*grid, static_cast<int>(i), group.fields[i], width);
         }
-        grid->setColumnMinimumWidth(kFieldColumns - 1,
+        grid->setColumnMinimumWidth(kUnitColumn,
                                     form_.fontMetrics().horizontalAdvance(QString(kUnitLetters, u'M')));
-        grid->setColumnStretch(kFieldColumns - 1, 1);
+        grid->setColumnStretch(grid->columnCount() > kButtonColumn ? kButtonColumn + 1 : kUnitColumn, 1);
         to.addLayout(grid);
+    }
+
+    void AddField(QGridLayout& grid, int row, const FieldItem& field, int width) {
+        grid.addWidget(find_(field.Label()), row, kLabelColumn);
+        find_(field.Box())->setFixedWidth(width);
+        grid.addWidget(find_(field.Box()), row, kBoxColumn);
+        if (!field.choice.empty()) grid.addWidget(find_(field.choice), row, kBoxColumn);
+        grid.addWidget(find_(field.Unit()), row, kUnitColumn);
+        const Control* button = model_.Find(WorkOutButtonName(field.variable));
+        if (button == nullptr || button->worksOut.empty()) return;
+        QWidget* widget = find_(button->name);
+        widget->setFixedHeight(find_(field.Box())->sizeHint().height());
+        grid.addWidget(widget, row, kButtonColumn);
     }
 
     /// A line of text is as wide as its least width; a list may grow with its entries.
-    QWidget* FixedBox(const FieldItem& field) {
-        QWidget* box = find_(field.Box());
+    void Add(QBoxLayout& to, const layout::BareBox& declared) {
+        QWidget* box = find_(declared.field.Box());
         if (qobject_cast<QLineEdit*>(box) != nullptr) box->setFixedWidth(box->minimumWidth());
-        return box;
+        to.addWidget(box);
     }
 
-    /// Elements in rows and columns. What takes several rows stands at their top.
-    void AddMatrix(QBoxLayout& to, const LayoutNode& node) {
-        auto* grid = new QGridLayout;
-        grid->setHorizontalSpacing(form_.fontMetrics().averageCharWidth());
-        int columns = 0;
-        for (const LayoutNode& element : node.children) {
-            auto* cell = new QVBoxLayout;
-            AddCell(*cell, element);
-            const MatrixPlace& place = element.place;
-            const Qt::Alignment side = place.rows > 1 ? Qt::AlignTop : Qt::Alignment();
-            grid->addLayout(cell, place.row, place.column, place.rows, 1, side);
-            columns = std::max(columns, place.column + 1);
-        }
-        SetRowsApart(*grid);
-        grid->setColumnStretch(columns, 1);
-        to.addLayout(grid);
-    }
+    void Add(QBoxLayout& to, const layout::DetachedLabel& label) { to.addWidget(find_(label.name)); }
 
-    /// An option stands in the line of the box beside it.
-    void AddCell(QBoxLayout& cell, const LayoutNode& element) {
-        if (element.kind != LayoutKind::Options) return Add(cell, element);
-        for (const ButtonItem& option : element.buttons) cell.addWidget(find_(option.name));
-    }
-
-    /// A row without elements sets those around it apart.
-    void SetRowsApart(QGridLayout& grid) {
-        for (int row = 0; row < grid.rowCount(); ++row) {
-            bool empty = true;
-            for (int column = 0; column < grid.columnCount(); ++column) {
-                empty = empty && grid.itemAtPosition(row, column) == nullptr;
-            }
-            if (empty) grid.setRowMinimumHeight(row, form_.fontMetrics().lineSpacing() / 2);
-        }
-    }
-
-    void AddOptions(QBoxLayout& to, const LayoutNode& node) {
-        for (const ButtonItem& option : node.buttons) to.addWidget(find_(option.name));
-        to.addSpacing(form_.fontMetrics().lineSpacing() / 2);
-    }
-
-    /// Check boxes stand below the option that they belong to, further in.
-    void AddChecks(QBoxLayout& to, const LayoutNode& node) {
-        auto* rows = new QVBoxLayout;
-        rows->setContentsMargins(form_.fontMetrics().lineSpacing() * 3 / 2, 0, 0, 0);
-        for (const ButtonItem& box : node.buttons) rows->addWidget(find_(box.name));
-        to.addLayout(rows);
-    }
-
-    void AddChoice(QBoxLayout& to, const LayoutNode& node) {
+    void Add(QBoxLayout& to, const layout::Choice& choice) {
         auto* row = new QHBoxLayout;
-        row->addWidget(find_(FieldLabelName(node.name)));
-        row->addWidget(find_(node.name));
+        row->addWidget(find_(FieldLabelName(choice.name)));
+        row->addWidget(find_(choice.name));
         row->addStretch(1);
         to.addLayout(row);
     }
 
-    void AddHeading(QBoxLayout& to, const LayoutNode& node) {
-        QWidget* heading = find_(node.name);
+    void Add(QBoxLayout& /*to*/, const layout::Hidden& /*boxes*/) {}
+
+    // --- Buttons --------------------------------------------------------------------------------------
+
+    void Add(QBoxLayout& to, const layout::Options& group) {
+        for (const ButtonItem& option : group.options) to.addWidget(find_(option.name));
+        to.addSpacing(form_.fontMetrics().lineSpacing() / 2);
+    }
+
+    /// Check boxes stand below the option that they belong to, further in.
+    void Add(QBoxLayout& to, const layout::Checks& group) {
+        auto* rows = new QVBoxLayout;
+        rows->setContentsMargins(form_.fontMetrics().lineSpacing() * 3 / 2, 0, 0, 0);
+        for (const ButtonItem& box : group.boxes) rows->addWidget(find_(box.name));
+        to.addLayout(rows);
+    }
+
+    /// Buttons inside a form stand at the left, but in a frame or column they share its width.
+    void Add(QBoxLayout& to, const layout::Buttons& declared) {
+        auto* row = new QHBoxLayout;
+        for (const ButtonItem& button : declared.buttons) row->addWidget(find_(button.name));
+        if (onPage_) row->addStretch(1);
+        to.addLayout(row);
+    }
+
+    /// The form's own buttons stand at the right of its foot, all of one width.
+    void AddFoot(QBoxLayout& to) {
+        const std::vector<ButtonItem>& foot = model_.type().foot;
+        if (foot.empty()) return;
+        to.addStretch(1);
+        auto* row = new QHBoxLayout;
+        row->addStretch(1);
+        int width = 0;
+        for (const ButtonItem& button : foot) width = std::max(width, find_(button.name)->sizeHint().width());
+        for (const ButtonItem& button : foot) {
+            find_(button.name)->setMinimumWidth(width);
+            row->addWidget(find_(button.name));
+        }
+        to.addLayout(row);
+    }
+
+    // --- What is shown --------------------------------------------------------------------------------
+
+    void Add(QBoxLayout& to, const layout::Heading& line) {
+        QWidget* heading = find_(line.name);
         QFont font = heading->font();
         font.setPointSizeF(font.pointSizeF() * kHeadingScale);
         heading->setFont(font);
         to.addWidget(heading);
     }
 
-    void AddText(QBoxLayout& to, const LayoutNode& node) {
-        auto* text = qobject_cast<QLabel*>(find_(node.name));
+    void Add(QBoxLayout& to, const layout::Text& paragraph) {
+        auto* text = qobject_cast<QLabel*>(find_(paragraph.name));
         text->setWordWrap(true);
         text->setFixedWidth(text->fontMetrics().averageCharWidth() * kParagraphLetters);
         to.addWidget(text);
     }
 
-    /// Buttons inside a form stand at the left, but in a frame or column they share its width.
-    void AddButtons(QBoxLayout& to, const LayoutNode& node) {
-        auto* row = new QHBoxLayout;
-        for (const ButtonItem& button : node.buttons) row->addWidget(find_(button.name));
-        if (onPage_) row->addStretch(1);
-        to.addLayout(row);
+    void Add(QBoxLayout& to, const layout::Caption& line) { to.addWidget(find_(line.name)); }
+    void Add(QBoxLayout& to, const layout::Statement& statement) {
+        auto* label = qobject_cast<QLabel*>(find_(statement.name));
+        const double letters = statement.letters > 0.0 ? statement.letters : kStatementLetters;
+        label->setWordWrap(true);
+        label->setFixedWidth(qRound(label->fontMetrics().averageCharWidth() * letters));
+        label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+        label->setProperty(kLeastLinesProperty, statement.lines);
+        to.addWidget(label);
     }
 
-    /// The form's own buttons stand at the right of its foot, all of one width.
-    void AddFootButtons(QBoxLayout& to, const LayoutNode& node) {
-        auto* row = new QHBoxLayout;
-        row->addStretch(1);
-        int width = 0;
-        for (const ButtonItem& button : node.buttons) {
-            width = std::max(width, find_(button.name)->sizeHint().width());
+    void Add(QBoxLayout& to, const layout::Verdict& line) { to.addWidget(find_(line.name)); }
+    void Add(QBoxLayout& to, const layout::Indicator& indicator) { to.addWidget(find_(indicator.name)); }
+    void Add(QBoxLayout& to, const layout::Picture& picture) { to.addWidget(find_(picture.name)); }
+    void Add(QBoxLayout& to, const layout::Grid& grid) { to.addWidget(find_(grid.name), 1); }
+    void Add(QBoxLayout& to, const layout::Chart& chart) { to.addWidget(find_(chart.name), 1); }
+
+    void Add(QBoxLayout& to, const layout::Table& table) {
+        auto* grid = new QGridLayout;
+        grid->setHorizontalSpacing(3 * form_.fontMetrics().averageCharWidth());
+        for (std::size_t row = 0; row < table.rows.size(); ++row) {
+            for (std::size_t column = 0; column < table.rows[row].size(); ++column) {
+                QWidget* cell = find_(TableCellName(table.name, row + 1, column + 1));
+                const Qt::Alignment side = column == 0 ? Qt::AlignLeft : Qt::AlignRight;
+                grid->addWidget(cell, static_cast<int>(row), static_cast<int>(column), side);
+            }
         }
-        for (const ButtonItem& button : node.buttons) {
-            find_(button.name)->setMinimumWidth(width);
-            row->addWidget(find_(button.name));
-        }
-        to.addLayout(row);
+        to.addLayout(grid);
     }
 
     const Form& model_;

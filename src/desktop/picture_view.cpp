@@ -1,5 +1,6 @@
 #include "desktop/picture_view.h"
 
+#include <QFile>
 #include <QPainter>
 
 #include "desktop/qt_text.h"
@@ -22,10 +23,8 @@ constexpr double kLettersWide = 64.0;
 }  // namespace
 
 PictureView::PictureView(const std::string& file, QWidget* parent, double letters)
-    : QWidget(parent),
-      file_(file),
-      letters_(letters > 0.0 ? letters : kLettersWide),
-      drawing_(ResourceOf(file)) {
+    : QWidget(parent), file_(file), letters_(letters > 0.0 ? letters : kLettersWide) {
+    if (const QString drawing = ResourceOf(file); QFile::exists(drawing)) drawing_.load(drawing);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setFocusPolicy(Qt::NoFocus);
 }

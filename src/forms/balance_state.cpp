@@ -57,7 +57,7 @@ void SolveForField(ScreenContext& context, Form& form, const Field& field) {
     const std::size_t equation = EquationOf(context, form, field);
     Control& indicator = *IndicatorLabel(form, equation);
     const IndicatorLook before{form.equations[equation].state, indicator};
-    form.SetHiddenText("SolveForSide", std::to_string(equation + 1));
+    form.SetText("SolveForSide", std::to_string(equation + 1));
     const int result = context.calculations.SolveForVariable(context.calc, form.tag, field.seq.value_or(0));
     RefreshScreen(context, form);
     if (result != 0) {

@@ -39,6 +39,17 @@ std::optional<std::size_t> GridData::Find(std::string_view variable) const {
     return std::nullopt;
 }
 
+void Control::Lock() {
+    locked = true;
+    tabStop = false;
+}
+
+void Control::LockAsComputed() {
+    Lock();
+    computed = true;
+    backColor = colours::kLightCyan;
+}
+
 bool Control::IsField() const {
     return (kind == ControlKind::TextBox || kind == ControlKind::ComboBox) && !tag.empty();
 }

@@ -112,7 +112,8 @@ struct Control {
     std::optional<CoarsePlace> place;  // on a built screen
     bool enabled = true;
     bool visible = true;
-    bool locked = false;  // shows a value and takes none
+    bool locked = false;    // shows a value and takes none
+    bool computed = false;  // of a box: its value is worked out, and has the colour of such values
     bool tabStop = true;
     bool value = false;  // of an option button or a check box
     bool bold = false;
@@ -121,12 +122,19 @@ struct Control {
     char accessKey = '\0';          // pressed with Alt: moves the focus here, and clicks a button
     std::string labelOf;            // of a caption: the control it describes
     std::string unitOf;             // of a unit label: the box it stands behind
+    std::string worksOut;           // of a small button beside a field: the variable whose help it opens
     bool onlyItems = false;         // of a list: it takes nothing but its items
     bool coded = false;             // of a list: what is stored is the place of the word, from 1
     std::vector<LetterWord> words;  // that a letter typed into a list stands for
     double letters = 0.0;           // the width of a box or of a picture; 0: by its kind
     int page = -1;                  // of the tab strip; -1: on every page
     int group = 0;  // of option buttons: one of a group is selected; the innermost frame or page
+
+    /// Makes a box one that shows a value and takes none.
+    void Lock();
+
+    /// Makes it one that shows a computed value.
+    void LockAsComputed();
 
     /// A box whose Tag is a variable.
     [[nodiscard]] bool IsField() const;

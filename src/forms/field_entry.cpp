@@ -107,12 +107,12 @@ std::string OutOfRangeText(const Range& range) {
 
 void FieldChange(Form& form, Control& control) {
     form.SetFieldChanged(true);
-    form.SetHiddenText("SolveForField", control.tag);
+    form.SetText("SolveForField", control.tag);
 }
 
 void FieldGotFocus(Form& form, Control& control) {
     form.SetFieldChanged(false);
-    form.SetHiddenText("SolveForField", control.tag);
+    form.SetText("SolveForField", control.tag);
     FindControlIndex(form, control.name);
     form.spelt.clear();
     SelectAll(form);
@@ -147,7 +147,7 @@ bool FieldLostFocus(ScreenContext& context, Form& form, Control& control) {
         if (!PassesRange(context, control)) return Refuse(form, control);
         StoreField(context, form, control);
     }
-    form.SetHiddenText("SolveForField", control.tag);
+    form.SetText("SolveForField", control.tag);
     return true;
 }
 

@@ -24,7 +24,7 @@ struct Subject {
 Subject SubjectInHand(const Form& form) {
     const Control* control = form.iCurrentField ? form.controls()[*form.iCurrentField].get() : nullptr;
     if (control != nullptr && control->grid) return {control->grid->current().variable, control->grid->row};
-    return {form.HiddenText("SolveForField"), 0};
+    return {form.TextOf("SolveForField"), 0};
 }
 
 void Say(ScreenContext& context, const std::string& text) {
@@ -74,9 +74,9 @@ struct CallerField {
 };
 
 CallerField FindCallerField(const ScreenContext& context, const Form& form) {
-    Form* caller = context.forms.Find(form.HiddenText("FormName"));
+    Form* caller = context.forms.Find(form.TextOf("FormName"));
     if (caller == nullptr) return {};
-    const std::string field = form.HiddenText("FieldName");
+    const std::string field = form.TextOf("FieldName");
     if (form.dim1() && caller->FindGrid() != nullptr) {
         const GridData& grid = *caller->FindGrid()->grid;
         const auto column = grid.Find(field);
@@ -85,7 +85,7 @@ CallerField FindCallerField(const ScreenContext& context, const Form& form) {
     }
     const Control* box = caller->FindField(field);
     if (box == nullptr) return {};
-    return {box->locked, box->backColor == colours::kLightCyan, box->items, box->words};
+    return {box->locked, box->computed, box->items, box->words};
 }
 
 /// Offers what the caller's list offers, in the same way.
@@ -121,14 +121,14 @@ void OpenFieldHelp(ScreenContext& context, Form& form) {
 }
 
 void ShowCalledField(ScreenContext& context, Form& form, const std::string& captionStart) {
-    const Variable* variable = context.catalogue.FindVariable(form.HiddenText("FieldName"));
+    const Variable* variable = context.catalogue.FindVariable(form.TextOf("FieldName"));
     Control* box = form.Find("TextBox") != nullptr ? form.Find("TextBox") : form.Find("Text1");
     if (variable == nullptr || box == nullptr) return;
     const std::string& head = variable->helpHead.empty() ? variable->desc : variable->helpHead;
     if (!captionStart.empty()) form.caption = captionStart + head;
-    form.SetHiddenText("HelpHead", head);
-    form.SetHiddenText("HelpText", context.catalogue.HelpText(variable->name).value_or(""));
-    form.SetHiddenText("Label", variable->desc);
+    form.SetText("HelpHead", head);
+    form.SetText("HelpText", context.catalogue.HelpText(variable->name).value_or(""));
+    form.SetText("Label", variable->desc);
 
     Control& unit = *form.FindUnitOf(box->name);
     const CallerField field = FindCallerField(context, form);
@@ -138,21 +138,26 @@ void ShowCalledField(ScreenContext& context, Form& form, const std::string& capt
         box = &SwapForList(form, *box, *list);
     }
     BindBox(*box, unit, variable->name, variable);
-    if (field.locked) LockBox(*box, field.computed);
+    if (field.computed) {
+        box->LockAsComputed();
+    } else if (field.locked) {
+        box->Lock();
+    }
     ShowStoredValue(context, form, *box);
     form.valueAtOpening = CalledField(context, form);
 }
 
-void DropCommas(ScreenContext& /*context*/, Form& /*form*/, Control* control) {
-    if (control->kind == ControlKind::TextBox && IsNumeric(control->text)) std::erase(control->text, ',');
+void DropCommas(ScreenEvent& event) {
+    if (event.control->kind == ControlKind::TextBox && IsNumeric(event.control->text))
+        std::erase(event.control->text, ',');
 }
 
-void CloseValueHelp(ScreenContext& context, Form& form, Control* /*control*/) {
-    const bool changed = !IsSameValue(CalledField(context, form), form.valueAtOpening);
-    ReturnFromSideScreen(context, form, changed);
-    Form* caller = context.forms.Find(form.HiddenText("FormName"));
-    Control* field = caller == nullptr ? nullptr : caller->FindField(form.HiddenText("FieldName"));
-    if (changed && field != nullptr && field->coded) ShowStoredValue(context, *caller, *field);
+void CloseValueHelp(ScreenEvent& event) {
+    const bool changed = !IsSameValue(CalledField(event.context, event.form), event.form.valueAtOpening);
+    ReturnFromSideScreen(event.context, event.form, changed);
+    Form* caller = event.context.forms.Find(event.form.TextOf("FormName"));
+    Control* field = caller == nullptr ? nullptr : caller->FindField(event.form.TextOf("FieldName"));
+    if (changed && field != nullptr && field->coded) ShowStoredValue(event.context, *caller, *field);
 }
 
 }  // namespace kelvor

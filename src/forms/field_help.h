@@ -19,10 +19,10 @@ void OpenFieldHelp(ScreenContext& context, Form& form);
 void ShowCalledField(ScreenContext& context, Form& form, const std::string& captionStart = {});
 
 /// Before such a box is left: a number is stored without the commas that group its digits.
-void DropCommas(ScreenContext& context, Form& form, Control* control);
+void DropCommas(ScreenEvent& event);
 
 /// The close of such a help screen: the caller is told whether the field has a new value.
-void CloseValueHelp(ScreenContext& context, Form& form, Control* control);
+void CloseValueHelp(ScreenEvent& event);
 
 /// The general helps: `HelpForm` for a field, `HelpGrid` for a cell of a grid, and `Helpfrm`, which tells
 /// what the catalogue holds about a variable.

@@ -1,6 +1,7 @@
 #include "forms/form.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <utility>
 
 #include "forms/access_keys.h"
@@ -35,6 +36,16 @@ Control* Form::Find(std::string_view name) {
 const Control* Form::Find(std::string_view name) const {
     const auto index = IndexOf(name);
     return index ? controls_[*index].get() : nullptr;
+}
+
+Control& Form::Get(std::string_view name) {
+    if (Control* control = Find(name)) return *control;
+    throw std::logic_error("form " + type_.name + " has no control " + std::string(name));
+}
+
+const Control& Form::Get(std::string_view name) const {
+    if (const Control* control = Find(name)) return *control;
+    throw std::logic_error("form " + type_.name + " has no control " + std::string(name));
 }
 
 std::optional<std::size_t> Form::IndexOf(std::string_view name) const {
@@ -87,21 +98,21 @@ Control& Form::Add(ControlKind kind, std::string name) {
 
 void Form::AssignAccessKeys() { kelvor::AssignAccessKeys(controls_); }
 
-std::string Form::HiddenText(std::string_view name) const {
+std::string Form::TextOf(std::string_view name) const {
     const Control* control = Find(name);
     return control == nullptr ? std::string() : control->text;
 }
 
-void Form::SetHiddenText(std::string_view name, std::string text) {
+void Form::SetText(std::string_view name, std::string text) {
     if (Control* control = Find(name)) control->text = std::move(text);
 }
 
-bool Form::fieldChanged() const { return Val(HiddenText(kFieldChanged)) != 0.0; }
+bool Form::fieldChanged() const { return Val(TextOf(kFieldChanged)) != 0.0; }
 
-void Form::SetFieldChanged(bool changed) { SetHiddenText(kFieldChanged, changed ? kTrue : kFalse); }
+void Form::SetFieldChanged(bool changed) { SetText(kFieldChanged, changed ? kTrue : kFalse); }
 
-std::optional<int> Form::dim2() const { return ParseSubscript(HiddenText("Dim2")); }
-std::optional<int> Form::dim1() const { return ParseSubscript(HiddenText("Dim1")); }
+std::optional<int> Form::dim2() const { return ParseSubscript(TextOf("Dim2")); }
+std::optional<int> Form::dim1() const { return ParseSubscript(TextOf("Dim1")); }
 
 void Form::ShowPage(int page) {
     page_ = page;
@@ -129,13 +140,16 @@ bool Form::CanFocus(const Control& control) const {
     return control.TakesFocus() && (control.page == -1 || control.page == page_);
 }
 
-Control* Form::NextInTabOrder(const Control* from, bool forwards) {
+Control* Form::NextInTabOrder(const Control* from, TabStep step) {
+    const bool forwards = step != TabStep::Previous;
     const std::size_t count = controls_.size();
     std::size_t place = forwards ? count - 1 : 0;
     if (from != nullptr) place = IndexOf(from->name).value_or(place);
     for (std::size_t i = 0; i < count; ++i) {
         place = forwards ? (place + 1) % count : (place + count - 1) % count;
-        if (CanFocus(*controls_[place])) return controls_[place].get();
+        Control& control = *controls_[place];
+        const bool isPassed = step == TabStep::NextInput && !control.worksOut.empty();
+        if (!isPassed && CanFocus(control)) return &control;
     }
     return nullptr;
 }

@@ -30,6 +30,9 @@ struct SideScreenReturn {
     bool valueTaken = false;  // that variable has a new value
 };
 
+/// Where the focus moves in the tab order.
+enum class TabStep { Next, Previous, NextInput };  // NextInput: past the small buttons beside fields
+
 /// What an open form is beside its controls and the page that shows.
 struct FormState {
     std::string tag;  // the catalogue key; the hub changes it with its tabs
@@ -63,6 +66,10 @@ class Form : public FormState {
     [[nodiscard]] Control* Find(std::string_view name);
     [[nodiscard]] const Control* Find(std::string_view name) const;
 
+    /// A control that the form must have. Throws std::logic_error if it has none of the name.
+    [[nodiscard]] Control& Get(std::string_view name);
+    [[nodiscard]] const Control& Get(std::string_view name) const;
+
     /// The box bound to a variable; null if there is none.
     [[nodiscard]] Control* FindField(std::string_view variable);
 
@@ -87,9 +94,10 @@ class Form : public FormState {
     /// The place of a control in the collection, counted from 0; nothing for a name that is none.
     [[nodiscard]] std::optional<std::size_t> IndexOf(std::string_view name) const;
 
-    /// The text of a hidden box; empty if the form has none of that name.
-    [[nodiscard]] std::string HiddenText(std::string_view name) const;
-    void SetHiddenText(std::string_view name, std::string text);
+    /// The text of a control, hidden or not; empty if the form has none of that name, which nothing is
+    /// written to then.
+    [[nodiscard]] std::string TextOf(std::string_view name) const;
+    void SetText(std::string_view name, std::string text);
 
     /// What the indicator of an equation says; at rest if there is none.
     [[nodiscard]] SolveState solveState(std::size_t equation) const {
@@ -114,8 +122,8 @@ class Form : public FormState {
     /// True if a control can take the focus on the page that shows.
     [[nodiscard]] bool CanFocus(const Control& control) const;
 
-    /// The control that Tab reaches from here, forwards or backwards, round the form; null if none can.
-    [[nodiscard]] Control* NextInTabOrder(const Control* from, bool forwards);
+    /// The control that a step reaches from here, round the form; null if none takes the focus.
+    [[nodiscard]] Control* NextInTabOrder(const Control* from, TabStep step);
 
     /// All of a form that an event may change.
     struct Image {

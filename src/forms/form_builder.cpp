@@ -15,17 +15,24 @@ namespace {
 constexpr std::array<std::string_view, 6> kNoUnits = {"No Units", "18 kip ESAL's", "80kN ESAL's",
                                                       "ESN",      "MSN",           ""};
 
-/// Every form has these, hidden: what the common routines keep on it.
-constexpr std::array<std::string_view, 2> kHiddenState = {"FieldChanged", "SolveForField"};
+/// The caption of a small button beside a field.
+constexpr const char* kEllipsis = "\u2026";
+
+/// A hidden box in which the common routines keep something on a form.
+struct StateBox {
+    std::string_view name;
+    bool isNeeded = false;  // on this form
+};
 
 class Builder {
   public:
     Builder(const FormType& type, const Catalogue& catalogue) : type_(type), catalogue_(catalogue) {}
 
     std::vector<std::unique_ptr<Control>> Build() {
-        AddNode(type_.layout);
-        for (const std::string& part : parts_) ShowPart(part);
-        for (const std::string_view name : kHiddenState) AddHidden(std::string(name));
+        AddElement(type_.layout);
+        for (const std::string& name : detached_) ShowDetached(name);
+        AddButtons(ControlKind::CommandButton, type_.foot);
+        AddHiddenBoxes();
         AssignAccessKeys(controls_);
         return std::move(controls_);
     }
@@ -41,183 +48,183 @@ class Builder {
         return *controls_.back();
     }
 
-    void AddNode(const LayoutNode& node) {
-        switch (node.kind) {
-            case LayoutKind::Pages:
-                return AddPages(node);
-            case LayoutKind::Frame:
-                return AddFrame(node);
-            case LayoutKind::Columns:
-            case LayoutKind::Rows:
-            case LayoutKind::Matrix:
-                for (const LayoutNode& child : node.children) AddNode(child);
-                return;
-            case LayoutKind::Fields:
-                for (const FieldItem& field : node.fields) AddField(field);
-                return;
-            case LayoutKind::Hidden:
-                for (const FieldItem& field : node.fields) AddHidden(field.variable);
-                return;
-            case LayoutKind::Options:
-                return AddButtons(ControlKind::OptionButton, node);
-            case LayoutKind::Checks:
-                return AddButtons(ControlKind::CheckBox, node);
-            case LayoutKind::Buttons:
-                return AddButtons(ControlKind::CommandButton, node);
-            default:
-                return AddSingle(node);
-        }
+    // --- Elements: one routine for each kind --------------------------------------------------------
+
+    void AddElement(const LayoutElement& element) {
+        std::visit([this](const auto& kind) { Make(kind); }, element.kind);
     }
 
-    /// What has no elements inside it.
-    void AddSingle(const LayoutNode& node) {
-        switch (node.kind) {
-            case LayoutKind::Picture:
-                return AddPicture(node);
-            case LayoutKind::Verdict:
-                Add(ControlKind::Label, node.name).bold = true;
-                return;
-            case LayoutKind::Grid:
-                return AddGrid(node);
-            case LayoutKind::Table:
-                return AddTable(node);
-            case LayoutKind::Chart:
-                Add(ControlKind::Chart, node.name).chart = node.chart;
-                return;
-            case LayoutKind::Indicator:
-                return AddIndicator(node.name);
-            case LayoutKind::Choice:
-                return AddChoice(node);
-            case LayoutKind::Placed:
-                return AddBuiltParts();
-            case LayoutKind::Box:
-                return AddBox(node.fields.front());
-            case LayoutKind::Part:
-                parts_.push_back(node.name);
-                return;
-            default:  // a text of some kind
-                Add(ControlKind::Label, node.name).text = node.title;
-        }
+    void AddElements(const std::vector<LayoutElement>& elements) {
+        for (const LayoutElement& element : elements) AddElement(element);
     }
 
-    void AddButtons(ControlKind kind, const LayoutNode& node) {
-        for (const ButtonItem& button : node.buttons) AddButton(kind, button);
+    void Make(const layout::Rows& rows) { AddElements(rows.elements); }
+    void Make(const layout::Columns& columns) { AddElements(columns.elements); }
+
+    void Make(const layout::Matrix& matrix) {
+        for (const MatrixCell& cell : matrix.cells) AddElement(cell.element);
     }
 
-    void AddPages(const LayoutNode& node) {
-        Control& strip = Add(ControlKind::TabStrip, node.name);
-        for (const LayoutNode& page : node.children) strip.items.push_back(page.title);
-        strip.text = strip.items.front();
-        for (std::size_t i = 0; i < node.children.size(); ++i) {
+    void Make(const layout::Pages& strip) {
+        Control& tabs = Add(ControlKind::TabStrip, strip.name);
+        for (const layout::Page& page : strip.pages) tabs.items.push_back(page.title);
+        tabs.text = tabs.items.front();
+        for (std::size_t i = 0; i < strip.pages.size(); ++i) {
             page_ = static_cast<int>(i);
             group_ = ++groups_;
-            AddNode(node.children[i]);
+            AddElements(strip.pages[i].elements);
         }
         page_ = -1;
         group_ = 0;
     }
 
-    void AddFrame(const LayoutNode& node) {
-        Add(ControlKind::Frame, node.name).text = node.title;
+    void Make(const layout::Frame& frame) {
+        AddLabelled(ControlKind::Frame, frame.name, frame.title);
         const int outer = group_;
-        if (!node.sharesOptions) group_ = ++groups_;
-        for (const LayoutNode& child : node.children) AddNode(child);
+        if (!frame.sharesOptions) group_ = ++groups_;
+        AddElements(frame.elements);
         group_ = outer;
     }
 
-    void AddChoice(const LayoutNode& node) {
-        Control& label = Add(ControlKind::Label, FieldLabelName(node.name));
-        label.text = node.title;
-        label.labelOf = node.name;
-        Add(ControlKind::ComboBox, node.name).backColor = colours::kWindow;
+    void Make(const layout::Fields& group) {
+        for (const FieldItem& field : group.fields) {
+            AddField(field);
+            AddWorkOutButton(field);
+        }
     }
 
-    void AddPicture(const LayoutNode& node) {
-        Control& picture = Add(ControlKind::Image, node.name);
-        picture.text = node.title;
-        picture.toolTip = node.shows;
-        picture.letters = node.letters;
-    }
-
-    /// A field of which only the box is seen, unless a part of it is shown elsewhere.
-    void AddBox(const FieldItem& item) {
+    /// A field of which only the box is seen, unless its label or unit is shown elsewhere.
+    void Make(const layout::BareBox& box) {
         const std::size_t first = controls_.size();
-        AddField(item);
+        AddField(box.field);
         for (std::size_t i = first; i < controls_.size(); ++i) {
             if (controls_[i]->kind == ControlKind::Label) controls_[i]->visible = false;
         }
     }
 
-    void ShowPart(const std::string& name) {
-        for (const auto& control : controls_) {
-            if (control->name == name) control->visible = true;
+    void Make(const layout::DetachedLabel& label) { detached_.push_back(label.name); }
+    void Make(const layout::Options& group) { AddButtons(ControlKind::OptionButton, group.options); }
+    void Make(const layout::Checks& group) { AddButtons(ControlKind::CheckBox, group.boxes); }
+    void Make(const layout::Buttons& row) { AddButtons(ControlKind::CommandButton, row.buttons); }
+
+    void Make(const layout::Choice& choice) {
+        AddLabelled(ControlKind::Label, FieldLabelName(choice.name), choice.label).labelOf = choice.name;
+        Add(ControlKind::ComboBox, choice.name).backColor = colours::kWindow;
+    }
+
+    void Make(const layout::Heading& line) { AddLabelled(ControlKind::Label, line.name, line.text); }
+    void Make(const layout::Text& paragraph) {
+        AddLabelled(ControlKind::Label, paragraph.name, paragraph.text);
+    }
+    void Make(const layout::Caption& line) { AddLabelled(ControlKind::Label, line.name, line.text); }
+    void Make(const layout::Statement& statement) { Add(ControlKind::Label, statement.name); }
+    void Make(const layout::Verdict& line) { Add(ControlKind::Label, line.name).bold = true; }
+
+    void Make(const layout::Picture& picture) {
+        Control& image = AddLabelled(ControlKind::Image, picture.name, picture.file);
+        image.toolTip = picture.shows;
+        image.letters = picture.letters;
+    }
+
+    void Make(const layout::Grid& declared) {
+        Control& control = Add(ControlKind::Grid, declared.name);
+        control.backColor = colours::kWindow;
+        GridData& grid = control.grid.emplace();
+        grid.rowsShown = declared.rowsShown;
+        grid.routines = declared.routines;
+        for (const FieldItem& item : declared.columns) {
+            grid.columns.push_back(MakeColumn(item));
+            const Variable* variable = catalogue_.FindVariable(item.variable);
+            if (variable != nullptr) grid.rows = std::max(grid.rows, variable->dim1);
         }
     }
 
-    void AddIndicator(const std::string& name) {
-        Control& label = Add(ControlKind::Label, name);
+    void Make(const layout::Table& table) {
+        for (std::size_t row = 0; row < table.rows.size(); ++row) {
+            for (std::size_t column = 0; column < table.rows[row].size(); ++column) {
+                AddLabelled(ControlKind::Label, TableCellName(table.name, row + 1, column + 1),
+                            table.rows[row][column])
+                    .bold = row == 0;
+            }
+        }
+    }
+
+    void Make(const layout::Chart& chart) { Add(ControlKind::Chart, chart.name).chart = chart.data; }
+
+    void Make(const layout::Indicator& indicator) {
+        Control& label = Add(ControlKind::Label, indicator.name);
         label.tag = "SolveFor";
         label.backColor = colours::kResting;
         label.foreColor = colours::kBlack;
     }
 
     /// What a built screen may have; it shows what its catalogue rows name.
-    void AddBuiltParts() {
+    void Make(const layout::CoarseGrid& /*place*/) {
         Control& grid = Add(ControlKind::Grid, "Grid");
         grid.backColor = colours::kWindow;
         grid.grid.emplace();
         grid.visible = false;
-        AddButton(ControlKind::CommandButton, {"PrevPage", "&Back"});
-        controls_.back()->visible = false;
-        AddButton(ControlKind::CommandButton, {"NextPage", "&Next"});
-        controls_.back()->visible = false;
+        AddButton(ControlKind::CommandButton, {"PrevPage", "&Back"}).visible = false;
+        AddButton(ControlKind::CommandButton, {"NextPage", "&Next"}).visible = false;
     }
 
-    void AddHidden(const std::string& name) {
-        Control& box = Add(ControlKind::TextBox, name);
-        box.visible = false;
-        box.tabStop = false;
-        box.page = -1;
+    void Make(const layout::Hidden& boxes) {
+        hidden_.insert(hidden_.end(), boxes.names.begin(), boxes.names.end());
     }
 
-    void AddButton(ControlKind kind, const ButtonItem& item) {
-        Control& button = Add(kind, item.name);
-        button.text = item.caption;
+    // --- Controls -----------------------------------------------------------------------------------
+
+    Control& AddLabelled(ControlKind kind, std::string name, const std::string& text) {
+        Control& control = Add(kind, std::move(name));
+        control.text = text;
+        return control;
+    }
+
+    void ShowDetached(const std::string& name) {
+        for (const auto& control : controls_) {
+            if (control->name == name) control->visible = true;
+        }
+    }
+
+    Control& AddButton(ControlKind kind, const ButtonItem& item) {
+        Control& button = AddLabelled(kind, item.name, item.caption);
         button.accessKey = MarkedKey(item.caption);
         if (item.comesLater) {
             button.enabled = false;
             button.toolTip = kComesLater;
         }
+        return button;
     }
 
-    void AddTable(const LayoutNode& node) {
-        for (std::size_t row = 0; row < node.table.size(); ++row) {
-            for (std::size_t column = 0; column < node.table[row].size(); ++column) {
-                Control& cell = Add(ControlKind::Label, TableCellName(node.name, row + 1, column + 1));
-                cell.text = node.table[row][column];
-                cell.bold = row == 0;
-            }
-        }
+    void AddButtons(ControlKind kind, const std::vector<ButtonItem>& items) {
+        for (const ButtonItem& item : items) AddButton(kind, item);
     }
 
     /// A field's label, its box and its unit, from the catalogue.
     void AddField(const FieldItem& item) {
         const Variable* variable = catalogue_.FindVariable(item.variable);
-        Control& label = Add(ControlKind::Label, item.Label());
-        label.text = !item.label.empty() || variable == nullptr ? item.label : variable->desc;
-        label.labelOf = item.Box();
+        const bool described = item.label.empty() && variable != nullptr;
+        AddLabelled(ControlKind::Label, item.Label(), described ? variable->desc : item.label).labelOf =
+            item.Box();
+        Control& box = AddBox(item);
+        if (!item.choice.empty()) AddChoice(item);
+        Control& unit = Add(ControlKind::Label, item.Unit());
+        unit.unitOf = item.Box();
+        if (!item.variable.empty()) BindBox(box, unit, item.variable, variable);
+    }
 
+    Control& AddBox(const FieldItem& item) {
         const bool list = item.list || !item.words.empty();
         Control& box = Add(list ? ControlKind::ComboBox : ControlKind::TextBox, item.Box());
         box.backColor = colours::kWindow;
         box.letters = item.letters;
         if (!item.words.empty()) MakeCoded(box, item.words);
-        if (!item.choice.empty()) AddChoice(item);
-        Control& unit = Add(ControlKind::Label, item.Unit());
-        unit.unitOf = item.Box();
-        const bool output = item.computed || IsOutput(item.variable);
-        if (item.locked || output) LockBox(box, output);
-        if (!item.variable.empty()) BindBox(box, unit, item.variable, variable);
+        if (item.computed || IsOutput(item.variable)) {
+            box.LockAsComputed();
+        } else if (item.locked) {
+            box.Lock();
+        }
+        return box;
     }
 
     void AddChoice(const FieldItem& item) {
@@ -227,26 +234,29 @@ class Builder {
         list.visible = false;
     }
 
-    void AddGrid(const LayoutNode& node) {
-        Control& control = Add(ControlKind::Grid, node.name);
-        control.backColor = colours::kWindow;
-        control.grid.emplace();
-        control.grid->rowsShown = node.rowsShown;
-        control.grid->routines = node.gridRoutines;
-        for (const FieldItem& item : node.fields) {
-            const Variable* variable = catalogue_.FindVariable(item.variable);
-            GridColumn column;
-            column.variable = item.variable;
-            column.caption = ColumnCaption(item);
-            column.picture = variable == nullptr ? "" : variable->format;
-            column.list = item.list ? item.variable : "";
-            column.words = item.words;
-            column.letters = item.letters;
-            column.routines = item.routines;
-            column.locked = item.locked || IsOutput(item.variable);
-            control.grid->columns.push_back(std::move(column));
-            if (variable != nullptr) control.grid->rows = std::max(control.grid->rows, variable->dim1);
+    /// The small button of a field that has a help which works its value out.
+    void AddWorkOutButton(const FieldItem& item) {
+        for (const HelpRoute& route : type_.helpRoutes) {
+            if (route.workOut.empty() || !EqualNoCase(route.variable, item.variable)) continue;
+            Control& button =
+                AddLabelled(ControlKind::CommandButton, WorkOutButtonName(item.variable), kEllipsis);
+            button.toolTip = route.workOut;
+            button.worksOut = item.variable;
         }
+    }
+
+    [[nodiscard]] GridColumn MakeColumn(const FieldItem& item) const {
+        const Variable* variable = catalogue_.FindVariable(item.variable);
+        GridColumn column;
+        column.variable = item.variable;
+        column.caption = ColumnCaption(item);
+        column.picture = variable == nullptr ? "" : variable->format;
+        column.list = item.list ? item.variable : "";
+        column.words = item.words;
+        column.letters = item.letters;
+        column.routines = item.routines;
+        column.locked = item.locked || IsOutput(item.variable);
+        return column;
     }
 
     /// What the declaration says, else the catalogue's heading for this screen, else the description.
@@ -265,10 +275,43 @@ class Builder {
                            [&](const Field* field) { return EqualNoCase(field->name, variable); });
     }
 
+    // --- Hidden boxes -------------------------------------------------------------------------------
+
+    /// Those that only this form has, then those that the common routines keep something in.
+    void AddHiddenBoxes() {
+        const bool ofProject = type_.needsProject && !type_.isHelp;
+        const std::array state = {
+            StateBox{"SolveForSide", !type_.equations.empty()},  // the equation that was solved last, from 1
+            StateBox{"FieldName", type_.isHelp},  // of a form that is opened for a field of another one:
+            StateBox{"FormName", type_.isHelp},   // the field and that form
+            StateBox{"Dim1", ofProject},          // the subscripts that it shows
+            StateBox{"Dim2", type_.needsProject},
+            StateBox{"Column", false},  // the variable of the grid's cell that it is opened for
+            StateBox{"FieldChanged", true},
+            StateBox{"SolveForField", true},
+        };
+        for (const std::string& name : hidden_) {
+            const auto isOwn = [&](const StateBox& box) { return box.name != name; };
+            if (std::all_of(state.begin(), state.end(), isOwn)) AddHidden(name);
+        }
+        for (const StateBox& box : state) {
+            const bool declared = std::find(hidden_.begin(), hidden_.end(), box.name) != hidden_.end();
+            if (box.isNeeded || declared) AddHidden(std::string(box.name));
+        }
+    }
+
+    void AddHidden(const std::string& name) {
+        Control& box = Add(ControlKind::TextBox, name);
+        box.visible = false;
+        box.tabStop = false;
+        box.page = -1;
+    }
+
     const FormType& type_;
     const Catalogue& catalogue_;
     std::vector<std::unique_ptr<Control>> controls_;
-    std::vector<std::string> parts_;  // labels and units of boxes that are shown after all
+    std::vector<std::string> detached_;  // labels and units of bare boxes that are shown after all
+    std::vector<std::string> hidden_;    // boxes that the declaration adds
     int page_ = -1;
     int group_ = 0;
     int groups_ = 0;
@@ -282,12 +325,6 @@ void BindBox(Control& box, Control& unit, const std::string& name, const Variabl
     unit.tag = UnitLabelName(name);
     // A label without a unit stays blank through every switch.
     unit.text = variable == nullptr || IsNoUnit(variable->units) ? "" : variable->units;
-}
-
-void LockBox(Control& box, bool computed) {
-    box.locked = true;
-    box.tabStop = false;
-    if (computed) box.backColor = colours::kLightCyan;
 }
 
 bool IsNoUnit(std::string_view unit) {

@@ -17,10 +17,8 @@ bool IsNoUnit(std::string_view unit);
 /// Binds a box and the unit behind it to a variable; null: the catalogue has no such variable.
 void BindBox(Control& box, Control& unit, const std::string& name, const Variable* variable);
 
-/// Makes a box one that shows a value and takes none.
-void LockBox(Control& box, bool computed);
-
-/// The controls of a form type, in the order of its layout.
+/// The controls of a form type: those of its layout, in its order, then the buttons at its foot and the
+/// hidden boxes that it needs.
 std::vector<std::unique_ptr<Control>> BuildControls(const FormType& type, const Catalogue& catalogue);
 
 }  // namespace kelvor

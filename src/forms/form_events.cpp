@@ -53,13 +53,14 @@ bool TakesTyping(const Form& form) {
 }  // namespace
 
 void FormEvents::Handle(FormEvent event, Form& form, Control* control, const std::function<void()>& common) {
+    ScreenEvent told{context_, form, control};
     const auto run = [&](HandlerOrder order) {
         bool any = false;
         for (const Handler& handler : form.type().handlers) {
             if (!IsFor(handler, event, control, order)) continue;
             any = true;
             try {
-                handler.run(context_, form, control);
+                handler.run(told);
             } catch (const ArithmeticFault&) {
                 // The routine is abandoned like a calculation: no number that a user types ends the program.
             }
@@ -84,7 +85,7 @@ Form* FormEvents::Open(const OpenRequest& request) {
     const bool begins = form == nullptr || (request.dim2 && form->dim2() != request.dim2);
     if (form == nullptr) form = &context_.forms.Add(*type, context_.catalogue);
     if (request.call) NoteCall(*form, *request.call);
-    if (request.dim2) form->SetHiddenText("Dim2", std::to_string(*request.dim2));
+    if (request.dim2) form->SetText("Dim2", std::to_string(*request.dim2));
     if (begins) Load(*form);
     Activate(*form);
     return Current() == form ? form : nullptr;
@@ -139,7 +140,7 @@ void FormEvents::TakeReturn(Form& form, const SideScreenReturn& returned) {
 /// A form without a field that takes the focus has it on its first button.
 void FormEvents::FocusFirstField(Form& form) {
     form.focus = nullptr;
-    Control* first = form.NextInTabOrder(nullptr, true);
+    Control* first = form.NextInTabOrder(nullptr, TabStep::Next);
     const auto isField = [&](const auto& control) {
         return form.CanFocus(*control) && !control->IsButton() && !control->IsChoice();
     };
@@ -220,7 +221,7 @@ void FormEvents::GetFocus(Form& form, Control& control) {
             FieldGotFocus(form, control);
         } else {
             // Help for an option is asked for like that for a field.
-            form.SetHiddenText("SolveForField", control.name);
+            form.SetText("SolveForField", control.name);
         }
     });
 }
@@ -243,8 +244,8 @@ void FormEvents::Settle() {
     if (form != nullptr && form->focus != nullptr && form->focusLeft) GetFocus(*form, *form->focus);
 }
 
-void FormEvents::Tab(Form& form, bool forwards) {
-    if (Control* next = form.NextInTabOrder(form.focus, forwards)) MoveFocus(form, *next);
+void FormEvents::Tab(Form& form, TabStep step) {
+    if (Control* next = form.NextInTabOrder(form.focus, step)) MoveFocus(form, *next);
 }
 
 // --- Typing and keys ------------------------------------------------------------------------------------
@@ -323,10 +324,12 @@ bool FormEvents::NamedKey(Form& form, const std::string& key) {
     const bool onOption = form.focus != nullptr && form.focus->kind == ControlKind::OptionButton;
     if (key == "Enter" && form.type().isHub && onOption) {
         Click(form, *form.focus);
-    } else if (key == "Enter" || key == "Tab") {
-        Tab(form, true);
+    } else if (key == "Enter") {
+        Tab(form, TabStep::NextInput);
+    } else if (key == "Tab") {
+        Tab(form, TabStep::Next);
     } else if (key == "BackTab") {
-        Tab(form, false);
+        Tab(form, TabStep::Previous);
     } else if (key == "Esc" && (form.type().isHelp || !TakesTyping(form))) {
         Close(form);
     } else if (key == "Esc") {
@@ -418,7 +421,14 @@ void FormEvents::Click(Form& form, Control& control) {
         if (const auto equation = EquationOfButton(form, control)) SolveForClick(context_, form, *equation);
         if (EqualNoCase(control.name, kOkButton)) Close(form);
         if (EqualNoCase(control.name, kHelpButton)) OpenFieldHelp(context_, form);
+        if (!control.worksOut.empty()) WorkOut(form, control.worksOut);
     });
+}
+
+/// The help of a field as it comes when the field is left for the Help button.
+void FormEvents::WorkOut(Form& form, const std::string& variable) {
+    Control* field = form.FindField(variable);
+    if (field != nullptr && MoveFocus(form, *field)) OpenFieldHelp(context_, form);
 }
 
 bool FormEvents::Choose(Form& form, Control& control, const std::string& item) {

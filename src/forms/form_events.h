@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "forms/cell_block.h"
+#include "forms/form.h"
 #include "forms/screen_context.h"
 
 namespace kelvor {
@@ -105,6 +106,7 @@ class FormEvents {
     void FocusFirstField(Form& form);
     void ActivateFront();
     void Click(Form& form, Control& control);
+    void WorkOut(Form& form, const std::string& variable);
     void TypeCharacter(Form& form, const std::string& character);
     void DeleteCharacter(Form& form);
     static void MoveCaret(Form& form, int step);
@@ -117,7 +119,7 @@ class FormEvents {
     void StepOption(Form& form, const Control& option, int step);
     void StepItem(const Control& list, int step);
     void PressAccessKey(Form& form, char key);
-    void Tab(Form& form, bool forwards);
+    void Tab(Form& form, TabStep step);
 
     ScreenContext& context_;
 };

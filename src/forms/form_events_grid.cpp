@@ -145,7 +145,7 @@ void FormEvents::StepCell(Form& form, Control& control, const std::string& key) 
     int place = (grid.row - 1) * columns + static_cast<int>(grid.column) + step;
     while (!arrow && isIn(place) && isLocked(place)) place += step;
     if (!isIn(place)) {
-        if (!arrow) Tab(form, step > 0);
+        if (!arrow) Tab(form, step > 0 ? TabStep::Next : TabStep::Previous);
     } else if (!arrow || place / columns + 1 == grid.row) {
         MoveGridCursor(form, control, place / columns + 1, static_cast<std::size_t>(place % columns));
     }

@@ -10,6 +10,7 @@ namespace kelvor {
 void FormRegistry::Declare(std::vector<FormType> types) {
     for (FormType& type : types) {
         if (FindType(type.name) != nullptr) throw std::logic_error("form " + type.name + " stands twice");
+        if (type.tag.empty()) type.tag = type.name;
         types_.push_back(std::make_unique<FormType>(std::move(type)));
     }
 }

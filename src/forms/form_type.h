@@ -32,18 +32,27 @@ enum class FormEvent {
 /// How a screen's own routine stands to the common one of the same event.
 enum class HandlerOrder { Before, Instead, After };
 
+/// What a screen's own routine is told of an event.
+struct ScreenEvent {
+    ScreenContext& context;
+    Form& form;
+    Control* control;  // null on an event of the form itself
+};
+
 /// A routine of a screen for an event of one control, or of any control where `control` is empty.
 struct Handler {
     FormEvent event;
     std::string control;
     HandlerOrder order;
-    void (*run)(ScreenContext& context, Form& form, Control* control);
+    void (*run)(ScreenEvent& event);
 };
 
 /// A field whose help is a screen of its own.
 struct HelpRoute {
-    std::string variable;
+    std::string variable;  // of a field or a grid's column; also the name of an option
     std::string form;
+    std::string workOut = {};  // of a field whose value that screen works out: what the small button beside
+                               // it, which opens the screen too, is called ("Work out the ...")
 };
 
 /// The equations whose balance is kept while their screens are closed.
@@ -77,9 +86,10 @@ struct FormEquation {
 /// Declared, not drawn: a front end lays it out.
 struct FormType {
     std::string name;
-    std::string tag;  // the catalogue key
+    std::string tag;  // the catalogue key; empty: the name
     std::string caption;
-    LayoutNode layout;
+    LayoutElement layout;
+    std::vector<ButtonItem> foot = {{"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}};  // below the layout
     std::vector<Handler> handlers;
     std::vector<FormEquation> equations;  // in the order of their terms
     std::vector<HelpRoute> helpRoutes;    // any other field has the general help

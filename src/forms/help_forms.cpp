@@ -11,25 +11,26 @@ namespace {
 
 constexpr const char* kCaptionStart = "Help Screen for the ";
 
-void CloseClick(ScreenContext& context, Form& form, Control* /*button*/) { FormEvents(context).Close(form); }
+void CloseClick(ScreenEvent& event) { FormEvents(event.context).Close(event.form); }
 
 /// Opened without a field, a help shows the one that was asked for last.
 void RecallField(const ScreenContext& context, Form& form) {
-    if (!form.HiddenText("FieldName").empty()) return;
+    if (!form.TextOf("FieldName").empty()) return;
     for (const char* name : {"FieldName", "FormName"}) {
-        form.SetHiddenText(name, context.units.GetDisplayValue(name));
+        form.SetText(name, context.units.GetDisplayValue(name));
     }
     if (form.Find("Column") == nullptr) return;
-    for (const char* name : {"Dim1", "Column"}) form.SetHiddenText(name, context.units.GetDisplayValue(name));
+    for (const char* name : {"Dim1", "Column"}) form.SetText(name, context.units.GetDisplayValue(name));
 }
 
-void Load(ScreenContext& context, Form& form, Control* /*control*/) {
-    RecallField(context, form);
-    ShowCalledField(context, form, kCaptionStart);
+void Load(ScreenEvent& event) {
+    RecallField(event.context, event.form);
+    ShowCalledField(event.context, event.form, kCaptionStart);
 }
 
-void LimitsClick(ScreenContext& context, Form& form, Control* /*button*/) {
-    FormEvents(context).Open({.form = "Helpfrm", .call = MakeCall(form, form.HiddenText("FieldName"))});
+void LimitsClick(ScreenEvent& event) {
+    FormEvents(event.context)
+        .Open({.form = "Helpfrm", .call = MakeCall(event.form, event.form.TextOf("FieldName"))});
 }
 
 std::vector<Handler> ValueHelpHandlers() {
@@ -46,7 +47,6 @@ std::vector<Handler> ValueHelpHandlers() {
 FormType ValueHelp(const std::string& name, const std::string& box, std::vector<std::string> hidden) {
     FormType type;
     type.name = name;
-    type.tag = name;
     type.caption = "Help";
     type.modal = true;
     type.isHelp = true;
@@ -58,9 +58,9 @@ FormType ValueHelp(const std::string& name, const std::string& box, std::vector<
                  .labelName = "Label",
                  .unitName = "Units",
                  .choice = "ComboBox"}}),
-        Buttons({{"Command1", "&OK"}, {"SSHelp", "&Limits"}}),
         Hidden(std::move(hidden)),
     });
+    type.foot = {{"Command1", "&OK"}, {"SSHelp", "&Limits"}};
     type.handlers = ValueHelpHandlers();
     return type;
 }
@@ -71,13 +71,13 @@ std::string LimitText(const std::optional<double>& limit, const std::string& pic
     return limit ? FormatNumber(*limit, picture) : "none";
 }
 
-void LoadFacts(ScreenContext& context, Form& form, Control* /*control*/) {
-    const Variable* variable = context.catalogue.FindVariable(form.HiddenText("FieldName"));
+void LoadFacts(ScreenEvent& event) {
+    const Variable* variable = event.context.catalogue.FindVariable(event.form.TextOf("FieldName"));
     if (variable == nullptr) return;
-    const Range range = context.units.VariableRange(variable->name);
+    const Range range = event.context.units.VariableRange(variable->name);
     const std::pair<std::string, std::string> facts[] = {
         {"Name in scripts", variable->name},
-        {"Unit", context.units.UnitLabel(variable->name)},
+        {"Unit", event.context.units.UnitLabel(variable->name)},
         {"Least value", LimitText(range.low, variable->format)},
         {"Greatest value", LimitText(range.high, variable->format)},
         {"Number format", variable->format},
@@ -85,22 +85,19 @@ void LoadFacts(ScreenContext& context, Form& form, Control* /*control*/) {
     int line = 0;
     for (const auto& [label, text] : facts) {
         const std::string number = std::to_string(++line);
-        form.SetHiddenText("Label" + number, label);
-        form.SetHiddenText("Text" + number, text);
+        event.form.SetText("Label" + number, label);
+        event.form.SetText("Text" + number, text);
     }
     const bool limited = range.low || range.high;
-    form.SetHiddenText("msg", variable->desc + (limited ? ": values outside these limits are refused."
+    event.form.SetText("msg", variable->desc + (limited ? ": values outside these limits are refused."
                                                         : ": has no limits."));
 }
 
-void ReturnFromFacts(ScreenContext& context, Form& form, Control* /*control*/) {
-    ReturnFromSideScreen(context, form, false);
-}
+void ReturnFromFacts(ScreenEvent& event) { ReturnFromSideScreen(event.context, event.form, false); }
 
 FormType FactsForm() {
     FormType type;
     type.name = "Helpfrm";
-    type.tag = "Helpfrm";
     type.caption = "Help ";
     type.modal = true;
     type.isHelp = true;
@@ -111,8 +108,8 @@ FormType FactsForm() {
                          .labelName = std::string("Label") + number,
                          .unitName = std::string("Unit") + number});
     }
-    type.layout = Rows({Text("msg", ""), Fields(std::move(lines)), Buttons({{"CmdClose", "&OK"}}),
-                        Hidden({"FieldName", "FormName"})});
+    type.layout = Rows({Text("msg", ""), Fields(std::move(lines))});
+    type.foot = {{"CmdClose", "&OK"}};
     type.handlers = {
         {FormEvent::Load, "", HandlerOrder::After, LoadFacts},
         {FormEvent::Unload, "", HandlerOrder::Before, ReturnFromFacts},
@@ -124,8 +121,8 @@ FormType FactsForm() {
 }  // namespace
 
 std::vector<FormType> HelpForms() {
-    return {ValueHelp("HelpForm", "TextBox", {"FieldName", "FormName", "Dim2"}),
-            ValueHelp("HelpGrid", "Text1", {"FieldName", "FormName", "Column", "Dim1", "Dim2"}), FactsForm()};
+    return {ValueHelp("HelpForm", "TextBox", {}), ValueHelp("HelpGrid", "Text1", {"Column", "Dim1"}),
+            FactsForm()};
 }
 
 }  // namespace kelvor

@@ -2,160 +2,118 @@
 
 #include <utility>
 
+#include "forms/form_type.h"
+
 namespace kelvor {
 
 namespace {
 
-LayoutNode Group(LayoutKind kind, std::vector<LayoutNode> children) {
-    LayoutNode node;
-    node.kind = kind;
-    node.children = std::move(children);
-    return node;
-}
-
-LayoutNode Leaf(LayoutKind kind, std::string name, std::string title) {
-    LayoutNode node;
-    node.kind = kind;
-    node.name = std::move(name);
-    node.title = std::move(title);
-    return node;
-}
+/// The room of the lines beside an indicator: what a balance in millions takes, and a description.
+constexpr int kCheckLines = 4;
+constexpr int kTargetLines = 2;
+constexpr double kNarrowLetters = 28.0;  // of the lines beside an indicator
 
 }  // namespace
 
-LayoutNode Pages(std::string name, std::vector<LayoutNode> pages) {
-    LayoutNode node = Group(LayoutKind::Pages, std::move(pages));
-    node.name = std::move(name);
-    return node;
+layout::Page Page(std::string title, std::vector<LayoutElement> elements) {
+    return {std::move(title), std::move(elements)};
 }
 
-LayoutNode Columns(std::vector<LayoutNode> children) {
-    return Group(LayoutKind::Columns, std::move(children));
-}
-LayoutNode Rows(std::vector<LayoutNode> children) { return Group(LayoutKind::Rows, std::move(children)); }
-
-LayoutNode Page(std::string title, std::vector<LayoutNode> children) {
-    LayoutNode node = Rows(std::move(children));
-    node.title = std::move(title);
-    return node;
+LayoutElement Pages(std::string name, std::vector<layout::Page> pages) {
+    return {layout::Pages{std::move(name), std::move(pages)}};
 }
 
-LayoutNode Frame(std::string name, std::string title, std::vector<LayoutNode> children) {
-    LayoutNode node = Group(LayoutKind::Frame, std::move(children));
-    node.name = std::move(name);
-    node.title = std::move(title);
-    return node;
+LayoutElement Columns(std::vector<LayoutElement> elements) { return {layout::Columns{std::move(elements)}}; }
+LayoutElement Rows(std::vector<LayoutElement> elements) { return {layout::Rows{std::move(elements)}}; }
+
+LayoutElement Frame(std::string name, std::string title, std::vector<LayoutElement> elements) {
+    return {layout::Frame{std::move(name), std::move(title), std::move(elements)}};
 }
 
-LayoutNode Section(std::string name, std::string title, std::vector<LayoutNode> children) {
-    LayoutNode node = Frame(std::move(name), std::move(title), std::move(children));
-    node.sharesOptions = true;
-    return node;
+LayoutElement Section(std::string name, std::string title, std::vector<LayoutElement> elements) {
+    return {layout::Frame{.name = std::move(name),
+                          .title = std::move(title),
+                          .elements = std::move(elements),
+                          .sharesOptions = true}};
 }
 
-LayoutNode Fields(std::vector<FieldItem> fields) {
-    LayoutNode node;
-    node.kind = LayoutKind::Fields;
-    node.fields = std::move(fields);
-    return node;
+LayoutElement Matrix(std::vector<MatrixCell> cells) { return {layout::Matrix{std::move(cells)}}; }
+
+MatrixCell At(int row, int column, LayoutElement element, int rows) {
+    return {row, column, std::move(element), rows};
 }
 
-LayoutNode Options(std::vector<ButtonItem> options) {
-    LayoutNode node;
-    node.kind = LayoutKind::Options;
-    node.buttons = std::move(options);
-    return node;
+LayoutElement Fields(std::vector<FieldItem> fields) { return {layout::Fields{std::move(fields)}}; }
+LayoutElement BareBox(FieldItem field) { return {layout::BareBox{std::move(field)}}; }
+LayoutElement LabelOf(const std::string& box) { return {layout::DetachedLabel{FieldLabelName(box)}}; }
+LayoutElement UnitOf(const std::string& box) { return {layout::DetachedLabel{UnitLabelName(box)}}; }
+
+LayoutElement Options(std::vector<ButtonItem> options) { return {layout::Options{std::move(options)}}; }
+LayoutElement Checks(std::vector<ButtonItem> boxes) { return {layout::Checks{std::move(boxes)}}; }
+LayoutElement Buttons(std::vector<ButtonItem> buttons) { return {layout::Buttons{std::move(buttons)}}; }
+
+LayoutElement Choice(std::string name, std::string label) {
+    return {layout::Choice{std::move(name), std::move(label)}};
 }
 
-LayoutNode Checks(std::vector<ButtonItem> boxes) {
-    LayoutNode node = Options(std::move(boxes));
-    node.kind = LayoutKind::Checks;
-    return node;
+LayoutElement Heading(std::string name, std::string text) {
+    return {layout::Heading{std::move(name), std::move(text)}};
 }
 
-LayoutNode Choice(std::string name, std::string label) {
-    return Leaf(LayoutKind::Choice, std::move(name), std::move(label));
+LayoutElement Text(std::string name, std::string text) {
+    return {layout::Text{std::move(name), std::move(text)}};
 }
 
-LayoutNode Heading(std::string name, std::string text) {
-    return Leaf(LayoutKind::Heading, std::move(name), std::move(text));
+LayoutElement Caption(std::string name, std::string text) {
+    return {layout::Caption{std::move(name), std::move(text)}};
 }
 
-LayoutNode Text(std::string name, std::string text) {
-    return Leaf(LayoutKind::Text, std::move(name), std::move(text));
+LayoutElement Verdict(std::string name) { return {layout::Verdict{std::move(name)}}; }
+
+LayoutElement Statement(std::string name, int lines, double letters) {
+    return {layout::Statement{std::move(name), lines, letters}};
 }
 
-LayoutNode Picture(std::string name, std::string file) {
-    return Leaf(LayoutKind::Picture, std::move(name), std::move(file));
+LayoutElement Picture(std::string name, std::string file) {
+    return {layout::Picture{std::move(name), std::move(file)}};
 }
 
-LayoutNode SmallPicture(std::string name, std::string file, double letters, std::string shows) {
-    LayoutNode node = Picture(std::move(name), std::move(file));
-    node.letters = letters;
-    node.shows = std::move(shows);
-    return node;
+LayoutElement SmallPicture(std::string name, std::string file, double letters, std::string shows) {
+    return {layout::Picture{std::move(name), std::move(file), letters, std::move(shows)}};
 }
 
-LayoutNode Matrix(std::vector<LayoutNode> elements) { return Group(LayoutKind::Matrix, std::move(elements)); }
-
-LayoutNode At(int row, int column, LayoutNode element, int rows) {
-    element.place = {row, column, rows};
-    return element;
+LayoutElement Grid(std::string name, std::vector<FieldItem> columns, int rowsShown, GridRoutines routines) {
+    return {layout::Grid{std::move(name), std::move(columns), rowsShown, routines}};
 }
 
-LayoutNode Box(FieldItem field) {
-    LayoutNode node;
-    node.kind = LayoutKind::Box;
-    node.fields.push_back(std::move(field));
-    return node;
-}
-
-LayoutNode Part(std::string name) { return Leaf(LayoutKind::Part, std::move(name), {}); }
-
-LayoutNode Caption(std::string name, std::string text) {
-    return Leaf(LayoutKind::Caption, std::move(name), std::move(text));
-}
-
-LayoutNode Grid(std::string name, std::vector<FieldItem> columns, int rowsShown, GridRoutines routines) {
-    LayoutNode node = Leaf(LayoutKind::Grid, std::move(name), {});
-    node.fields = std::move(columns);
-    node.rowsShown = rowsShown;
-    node.gridRoutines = routines;
-    return node;
-}
-
-LayoutNode Verdict(std::string name) { return Leaf(LayoutKind::Verdict, std::move(name), {}); }
-
-LayoutNode Table(std::string name, std::vector<std::vector<std::string>> rows) {
-    LayoutNode node = Leaf(LayoutKind::Table, std::move(name), {});
-    node.table = std::move(rows);
-    return node;
+LayoutElement Table(std::string name, std::vector<std::vector<std::string>> rows) {
+    return {layout::Table{std::move(name), std::move(rows)}};
 }
 
 std::string TableCellName(const std::string& table, std::size_t row, std::size_t column) {
     return table + std::to_string(row) + "_" + std::to_string(column);
 }
 
-LayoutNode Chart(std::string name, ChartData data) {
-    LayoutNode node = Leaf(LayoutKind::Chart, std::move(name), {});
-    node.chart = std::move(data);
-    return node;
+LayoutElement Chart(std::string name, ChartData data) {
+    return {layout::Chart{std::move(name), std::move(data)}};
 }
 
-LayoutNode Placed() { return Leaf(LayoutKind::Placed, {}, {}); }
+LayoutElement CoarseGrid() { return {layout::CoarseGrid{}}; }
+LayoutElement Hidden(std::vector<std::string> names) { return {layout::Hidden{std::move(names)}}; }
 
-LayoutNode Buttons(std::vector<ButtonItem> buttons) {
-    LayoutNode node;
-    node.kind = LayoutKind::Buttons;
-    node.buttons = std::move(buttons);
-    return node;
-}
-
-LayoutNode Hidden(std::vector<std::string> names) {
-    LayoutNode node;
-    node.kind = LayoutKind::Hidden;
-    for (std::string& name : names) node.fields.push_back({.variable = std::move(name)});
-    return node;
+LayoutElement SolveForFrame(std::string frame, const FormEquation& equation, FrameShape shape,
+                            std::string caption) {
+    LayoutElement indicator{layout::Indicator{equation.indicator}};
+    LayoutElement button = Buttons({{.name = equation.button, .caption = std::move(caption)}});
+    if (shape == FrameShape::Tall) {
+        return Frame(std::move(frame), "Solve For",
+                     {std::move(indicator), Statement(equation.check, kCheckLines),
+                      Statement(equation.target, kTargetLines), std::move(button)});
+    }
+    return Frame(std::move(frame), "Solve For",
+                 {Columns({Rows({std::move(indicator), std::move(button)}),
+                           Rows({Statement(equation.check, kCheckLines + 1, kNarrowLetters),
+                                 Statement(equation.target, kTargetLines, kNarrowLetters)})})});
 }
 
 std::string FieldItem::Label() const { return labelName.empty() ? FieldLabelName(Box()) : labelName; }
@@ -163,13 +121,6 @@ std::string FieldItem::Unit() const { return unitName.empty() ? UnitLabelName(Bo
 
 std::string FieldLabelName(const std::string& variable) { return "Lab" + variable; }
 std::string UnitLabelName(const std::string& variable) { return "u" + variable; }
-
-LayoutNode SolveForFrame(std::string frame, std::string indicator, std::string button, std::string caption) {
-    LayoutNode label;
-    label.kind = LayoutKind::Indicator;
-    label.name = std::move(indicator);
-    return Frame(std::move(frame), "Solve For",
-                 {label, Buttons({{std::move(button), std::move(caption), false}})});
-}
+std::string WorkOutButtonName(const std::string& variable) { return "cmdb" + variable; }
 
 }  // namespace kelvor

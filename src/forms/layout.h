@@ -1,40 +1,13 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "forms/control.h"
 
 namespace kelvor {
-
-/// How the elements of a form lie to each other.
-enum class LayoutKind {
-    Pages,      // one child a tab
-    Columns,    // children side by side
-    Rows,       // children below each other
-    Frame,      // a titled group of its children
-    Fields,     // label, box and unit in aligned columns
-    Options,    // option buttons below each other
-    Checks,     // check boxes below each other
-    Choice,     // a drop-down list that is no field, behind its label
-    Heading,    // a line in large letters
-    Text,       // a paragraph
-    Picture,    // an image
-    Grid,       // a table of the project's cells
-    Table,      // a table of fixed texts, the first row its headings
-    Chart,      // a chart with its data sheet
-    Placed,     // the controls that have a place in a coarse grid
-    Verdict,    // a line in bold letters that says how things stand
-    Indicator,  // the Solve For indicator above its button
-    Buttons,    // buttons in a row
-    Matrix,     // elements in rows and columns
-    Box,        // the box of a field alone; what stands around it is heard, and seen where a Part shows it
-    Part,       // the label or unit of a Box
-    Caption,    // a text in one line
-    Hidden,     // boxes that the user never sees
-};
 
 /// One field of a form: the variable it is bound to, and what its declaration says beyond the catalogue. A
 /// field without a variable is bound when its form opens; it names its controls.
@@ -68,80 +41,236 @@ struct ButtonItem {
     bool comesLater = false;
 };
 
+struct FormEquation;
+struct LayoutElement;
+struct MatrixCell;
+
+/// The kinds of elements that a form may have. Whoever walks a layout has a routine for each of them: a kind
+/// that one of them does not know does not compile.
+namespace layout {
+
+struct Page {
+    std::string title;
+    std::vector<LayoutElement> elements;
+};
+
+/// A strip of tabs, a page each.
+struct Pages {
+    std::string name;
+    std::vector<Page> pages;
+};
+
+/// Elements side by side.
+struct Columns {
+    std::vector<LayoutElement> elements;
+};
+
+/// Elements below each other.
+struct Rows {
+    std::vector<LayoutElement> elements;
+};
+
+/// A titled group of elements.
+struct Frame {
+    std::string name;
+    std::string title;
+    std::vector<LayoutElement> elements;
+    bool sharesOptions = false;  // its options and those around it exclude each other
+};
+
+/// Elements in rows and columns.
+struct Matrix {
+    std::vector<MatrixCell> cells;
+};
+
+/// Label, box and unit of each field, in aligned columns.
+struct Fields {
+    std::vector<FieldItem> fields;
+};
+
+/// The box of a field without the label and the unit, which are heard, and seen only where a DetachedLabel
+/// shows them.
+struct BareBox {
+    FieldItem field;
+};
+
+/// The label or the unit of a BareBox, in another place than beside it.
+struct DetachedLabel {
+    std::string name;
+};
+
+/// Option buttons below each other.
+struct Options {
+    std::vector<ButtonItem> options;
+};
+
+/// Check boxes below each other.
+struct Checks {
+    std::vector<ButtonItem> boxes;
+};
+
+/// Buttons in a row.
+struct Buttons {
+    std::vector<ButtonItem> buttons;
+};
+
+/// A drop-down list that is bound to no variable, behind its label.
+struct Choice {
+    std::string name;
+    std::string label;
+};
+
+/// A line in large letters.
+struct Heading {
+    std::string name;
+    std::string text;
+};
+
+/// A paragraph.
+struct Text {
+    std::string name;
+    std::string text;
+};
+
+/// A text in one line.
+struct Caption {
+    std::string name;
+    std::string text;
+};
+
+/// A line in bold letters that says how things stand.
+struct Verdict {
+    std::string name;
+};
+
+/// A sentence that says how things stand, in room enough for some lines, so that nothing moves when it
+/// changes.
+struct Statement {
+    std::string name;
+    int lines = 2;
+    double letters = 0.0;  // its width; 0: as wide as the indicator
+};
+
+struct Picture {
+    std::string name;
+    std::string file;
+    double letters = 0.0;    // its width; 0: as the start page has it
+    std::string shows = {};  // in words
+};
+
+/// A table of the project's cells, a variable a column.
+struct Grid {
+    std::string name;
+    std::vector<FieldItem> columns;
+    int rowsShown = 0;  // before it scrolls; 0: as many as most show
+    GridRoutines routines = {};
+};
+
+/// A table of fixed texts, the first row its headings.
+struct Table {
+    std::string name;
+    std::vector<std::vector<std::string>> rows;
+};
+
+/// A chart with its data sheet.
+struct Chart {
+    std::string name;
+    ChartData data;
+};
+
+/// The Solve For indicator above its button.
+struct Indicator {
+    std::string name;
+};
+
+/// What a built screen may have; its controls have places in a coarse grid of letters and rows.
+struct CoarseGrid {};
+
+/// Boxes that the user never sees, beyond those that the form has anyway.
+struct Hidden {
+    std::vector<std::string> names;
+};
+
+}  // namespace layout
+
+/// An element of a form, with the elements inside it.
+struct LayoutElement {
+    std::variant<layout::Rows, layout::Columns, layout::Pages, layout::Frame, layout::Matrix, layout::Fields,
+                 layout::BareBox, layout::DetachedLabel, layout::Options, layout::Checks, layout::Buttons,
+                 layout::Choice, layout::Heading, layout::Text, layout::Caption, layout::Verdict,
+                 layout::Statement, layout::Picture, layout::Grid, layout::Table, layout::Chart,
+                 layout::Indicator, layout::CoarseGrid, layout::Hidden>
+        kind;
+};
+
 /// Where an element stands in a matrix.
-struct MatrixPlace {
+struct MatrixCell {
     int row = 0;
     int column = 0;
+    LayoutElement element;
     int rows = 1;  // that it takes
 };
 
-/// An element of a form, with the elements inside it.
-struct LayoutNode {
-    LayoutKind kind = LayoutKind::Rows;
-    std::string name;   // of the control that it makes, where it makes one
-    std::string title;  // of a frame or page; the paragraph of a text; the file of a picture
-    std::vector<LayoutNode> children;
-    std::vector<FieldItem> fields;
-    std::vector<ButtonItem> buttons;
-    std::vector<std::vector<std::string>> table;  // the rows of a table of texts
-    std::optional<ChartData> chart;
-    MatrixPlace place;
-    double letters = 0.0;        // the width of a picture; 0: as the start page has it
-    int rowsShown = 0;           // of a grid, before it scrolls; 0: as many as most show
-    GridRoutines gridRoutines;   // of a grid
-    std::string shows;           // what a picture shows, in words
-    bool sharesOptions = false;  // of a frame: its options and those around it exclude each other
-};
-
-LayoutNode Pages(std::string name, std::vector<LayoutNode> pages);
-LayoutNode Columns(std::vector<LayoutNode> children);
-LayoutNode Rows(std::vector<LayoutNode> children);
-LayoutNode Page(std::string title, std::vector<LayoutNode> children);
-LayoutNode Frame(std::string name, std::string title, std::vector<LayoutNode> children);
+layout::Page Page(std::string title, std::vector<LayoutElement> elements);
+LayoutElement Pages(std::string name, std::vector<layout::Page> pages);
+LayoutElement Columns(std::vector<LayoutElement> elements);
+LayoutElement Rows(std::vector<LayoutElement> elements);
+LayoutElement Frame(std::string name, std::string title, std::vector<LayoutElement> elements);
 
 /// A frame whose options and those of the other sections of the page exclude each other.
-LayoutNode Section(std::string name, std::string title, std::vector<LayoutNode> children);
-LayoutNode Fields(std::vector<FieldItem> fields);
-LayoutNode Options(std::vector<ButtonItem> options);
-LayoutNode Checks(std::vector<ButtonItem> boxes);
+LayoutElement Section(std::string name, std::string title, std::vector<LayoutElement> elements);
 
-/// A drop-down list that is bound to no variable.
-LayoutNode Choice(std::string name, std::string label);
-LayoutNode Heading(std::string name, std::string text);
-LayoutNode Text(std::string name, std::string text);
-LayoutNode Verdict(std::string name);
-LayoutNode Picture(std::string name, std::string file);
+/// Elements in rows and columns; each is put to its place by At.
+LayoutElement Matrix(std::vector<MatrixCell> cells);
+MatrixCell At(int row, int column, LayoutElement element, int rows = 1);
+
+LayoutElement Fields(std::vector<FieldItem> fields);
+
+/// The box of a field alone; LabelOf and UnitOf show the label and the unit of such a box elsewhere.
+LayoutElement BareBox(FieldItem field);
+LayoutElement LabelOf(const std::string& box);
+LayoutElement UnitOf(const std::string& box);
+
+LayoutElement Options(std::vector<ButtonItem> options);
+LayoutElement Checks(std::vector<ButtonItem> boxes);
+LayoutElement Buttons(std::vector<ButtonItem> buttons);
+LayoutElement Choice(std::string name, std::string label);
+LayoutElement Heading(std::string name, std::string text);
+LayoutElement Text(std::string name, std::string text);
+LayoutElement Caption(std::string name, std::string text);
+LayoutElement Verdict(std::string name);
+LayoutElement Statement(std::string name, int lines, double letters = 0.0);
+LayoutElement Picture(std::string name, std::string file);
 
 /// A drawing among fields, so many letters wide, with what it shows in words.
-LayoutNode SmallPicture(std::string name, std::string file, double letters, std::string shows);
+LayoutElement SmallPicture(std::string name, std::string file, double letters, std::string shows);
 
 /// A table with a column for each variable; an item that is a list offers the list of the variable's name.
-LayoutNode Grid(std::string name, std::vector<FieldItem> columns, int rowsShown = 0,
-                GridRoutines routines = {});
+LayoutElement Grid(std::string name, std::vector<FieldItem> columns, int rowsShown = 0,
+                   GridRoutines routines = {});
 
 /// A table of fixed texts with its headings in the first row. Its labels are called by the name, the row and
 /// the column, both from 1: Guide1_1.
-LayoutNode Table(std::string name, std::vector<std::vector<std::string>> rows);
+LayoutElement Table(std::string name, std::vector<std::vector<std::string>> rows);
 std::string TableCellName(const std::string& table, std::size_t row, std::size_t column);
 
-/// Elements in rows and columns; each is put to its place by At.
-LayoutNode Matrix(std::vector<LayoutNode> elements);
-LayoutNode At(int row, int column, LayoutNode element, int rows = 1);
-LayoutNode Box(FieldItem field);
-LayoutNode Part(std::string name);
-LayoutNode Caption(std::string name, std::string text);
+LayoutElement Chart(std::string name, ChartData data);
+LayoutElement CoarseGrid();
+LayoutElement Hidden(std::vector<std::string> names);
 
-LayoutNode Placed();
-LayoutNode Chart(std::string name, ChartData data);
-LayoutNode Buttons(std::vector<ButtonItem> buttons);
-LayoutNode Hidden(std::vector<std::string> names);
+/// How a Solve For frame stands among the rest: its lines below the indicator, or beside it.
+enum class FrameShape { Tall, Wide };
+
+/// The frame "Solve For" of an equation: the indicator, whether the stored numbers satisfy the equation, what
+/// the button solves for, and the button.
+LayoutElement SolveForFrame(std::string frame, const FormEquation& equation,
+                            FrameShape shape = FrameShape::Tall, std::string caption = "&Solve For");
 
 /// The names of the labels that stand before and after the box of a variable.
 std::string FieldLabelName(const std::string& variable);
 std::string UnitLabelName(const std::string& variable);
 
-/// The frame "Solve For" with the indicator and its button.
-LayoutNode SolveForFrame(std::string frame, std::string indicator, std::string button,
-                         std::string caption = "&Solve For");
+/// The name of the small button beside a field that works its value out.
+std::string WorkOutButtonName(const std::string& variable);
 
 }  // namespace kelvor

@@ -28,7 +28,7 @@ void Show(Form& form, const char* name, const std::string& text) {
 
 void ShowPageButton(Form& form, const char* name, const PageButton& button) {
     if (!button.x) return;
-    Control& control = *form.Find(name);
+    Control& control = form.Get(name);
     control.place = CoarsePlace{.x = *button.x, .y = button.y.value_or(1.0)};
     control.tag = button.screen;
     control.visible = true;
@@ -49,13 +49,13 @@ void BuildLabels(const ScreenContext& context, const std::string& name, Form& fo
 }
 
 void StartGrid(Form& form, const Field& field) {
-    Control& grid = *form.Find("Grid");
+    Control& grid = form.Get("Grid");
     grid.place = CoarsePlace{.x = field.x.value_or(1.0) - 1.0, .y = field.y.value_or(1.0), .height = 0.0};
     grid.visible = true;
 }
 
 void AddColumn(Form& form, const Field& field, const Variable& variable) {
-    Control& grid = *form.Find("Grid");
+    Control& grid = form.Get("Grid");
     if (!grid.place) return;
     GridColumn column;
     column.variable = field.name;
@@ -78,7 +78,7 @@ void AddBox(Form& form, const Field& field, const Variable& variable) {
     box.picture = variable.format;
     box.backColor = colours::kWindow;
     box.tabStop = field.seq.has_value();
-    if (field.IsOutput()) LockBox(box, true);
+    if (field.IsOutput()) box.LockAsComputed();
 }
 
 void BuildFields(const ScreenContext& context, const std::string& name, Form& form) {
@@ -95,7 +95,7 @@ void BuildFields(const ScreenContext& context, const std::string& name, Form& fo
             ++loaded;
         }
     }
-    form.SetHiddenText("NumLoaded", std::to_string(loaded));
+    form.SetText("NumLoaded", std::to_string(loaded));
 }
 
 /// The text on a box's row that stands next before it is its label.
@@ -115,7 +115,7 @@ void LabelBoxes(Form& form) {
 /// Nothing shows until the rows of a screen name it.
 void HideParts(Form& form) {
     for (const char* name : {"Title", "Title1", "Title2", "Frame1", "SolveFor", "Command1"}) {
-        form.Find(name)->visible = false;
+        form.Get(name).visible = false;
     }
 }
 
@@ -123,15 +123,15 @@ void SayNotFound(const ScreenContext& context, const std::string& screen) {
     context.calc.dialogs.ShowMessage({.text = "Screen " + screen + " not found"});
 }
 
-void PageClick(ScreenContext& context, Form& form, Control* button) {
-    const std::string screen = button->tag;
-    FormEvents events(context);
-    const bool isBuilt = context.catalogue.FindScreen(screen) != nullptr;
-    if (!isBuilt && context.forms.FindType(screen) == nullptr) {
-        SayNotFound(context, screen);
-    } else if (events.Close(form)) {
+void PageClick(ScreenEvent& event) {
+    const std::string screen = event.control->tag;
+    FormEvents events(event.context);
+    const bool isBuilt = event.context.catalogue.FindScreen(screen) != nullptr;
+    if (!isBuilt && event.context.forms.FindType(screen) == nullptr) {
+        SayNotFound(event.context, screen);
+    } else if (events.Close(event.form)) {
         if (isBuilt) {
-            OpenBuiltScreen(context, screen);
+            OpenBuiltScreen(event.context, screen);
         } else {
             events.Open({.form = screen});
         }
@@ -148,10 +148,10 @@ bool BuildScreen(ScreenContext& context, const std::string& name, Form& form) {
     }
     HideParts(form);
     form.tag = screen->name;
-    form.SetHiddenText("ScreenName", screen->name);
-    form.SetHiddenText("Dim2", screen->dim2 ? std::to_string(*screen->dim2) : "");
+    form.SetText("ScreenName", screen->name);
+    form.SetText("Dim2", screen->dim2 ? std::to_string(*screen->dim2) : "");
     if (screen->sf1Y) {
-        for (const char* control : {"Frame1", "SolveFor", "Command1"}) form.Find(control)->visible = true;
+        for (const char* control : {"Frame1", "SolveFor", "Command1"}) form.Get(control).visible = true;
     }
     if (screen->layout == "H") {
         Show(form, "Title1", screen->title1);
@@ -187,17 +187,16 @@ FormType BlankForm() {
     FormType type;
     type.name = kBlankForm;
     type.caption = "Screen";
+    type.equations = {{}};
     type.layout = Rows({
         Columns({Verdict("Title"), Verdict("Title1"), Verdict("Title2")}),
-        Columns({Placed(), Rows({SolveForFrame("Frame1", "SolveFor", "Command1")})}),
-        Buttons({{"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}}),
-        Hidden({"ScreenName", "NumLoaded", "SolveForSide", "Dim1", "Dim2"}),
+        Columns({CoarseGrid(), Rows({SolveForFrame("Frame1", type.equations[0])})}),
+        Hidden({"ScreenName", "NumLoaded"}),
     });
-    type.equations = {{}};
-    type.handlers = {{FormEvent::Load, "", HandlerOrder::Instead,
-                      [](ScreenContext&, Form& form, Control*) { HideParts(form); }},
-                     {FormEvent::Click, "PrevPage", HandlerOrder::Instead, PageClick},
-                     {FormEvent::Click, "NextPage", HandlerOrder::Instead, PageClick}};
+    type.handlers = {
+        {FormEvent::Load, "", HandlerOrder::Instead, [](ScreenEvent& event) { HideParts(event.form); }},
+        {FormEvent::Click, "PrevPage", HandlerOrder::Instead, PageClick},
+        {FormEvent::Click, "NextPage", HandlerOrder::Instead, PageClick}};
     return type;
 }
 

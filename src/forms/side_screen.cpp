@@ -9,20 +9,20 @@ constexpr double kTrue = -1.0;
 }  // namespace
 
 SideScreenCall MakeCall(const Form& caller, const std::string& field, int row) {
-    return {caller.name(), field, row, caller.HiddenText("Dim2")};
+    return {caller.name(), field, row, caller.TextOf("Dim2")};
 }
 
 void NoteCall(Form& sideScreen, const SideScreenCall& call) {
-    sideScreen.SetHiddenText("FormName", call.caller);
-    sideScreen.SetHiddenText("FieldName", call.field);
-    sideScreen.SetHiddenText("Dim1", call.row == 0 ? "" : std::to_string(call.row));
-    sideScreen.SetHiddenText("Column", call.row == 0 ? "" : call.field);
-    sideScreen.SetHiddenText("Dim2", call.dim2);
+    sideScreen.SetText("FormName", call.caller);
+    sideScreen.SetText("FieldName", call.field);
+    sideScreen.SetText("Dim1", call.row == 0 ? "" : std::to_string(call.row));
+    sideScreen.SetText("Column", call.row == 0 ? "" : call.field);
+    sideScreen.SetText("Dim2", call.dim2);
 }
 
 CellValue CalledField(const ScreenContext& context, const Form& sideScreen) {
     const CellValue* cell = context.calc.store.FindCell(
-        sideScreen.HiddenText("FieldName"), sideScreen.dim1().value_or(1), sideScreen.dim2().value_or(1));
+        sideScreen.TextOf("FieldName"), sideScreen.dim1().value_or(1), sideScreen.dim2().value_or(1));
     return cell == nullptr ? CellValue{} : *cell;
 }
 
@@ -33,10 +33,10 @@ bool IsSameValue(const CellValue& one, const CellValue& other) {
 void ReturnFromSideScreen(ScreenContext& context, const Form& sideScreen, bool valueTaken) {
     context.calc.store.SetVar("FieldChanged", valueTaken ? kTrue : 0.0);
     if (valueTaken) context.bProjectChanged = true;
-    Form* caller = context.forms.Find(sideScreen.HiddenText("FormName"));
+    Form* caller = context.forms.Find(sideScreen.TextOf("FormName"));
     if (caller == nullptr) return;
     caller->returned =
-        SideScreenReturn{sideScreen.HiddenText("FieldName"), sideScreen.dim1().value_or(0), valueTaken};
+        SideScreenReturn{sideScreen.TextOf("FieldName"), sideScreen.dim1().value_or(0), valueTaken};
     if (context.forms.CurrentForm == &sideScreen) context.forms.BringToFront(*caller);
 }
 

@@ -16,12 +16,12 @@ FormType AboutForm() {
         Text("PurposeLabel",
              "Design of new pavements and overlays, evaluation of deflection tests, traffic and "
              "life-cycle cost by the 1993 AASHTO Guide for Design of Pavement Structures."),
-        Buttons({{"cmdAction", "&OK"}}),
     });
+    type.foot = {{"cmdAction", "&OK"}};
     type.handlers = {
-        {FormEvent::Load, "", HandlerOrder::Instead, [](ScreenContext&, Form&, Control*) {}},
+        {FormEvent::Load, "", HandlerOrder::Instead, [](ScreenEvent&) {}},
         {FormEvent::Activate, "", HandlerOrder::After,
-         [](ScreenContext&, Form& form, Control*) { form.focus = form.Find("cmdAction"); }},
+         [](ScreenEvent& event) { event.form.focus = event.form.Find("cmdAction"); }},
     };
     return type;
 }

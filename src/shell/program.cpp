@@ -1,6 +1,7 @@
 #include "shell/program.h"
 
 #include "design/screens/design_forms.h"
+#include "forms/declaration_check.h"
 #include "forms/equation_lines.h"
 #include "forms/field_help.h"
 #include "forms/form_events.h"
@@ -34,6 +35,7 @@ StartResult Program::Start(const std::string& commandLine) {
     const StartResult result = Main(state_, commandLine);
     RebuildRecentMenu(state_);
     if (result != StartResult::Running) return result;  // an absent file leaves an empty main window
+    CheckDeclarations(state_.formRegistry, *state_.dbCatalogue);
     InEvent([&] {
         ShowHub();
         return true;

@@ -29,9 +29,7 @@ ChartData YearlyCosts() {
 /// The sheet that the button shows next.
 ChartData nextSheet;
 
-void ShowNext(ScreenContext& /*context*/, Form& form, Control* /*button*/) {
-    form.Find("Chart1")->chart = nextSheet;
-}
+void ShowNext(ScreenEvent& event) { event.form.Get("Chart1").chart = nextSheet; }
 
 FormType ChartForm() {
     FormType type;

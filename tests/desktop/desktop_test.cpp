@@ -476,7 +476,7 @@ TEST_F(WindowTest, AModalFormKeepsTheUserFromEverythingElse) {
     asks.tag = "DeF";
     asks.caption = "Asks";
     asks.modal = true;
-    asks.layout = Rows({Fields({{"SN"}}), Buttons({{"cmdAction", "&OK", false}})});
+    asks.layout = Rows({Fields({{"SN"}})});
     state().formRegistry.Declare({asks});
     OpenFlexibleDesign();
     window().door().Raise({UserEvent::Kind::OpenForm, "Asks", {}, 0});

@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTableView>
+#include <QToolButton>
 #include <algorithm>
 #include <cmath>
 
@@ -65,7 +66,8 @@ TextColours ColoursOf(const QWidget& widget) {
     if (qobject_cast<const QLineEdit*>(&widget) != nullptr) {
         return {palette.color(QPalette::Text), palette.color(QPalette::Base)};
     }
-    if (qobject_cast<const QPushButton*>(&widget) != nullptr) {
+    if (qobject_cast<const QPushButton*>(&widget) != nullptr ||
+        qobject_cast<const QToolButton*>(&widget) != nullptr) {
         return {palette.color(QPalette::ButtonText), palette.color(QPalette::Button)};
     }
     return {palette.color(QPalette::WindowText), palette.color(QPalette::Window)};

@@ -40,7 +40,7 @@ unsigned FromEnvironment(const char* name, unsigned usual) {
 unsigned seedOfRun = 0;
 int actUnderWay = 0;
 
-void TellWhere() { std::fprintf(stderr, "seed %u, act %d\n", seedOfRun, actUnderWay); }
+[[maybe_unused]] void TellWhere() { std::fprintf(stderr, "seed %u, act %d\n", seedOfRun, actUnderWay); }
 
 constexpr Qt::Key kKeys[] = {
     Qt::Key_Return, Qt::Key_Tab,   Qt::Key_Backtab, Qt::Key_Escape, Qt::Key_Space,    Qt::Key_F1,

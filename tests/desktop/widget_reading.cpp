@@ -11,6 +11,7 @@
 #include <QRadioButton>
 #include <QTabWidget>
 #include <QTableView>
+#include <QToolButton>
 
 #include "desktop/control_widgets.h"
 #include "desktop/picture_view.h"
@@ -58,6 +59,7 @@ ControlKind KindOf(const QWidget& widget) {
     if (qobject_cast<const QLineEdit*>(&widget) != nullptr) return ControlKind::TextBox;
     if (qobject_cast<const QComboBox*>(&widget) != nullptr) return ControlKind::ComboBox;
     if (qobject_cast<const QPushButton*>(&widget) != nullptr) return ControlKind::CommandButton;
+    if (qobject_cast<const QToolButton*>(&widget) != nullptr) return ControlKind::CommandButton;
     if (qobject_cast<const QRadioButton*>(&widget) != nullptr) return ControlKind::OptionButton;
     if (qobject_cast<const QCheckBox*>(&widget) != nullptr) return ControlKind::CheckBox;
     if (qobject_cast<const QGroupBox*>(&widget) != nullptr) return ControlKind::Frame;

@@ -15,6 +15,7 @@
 #include <QTabWidget>
 #include <QTableView>
 #include <QTest>
+#include <QToolButton>
 #include <exception>
 #include <map>
 
@@ -120,6 +121,7 @@ void WindowDriver::ChooseUnits(bool metric) {
 
 void WindowDriver::ClickEntry(QMenu& menu, QAction& entry) {
     QMenuBar* bar = desktop_.window().menuBar();
+    if (!bar->isEnabled()) return;  // a form in front keeps it off
     QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(menu.menuAction()).center());
     const bool enabled = entry.isEnabled();
     QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(&entry).center());
@@ -159,6 +161,7 @@ void WindowDriver::ActivateForm(const std::string& name) {
     if (view == nullptr) throw ScriptError(name + " is not open");
     auto* menu = desktop_.window().findChild<QMenu*>(QStringLiteral("MenuWindow"));
     QMenuBar* bar = desktop_.window().menuBar();
+    if (!bar->isEnabled()) return;  // a form in front keeps it off
     QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(menu->menuAction()).center());
     QAction* entry = desktop_.window().FindWindowAction(view->form()->name());
     if (entry == nullptr) throw ScriptError(name + " is not in the Window menu");

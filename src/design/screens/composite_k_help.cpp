@@ -15,6 +15,7 @@ namespace kelvor {
 
 namespace {
 
+constexpr const char* kForm = "H_K";
 constexpr const char* kResult = "K";
 constexpr const char* kResultPicture = "#,##0.0";
 constexpr std::array kInputs = {"MRSG", "MRSB", "SBD", "SGD", "LS"};
@@ -28,7 +29,7 @@ bool IsInput(const Control& control) {
                        [&](const char* name) { return control.name == name; });
 }
 
-double Number(const Form& form, const char* name) { return ParseNumber(form.HiddenText(name)); }
+double Number(const Form& form, const char* name) { return ParseNumber(form.TextOf(name)); }
 
 /// Follows what the boxes show, while it is being typed and in the digits that they have afterwards.
 void ComputeCompositeK(const ScreenContext& context, Form& form) {
@@ -40,50 +41,50 @@ void ComputeCompositeK(const ScreenContext& context, Form& form) {
     form.workedOut = true;
     try {
         const auto k = context.units.bMetric() ? CompositeKMetric(layers) : CompositeKEnglish(layers);
-        form.SetHiddenText(kResult, k ? FormatNumber(*k, kResultPicture) : "");
+        form.SetText(kResult, k ? FormatNumber(*k, kResultPicture) : "");
     } catch (const ArithmeticFault&) {
         // The k of before stays.
     }
 }
 
 void Bind(const ScreenContext& context, Form& form, const char* box, const std::string& variable) {
-    BindBox(*form.Find(box), *form.FindUnitOf(box), variable, context.catalogue.FindVariable(variable));
+    BindBox(form.Get(box), *form.FindUnitOf(box), variable, context.catalogue.FindVariable(variable));
 }
 
-void Load(ScreenContext& context, Form& form, Control* /*control*/) {
-    const std::string caller = form.HiddenText("FormName");
+void Load(ScreenEvent& event) {
+    const std::string caller = event.form.TextOf("FormName");
     const bool existing = std::any_of(kExistingScreens.begin(), kExistingScreens.end(),
                                       [&](std::string_view screen) { return EqualNoCase(screen, caller); });
     for (const char* name : kInputs) {
-        if (existing) Bind(context, form, name, std::string(kExistingStart) + name);
+        if (existing) Bind(event.context, event.form, name, std::string(kExistingStart) + name);
     }
-    const std::string field = form.HiddenText("FieldName");
-    if (!field.empty()) Bind(context, form, kResult, field);
+    const std::string field = event.form.TextOf("FieldName");
+    if (!field.empty()) Bind(event.context, event.form, kResult, field);
 }
 
 /// An input is typed into, left, or stored by its own help.
-void InputEvent(ScreenContext& context, Form& form, Control* control) {
-    if (IsInput(*control)) ComputeCompositeK(context, form);
+void InputEvent(ScreenEvent& event) {
+    if (IsInput(*event.control)) ComputeCompositeK(event.context, event.form);
 }
 
 /// What the inputs have given stays, although the boxes were filled anew.
-void Follow(ScreenContext& context, Form& form, Control* /*control*/) {
-    if (form.workedOut) ComputeCompositeK(context, form);
+void Follow(ScreenEvent& event) {
+    if (event.form.workedOut) ComputeCompositeK(event.context, event.form);
 }
 
-void Closing(ScreenContext& context, Form& form, Control* /*control*/) {
-    const std::string field = form.HiddenText("FieldName");
-    const std::string value = form.HiddenText(kResult);
+void Closing(ScreenEvent& event) {
+    const std::string field = event.form.TextOf("FieldName");
+    const std::string value = event.form.TextOf(kResult);
     bool taken = false;
-    if (form.workedOut && !field.empty() && !value.empty()) {
-        const CellValue before = CalledField(context, form);
-        context.units.SetDisplayValue(field, 1, 1, value);
-        taken = !IsSameValue(CalledField(context, form), before);
+    if (event.form.workedOut && !field.empty() && !value.empty()) {
+        const CellValue before = CalledField(event.context, event.form);
+        event.context.units.SetDisplayValue(field, 1, 1, value);
+        taken = !IsSameValue(CalledField(event.context, event.form), before);
     }
-    ReturnFromSideScreen(context, form, taken);
+    ReturnFromSideScreen(event.context, event.form, taken);
 }
 
-LayoutNode GuidanceTable() {
+LayoutElement GuidanceTable() {
     return Table("Guide", {{"    Material Type", "Resilient Modulus (psi)               ", "(MPa)"},
                            {"Cement Treated Granular Base", "1,000,000 - 2,000,000", "6,900 - 13,800"},
                            {"Cement Aggregate Mixture", "500,000 - 1,000,000", "3,450 - 6,900"},
@@ -96,18 +97,19 @@ LayoutNode GuidanceTable() {
 
 }  // namespace
 
+HelpRoute WorkOutK(const std::string& variable) {
+    return {variable, kForm, "Work out the modulus of subgrade reaction"};
+}
+
 FormType CompositeKHelp() {
     FormType type;
-    type.name = "H_K";
-    type.tag = "H_K";
+    type.name = kForm;
     type.caption = "Effective Modulus of Subgrade Reaction";
     type.isHelp = true;
     type.layout = Rows({
         Frame("Frame1", "Soil and Subbase",
               {Fields({{"MRSG"}, {"MRSB"}, {"SBD"}, {"SGD"}, {"LS"}, {.variable = "K", .computed = true}})}),
         Frame("Frame2", "Guidance", {GuidanceTable()}),
-        Buttons({{"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}}),
-        Hidden({"FieldName", "FormName"}),
     });
     type.handlers = {{FormEvent::Load, "", HandlerOrder::After, Load},
                      {FormEvent::Activate, "", HandlerOrder::After, Follow},

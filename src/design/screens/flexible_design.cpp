@@ -1,38 +1,33 @@
 #include "design/screens/flexible_design.h"
 
 #include "design/screens/layered_design.h"
+#include "design/screens/subgrade_modulus_help.h"
 #include "forms/form.h"
 
 namespace kelvor {
 
 namespace {
 
-void LayersClick(ScreenContext& context, Form& form, Control* /*button*/) {
-    OpenLayeredDesign(context, form, "SN");
-}
+void LayersClick(ScreenEvent& event) { OpenLayeredDesign(event.context, event.form, "SN"); }
 
 }  // namespace
 
 FormType FlexibleDesignForm() {
     FormType type;
     type.name = "DeF";
-    type.tag = "DeF";
     type.caption = "Flexible Design Inputs";
-    type.layout = Rows({
-        Columns({
-            Frame("Frame1", "Design Inputs",
-                  {Fields({{"FLEXE18"}, {"FLEXREL"}, {"FLEXDEV"}, {"RM"}, {"SN"}, {"FLEXPO"}, {"FLEXPT"}})}),
-            Rows({SolveForFrame("Frame2", "SolveFor", "Command1"),
-                  Buttons({{"Command2", "&Layer Determ."}, {"cmdbCS", "&Cross Section", true}})}),
-        }),
-        Buttons({{"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}}),
-        Hidden({"SolveForSide", "Dim1", "Dim2"}),
+    type.equations = {{.flag = BalanceFlag::DeF}};
+    type.layout = Columns({
+        Frame("Frame1", "Design Inputs",
+              {Fields({{"FLEXE18"}, {"FLEXREL"}, {"FLEXDEV"}, {"RM"}, {"SN"}, {"FLEXPO"}, {"FLEXPT"}})}),
+        Rows({SolveForFrame("Frame2", type.equations[0]),
+              Buttons({{"Command2", "&Layer Determ."},
+                       {.name = "cmdbCS", .caption = "&Cross Section", .comesLater = true}})}),
     });
     type.handlers = {
         {FormEvent::Click, "Command2", HandlerOrder::Instead, LayersClick},
     };
-    type.equations = {{.flag = BalanceFlag::DeF}};
-    type.helpRoutes = {{"RM", "H_SRM"}, {"SN", "H_SN"}};
+    type.helpRoutes = {WorkOutSoilModulus("RM"), {"SN", "H_SN"}};
     return type;
 }
 

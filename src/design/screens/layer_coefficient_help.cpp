@@ -32,12 +32,11 @@ ChartData CoefficientChart() {
     return chart;
 }
 
-void Load(ScreenContext& context, Form& form, Control* /*control*/) { ShowCalledField(context, form); }
+void Load(ScreenEvent& event) { ShowCalledField(event.context, event.form); }
 
 FormType CoefficientHelp(const char* name, const char* caption, std::vector<std::string> hidden) {
     FormType type;
     type.name = name;
-    type.tag = name;
     type.caption = caption;
     type.modal = true;
     type.isHelp = true;
@@ -46,9 +45,9 @@ FormType CoefficientHelp(const char* name, const char* caption, std::vector<std:
         Text("LabCurve",
              "The curve is the published fit a = 0.171 ln(E) - 1.784, with E in psi (100 ksi is 690 MPa)."),
         Fields({{.label = "Value", .box = "TextBox", .labelName = "Label", .unitName = "Units"}}),
-        Buttons({{"cmdAction", "&OK"}}),
         Hidden(std::move(hidden)),
     });
+    type.foot = {{"cmdAction", "&OK"}};
     type.handlers = {{FormEvent::Load, "", HandlerOrder::After, Load},
                      {FormEvent::LostFocus, "", HandlerOrder::Before, DropCommas},
                      {FormEvent::Unload, "", HandlerOrder::Before, CloseValueHelp}};
@@ -58,13 +57,11 @@ FormType CoefficientHelp(const char* name, const char* caption, std::vector<std:
 }  // namespace
 
 FormType LayerCoefficientHelp() {
-    return CoefficientHelp("H_LDLayerCoef", "Help Screen for Layer Coefficient",
-                           {"FieldName", "FormName", "Column", "Dim1", "Dim2"});
+    return CoefficientHelp("H_LDLayerCoef", "Help Screen for Layer Coefficient", {"Column", "Dim1"});
 }
 
 FormType OverlayCoefficientHelp() {
-    return CoefficientHelp("H_ACACOLLC", "Help Screen for AC Overlay Layer Coefficient",
-                           {"FieldName", "FormName", "Dim1", "Dim2"});
+    return CoefficientHelp("H_ACACOLLC", "Help Screen for AC Overlay Layer Coefficient", {"Dim1"});
 }
 
 }  // namespace kelvor

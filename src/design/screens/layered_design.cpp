@@ -42,7 +42,7 @@ double CoefficientOf(std::string_view material) {
 void ShowVerdict(Form& form) {
     Control* verdict = form.Find("Res");
     if (verdict == nullptr) return;
-    const bool enough = ParseNumber(form.HiddenText("SSN")) >= ParseNumber(form.HiddenText("SN"));
+    const bool enough = ParseNumber(form.TextOf("SSN")) >= ParseNumber(form.TextOf("SN"));
     verdict->text = enough ? kEnough : kTooLittle;
     verdict->foreColor = enough ? colours::kBlue : colours::kRed;
 }
@@ -50,55 +50,54 @@ void ShowVerdict(Form& form) {
 int CurrentRow(Form& form) { return form.FindGrid()->grid->row; }
 
 /// The total goes back to the variable for which the screen is opened.
-void Loaded(ScreenContext& /*context*/, Form& form, Control* /*control*/) {
-    form.SetHiddenText("SNCarry", form.HiddenText("FieldName"));
+void Loaded(ScreenEvent& event) { event.form.SetText("SNCarry", event.form.TextOf("FieldName")); }
+
+void Activated(ScreenEvent& event) {
+    RecalcAllOutputs(event.context, event.form);
+    ClearAdditThick(event.context.calc, event.context.calculations, CurrentRow(event.form));
+    RefreshScreen(event.context, event.form);
+    ShowVerdict(event.form);
 }
 
-void Activated(ScreenContext& context, Form& form, Control* /*control*/) {
-    RecalcAllOutputs(context, form);
-    ClearAdditThick(context.calc, context.calculations, CurrentRow(form));
-    RefreshScreen(context, form);
-    ShowVerdict(form);
-}
-
-void UnitsSwitched(ScreenContext& /*context*/, Form& form, Control* /*control*/) { ShowVerdict(form); }
+void UnitsSwitched(ScreenEvent& event) { ShowVerdict(event.form); }
 
 /// A material also sets the coefficient of the existing layer in the same row.
-void MaterialChanged(ScreenContext& context, Form& form, Control* control) {
-    const GridData& grid = *control->grid;
+void MaterialChanged(ScreenEvent& event) {
+    const GridData& grid = *event.control->grid;
     if (!EqualNoCase(grid.current().variable, "LDLayerMat")) return;
-    SetLayerCoefFromMaterial(context, form, grid.row, context.units.GetDisplayValue("LDLayerMat", grid.row));
+    SetLayerCoefFromMaterial(event.context, event.form, grid.row,
+                             event.context.units.GetDisplayValue("LDLayerMat", grid.row));
 }
 
-void RowsWritten(ScreenContext& context, Form& form, Control* /*control*/) {
-    ClearAdditThick(context.calc, context.calculations, CurrentRow(form));
-    RefreshScreen(context, form);
-    ShowVerdict(form);
+void RowsWritten(ScreenEvent& event) {
+    ClearAdditThick(event.context.calc, event.context.calculations, CurrentRow(event.form));
+    RefreshScreen(event.context, event.form);
+    ShowVerdict(event.form);
 }
 
-void RowChanged(ScreenContext& context, Form& form, Control* /*control*/) {
-    ClearAdditThick(context.calc, context.calculations, CurrentRow(form));
-    RefreshScreen(context, form);
+void RowChanged(ScreenEvent& event) {
+    ClearAdditThick(event.context.calc, event.context.calculations, CurrentRow(event.form));
+    RefreshScreen(event.context, event.form);
 }
 
-void RowDeleted(ScreenContext& context, Form& form, Control* control) {
-    context.calculations.CalcField(context.calc, "SSN", "SSN");
-    RowsWritten(context, form, control);
+void RowDeleted(ScreenEvent& event) {
+    event.context.calculations.CalcField(event.context.calc, "SSN", "SSN");
+    RowsWritten(event);
 }
 
 /// Offers the total to the screen that asked for it.
-void Closing(ScreenContext& context, Form& form, Control* /*control*/) {
-    const std::string total = form.HiddenText("SSN");
+void Closing(ScreenEvent& event) {
+    const std::string total = event.form.TextOf("SSN");
     bool taken = false;
-    if (!total.empty() && !form.HiddenText("FieldName").empty()) {
-        const Answer answer = context.calc.dialogs.ShowMessage(
+    if (!total.empty() && !event.form.TextOf("FieldName").empty()) {
+        const Answer answer = event.context.calc.dialogs.ShowMessage(
             {.text = "Do you want to use this Structural Number on the previous form?",
              .title = "Structural Number",
              .style = MessageStyle::YesNo});
         taken = answer == Answer::Yes;
     }
-    if (taken) context.units.SetDisplayValue(form.HiddenText("SNCarry"), 1, 1, total);
-    ReturnFromSideScreen(context, form, taken);
+    if (taken) event.context.units.SetDisplayValue(event.form.TextOf("SNCarry"), 1, 1, total);
+    ReturnFromSideScreen(event.context, event.form, taken);
 }
 
 }  // namespace
@@ -111,7 +110,6 @@ void SetLayerCoefFromMaterial(ScreenContext& context, Form& form, int row, const
 FormType LayeredDesignForm() {
     FormType type;
     type.name = kForm;
-    type.tag = kForm;
     type.caption = "Flexible Pavement Layer Thickness Determination";
     type.layout = Rows({
         Grid("Grid", {{.variable = "LDLayerMat", .list = true},
@@ -123,8 +121,7 @@ FormType LayeredDesignForm() {
         Columns({Fields({{.variable = "SN", .label = "Required Structural Number", .locked = true},
                          {.variable = "SSN"}}),
                  Verdict("Res")}),
-        Buttons({{"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}}),
-        Hidden({"SNCarry", "FieldName", "FormName", "Dim1", "Dim2", "Column"}),
+        Hidden({"SNCarry", "FieldName", "FormName", "Column"}),
     });
     type.handlers = {
         {FormEvent::Load, "", HandlerOrder::After, Loaded},

@@ -1,12 +1,14 @@
 #include "design/screens/rigid_design.h"
 
+#include "design/screens/composite_k_help.h"
+#include "design/screens/subgrade_modulus_help.h"
 #include "forms/form.h"
 
 namespace kelvor {
 
 namespace {
 
-LayoutNode RigidInputs() {
+LayoutElement RigidInputs() {
     return Fields({{"DEPTH"},
                    {"RIGE18"},
                    {"RIGREL"},
@@ -20,56 +22,47 @@ LayoutNode RigidInputs() {
                    {"RIGPT"}});
 }
 
-LayoutNode FlexibleInputs() {
+LayoutElement FlexibleInputs() {
     return Fields({{"SN"}, {"FLEXE18"}, {"FLEXREL"}, {"FLEXDEV"}, {"RM"}, {"FLEXPO"}, {"FLEXPT"}});
 }
 
-const ButtonItem kCrossSection{"cmdbCS", "&Cross Section", true};
-
-LayoutNode FootButtons() { return Buttons({{"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}}); }
+LayoutElement CrossSectionButton() {
+    return Buttons({{.name = "cmdbCS", .caption = "&Cross Section", .comesLater = true}});
+}
 
 }  // namespace
 
 FormType RigidDesignForm() {
     FormType type;
     type.name = "DeR";
-    type.tag = "DeR";
     type.caption = "Rigid Design Inputs";
-    type.layout = Rows({
-        Columns({
-            Frame("Frame1", "Design Inputs", {RigidInputs()}),
-            Rows({SolveForFrame("Frame2", "SolveFor", "Command1"), Buttons({kCrossSection})}),
-        }),
-        FootButtons(),
-        Hidden({"SolveForSide", "Dim1", "Dim2"}),
-    });
     type.equations = {{.flag = BalanceFlag::DeR}};
-    type.helpRoutes = {{"K", "H_K"}};
+    type.layout = Columns({
+        Frame("Frame1", "Design Inputs", {RigidInputs()}),
+        Rows({SolveForFrame("Frame2", type.equations[0]), CrossSectionButton()}),
+    });
+    type.helpRoutes = {WorkOutK("K")};
     return type;
 }
 
 FormType BothDesignsForm() {
     FormType type;
     type.name = "DeS";
-    type.tag = "DeS";
     type.caption = "Rigid and Flexible Design Inputs";
-    type.layout = Rows({
-        Columns({
-            Rows({Frame("Frame1", "Rigid Pavement Design", {RigidInputs()}),
-                  SolveForFrame("Frame2", "SolveFor", "Command1")}),
-            Rows({Frame("Frame3", "Flexible Pavement Design", {FlexibleInputs()}),
-                  SolveForFrame("Frame4", "SolveFor2", "Command2", "Sol&ve For"), Buttons({kCrossSection})}),
-        }),
-        FootButtons(),
-        Hidden({"SolveForSide", "Dim1", "Dim2"}),
-    });
     type.equations = {{.flag = BalanceFlag::DeS},
                       {.flag = BalanceFlag::DeS2,
                        .indicator = "SolveFor2",
                        .button = "Command2",
                        .target = "TARGET2",
                        .check = "CHECK2"}};
-    type.helpRoutes = {{"K", "H_K"}, {"RM", "H_SRM"}};
+    type.layout = Columns({
+        Rows({Frame("Frame1", "Rigid Pavement Design", {RigidInputs()}),
+              SolveForFrame("Frame2", type.equations[0], FrameShape::Wide)}),
+        Rows({Frame("Frame3", "Flexible Pavement Design", {FlexibleInputs()}),
+              SolveForFrame("Frame4", type.equations[1], FrameShape::Wide, "Sol&ve For"),
+              CrossSectionButton()}),
+    });
+    type.helpRoutes = {WorkOutK("K"), WorkOutSoilModulus("RM")};
     return type;
 }
 

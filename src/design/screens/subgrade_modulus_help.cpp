@@ -17,6 +17,7 @@ namespace kelvor {
 
 namespace {
 
+constexpr const char* kForm = "H_SRM";
 constexpr double kMpaPerPsi = 0.006894757;
 
 constexpr std::array kBoxes = {"CBR", "RVAL", "OCBR", "ORVAL", "V"};
@@ -38,8 +39,8 @@ const char* const kAboutCorrelation =
 /// Both estimates from the tests as they stand; nothing, with a message, for values out of range.
 std::optional<SubgradeModulus> Estimate(const ScreenContext& context, const Form& form) {
     try {
-        return ComputeSubgradeModulus(FieldNumber(context, form, *form.Find("CBR")),
-                                      FieldNumber(context, form, *form.Find("RVAL")));
+        return ComputeSubgradeModulus(FieldNumber(context, form, form.Get("CBR")),
+                                      FieldNumber(context, form, form.Get("RVAL")));
     } catch (const ArithmeticFault&) {
         ReportMathOverflow(context.calc.dialogs);
         return std::nullopt;
@@ -61,41 +62,45 @@ void StoreEstimate(ScreenContext& context, Form& form) {
     if (!modulus) return;
     for (const auto& [output, value] : Outputs(context, *modulus)) {
         context.units.SetDisplayNumber(output, 1, 1, value);
-        form.SetHiddenText(output, context.units.GetDisplayValue(output));
+        form.SetText(output, context.units.GetDisplayValue(output));
     }
 }
 
 /// Without a test now or before there is nothing to work out.
 bool HasTests(const Form& form) {
     return std::any_of(kBoxes.begin(), kBoxes.end(),
-                       [&](const char* box) { return !form.HiddenText(box).empty(); });
+                       [&](const char* box) { return !form.TextOf(box).empty(); });
 }
 
-void TestLeft(ScreenContext& context, Form& form, Control* control) {
-    if ((control->name == "CBR" || control->name == "RVAL") && HasTests(form)) StoreEstimate(context, form);
+void TestLeft(ScreenEvent& event) {
+    if ((event.control->name == "CBR" || event.control->name == "RVAL") && HasTests(event.form))
+        StoreEstimate(event.context, event.form);
 }
 
 /// Hands the governing modulus, as it is shown, to the field for which the screen was opened.
-void Closing(ScreenContext& context, Form& form, Control* /*control*/) {
-    const std::string field = form.HiddenText("FieldName");
-    const std::string value = form.HiddenText("V");
+void Closing(ScreenEvent& event) {
+    const std::string field = event.form.TextOf("FieldName");
+    const std::string value = event.form.TextOf("V");
     bool warns = false;
     if (!field.empty() && ParseNumber(value) != 0.0) {
-        const CellValue before = CalledField(context, form);
-        context.units.SetDisplayValue(field, 1, 1, value);
-        const bool differs = !IsSameValue(CalledField(context, form), before);
-        if (differs) context.bProjectChanged = true;
+        const CellValue before = CalledField(event.context, event.form);
+        event.context.units.SetDisplayValue(field, 1, 1, value);
+        const bool differs = !IsSameValue(CalledField(event.context, event.form), before);
+        if (differs) event.context.bProjectChanged = true;
         warns = differs && EqualNoCase(field, "RM");
     }
-    ReturnFromSideScreen(context, form, warns);
+    ReturnFromSideScreen(event.context, event.form, warns);
 }
 
 }  // namespace
 
+HelpRoute WorkOutSoilModulus(const std::string& variable) {
+    return {variable, kForm, "Work out the soil resilient modulus"};
+}
+
 FormType SubgradeModulusHelp() {
     FormType type;
-    type.name = "H_SRM";
-    type.tag = "H_SRM";
+    type.name = kForm;
     type.caption = "Soil Resilient Modulus";
     type.isHelp = true;
     type.layout = Rows({
@@ -109,8 +114,6 @@ FormType SubgradeModulusHelp() {
                    {Fields({{.variable = "RVAL", .label = "R-Value:"},
                             {.variable = "ORVAL", .label = "Resilient Modulus, psi:", .computed = true}})})}),
         Fields({{.variable = "V", .label = "Subgrade Resilient Modulus:", .computed = true}}),
-        Buttons({{"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}}),
-        Hidden({"FieldName", "FormName"}),
     });
     type.handlers = {{FormEvent::LostFocus, "", HandlerOrder::After, TestLeft},
                      {FormEvent::Unload, "", HandlerOrder::Before, Closing}};

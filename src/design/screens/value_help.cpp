@@ -8,16 +8,15 @@ namespace kelvor {
 
 namespace {
 
-void Load(ScreenContext& context, Form& form, Control* /*control*/) {
-    ShowCalledField(context, form, "Help Screen for ");
-    Control& unit = *form.Find("Units");
+void Load(ScreenEvent& event) {
+    ShowCalledField(event.context, event.form, "Help Screen for ");
+    Control& unit = event.form.Get("Units");
     unit.visible = !IsNoUnit(unit.text);
 }
 
 FormType PlainValueHelp(const char* name) {
     FormType type;
     type.name = name;
-    type.tag = name;
     type.caption = "Help Screen";
     type.modal = true;
     type.isHelp = true;
@@ -25,9 +24,9 @@ FormType PlainValueHelp(const char* name) {
         Verdict("HelpHead"),
         Text("HelpText", ""),
         Fields({{.label = "Value", .box = "TextBox", .labelName = "Label", .unitName = "Units"}}),
-        Buttons({{"cmdAction", "&OK"}}),
-        Hidden({"FieldName", "FormName", "Dim1", "Dim2"}),
+        Hidden({"Dim1"}),
     });
+    type.foot = {{"cmdAction", "&OK"}};
     type.handlers = {{FormEvent::Load, "", HandlerOrder::After, Load},
                      {FormEvent::LostFocus, "", HandlerOrder::Before, DropCommas},
                      {FormEvent::Unload, "", HandlerOrder::Before, CloseValueHelp}};

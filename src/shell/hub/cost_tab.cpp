@@ -11,13 +11,13 @@ namespace {
 constexpr std::array kGraphs = {"InitialCost", "MaintenanceCosts",    "RehabilitationCosts", "PW",
                                 "EUAC",        "ExpenditureHistogram"};
 
-void GraphsClick(ScreenContext& context, Form& hub, Control* button) {
+void GraphsClick(ScreenEvent& event) {
     const bool any = std::any_of(kGraphs.begin(), kGraphs.end(),
-                                 [&](const char* option) { return hub.Find(option)->value; });
+                                 [&](const char* option) { return event.form.Get(option).value; });
     if (any) {
-        OpenChosenScreen(context, hub, button);
+        OpenChosenScreen(event);
     } else {
-        context.calc.dialogs.ShowMessage({.text = "Please select the graph.", .title = "Graphs"});
+        event.context.calc.dialogs.ShowMessage({.text = "Please select the graph.", .title = "Graphs"});
     }
 }
 
@@ -28,7 +28,7 @@ HubPage CostTab() {
                  {Columns({Rows({Frame("FrameEc", "Economic Factors",
                                        {Fields({{"InterestRate"},
                                                 {"InflationRate"},
-                                                {.variable = "DiscountRate", .locked = true},
+                                                {.variable = "DiscountRate", .computed = true},
                                                 {"AnalysisPeriodA"},
                                                 {"AnalysisPeriodB"}})}),
                                  Frame("FrameLc", "Costs",
@@ -48,10 +48,6 @@ HubPage CostTab() {
              {FormEvent::Click, "Command8", HandlerOrder::Instead, GraphsClick}}};
 }
 
-void LoadCostTab(Form& hub) {
-    Control* rate = hub.Find("DiscountRate");
-    rate->tabStop = true;
-    rate->backColor = colours::kLightCyan;
-}
+void LoadCostTab(Form& hub) { hub.Get("DiscountRate").tabStop = true; }
 
 }  // namespace kelvor

@@ -24,26 +24,26 @@ constexpr std::array kTabs = {ProjectIdTab, TrafficTab, DesignTab, OverlaysTab,
                               CostTab,      ReportsTab, ListsTab,  StartTab};
 static_assert(kTabs.size() == kHubTabs);
 
-void Load(ScreenContext& context, Form& hub, Control* /*control*/) {
-    LoadCostTab(hub);
-    LoadListsTab(context, hub);
-    OfferProject(context, hub);
+void Load(ScreenEvent& event) {
+    LoadCostTab(event.form);
+    LoadListsTab(event.context, event.form);
+    OfferProject(event.context, event.form);
 }
 
 void FocusOnFirst(ScreenContext& context, Form& hub) {
     hub.focus = nullptr;
-    Control* first = hub.NextInTabOrder(nullptr, true);
+    Control* first = hub.NextInTabOrder(nullptr, TabStep::Next);
     if (first != nullptr) FormEvents(context).MoveFocus(hub, *first);
 }
 
 /// The hub comes in front again: values changed on other screens appear.
-void Activate(ScreenContext& context, Form& hub, Control* /*control*/) {
-    LoadScreen(context, hub);
-    FocusOnFirst(context, hub);
+void Activate(ScreenEvent& event) {
+    LoadScreen(event.context, event.form);
+    FocusOnFirst(event.context, event.form);
 }
 
 /// The rates and years that the hub shows are the same in both systems.
-void UnitsSwitched(ScreenContext& /*context*/, Form& /*hub*/, Control* /*control*/) {}
+void UnitsSwitched(ScreenEvent& /*event*/) {}
 
 /// What a tab offers follows the project each time it is entered.
 void OfferOnTab(const ScreenContext& context, Form& hub, HubTab tab) {
@@ -81,8 +81,9 @@ const DecidingScreen* FindDecidingScreen(std::string_view name) {
     return found == kDecidingScreens.end() ? nullptr : found;
 }
 
-void ScreenClosed(ScreenContext& context, Form& form, Control* /*control*/) {
-    if (Form* hub = context.forms.Find(kHubForm)) FindDecidingScreen(form.name())->closed(context, *hub);
+void ScreenClosed(ScreenEvent& event) {
+    if (Form* hub = event.context.forms.Find(kHubForm))
+        FindDecidingScreen(event.form.name())->closed(event.context, *hub);
 }
 
 }  // namespace
@@ -125,6 +126,7 @@ FormType HubForm() {
     type.name = kHubForm;
     type.tag = kProjectIdKey;
     type.caption = "Kelvor";
+    type.foot = {};
     type.isHub = true;
     type.needsProject = false;
     type.handlers = {
@@ -132,7 +134,7 @@ FormType HubForm() {
         {FormEvent::Activate, "", HandlerOrder::Instead, Activate},
         {FormEvent::UnitsSwitched, "", HandlerOrder::Instead, UnitsSwitched},
     };
-    std::vector<LayoutNode> pages;
+    std::vector<layout::Page> pages;
     for (const auto& makeTab : kTabs) {
         HubPage tab = makeTab();
         pages.push_back(std::move(tab.page));

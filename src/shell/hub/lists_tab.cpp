@@ -25,8 +25,8 @@ constexpr const char* kValueColumn = "Value";
 /// What stands behind the columns of a row of the grid: which row of the table it is.
 constexpr std::size_t kIdPlace = 3;
 
-std::string Chosen(const Form& hub) { return hub.Find(kCombo)->text; }
-GridData& GridOf(Form& hub) { return *hub.Find(kGrid)->grid; }
+std::string Chosen(const Form& hub) { return hub.Get(kCombo).text; }
+GridData& GridOf(Form& hub) { return *hub.Get(kGrid).grid; }
 
 /// Does something to the lists. What fails leaves them as they are, and is not told.
 void Try(const std::function<void()>& act) {
@@ -73,47 +73,47 @@ bool Confirmed(ScreenContext& context, const char* question) {
 
 // --- What the user does -----------------------------------------------------------------------------
 
-void ListChosen(ScreenContext& context, Form& hub, Control* /*list*/) {
-    if (Chosen(hub).empty()) {
-        OfferListButtons(hub);  // the entries of the list before stay
+void ListChosen(ScreenEvent& event) {
+    if (Chosen(event.form).empty()) {
+        OfferListButtons(event.form);  // the entries of the list before stay
         return;
     }
-    GridOf(hub).row = 1;
-    ShowList(context, hub);
+    GridOf(event.form).row = 1;
+    ShowList(event.context, event.form);
 }
 
-void AddClick(ScreenContext& context, Form& hub, Control* /*button*/) {
-    context.calc.dialogs.SetWaitCursor(true);
-    Try([&] { context.lists.AddRow(Chosen(hub)); });
-    ShowList(context, hub);
-    context.calc.dialogs.SetWaitCursor(false);
-    FormEvents(context).MoveToCell(hub, GridOf(hub).rows, kValueColumn);
+void AddClick(ScreenEvent& event) {
+    event.context.calc.dialogs.SetWaitCursor(true);
+    Try([&] { event.context.lists.AddRow(Chosen(event.form)); });
+    ShowList(event.context, event.form);
+    event.context.calc.dialogs.SetWaitCursor(false);
+    FormEvents(event.context).MoveToCell(event.form, GridOf(event.form).rows, kValueColumn);
 }
 
-void DeleteItem(ScreenContext& context, Form& hub, Control* /*control*/) {
-    if (!Confirmed(context, "Are you sure you want to delete this item?")) return;
-    const auto row = CurrentRow(hub);
+void DeleteItem(ScreenEvent& event) {
+    if (!Confirmed(event.context, "Are you sure you want to delete this item?")) return;
+    const auto row = CurrentRow(event.form);
     if (!row) return;
-    Try([&] { context.lists.DeleteRows(Chosen(hub), *row); });
-    ShowList(context, hub);
+    Try([&] { event.context.lists.DeleteRows(Chosen(event.form), *row); });
+    ShowList(event.context, event.form);
 }
 
-void RestoreClick(ScreenContext& context, Form& hub, Control* /*button*/) {
-    if (!Confirmed(context, "Are you sure you want to restore defaults for this item?")) return;
-    Try([&] { context.lists.Restore(Chosen(hub)); });
-    ShowList(context, hub);
+void RestoreClick(ScreenEvent& event) {
+    if (!Confirmed(event.context, "Are you sure you want to restore defaults for this item?")) return;
+    Try([&] { event.context.lists.Restore(Chosen(event.form)); });
+    ShowList(event.context, event.form);
 }
 
-void SortClick(ScreenContext& context, Form& hub, Control* /*button*/) { ShowList(context, hub); }
+void SortClick(ScreenEvent& event) { ShowList(event.context, event.form); }
 
 /// What was typed goes to the table at once; its row moves when the list is sorted.
-void CellChanged(ScreenContext& context, Form& hub, Control* /*grid*/) {
-    const auto row = CurrentRow(hub);
+void CellChanged(ScreenEvent& event) {
+    const auto row = CurrentRow(event.form);
     if (!row) return;
     try {
-        context.lists.Write(*row);
+        event.context.lists.Write(*row);
     } catch (const DatabaseError&) {
-        ShowList(context, hub);
+        ShowList(event.context, event.form);
     }
 }
 
@@ -143,7 +143,7 @@ void LoadListsTab(ScreenContext& context, Form& hub) {
     grid.columns[2].hint = "What the list offers";
     grid.texts.emplace();
     grid.rows = 0;
-    hub.Find(kCombo)->toolTip = "The list to work on";
+    hub.Get(kCombo).toolTip = "The list to work on";
     EnterListsTab(context, hub);
 }
 
@@ -155,7 +155,7 @@ void OfferListButtons(Form& hub) {
 
 void EnterListsTab(ScreenContext& context, Form& hub) {
     // Once: a list that is emptied stays there to be restored.
-    std::vector<std::string>& lists = hub.Find(kCombo)->items;
+    std::vector<std::string>& lists = hub.Get(kCombo).items;
     if (lists.empty()) Try([&] { lists = context.lists.Descriptions(); });
     ShowList(context, hub);
 }

@@ -3,11 +3,10 @@
 namespace kelvor {
 
 void Offer(Form& hub, std::string_view name, bool enabled, const std::string& whyNot) {
-    Control* control = hub.Find(name);
-    if (control == nullptr) return;
-    control->enabled = enabled;
-    control->toolTip = enabled ? "" : whyNot;
-    if (!enabled) control->value = false;
+    Control& control = hub.Get(name);
+    control.enabled = enabled;
+    control.toolTip = enabled ? "" : whyNot;
+    if (!enabled) control.value = false;
 }
 
 bool IsDeclared(const ScreenContext& context, std::string_view screen) {

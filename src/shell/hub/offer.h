@@ -8,8 +8,8 @@
 
 namespace kelvor {
 
-/// Enables a control of the hub, or takes it off, with the mark that it may have, and says why. A name that
-/// is none is passed over.
+/// Enables a control of the hub, or takes it off, with the mark that it may have, and says why. Throws
+/// std::logic_error for a name that is none.
 void Offer(Form& hub, std::string_view name, bool enabled, const std::string& whyNot);
 
 /// True if the form of a screen is declared.

@@ -36,19 +36,19 @@ void OfferOverlays(const ScreenContext& context, Form& hub, std::initializer_lis
 }  // namespace
 
 HubPage OverlaysTab() {
-    const LayoutNode existing = Section("FrameEx", "Existing Pavement",
-                                        {Options({{"oExF", "Existing Flexible Pavement Information"},
-                                                  {"oExR", "Existing Rigid Pavement Information"},
-                                                  {"oExC", "Existing Composite Pavement Information"}})});
-    const LayoutNode overlays = Section("FrameOv", "Overlay Design",
-                                        {Options({{"oOvAA", "AC Overlay of AC Pavement"},
-                                                  {"oOvAFP", "AC Overlay of Fractured PCC Pavement"},
-                                                  {"oOvAP", "AC Overlay of PCC Pavement"},
-                                                  {"oOvAAP", "AC Overlay of AC/PCC Pavement"},
-                                                  {"oOvBP", "Bonded Overlay"},
-                                                  {"oOvUP", "Unbonded PCC Overlay"},
-                                                  {"oOvWT", "PCC Overlay of Asphalt (Whitetopping)"}})});
-    const LayoutNode tests =
+    const LayoutElement existing = Section("FrameEx", "Existing Pavement",
+                                           {Options({{"oExF", "Existing Flexible Pavement Information"},
+                                                     {"oExR", "Existing Rigid Pavement Information"},
+                                                     {"oExC", "Existing Composite Pavement Information"}})});
+    const LayoutElement overlays = Section("FrameOv", "Overlay Design",
+                                           {Options({{"oOvAA", "AC Overlay of AC Pavement"},
+                                                     {"oOvAFP", "AC Overlay of Fractured PCC Pavement"},
+                                                     {"oOvAP", "AC Overlay of PCC Pavement"},
+                                                     {"oOvAAP", "AC Overlay of AC/PCC Pavement"},
+                                                     {"oOvBP", "Bonded Overlay"},
+                                                     {"oOvUP", "Unbonded PCC Overlay"},
+                                                     {"oOvWT", "PCC Overlay of Asphalt (Whitetopping)"}})});
+    const LayoutElement tests =
         Section("FrameNDT", "Deflection Tests",
                 {Options({{"FPNDTCalc", "Flexible Pavement NDT Backcalculation"},
                           {"RPNDTCalc", "Rigid Pavement NDT Backcalculation"},

@@ -71,27 +71,25 @@ void SyncReportOptions(Form& hub, const Control& option) {
 /// Selects a category. One that was not selected clears the boxes, as a click on it does.
 void SelectCategory(Form& hub, Control& category) {
     if (category.value) return;
-    for (const char* name : kCategories) hub.Find(name)->value = false;
+    for (const char* name : kCategories) hub.Get(name).value = false;
     category.value = true;
     SyncReportOptions(hub, category);
 }
 
-void CategoryClick(ScreenContext& /*context*/, Form& hub, Control* category) {
-    SyncReportOptions(hub, *category);
-}
+void CategoryClick(ScreenEvent& event) { SyncReportOptions(event.form, *event.control); }
 
-void BoxClick(ScreenContext& /*context*/, Form& hub, Control* box) {
-    SyncReportOptions(hub, *box);
+void BoxClick(ScreenEvent& event) {
+    SyncReportOptions(event.form, *event.control);
     const auto row = std::find_if(kBoxes.begin(), kBoxes.end(),
-                                  [&](const ReportBox& report) { return box->name == report.box; });
-    SelectCategory(hub, *hub.Find(row->category));
+                                  [&](const ReportBox& report) { return event.control->name == report.box; });
+    SelectCategory(event.form, event.form.Get(row->category));
 }
 
 /// The costs have no boxes: the category is the report.
-void CostClick(ScreenContext& /*context*/, Form& hub, Control* cost) {
-    SyncReportOptions(hub, *cost);
+void CostClick(ScreenEvent& event) {
+    SyncReportOptions(event.form, *event.control);
     for (const char* name : kCategories) {
-        if (cost->name != name) hub.Find(name)->value = false;
+        if (event.control->name != name) event.form.Get(name).value = false;
     }
 }
 
@@ -129,10 +127,10 @@ void OfferCategory(const ScreenContext& context, Form& hub, std::string_view cat
 }
 
 /// A category above its boxes.
-LayoutNode Category(const char* frame, const char* category, const char* caption) {
+LayoutElement Category(const char* frame, const char* category, const char* caption) {
     std::vector<ButtonItem> boxes;
     ForCategory(category, [&](const ReportBox& report) { boxes.push_back({report.box, report.caption}); });
-    std::vector<LayoutNode> rows = {Options({ButtonItem{category, caption}})};
+    std::vector<LayoutElement> rows = {Options({ButtonItem{category, caption}})};
     if (!boxes.empty()) rows.push_back(Checks(std::move(boxes)));
     return Section(frame, "", std::move(rows));
 }
@@ -151,10 +149,10 @@ std::vector<Handler> ReportHandlers() {
 }  // namespace
 
 HubPage ReportsTab() {
-    const LayoutNode design = Category("FrameRepND", kDesign, " New Design");
-    const LayoutNode overlays = Category("FrameRepOV", kOverlays, "Overlays");
-    const LayoutNode traffic = Category("FrameRepTr", kTraffic, "Traffic");
-    const LayoutNode costs = Category("FrameRepCost", kCost, "Cost");
+    const LayoutElement design = Category("FrameRepND", kDesign, " New Design");
+    const LayoutElement overlays = Category("FrameRepOV", kOverlays, "Overlays");
+    const LayoutElement traffic = Category("FrameRepTr", kTraffic, "Traffic");
+    const LayoutElement costs = Category("FrameRepCost", kCost, "Cost");
     return {Page("Reports", {Columns({Rows({design, overlays}), Rows({traffic, costs})}),
                              Buttons({{"Command10", "&Report"}, {"cmdbExport", "&Export"}})}),
             ReportHandlers()};

@@ -61,7 +61,7 @@ bool IsSelected(const Form& hub, const ScreenChoice& choice) {
 void ShowPavement(ScreenContext& context, const ScreenChoice& choice) {
     Form* form = context.forms.Find(choice.screen);
     if (form == nullptr || *choice.pavement == '\0') return;
-    form->SetHiddenText("Dim2", choice.pavement);
+    form->SetText("Dim2", choice.pavement);
     RefreshScreen(context, *form);
 }
 
@@ -81,17 +81,18 @@ bool OpensSomething(const ScreenContext& context, const Control& button) {
 
 }  // namespace
 
-void OpenChosenScreen(ScreenContext& context, Form& hub, Control* button) {
+void OpenChosenScreen(ScreenEvent& event) {
     for (const ScreenChoice& choice : kChoices) {
-        if (button->name != choice.button || !IsSelected(hub, choice)) continue;
-        FormEvents(context).Open({.form = choice.screen});
-        ShowPavement(context, choice);
+        if (event.control->name != choice.button || !IsSelected(event.form, choice)) continue;
+        FormEvents(event.context).Open({.form = choice.screen});
+        ShowPavement(event.context, choice);
         return;
     }
 }
 
 void OfferDeclaredScreens(const ScreenContext& context, Form& hub) {
     for (const ScreenChoice& choice : kChoices) {
+        (void)hub.Get(choice.button);  // a table that names what is not there fails at start
         Offer(hub, choice.option, IsDeclared(context, choice.screen), kComesLater);
     }
     for (const auto& control : hub.controls()) {

@@ -10,7 +10,7 @@ namespace kelvor {
 
 /// What one tab adds to the hub: its page, and the routines of its controls.
 struct HubPage {
-    LayoutNode page;
+    layout::Page page;
     std::vector<Handler> handlers;
 };
 

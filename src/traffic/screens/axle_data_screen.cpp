@@ -13,22 +13,19 @@ constexpr double kColumnLetters = 16.0;
 constexpr int kRowsShown = 10;
 
 /// A parameter that was changed meanwhile reaches every row, and then the totals.
-void Activated(ScreenContext& context, Form& form, Control* /*control*/) {
-    ShowPeriod(context, form);
-    RecalcFilledRows(context, form);
-    RecalcOutputs(context, form, "", 0);
+void Activated(ScreenEvent& event) {
+    ShowPeriod(event.context, event.form);
+    RecalcFilledRows(event.context, event.form);
+    RecalcOutputs(event.context, event.form, "", 0);
 }
 
-void UnitsSwitched(ScreenContext& context, Form& form, Control* /*control*/) {
-    RecalcOutputs(context, form, "", 0);
-}
+void UnitsSwitched(ScreenEvent& event) { RecalcOutputs(event.context, event.form, "", 0); }
 
 }  // namespace
 
 FormType AxleDataForm() {
     FormType type;
     type.name = "TrAx";
-    type.tag = "TrAx";
     type.caption = "ESAL Conversion From Axle Data";
     type.layout = Rows({
         TrafficInputCopies(),
@@ -41,8 +38,6 @@ FormType AxleDataForm() {
              kRowsShown),
         Columns({Fields({{.variable = "RIGE18", .label = "Total Rigid ESAL"}}),
                  Fields({{.variable = "FLEXE18", .label = "Total Flexible ESAL"}})}),
-        Buttons({{"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}}),
-        Hidden({"Dim1", "Dim2"}),
     });
     type.handlers = {
         {FormEvent::Activate, "", HandlerOrder::After, Activated},

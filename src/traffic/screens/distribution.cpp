@@ -19,7 +19,7 @@ void OfferDistribution(const ScreenContext& context, Form& form) {
     for (const char* name : kOfTotalTraffic) {
         if (Control* control = form.Find(name)) control->enabled = total;
     }
-    Control& direction = *form.Find("TRDIRDIS");
+    Control& direction = form.Get("TRDIRDIS");
     direction.enabled = total && twoWay;
     if (total) direction.backColor = twoWay ? colours::kWindow : colours::kResting;
 }

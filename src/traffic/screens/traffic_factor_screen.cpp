@@ -15,7 +15,7 @@ namespace {
 constexpr std::array kTrafficFields = {"TrInPerTruck", "TrInADT", "TrInADTT"};
 
 void Offer(Form& form, const char* box, bool offered) {
-    Control& control = *form.Find(box);
+    Control& control = form.Get(box);
     control.enabled = offered;
     control.backColor = offered ? colours::kWindow : colours::kButtonFace;
 }
@@ -23,48 +23,47 @@ void Offer(Form& form, const char* box, bool offered) {
 /// The calculation asks the screen in which way the traffic is given.
 void ShowChoice(const ScreenContext& context, Form& form) {
     const bool trucks = context.values.trafficInTrucks;
-    form.Find("OpADTT")->value = trucks;
-    form.Find("OpADT")->value = !trucks;
+    form.Get("OpADTT").value = trucks;
+    form.Get("OpADT").value = !trucks;
     Offer(form, "TrInADTT", trucks);
     Offer(form, "TrInADT", !trucks);
     Offer(form, "TrInPerTruck", !trucks);
 }
 
-void Load(ScreenContext& context, Form& form, Control* /*control*/) {
-    context.values.trafficInTrucks = true;
-    ShowChoice(context, form);
+void Load(ScreenEvent& event) {
+    event.context.values.trafficInTrucks = true;
+    ShowChoice(event.context, event.form);
 }
 
-void OptionClick(ScreenContext& context, Form& form, Control* option) {
-    const bool trucks = option->name == "OpADTT";
-    if (trucks != context.values.trafficInTrucks) {
-        context.values.trafficInTrucks = trucks;
-        context.bProjectChanged = true;
-        for (const char* result : {"RIGE18", "FLEXE18"}) context.calc.store.SetCell(result, 1, 1, {});
+void OptionClick(ScreenEvent& event) {
+    const bool trucks = event.control->name == "OpADTT";
+    if (trucks != event.context.values.trafficInTrucks) {
+        event.context.values.trafficInTrucks = trucks;
+        event.context.bProjectChanged = true;
+        for (const char* result : {"RIGE18", "FLEXE18"}) event.context.calc.store.SetCell(result, 1, 1, {});
     }
-    ShowChoice(context, form);
-    RecalcOutputs(context, form, "", 0);
+    ShowChoice(event.context, event.form);
+    RecalcOutputs(event.context, event.form, "", 0);
 }
 
-void HelpClick(ScreenContext& context, Form& form, Control* /*button*/) {
-    const std::string field = form.HiddenText("SolveForField");
+void HelpClick(ScreenEvent& event) {
+    const std::string field = event.form.TextOf("SolveForField");
     const bool traffic =
         std::find(kTrafficFields.begin(), kTrafficFields.end(), field) != kTrafficFields.end();
-    FormEvents(context).Open({.form = traffic ? "H_TrIn" : "H_TrFa", .call = MakeCall(form, field)});
+    FormEvents(event.context)
+        .Open({.form = traffic ? "H_TrIn" : "H_TrFa", .call = MakeCall(event.form, field)});
 }
 
 /// From elsewhere the calculation sees the screen as it is designed.
-void Closing(ScreenContext& context, Form& /*form*/, Control* /*control*/) {
-    context.values.trafficInTrucks = true;
-}
+void Closing(ScreenEvent& event) { event.context.values.trafficInTrucks = true; }
 
-LayoutNode TrafficInput() {
-    return Frame(
-        "Frame1", "Traffic Input as",
-        {Matrix({At(0, 0, Options({{"OpADTT", "Average Daily Truck Traffic (ADTT)"}})),
-                 At(0, 1, Box({"TrInADTT"})), At(1, 0, Options({{"OpADT", "Average Daily Traffic (ADT)"}})),
-                 At(1, 1, Box({"TrInADT"})), At(2, 0, Part("LabTrInPerTruck")),
-                 At(2, 1, Box({"TrInPerTruck"})), At(2, 2, Part("uTrInPerTruck"))})});
+LayoutElement TrafficInput() {
+    return Frame("Frame1", "Traffic Input as",
+                 {Matrix({At(0, 0, Options({{"OpADTT", "Average Daily Truck Traffic (ADTT)"}})),
+                          At(0, 1, BareBox({"TrInADTT"})),
+                          At(1, 0, Options({{"OpADT", "Average Daily Traffic (ADT)"}})),
+                          At(1, 1, BareBox({"TrInADT"})), At(2, 0, LabelOf("TrInPerTruck")),
+                          At(2, 1, BareBox({"TrInPerTruck"})), At(2, 2, UnitOf("TrInPerTruck"))})});
 }
 
 }  // namespace
@@ -72,18 +71,13 @@ LayoutNode TrafficInput() {
 FormType TrafficFactorForm() {
     FormType type;
     type.name = "TrTr";
-    type.tag = "TrTr";
     type.caption = "ESAL Determination by Traffic Factor";
-    type.layout = Rows({
-        Columns({Rows({TrafficInput(),
-                       Frame("Frame2", "ESAL Traffic Factors", {Fields({{"TrInFESAL"}, {"TrInRESAL"}})})}),
-                 Rows({Frame("Frame3", "Growth", {Fields({{"GrowthRate"}, {"Life"}})}),
-                       Frame("Frame4", "Design Traffic",
-                             {Fields({{.variable = "FLEXE18", .label = "Total Flexible ESAL"},
-                                      {.variable = "RIGE18", .label = "Total Rigid ESAL"}})})})}),
-        Buttons({{"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}}),
-        Hidden({"Dim1", "Dim2"}),
-    });
+    type.layout = Columns({Rows({TrafficInput(), Frame("Frame2", "ESAL Traffic Factors",
+                                                       {Fields({{"TrInFESAL"}, {"TrInRESAL"}})})}),
+                           Rows({Frame("Frame3", "Growth", {Fields({{"GrowthRate"}, {"Life"}})}),
+                                 Frame("Frame4", "Design Traffic",
+                                       {Fields({{.variable = "FLEXE18", .label = "Total Flexible ESAL"},
+                                                {.variable = "RIGE18", .label = "Total Rigid ESAL"}})})})});
     type.handlers = {
         {FormEvent::Load, "", HandlerOrder::After, Load},
         {FormEvent::Click, "OpADTT", HandlerOrder::Instead, OptionClick},

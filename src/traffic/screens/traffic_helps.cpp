@@ -10,27 +10,21 @@ namespace kelvor {
 
 namespace {
 
-void Stored(ScreenContext& /*context*/, Form& form, Control* /*field*/) { form.workedOut = true; }
+void Stored(ScreenEvent& event) { event.form.workedOut = true; }
 
-void Closing(ScreenContext& context, Form& form, Control* /*control*/) {
-    ReturnFromSideScreen(context, form, form.workedOut);
-}
+void Closing(ScreenEvent& event) { ReturnFromSideScreen(event.context, event.form, event.form.workedOut); }
 
-void LoadDistribution(ScreenContext& context, Form& form, Control* /*control*/) {
-    OfferDistribution(context, form);
-}
+void LoadDistribution(ScreenEvent& event) { OfferDistribution(event.context, event.form); }
 
 /// A help with several fields, which are those of the project.
-FormType LiveHelp(const char* name, const char* caption, std::vector<LayoutNode> rows) {
+FormType LiveHelp(const char* name, const char* caption, std::vector<LayoutElement> rows) {
     FormType type;
     type.name = name;
-    type.tag = name;
     type.caption = caption;
     type.modal = true;
     type.isHelp = true;
-    rows.push_back(Buttons({{"cmdAction", "&OK"}}));
-    rows.push_back(Hidden({"FieldName", "FormName"}));
     type.layout = Rows(std::move(rows));
+    type.foot = {{"cmdAction", "&OK"}};
     type.handlers = {{FormEvent::Stored, "", HandlerOrder::After, Stored},
                      {FormEvent::Unload, "", HandlerOrder::Before, Closing}};
     return type;

@@ -12,7 +12,7 @@ constexpr double kPeriodLetters = 14.0;
 
 }  // namespace
 
-LayoutNode TrafficInputCopies() {
+LayoutElement TrafficInputCopies() {
     const auto copy = [](const char* variable, const char* box) {
         return FieldItem{.variable = variable, .locked = true, .box = box};
     };
@@ -28,7 +28,7 @@ LayoutNode TrafficInputCopies() {
 }
 
 void ShowPeriod(const ScreenContext& context, Form& form) {
-    form.SetHiddenText("TrPer", WordOf(CountPeriods(), context.calc.store.GetVar("TrPer").value()));
+    form.SetText("TrPer", WordOf(CountPeriods(), context.calc.store.GetVar("TrPer").value()));
 }
 
 }  // namespace kelvor

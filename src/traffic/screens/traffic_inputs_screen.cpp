@@ -12,79 +12,94 @@ namespace kelvor {
 
 namespace {
 
-/// Stores a choice between two. True if it is another one than before.
-bool StoreChoice(ScreenContext& context, const char* variable, double choice) {
+/// Stores the code of a choice. True if it is another one than before.
+bool StoreChoice(ScreenContext& context, const char* variable, int choice) {
     const bool changed = context.calc.store.GetVar(variable) != choice;
     if (changed) context.units.SetDisplayNumber(variable, 1, 1, choice);
     return changed;
 }
 
+/// Which of two codes is stored; any other code counts as the second one.
+int StoredChoice(const ScreenContext& context, const char* variable, int code, int otherwise) {
+    return context.calc.store.GetVar(variable) == code ? code : otherwise;
+}
+
 void Select(Form& form, const char* chosen, const char* other) {
-    form.Find(chosen)->value = true;
-    form.Find(other)->value = false;
+    form.Get(chosen).value = true;
+    form.Get(other).value = false;
 }
 
-bool ChooseWay(ScreenContext& context, Form& form, bool twoWay) {
+/// The traffic counts as one-way, or as two-way.
+bool ChooseWay(ScreenContext& context, Form& form, int way) {
+    const bool twoWay = way == kTwoWay;
     Select(form, twoWay ? "TRTWOWAY" : "TRONEWAY", twoWay ? "TRONEWAY" : "TRTWOWAY");
-    const bool changed = StoreChoice(context, "TRWAY", twoWay ? kTwoWay : kOneWay);
+    const bool changed = StoreChoice(context, "TRWAY", way);
     OfferDistribution(context, form);
     return changed;
 }
 
-/// Total traffic also needs to be told one-way or two-way.
-bool ChooseTraffic(ScreenContext& context, Form& form, bool total) {
+/// The traffic is that of the design lane, or of the whole road, which also needs to be told one-way or
+/// two-way.
+bool ChooseTraffic(ScreenContext& context, Form& form, int traffic) {
+    const bool total = traffic == kTotalTraffic;
     Select(form, total ? "Option2" : "Option1", total ? "Option1" : "Option2");
-    bool changed = StoreChoice(context, "TRFACTYPE", total ? kTotalTraffic : kDesignLane);
-    if (total && ChooseWay(context, form, context.calc.store.GetVar("TRWAY") == kTwoWay)) changed = true;
+    bool changed = StoreChoice(context, "TRFACTYPE", traffic);
+    if (total && ChooseWay(context, form, StoredChoice(context, "TRWAY", kTwoWay, kOneWay))) changed = true;
     OfferDistribution(context, form);
     return changed;
 }
 
-void Load(ScreenContext& context, Form& form, Control* /*control*/) {
-    ChooseTraffic(context, form, context.calc.store.GetVar("TRFACTYPE") == kTotalTraffic);
+void Load(ScreenEvent& event) {
+    ChooseTraffic(event.context, event.form,
+                  StoredChoice(event.context, "TRFACTYPE", kTotalTraffic, kDesignLane));
 }
 
 /// A period that was never given is the day.
-void Activated(ScreenContext& context, Form& form, Control* /*control*/) {
-    Control& period = *form.Find("TrPer");
-    ShowStoredValue(context, form, period);
+void Activated(ScreenEvent& event) {
+    Control& period = event.form.Get("TrPer");
+    ShowStoredValue(event.context, event.form, period);
     if (!period.text.empty() && period.text != WordOf(period.words, kCountedByDay)) return;
-    context.units.SetDisplayNumber("TrPer", 1, 1, kCountedByDay);
-    ShowStoredValue(context, form, period);
+    event.context.units.SetDisplayNumber("TrPer", 1, 1, kCountedByDay);
+    ShowStoredValue(event.context, event.form, period);
 }
 
-void TrafficClick(ScreenContext& context, Form& form, Control* option) {
-    if (ChooseTraffic(context, form, option->name == "Option2")) context.bProjectChanged = true;
+void TrafficClick(ScreenEvent& event) {
+    const int traffic = event.control->name == "Option2" ? kTotalTraffic : kDesignLane;
+    if (ChooseTraffic(event.context, event.form, traffic)) event.context.bProjectChanged = true;
 }
 
-void WayClick(ScreenContext& context, Form& form, Control* option) {
-    if (ChooseWay(context, form, option->name == "TRTWOWAY")) context.bProjectChanged = true;
+void WayClick(ScreenEvent& event) {
+    const int way = event.control->name == "TRTWOWAY" ? kTwoWay : kOneWay;
+    if (ChooseWay(event.context, event.form, way)) event.context.bProjectChanged = true;
 }
 
 /// A period is stored as soon as it is picked.
-void PeriodPicked(ScreenContext& context, Form& form, Control* list) {
-    if (!CodeOf(list->words, list->text)) return;
-    form.SetFieldChanged(false);
-    StoreCode(context, form, *list);
-    context.bProjectChanged = true;
+void PeriodPicked(ScreenEvent& event) {
+    const Control& list = *event.control;
+    if (!CodeOf(list.words, list.text)) return;
+    event.form.SetFieldChanged(false);
+    StoreCode(event.context, event.form, list);
+    event.context.bProjectChanged = true;
 }
 
 /// A text that is neither the day nor the month counts as the year.
-void PeriodLeft(ScreenContext& context, Form& form, Control* list) {
-    if (!form.fieldChanged() || list->text.empty() || CodeOf(list->words, list->text)) return;
-    list->text = WordOf(list->words, kCountedByYear);
-    PeriodPicked(context, form, list);
+void PeriodLeft(ScreenEvent& event) {
+    Control& list = *event.control;
+    if (!event.form.fieldChanged() || list.text.empty() || CodeOf(list.words, list.text)) return;
+    list.text = WordOf(list.words, kCountedByYear);
+    PeriodPicked(event);
 }
 
-void HelpClick(ScreenContext& context, Form& form, Control* /*button*/) {
-    if (form.HiddenText("SolveForField") != "TrPer") {
-        OpenFieldHelp(context, form);
+void HelpClick(ScreenEvent& event) {
+    if (event.form.TextOf("SolveForField") != "TrPer") {
+        OpenFieldHelp(event.context, event.form);
         return;
     }
-    context.calc.dialogs.ShowMessage({.text = "No Help Available for 'Traffic Input by'.", .title = "Help"});
+    event.context.calc.dialogs.ShowMessage(
+        {.text = "No Help Available for 'Traffic Input by'.", .title = "Help"});
 }
 
-LayoutNode SharedInputs() {
+LayoutElement SharedInputs() {
     return Frame("Frame3", "Pavement and Growth",
                  {Fields({{.variable = "TrafficDEPTH", .box = "TRAFFICDEPTH"},
                           {.variable = "TrafficSN", .box = "TRAFFICSN"},
@@ -94,7 +109,7 @@ LayoutNode SharedInputs() {
                           {.variable = "TrPer", .words = CountPeriods()}})});
 }
 
-LayoutNode Distribution() {
+LayoutElement Distribution() {
     return Rows({
         Frame("Frame1",
               "Traffic Input as:", {Options({{"Option1", "Design Lane"}, {"Option2", "Total Traffic"}})}),
@@ -111,13 +126,8 @@ LayoutNode Distribution() {
 FormType TrafficInputsForm() {
     FormType type;
     type.name = "TrFa";
-    type.tag = "TrFa";
     type.caption = "Pavement & Traffic Inputs";
-    type.layout = Rows({
-        Columns({SharedInputs(), Distribution()}),
-        Buttons({{"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}}),
-        Hidden({"Dim1", "Dim2"}),
-    });
+    type.layout = Columns({SharedInputs(), Distribution()});
     type.handlers = {
         {FormEvent::Load, "", HandlerOrder::After, Load},
         {FormEvent::Activate, "", HandlerOrder::After, Activated},

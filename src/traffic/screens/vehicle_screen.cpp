@@ -54,19 +54,19 @@ enum BlockColumn { kPictureColumn, kNumberColumn, kTypeColumn, kLoadColumn };
 
 std::string Named(const char* start, int axle) { return start + std::to_string(axle); }
 
-void AddHeadings(std::vector<LayoutNode>& elements, int block, const std::string& unit) {
+void AddHeadings(std::vector<MatrixCell>& elements, int block, int firstAxle) {
     constexpr std::array kHeadings = {"Vehicle", "Number", "Axle Type", "Axle Load"};
     for (int column = kPictureColumn; column <= kLoadColumn; ++column) {
         const std::string name = "Head" + std::to_string(block) + std::to_string(column + 1);
         elements.push_back(
             At(kHeadingRow, column, Caption(name, kHeadings[static_cast<std::size_t>(column)])));
     }
-    elements.push_back(At(kUnitRow, kLoadColumn, Part(unit)));
+    elements.push_back(At(kUnitRow, kLoadColumn, UnitOf(Named("AW", firstAxle))));
 }
 
 /// The drawing, or drawings, of a class with its name below.
-LayoutNode Drawings(const Vehicle& vehicle, const VehicleAxles& axles, int& images) {
-    std::vector<LayoutNode> rows;
+LayoutElement Drawings(const Vehicle& vehicle, const VehicleAxles& axles, int& images) {
+    std::vector<LayoutElement> rows;
     for (const Drawing& drawing : vehicle.drawings) {
         rows.push_back(
             SmallPicture("Image" + std::to_string(++images), drawing.file, drawing.letters, drawing.words));
@@ -76,26 +76,26 @@ LayoutNode Drawings(const Vehicle& vehicle, const VehicleAxles& axles, int& imag
 }
 
 /// The axles of a class below each other, its count in the first line. An empty row sets the classes apart.
-int AddVehicle(std::vector<LayoutNode>& elements, const Vehicle& vehicle, const VehicleAxles& axles, int row,
+int AddVehicle(std::vector<MatrixCell>& elements, const Vehicle& vehicle, const VehicleAxles& axles, int row,
                int& images) {
     const int count = axles.last - axles.first + 1;
     elements.push_back(At(row, kPictureColumn, Drawings(vehicle, axles, images), count));
-    elements.push_back(At(row, kNumberColumn, Box({.variable = Named("NA", axles.last)})));
+    elements.push_back(At(row, kNumberColumn, BareBox({.variable = Named("NA", axles.last)})));
     for (int axle = axles.first; axle <= axles.last; ++axle, ++row) {
         elements.push_back(
             At(row, kTypeColumn,
-               Box({.variable = Named("AT", axle), .words = AxleTypes(), .letters = kTypeLetters})));
+               BareBox({.variable = Named("AT", axle), .words = AxleTypes(), .letters = kTypeLetters})));
         elements.push_back(
-            At(row, kLoadColumn, Box({.variable = Named("AW", axle), .letters = kLoadLetters})));
+            At(row, kLoadColumn, BareBox({.variable = Named("AW", axle), .letters = kLoadLetters})));
     }
     return row + 1;
 }
 
 /// Some of the classes under their headings.
-LayoutNode Block(int block, std::size_t first, std::size_t last, int& images) {
+LayoutElement Block(int block, std::size_t first, std::size_t last, int& images) {
     const auto vehicles = Vehicles();
-    std::vector<LayoutNode> elements;
-    AddHeadings(elements, block, Named("uAW", kVehicleAxles.at(first).first));
+    std::vector<MatrixCell> elements;
+    AddHeadings(elements, block, kVehicleAxles.at(first).first);
     int row = kUnitRow + 1;
     for (std::size_t i = first; i <= last; ++i) {
         row = AddVehicle(elements, vehicles.at(i), kVehicleAxles.at(i), row, images);
@@ -103,17 +103,15 @@ LayoutNode Block(int block, std::size_t first, std::size_t last, int& images) {
     return Matrix(std::move(elements));
 }
 
-LayoutNode VehicleLayout() {
+LayoutElement VehicleLayout() {
     int images = 0;
-    LayoutNode left = Block(1, 0, 2, images);
-    LayoutNode right = Block(2, 3, 5, images);
+    LayoutElement left = Block(1, 0, 2, images);
+    LayoutElement right = Block(2, 3, 5, images);
     return Rows({
         TrafficInputCopies(),
         Columns({Rows({std::move(left), Fields({{.variable = "RIGE18", .label = "Total Rigid ESAL"},
                                                 {.variable = "FLEXE18", .label = "Total Flexible ESAL"}})}),
                  Rows({std::move(right)})}),
-        Buttons({{"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}}),
-        Hidden({"Dim1", "Dim2"}),
     });
 }
 
@@ -129,27 +127,29 @@ bool HasVehicles(const ScreenContext& context, const Form& form) {
 
 /// A code that is none leaves the box as it stands.
 void ShowType(const ScreenContext& context, const Form& form, Control& box) {
-    if (!WordOf(box.words, context.calc.store.GetVar(box.tag).value()).empty()) ShowStoredValue(context, form, box);
+    if (!WordOf(box.words, context.calc.store.GetVar(box.tag).value()).empty())
+        ShowStoredValue(context, form, box);
 }
 
 void ShowTypes(const ScreenContext& context, Form& form) {
     for (const VehicleAxles& axles : kVehicleAxles) {
         for (int axle = axles.first; axle <= axles.last; ++axle) {
-            ShowType(context, form, *form.Find(Named("AT", axle)));
+            ShowType(context, form, form.Get(Named("AT", axle)));
         }
     }
 }
 
 /// With no vehicle at all the design traffic of another route stays.
-void Activated(ScreenContext& context, Form& form, Control* /*control*/) {
-    ShowPeriod(context, form);
-    ShowTypes(context, form);
-    if (HasVehicles(context, form)) RecalcOutputs(context, form, "", 0);
+void Activated(ScreenEvent& event) {
+    ShowPeriod(event.context, event.form);
+    ShowTypes(event.context, event.form);
+    if (HasVehicles(event.context, event.form)) RecalcOutputs(event.context, event.form, "", 0);
 }
 
 /// A type that was blanked is stored as the code of none.
-void TypeStored(ScreenContext& context, Form& form, Control* box) {
-    if (box->coded && box->text.empty()) StoreCode(context, form, *box);
+void TypeStored(ScreenEvent& event) {
+    const Control& box = *event.control;
+    if (box.coded && box.text.empty()) StoreCode(event.context, event.form, box);
 }
 
 }  // namespace
@@ -157,7 +157,6 @@ void TypeStored(ScreenContext& context, Form& form, Control* box) {
 FormType VehicleForm() {
     FormType type;
     type.name = "TrVe";
-    type.tag = "TrVe";
     type.caption = "ESAL Conversion From Vehicle Data";
     type.layout = VehicleLayout();
     type.handlers = {

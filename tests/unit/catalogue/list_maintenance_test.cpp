@@ -1,6 +1,7 @@
 // The drop-down lists, and what maintains them.
 
 #include "catalogue/list_database.h"
+#include "platform/database_error.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -86,7 +86,7 @@ class FieldHelpTest : public testing::Test {
 TEST_F(FieldHelpTest, WithNoFieldSelectedItAsksForOne) {
     Raise(Kind::OpenForm, "DeF");
     Current().iCurrentField.reset();
-    Current().SetHiddenText("SolveForField", "");
+    Current().SetText("SolveForField", "");
     Current().focus = nullptr;
     Raise(Kind::Press, "SSHelp");
     EXPECT_THAT(Messages(), ElementsAre("Please select field first."));
@@ -112,7 +112,7 @@ TEST_F(FieldHelpTest, AVariableWithoutAnExplanationIsNamedByItsDescription) {
 
 TEST_F(FieldHelpTest, AVariableThatIsNotThereIsTold) {
     Raise(Kind::OpenForm, "DeF");
-    Current().SetHiddenText("SolveForField", "NOSUCH");
+    Current().SetText("SolveForField", "NOSUCH");
     Current().Find("RM")->tag = "NOSUCH";
     Raise(Kind::Focus, "RM");
     Raise(Kind::Press, "SSHelp");
@@ -124,8 +124,8 @@ TEST_F(FieldHelpTest, TheCaptionAndTheHeadAreTheVariables) {
     Raise(Kind::Focus, "FLEXDEV");
     Raise(Kind::Key, "F1");
     EXPECT_EQ(Current().caption, "Help Screen for the Overall Standard Deviation of the Flexible Design");
-    EXPECT_EQ(Current().HiddenText("Label"), "Overall Deviation");
-    EXPECT_EQ(Current().HiddenText("Units"), "") << "no unit worth showing";
+    EXPECT_EQ(Current().TextOf("Label"), "Overall Deviation");
+    EXPECT_EQ(Current().TextOf("Units"), "") << "no unit worth showing";
     EXPECT_TRUE(Current().modal);
     Raise(Kind::Key, "Esc");
     EXPECT_EQ(Current().name(), "DeF");
@@ -137,8 +137,8 @@ TEST_F(FieldHelpTest, AMetricValueIsConvertedOnItsWayBack) {
     program_.program.ChooseUnits(true);
     Raise(Kind::OpenForm, "DeR");
     Raise(Kind::Key, "F1");
-    EXPECT_EQ(Current().HiddenText("TextBox"), "254.0");
-    EXPECT_EQ(Current().HiddenText("Units"), "mm");
+    EXPECT_EQ(Current().TextOf("TextBox"), "254.0");
+    EXPECT_EQ(Current().TextOf("Units"), "mm");
     Raise(Kind::Type, {}, "203.2");
     Raise(Kind::Press, "Command1");
     EXPECT_EQ(program_.Get("DEPTH"), 203.2 / 25.4);
@@ -187,14 +187,14 @@ TEST_F(FieldHelpTest, TheListIsTheCallersAndWithoutItThereIsABox) {
     Raise(Kind::Focus, "AT51");
     Raise(Kind::Key, "F1");
     EXPECT_THAT(Current().Find("ComboBox")->items, ElementsAre("Single", "Tandem", "Tridem"));
-    EXPECT_EQ(Current().HiddenText("ComboBox"), "Tandem");
+    EXPECT_EQ(Current().TextOf("ComboBox"), "Tandem");
     EXPECT_FALSE(Current().Find("TextBox")->visible);
     Raise(Kind::Key, "Esc");
     Raise(Kind::CloseForm, "TrVe");
     Raise(Kind::OpenForm, "HelpForm");
-    EXPECT_EQ(Current().HiddenText("FieldName"), "AT51") << "the field of before";
+    EXPECT_EQ(Current().TextOf("FieldName"), "AT51") << "the field of before";
     EXPECT_FALSE(Current().Find("ComboBox")->visible);
-    EXPECT_EQ(Current().HiddenText("TextBox"), "2") << "the code";
+    EXPECT_EQ(Current().TextOf("TextBox"), "2") << "the code";
 }
 
 TEST_F(FieldHelpTest, AHelpThatIsOpenForAnotherScreenGivesWay) {
@@ -205,7 +205,7 @@ TEST_F(FieldHelpTest, AHelpThatIsOpenForAnotherScreenGivesWay) {
     Raise(Kind::Focus, "K");
     Raise(Kind::Key, "F1");
     EXPECT_EQ(Current().name(), "H_K");
-    EXPECT_EQ(Current().HiddenText("FormName"), "DeS");
+    EXPECT_EQ(Current().TextOf("FormName"), "DeS");
     Raise(Kind::Type, {}, "7000");
     Raise(Kind::Key, "Esc");
     EXPECT_EQ(Current().name(), "DeS");
@@ -219,9 +219,9 @@ TEST_F(FieldHelpTest, InputsFromBeforeGiveAKWhereThereIsNone) {
     Raise(Kind::OpenForm, "DeR");
     Raise(Kind::Focus, "K");
     Raise(Kind::Key, "F1");
-    EXPECT_EQ(Current().HiddenText("K"), "");
+    EXPECT_EQ(Current().TextOf("K"), "");
     Raise(Kind::Key, "Tab");
-    EXPECT_EQ(Current().HiddenText("K"), "360.8");
+    EXPECT_EQ(Current().TextOf("K"), "360.8");
     Raise(Kind::Key, "Esc");
     EXPECT_EQ(program_.Get("K"), 360.8);
 }
@@ -235,7 +235,7 @@ TEST_F(FieldHelpTest, AnInputThatItsOwnHelpHasChangedGivesANewK) {
     ASSERT_EQ(Current().name(), "HelpForm");
     Raise(Kind::Type, {}, "7000");
     Raise(Kind::Key, "Esc");
-    EXPECT_EQ(Current().HiddenText("K"), "360.8");
+    EXPECT_EQ(Current().TextOf("K"), "360.8");
     EXPECT_EQ(program_.store().FindCell("FieldName", 1, 1)->text, "K") << "the first caller";
     EXPECT_EQ(program_.store().FindCell("FieldName2", 1, 1)->text, "MRSG");
     Raise(Kind::Key, "Esc");
@@ -248,10 +248,10 @@ TEST_F(FieldHelpTest, KFollowsTheBoxesAsTheyStand) {
     Raise(Kind::Focus, "K");
     Raise(Kind::Key, "F1");
     Raise(Kind::Type, {}, "7.55");
-    EXPECT_EQ(Current().HiddenText("K"), "15.8") << "7.55 / 0.477 = 15.828";
+    EXPECT_EQ(Current().TextOf("K"), "15.8") << "7.55 / 0.477 = 15.828";
     Raise(Kind::Key, "Tab");
-    EXPECT_EQ(Current().HiddenText("MRSG"), "7.6") << "in its picture";
-    EXPECT_EQ(Current().HiddenText("K"), "15.9") << "7.6 / 0.477 = 15.933";
+    EXPECT_EQ(Current().TextOf("MRSG"), "7.6") << "in its picture";
+    EXPECT_EQ(Current().TextOf("K"), "15.9") << "7.6 / 0.477 = 15.933";
     Raise(Kind::Key, "Esc");
     EXPECT_NEAR(program_.Get("MRSG"), 7.55 / 0.006894757, 1e-9) << "what was typed is stored";
 }
@@ -262,9 +262,9 @@ TEST_F(FieldHelpTest, KIsWorkedOutWhenAnInputIsLeftAlsoFromInputsOfBefore) {
     Raise(Kind::OpenForm, "DeR");
     Raise(Kind::Focus, "K");
     Raise(Kind::Key, "F1");
-    EXPECT_EQ(Current().HiddenText("K"), "100.0");
+    EXPECT_EQ(Current().TextOf("K"), "100.0");
     Raise(Kind::Key, "Tab");
-    EXPECT_EQ(Current().HiddenText("K"), "360.8");
+    EXPECT_EQ(Current().TextOf("K"), "360.8");
     Raise(Kind::Press, "cmdAction");
     EXPECT_EQ(program_.Get("K"), 360.8);
     EXPECT_EQ(Current().solveState(0), SolveState::Warning);
@@ -274,9 +274,9 @@ TEST_F(FieldHelpTest, AnOverflowLeavesKAsItWas) {
     program_.program.ChooseUnits(true);
     Raise(Kind::OpenForm, "H_K");
     Raise(Kind::Type, {}, "48");
-    EXPECT_EQ(Current().HiddenText("K"), "100.6") << "48 / 0.477 = 100.63";
+    EXPECT_EQ(Current().TextOf("K"), "100.6") << "48 / 0.477 = 100.63";
     Raise(Kind::Type, {}, "1e308");
-    EXPECT_EQ(Current().HiddenText("K"), "100.6");
+    EXPECT_EQ(Current().TextOf("K"), "100.6");
 }
 
 TEST_F(FieldHelpTest, TheModulusOfTheTestsIsHandedOverWheneverTheyGiveOne) {
@@ -286,10 +286,10 @@ TEST_F(FieldHelpTest, TheModulusOfTheTestsIsHandedOverWheneverTheyGiveOne) {
     Raise(Kind::Focus, "RM");
     Raise(Kind::Key, "F1");
     Raise(Kind::Key, "Tab");
-    EXPECT_EQ(Current().HiddenText("V"), "5,842.0");
+    EXPECT_EQ(Current().TextOf("V"), "5,842.0");
     EXPECT_NEAR(program_.Get("V"), 1941.488 * std::pow(5.0, 0.6844709), 1e-9) << "and it is stored";
     program_.program.ChooseUnits(true);
-    EXPECT_EQ(Current().HiddenText("V"), "40.3") << "5842 * 0.006894757 = 40.279";
+    EXPECT_EQ(Current().TextOf("V"), "40.3") << "5842 * 0.006894757 = 40.279";
     program_.program.ChooseUnits(false);
     Raise(Kind::Press, "cmdAction");
     EXPECT_EQ(program_.Get("RM"), 5842.0) << "as it is shown";
@@ -308,7 +308,7 @@ TEST_F(FieldHelpTest, TestsThatAreOutOfRangeAreToldOnceAndTheOutputsStay) {
     Raise(Kind::Type, {}, "5");
     Raise(Kind::Key, "Tab");
     EXPECT_THAT(Messages(), ElementsAre("Math Overflow Error: One or more values out of range."));
-    EXPECT_EQ(Current().HiddenText("V"), "4,000.0");
+    EXPECT_EQ(Current().TextOf("V"), "4,000.0");
     EXPECT_EQ(program_.Get("CBR"), 5.0);
 }
 
@@ -318,9 +318,9 @@ TEST_F(FieldHelpTest, WhatAPictureHidesOfATestCounts) {
     Raise(Kind::Key, "F1");
     Raise(Kind::Type, {}, "0.96");
     Raise(Kind::Key, "Tab");
-    EXPECT_EQ(Current().HiddenText("CBR"), "1.0");
-    EXPECT_EQ(Current().HiddenText("OCBR"), "1,888.0");
-    EXPECT_EQ(Current().HiddenText("V"), "0.0") << "a CBR below 1 governs nothing";
+    EXPECT_EQ(Current().TextOf("CBR"), "1.0");
+    EXPECT_EQ(Current().TextOf("OCBR"), "1,888.0");
+    EXPECT_EQ(Current().TextOf("V"), "0.0") << "a CBR below 1 governs nothing";
 }
 
 TEST_F(FieldHelpTest, ATestThatWasRefusedCountsNoMore) {
@@ -329,19 +329,19 @@ TEST_F(FieldHelpTest, ATestThatWasRefusedCountsNoMore) {
     Raise(Kind::Key, "F1");
     Raise(Kind::Type, {}, "5");
     Raise(Kind::Key, "Tab");
-    EXPECT_EQ(Current().HiddenText("V"), "5,842.0");
+    EXPECT_EQ(Current().TextOf("V"), "5,842.0");
     Raise(Kind::Focus, "CBR");
     Raise(Kind::Type, {}, "101");
     Raise(Kind::Key, "Tab");
     EXPECT_EQ(Messages().size(), 1U);
-    EXPECT_EQ(Current().HiddenText("V"), "0.0");
+    EXPECT_EQ(Current().TextOf("V"), "0.0");
     Raise(Kind::Type, {}, "5");
     Raise(Kind::Key, "Tab");
     Raise(Kind::Focus, "CBR");
     Raise(Kind::Type, {}, "much");
     Raise(Kind::Key, "Tab");
     EXPECT_EQ(Messages().size(), 1U);
-    EXPECT_EQ(Current().HiddenText("V"), "0.0");
+    EXPECT_EQ(Current().TextOf("V"), "0.0");
 }
 
 TEST_F(FieldHelpTest, AHelpThatIsClosedFromOutsideReturnsItsValue) {
@@ -352,7 +352,7 @@ TEST_F(FieldHelpTest, AHelpThatIsClosedFromOutsideReturnsItsValue) {
     Raise(Kind::ActivateForm, "DeR");
     Raise(Kind::CloseForm, "H_K");
     EXPECT_EQ(Current().name(), "DeR");
-    EXPECT_EQ(Current().HiddenText("K"), "360.8");
+    EXPECT_EQ(Current().TextOf("K"), "360.8");
     EXPECT_EQ(Current().solveState(0), SolveState::Warning);
 }
 
@@ -360,7 +360,7 @@ TEST_F(FieldHelpTest, AnEntryThatHasLeftItsListStaysWithoutAnEdit) {
     program_.store().SetCell("LDLayerMat", 1, 1, {std::nullopt, "Old Material"});
     Raise(Kind::OpenForm, "LayDet");
     Raise(Kind::Key, "F1");
-    EXPECT_EQ(Current().HiddenText("ComboBox"), "Old Material");
+    EXPECT_EQ(Current().TextOf("ComboBox"), "Old Material");
     Raise(Kind::Press, "Command1");
     EXPECT_THAT(Messages(), IsEmpty());
     EXPECT_EQ(Current().name(), "LayDet");
@@ -377,14 +377,72 @@ TEST_F(FieldHelpTest, AnEqualNumberIsNoChange) {
     EXPECT_NE(Current().solveState(0), SolveState::Warning);
 }
 
+// --- The small buttons beside fields --------------------------------------------------------------------
+
+TEST_F(FieldHelpTest, ASmallButtonOpensTheHelpThatWorksTheValueOfItsFieldOut) {
+    Raise(Kind::OpenForm, "DeF");
+    Raise(Kind::Focus, "RM");
+    Raise(Kind::Type, {}, "6000");
+    Raise(Kind::Press, "cmdbRM");
+    EXPECT_EQ(Current().name(), "H_SRM");
+    EXPECT_EQ(Current().TextOf("FieldName"), "RM");
+    EXPECT_EQ(program_.Get("RM"), 6000.0) << "the field was left first";
+    Raise(Kind::Type, {}, "5");
+    Raise(Kind::Key, "Esc");
+    EXPECT_EQ(Current().name(), "DeF");
+    EXPECT_EQ(Current().focus->name, "RM");
+    EXPECT_EQ(Current().TextOf("RM"), "5,842") << "1941.488 * 5 ^ 0.6844709";
+}
+
+TEST_F(FieldHelpTest, ASmallButtonMeansItsOwnFieldWhereverTheFocusWas) {
+    Raise(Kind::OpenForm, "DeS");
+    Raise(Kind::Focus, "FLEXREL");
+    Raise(Kind::Type, {}, "95");
+    Raise(Kind::Press, "cmdbK");
+    EXPECT_EQ(program_.Get("FLEXREL"), 95.0);
+    EXPECT_EQ(Current().name(), "H_K");
+    EXPECT_EQ(Current().TextOf("FieldName"), "K");
+    Raise(Kind::Key, "Esc");
+    EXPECT_EQ(Current().focus->name, "K");
+    Raise(Kind::Key, "Tab");
+    ASSERT_EQ(Current().focus->name, "cmdbK");
+    Raise(Kind::Key, "Space");
+    EXPECT_EQ(Current().name(), "H_K");
+}
+
+TEST_F(FieldHelpTest, ARefusedValueKeepsTheFocusFromASmallButton) {
+    Raise(Kind::OpenForm, "DeF");
+    Raise(Kind::Focus, "FLEXREL");
+    Raise(Kind::Type, {}, "100");
+    Raise(Kind::Press, "cmdbRM");
+    EXPECT_THAT(Messages(), ElementsAre("Warning: Input out of range. Enter value between 50 and 99.99"));
+    EXPECT_EQ(Current().name(), "DeF");
+    EXPECT_EQ(Current().focus->name, "FLEXREL");
+}
+
+TEST_F(FieldHelpTest, OnlyHelpsThatWorkAValueOutHaveSmallButtons) {
+    std::vector<std::string> buttons;
+    for (const std::string& screen : Forms().TypeNames()) {
+        const Form form(*Forms().FindType(screen), *program_.program.state().dbCatalogue);
+        for (const auto& control : form.controls()) {
+            if (control->worksOut.empty()) continue;
+            buttons.push_back(screen + "." + control->name + ": " + control->toolTip);
+            EXPECT_EQ(control->text, "\u2026");
+        }
+    }
+    EXPECT_THAT(buttons, testing::UnorderedElementsAre("DeF.cmdbRM: Work out the soil resilient modulus",
+                                                       "DeR.cmdbK: Work out the modulus of subgrade reaction",
+                                                       "DeS.cmdbK: Work out the modulus of subgrade reaction",
+                                                       "DeS.cmdbRM: Work out the soil resilient modulus"));
+}
+
 TEST_F(FieldHelpTest, ExistingPavementsHaveSubgradeDataOfTheirOwn) {
     Raise(Kind::OpenForm, "DeR");
     Form& caller = Current();
     for (const char* screen : {"ExC", "ExR"}) {
         FormType type;
         type.name = screen;
-        type.tag = screen;
-        type.layout = Rows({Fields({{"EXISTK"}}), Buttons({{"SSHelp", "Hel&p"}})});
+        type.layout = Rows({Fields({{"EXISTK"}})});
         type.helpRoutes = {{"EXISTK", "H_K"}};
         Forms().Declare({type});
         Raise(Kind::OpenForm, screen);

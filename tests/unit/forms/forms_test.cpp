@@ -129,11 +129,11 @@ TEST_F(FormsTest, AccessKeysAreUniqueOnEveryPageAndReachEveryControl) {
 TEST_F(FormsTest, TabGoesThroughEveryInputInReadingOrderAndRound) {
     Form& form = Open("DeF");
     std::vector<std::string> order;
-    for (int i = 0; i < 11; ++i) {
+    for (int i = 0; i < 12; ++i) {
         order.push_back(form.focus->name);
         Raise(Kind::Key, "Tab");
     }
-    EXPECT_THAT(order, ElementsAre("FLEXE18", "FLEXREL", "FLEXDEV", "RM", "SN", "FLEXPO", "FLEXPT",
+    EXPECT_THAT(order, ElementsAre("FLEXE18", "FLEXREL", "FLEXDEV", "RM", "cmdbRM", "SN", "FLEXPO", "FLEXPT",
                                    "Command1", "Command2", "cmdAction", "SSHelp"));
     EXPECT_EQ(form.focus->name, "FLEXE18");
     Raise(Kind::Key, "BackTab");
@@ -154,6 +154,20 @@ TEST_F(FormsTest, EnterOnAButtonMovesOn) {
     EXPECT_EQ(form.focus->name, "SSHelp") << "Enter presses no button";
     Raise(Kind::Key, "Enter");
     EXPECT_EQ(form.focus->name, "FLEXE18");
+    EXPECT_THAT(Messages(), IsEmpty());
+}
+
+TEST_F(FormsTest, EnterPassesOverTheSmallButtonsBesideFields) {
+    Form& form = Open("DeF");
+    Raise(Kind::Focus, "FLEXDEV");
+    Raise(Kind::Key, "Enter");
+    EXPECT_EQ(form.focus->name, "RM");
+    Raise(Kind::Key, "Enter");
+    EXPECT_EQ(form.focus->name, "SN");
+    Raise(Kind::Key, "BackTab");
+    EXPECT_EQ(form.focus->name, "cmdbRM");
+    Raise(Kind::Key, "Enter");
+    EXPECT_EQ(form.focus->name, "SN");
     EXPECT_THAT(Messages(), IsEmpty());
 }
 
@@ -330,9 +344,9 @@ TEST_F(FormsTest, AScreenKeptOverNewShowsTheNewProject) {
     program_.program.NewProject();
     EXPECT_EQ(Messages().size(), 1U);
     ASSERT_EQ(program_.program.state().formRegistry.Find("DeF"), &form);
-    EXPECT_EQ(form.HiddenText("FLEXE18"), "");
+    EXPECT_EQ(form.TextOf("FLEXE18"), "");
     Raise(Kind::ActivateForm, "DeF");
-    EXPECT_EQ(form.HiddenText("FLEXE18"), "");
+    EXPECT_EQ(form.TextOf("FLEXE18"), "");
 }
 
 TEST_F(FormsTest, AScreenKeptOverAFailedOpenIsEmptyAndItsOkClosesIt) {
@@ -341,7 +355,7 @@ TEST_F(FormsTest, AScreenKeptOverAFailedOpenIsEmptyAndItsOkClosesIt) {
     Raise(Kind::Key, "Tab");
     program_.host.dialogs.QueueAnswer("no");
     program_.program.OpenProject((program_.home / "nothing.kvr").string());
-    EXPECT_EQ(form.HiddenText("FLEXE18"), "");
+    EXPECT_EQ(form.TextOf("FLEXE18"), "");
     Raise(Kind::ActivateForm, "DeF");
     Raise(Kind::Press, "cmdAction");
     EXPECT_EQ(program_.program.state().formRegistry.Find("DeF"), nullptr);
@@ -384,10 +398,10 @@ TEST_F(FormsTest, ALabelThatBeginsLikeAWarningCountsAsOne) {
 
 TEST_F(FormsTest, AFieldWithoutATagIsLeftAlone) {
     Form& form = Open("DeF");
-    form.SetHiddenText("Dim1", "");
-    form.SetHiddenText("SolveForSide", "kept");
+    form.SetText("Dim1", "");
+    form.SetText("SolveForSide", "kept");
     RefreshScreen(*context_, form);
-    EXPECT_EQ(form.HiddenText("SolveForSide"), "kept");
+    EXPECT_EQ(form.TextOf("SolveForSide"), "kept");
 }
 
 TEST_F(FormsTest, OnTheHubASwitchOfUnitsTouchesNothingElse) {

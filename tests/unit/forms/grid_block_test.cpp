@@ -30,13 +30,11 @@ struct Heard {
 
 Heard heard;
 
-void CellChanged(ScreenContext& /*context*/, Form& /*form*/, Control* control) {
-    heard.cells.emplace_back(control->grid->row, control->grid->current().variable);
+void CellChanged(ScreenEvent& event) {
+    heard.cells.emplace_back(event.control->grid->row, event.control->grid->current().variable);
 }
 
-void RowsWritten(ScreenContext& /*context*/, Form& /*form*/, Control* control) {
-    heard.rows.push_back(control->grid->writtenRows);
-}
+void RowsWritten(ScreenEvent& event) { heard.rows.push_back(event.control->grid->writtenRows); }
 
 std::vector<Handler> Listening() {
     return {{FormEvent::CellChanged, "", HandlerOrder::After, CellChanged},
@@ -122,9 +120,9 @@ TEST_F(GridBlockTest, OneRowThatIsLeftOutIsToldOfWithItsReason) {
 TEST_F(GridBlockTest, ASingleCellIsRefusedWithTheMessageOfATypedOne) {
     state().bProjectChanged = false;
     PasteAt(1, "LDLayerThick", "four");
-    PasteAt(1, "LDLayerThick", "61\n");
+    PasteAt(1, "LDLayerThick", "101\n");
     EXPECT_THAT(Messages(), ElementsAre("Please enter valid numeric value.",
-                                        "Warning: Input out of range. Enter value between 0 and 60"));
+                                        "Warning: Input out of range. Enter value between 0 and 100"));
     EXPECT_FALSE(state().bProjectChanged) << "nothing was stored";
     EXPECT_THAT(heard.rows, IsEmpty());
     PasteAt(1, "LDLayerThick", "60");
@@ -265,8 +263,7 @@ FormType RuledForm() {
     const FieldItem tenths = {.variable = "LDLayerThick",
                               .routines = {.read = ReadTenths, .write = WriteTenths}};
     type.layout = Rows({Grid("Grid", {{.variable = "LDLayerCoef"}, tenths}, 0,
-                             {.mayDelete = MayDelete, .mayEdit = MayEdit, .note = NoteOf}),
-                        Buttons({{"cmdAction", "&OK"}})});
+                             {.mayDelete = MayDelete, .mayEdit = MayEdit, .note = NoteOf})});
     type.handlers = Listening();
     return type;
 }
@@ -310,7 +307,7 @@ TEST_F(RuledGridTest, ACellThatIsReadOnlyInItsRowTakesNothing) {
     EXPECT_EQ(Number("LDLayerCoef", 2), std::nullopt);
     program_.program.Raise({Kind::MoveToCell, "LDLayerThick", {}, 1});
     program_.program.Raise({Kind::Key, "BackTab"});
-    EXPECT_EQ(form_->focus->name, "cmdAction") << "Tab goes from one cell that takes a value to the next";
+    EXPECT_EQ(form_->focus->name, "SSHelp") << "Tab goes from one cell that takes a value to the next";
 }
 
 TEST_F(RuledGridTest, ARowThatMayNotGoStaysAndIsNotAskedFor) {

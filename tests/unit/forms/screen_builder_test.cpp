@@ -48,13 +48,13 @@ TEST_F(ScreenBuilderTest, ARuleIsAsLongAsItsPlaceLessFive) {
         "INSERT INTO Label (Screen, Label, x, y) VALUES ('Try', '-', 45, 1), ('Try', '=', 7, 2), "
         "('Try', 'Plain', 3, 4), ('Try', '-', 2, 5)");
     Form& form = *Build("Try");
-    EXPECT_EQ(form.HiddenText("Label1"), std::string(40, '-'));
-    EXPECT_EQ(form.HiddenText("Label2"), "==");
-    EXPECT_EQ(form.HiddenText("Label3"), "Plain");
-    EXPECT_EQ(form.HiddenText("Label4"), "") << "no room for a rule";
+    EXPECT_EQ(form.TextOf("Label1"), std::string(40, '-'));
+    EXPECT_EQ(form.TextOf("Label2"), "==");
+    EXPECT_EQ(form.TextOf("Label3"), "Plain");
+    EXPECT_EQ(form.TextOf("Label4"), "") << "no room for a rule";
     EXPECT_EQ(form.Find("Label3")->place->x, 3.0);
     EXPECT_EQ(form.Find("Label3")->place->y, 4.0);
-    EXPECT_EQ(form.HiddenText("Title"), "A Trial");
+    EXPECT_EQ(form.TextOf("Title"), "A Trial");
 }
 
 TEST_F(ScreenBuilderTest, WithoutPlacesThereAreNoPageButtonsAndNoIndicator) {
@@ -73,7 +73,7 @@ TEST_F(ScreenBuilderTest, APageButtonLeadsToTheScreenThatItNames) {
     program_.program.Raise({Kind::Press, "NextPage"});
     Form* second = program_.program.state().formRegistry.Find("Blank");
     ASSERT_NE(second, nullptr);
-    EXPECT_EQ(second->HiddenText("ScreenName"), "Try2");
+    EXPECT_EQ(second->TextOf("ScreenName"), "Try2");
     EXPECT_FALSE(second->Find("NextPage")->visible);
     program_.program.Raise({Kind::Press, "PrevPage"});
     EXPECT_THAT(Messages(), ElementsAre("Screen Gone not found"));
@@ -97,7 +97,7 @@ TEST_F(ScreenBuilderTest, AGridHasAsManyRowsAsItsVariable) {
     EXPECT_TRUE(grid.columns[1].locked);
     EXPECT_EQ(form.Find("Grid")->place->x, 2.0);
     EXPECT_DOUBLE_EQ(form.Find("Grid")->place->width, 1.05 * (12 + 8 + 1));
-    EXPECT_EQ(form.HiddenText("Dim2"), "1");
+    EXPECT_EQ(form.TextOf("Dim2"), "1");
     EXPECT_TRUE(program_.program.Raise({Kind::MoveToCell, {}, {}, 25}));
     program_.program.Raise({Kind::Key, "Down"});
     EXPECT_EQ(grid.row, 25) << "to its last row and no further";
@@ -114,7 +114,7 @@ TEST_F(ScreenBuilderTest, FieldsEndAtTheirPlaceAndFollowTheCatalogue) {
     const Control& rm = *form.Find("RM");
     EXPECT_DOUBLE_EQ(rm.place->width, 5 + 1.2) << "the letters of #,##0 and a margin";
     EXPECT_DOUBLE_EQ(rm.place->x + rm.place->width, 40.0);
-    EXPECT_EQ(form.HiddenText("NumLoaded"), "3");
+    EXPECT_EQ(form.TextOf("NumLoaded"), "3");
     EXPECT_TRUE(form.Find("SSN")->locked);
     EXPECT_EQ(form.Find("SSN")->backColor, colours::kLightCyan);
     EXPECT_FALSE(form.Find("SN")->tabStop) << "no place in the order";

@@ -84,12 +84,12 @@ class EventFaultTest : public ProjectTest {
     }
 
     /// Declares a form of one field, Agency, that does something at an event.
-    void DeclareForm(FormEvent event, void (*act)(ScreenContext&, Form&, Control*)) {
+    void DeclareForm(FormEvent event, void (*act)(ScreenEvent&)) {
         FormType type;
         type.name = "Faulty";
         type.tag = "DeF";
         type.caption = "Faulty";
-        type.layout = Rows({Fields({{"Agency"}, {"SN"}}), Buttons({{"cmdAction", "&OK"}})});
+        type.layout = Rows({Fields({{"Agency"}, {"SN"}})});
         type.handlers = {{event, "", HandlerOrder::After, act}};
         State().formRegistry.Declare({type});
     }
@@ -174,11 +174,11 @@ TEST_F(EventFaultTest, AWorkCopyThatCannotBeWrittenKeepsItsChangesForTheSave) {
 
 TEST_F(EventFaultTest, WhatIsUndoneWhileTheWorkCopyCannotBeWrittenIsUndoneForTheSaveToo) {
     Enter("SN", "5");
-    DeclareForm(FormEvent::Load, [](ScreenContext& context, Form&, Control*) {
-        context.calc.store.SetVar("FLEXPO", 1.0);
+    DeclareForm(FormEvent::Load, [](ScreenEvent& event) {
+        event.context.calc.store.SetVar("FLEXPO", 1.0);
         const FileSizeLimit full(0);
-        context.calc.store.SetVar("SN", 7.0);
-        context.calc.store.SetCell("Agency", 1, 1, {std::nullopt, std::string(20'000, 'x')});
+        event.context.calc.store.SetVar("SN", 7.0);
+        event.context.calc.store.SetCell("Agency", 1, 1, {std::nullopt, std::string(20'000, 'x')});
         Fail();
     });
     Open("Faulty");
@@ -197,12 +197,12 @@ TEST_F(EventFaultTest, AFormThatFailsWhileItIsMadeIsNotOpenAndWroteNothing) {
     Enter("SN", "5");
     State().bProjectChanged = false;
     Open("DeF");
-    DeclareForm(FormEvent::Load, [](ScreenContext& context, Form&, Control*) {
-        context.calc.store.SetVar("SN", 6.0);
-        context.calc.store.SetVar("SN", 7.0);
-        context.calc.store.SetVarText("Agency", "nobody");
-        context.bProjectChanged = true;
-        context.units.SetMetric(true);
+    DeclareForm(FormEvent::Load, [](ScreenEvent& event) {
+        event.context.calc.store.SetVar("SN", 6.0);
+        event.context.calc.store.SetVar("SN", 7.0);
+        event.context.calc.store.SetVarText("Agency", "nobody");
+        event.context.bProjectChanged = true;
+        event.context.units.SetMetric(true);
         Fail();
     });
     Open("Faulty");
@@ -217,7 +217,7 @@ TEST_F(EventFaultTest, AFormThatFailsWhileItIsMadeIsNotOpenAndWroteNothing) {
 }
 
 TEST_F(EventFaultTest, WhatWasBeingTypedIsStillThereAndTheCellIsWhatItWas) {
-    DeclareForm(FormEvent::Stored, [](ScreenContext&, Form&, Control*) { Fail(); });
+    DeclareForm(FormEvent::Stored, [](ScreenEvent&) { Fail(); });
     Enter("SN", "5");
     State().bProjectChanged = false;
     Open("Faulty");
@@ -236,7 +236,7 @@ TEST_F(EventFaultTest, WhatWasBeingTypedIsStillThereAndTheCellIsWhatItWas) {
 }
 
 TEST_F(EventFaultTest, AFormThatFailsWhileItClosesIsOpenAgain) {
-    DeclareForm(FormEvent::Unload, [](ScreenContext&, Form&, Control*) { Fail(); });
+    DeclareForm(FormEvent::Unload, [](ScreenEvent&) { Fail(); });
     Enter("SN", "5");
     Open("DeF");
     Open("Faulty");
@@ -275,8 +275,7 @@ TEST_F(EventFaultTest, AFailedSolveLeavesEveryTermAndSaysSo) {
 }
 
 TEST_F(EventFaultTest, AMissingCellStillStopsTheProgram) {
-    DeclareForm(FormEvent::Load,
-                [](ScreenContext& context, Form&, Control*) { (void)context.calc.store.GetVar("NOSUCH"); });
+    DeclareForm(FormEvent::Load, [](ScreenEvent& event) { (void)event.context.calc.store.GetVar("NOSUCH"); });
     EXPECT_THROW((void)Run().Raise({Kind::OpenForm, "Faulty"}), ProgramStop);
     EXPECT_THAT(Messages(), IsEmpty());
 }

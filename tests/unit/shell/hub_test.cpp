@@ -5,9 +5,11 @@
 
 #include <array>
 #include <map>
+#include <stdexcept>
 
 #include "forms/layout.h"
 #include "shell/hub/hub.h"
+#include "shell/hub/offer.h"
 #include "support/project_fixture.h"
 
 namespace kelvor::test {
@@ -35,7 +37,6 @@ class HubTest : public ProjectTest {
             type.name = name;
             type.tag = "DeF";
             type.caption = name;
-            type.layout = Rows({Buttons({{"cmdAction", "&OK"}})});
             State().formRegistry.Declare({type});
         }
         OfferAgain();
@@ -150,21 +151,25 @@ TEST_F(HubTest, OneOptionOfATabIsSelectedAlsoAcrossItsFrames) {
     EXPECT_TRUE(At("FPNDTCalc").value);
 }
 
+TEST_F(HubTest, ATableThatNamesWhatIsNotThereFails) {
+    EXPECT_THAT([&] { Offer(Hub(), "oDeG", true, {}); },
+                testing::ThrowsMessage<std::logic_error>("form TabForm has no control oDeG"));
+}
+
 TEST_F(HubTest, BothPavementsHaveTheSameScreenWithTheirOwnNumber) {
     FormType costs;
     costs.name = "LcA1";
     costs.tag = "DeF";
-    costs.layout = Rows({Buttons({{"cmdAction", "&OK"}}), Hidden({"Dim2"})});
     State().formRegistry.Declare({costs});
     OfferAgain();
     SwitchTo(4);
     Choose("oLcA2");
     Press("Command2");
-    EXPECT_EQ(State().formRegistry.CurrentForm->HiddenText("Dim2"), "2");
+    EXPECT_EQ(State().formRegistry.CurrentForm->TextOf("Dim2"), "2");
     SwitchTo(4);
     Choose("oLcA1");
     Press("Command2");
-    EXPECT_EQ(State().formRegistry.CurrentForm->HiddenText("Dim2"), "1");
+    EXPECT_EQ(State().formRegistry.CurrentForm->TextOf("Dim2"), "1");
 }
 
 // --- What the options need ------------------------------------------------------------------------
