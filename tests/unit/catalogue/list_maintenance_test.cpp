@@ -9,6 +9,7 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <set>
 
+#include "platform/database_error.h"
 #include "support/test_home.h"
 
 namespace kelvor::test {
