@@ -57,19 +57,41 @@ ListDatabase::ListDatabase(const Path& path)
 ListDatabase::~ListDatabase() = default;
 
 std::vector<std::string> ListDatabase::Values(std::string_view list, bool metric) {
+    std::vector<std::string> values;
+    VisitOffered(list, metric, [&](const std::string& value, std::optional<double> /*sort*/) {
+        values.push_back(value);
+        return true;
+    });
+    return values;
+}
+
+std::optional<double> ListDatabase::FindPlace(std::string_view list, std::string_view text, bool metric) {
+    std::optional<double> place;
+    VisitOffered(list, metric, [&](const std::string& value, std::optional<double> sort) {
+        if (!Like(value, text)) return true;
+        place = sort;
+        return false;
+    });
+    return place;
+}
+
+/// Calls `visit` for each entry that a list offers in a unit system, in its order, until it gives false.
+void ListDatabase::VisitOffered(
+    std::string_view list, bool metric,
+    const std::function<bool(const std::string& value, std::optional<double> sort)>& visit) {
     try {
-        std::vector<std::string> values;
         SQLite::Statement rows(
             *database_,
-            "SELECT Value FROM \"Value\" WHERE Name = ? AND "
+            "SELECT \"Value\", Sort FROM \"Value\" WHERE Name = ? AND "
             "(UnitSystem IS NULL OR UnitSystem = '' OR UnitSystem = ?) ORDER BY Sort, rowid");
         rows.bind(1, std::string(list));
         rows.bind(2, metric ? "M" : "E");
-        while (rows.executeStep()) {
-            const auto value = rows.getColumn(0);
-            values.push_back(value.isNull() ? std::string() : value.getString());
+        bool more = true;
+        while (more && rows.executeStep()) {
+            const auto sort = rows.getColumn(1);
+            more = visit(TextOf(rows.getColumn(0)),
+                         sort.isNull() ? std::nullopt : std::optional(sort.getDouble()));
         }
-        return values;
     } catch (const SQLite::Exception& failure) {
         throw ToDatabaseError(failure);
     }

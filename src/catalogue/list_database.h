@@ -41,6 +41,10 @@ class ListDatabase {
     /// both. Throws DatabaseError.
     [[nodiscard]] std::vector<std::string> Values(std::string_view list, bool metric);
 
+    /// The place, Sort, of the first of these entries that a text with wild cards means; nothing if it means
+    /// none, or one without a place. Throws DatabaseError.
+    [[nodiscard]] std::optional<double> FindPlace(std::string_view list, std::string_view text, bool metric);
+
     // What maintains the lists knows them by their description, with wild cards and without regard to case.
     // Each throws DatabaseError.
 
@@ -65,6 +69,8 @@ class ListDatabase {
     void Write(const ListRow& row);
 
   private:
+    void VisitOffered(std::string_view list, bool metric,
+                      const std::function<bool(const std::string& value, std::optional<double> sort)>& visit);
     void Change(const std::function<void()>& statements);
 
     std::unique_ptr<SQLite::Database> database_;

@@ -3,6 +3,7 @@
 #include "platform/number_picture.h"
 #include "platform/number_text.h"
 #include "platform/real.h"
+#include "units/quantities.h"
 
 namespace kelvor {
 
@@ -23,6 +24,17 @@ std::string Units::UnitLabel(std::string_view variable) const {
     if (row == nullptr) return {};
     const UnitPair* pair = metric_ ? catalogue_.FindPairByEnglish(row->units) : nullptr;
     return pair == nullptr ? row->units : pair->metric;
+}
+
+std::string Units::ActiveUnit(std::string_view unit) const {
+    const UnitPair* pair = metric_ ? catalogue_.FindPairByEnglish(unit) : catalogue_.FindPairByMetric(unit);
+    if (pair == nullptr) return std::string(unit);
+    return metric_ ? pair->metric : pair->english;
+}
+
+std::string Units::EnglishUnit(std::string_view unit) const {
+    const UnitPair* pair = metric_ ? catalogue_.FindPairByMetric(unit) : nullptr;
+    return pair == nullptr ? std::string(unit) : pair->english;
 }
 
 Range Units::VariableRange(std::string_view variable) const {
@@ -54,11 +66,19 @@ std::optional<double> Units::ToEnglish(const Variable* variable, std::optional<d
 
 void Units::SetDisplayValue(std::string_view variable, int dim1, int dim2, std::string_view value) {
     const auto number = IsNumeric(value) ? std::optional(ParseNumber(value)) : std::nullopt;
+    if (const char* unitVariable = UnitOfQuantity(variable)) {
+        StoreQuantity(variable, unitVariable, dim1, dim2, number, value);
+        return;
+    }
     store_.SetCell(variable, dim1, dim2,
                    {ToEnglish(catalogue_.FindVariable(variable), number), BlankToNull(value)});
 }
 
 void Units::SetDisplayNumber(std::string_view variable, int dim1, int dim2, double value) {
+    if (const char* unitVariable = UnitOfQuantity(variable)) {
+        StoreQuantity(variable, unitVariable, dim1, dim2, value, NumberToText(value));
+        return;
+    }
     store_.SetCell(variable, dim1, dim2,
                    {ToEnglish(catalogue_.FindVariable(variable), value), NumberToText(value)});
 }

@@ -39,6 +39,14 @@ class Units {
     /// The unit of a variable in the active system; empty for an unknown variable.
     [[nodiscard]] std::string UnitLabel(std::string_view variable) const;
 
+    /// The name in the active system of a unit that is given by its name in either; one that has no partner
+    /// stays as it is.
+    [[nodiscard]] std::string ActiveUnit(std::string_view unit) const;
+
+    /// The English name of a unit that is given by its name in the active system; one that has no partner
+    /// stays as it is.
+    [[nodiscard]] std::string EnglishUnit(std::string_view unit) const;
+
     /// The allowed range in the active system; no limits for an unknown variable.
     [[nodiscard]] Range VariableRange(std::string_view variable) const;
 
@@ -48,12 +56,29 @@ class Units {
 
     /// Stores a value given in the active system. An empty text empties the cell; a text that is no
     /// number, and any text of a text variable, leaves the number Null. A missing cell is passed over.
+    /// A quantity of the cost grids goes by its own rule, below.
     void SetDisplayValue(std::string_view variable, int dim1, int dim2, std::string_view value);
 
     /// Stores a number given in the active system, with its shortest text.
     void SetDisplayNumber(std::string_view variable, int dim1, int dim2, double value);
 
+    // --- Quantities ----------------------------------------------------------------------------
+    // The quantities of initial costs and of rehabilitation, `InitialQuantity` and `RehabQuantity`, are the
+    // one exception: each row has a unit of its own, `InitialUnit` or `RehabUnit`, whose text is its name in
+    // the active system. The number of a quantity is in that unit, and its text is the number in English
+    // units, so that a switch of systems and back brings no rounding with it.
+
+    /// The cell of a quantity that is given in a unit of the active system, with the text that was typed for
+    /// it. Raises ArithmeticFault if no double holds it in English units.
+    [[nodiscard]] CellValue QuantityCell(double quantity, std::string text, std::string_view unit) const;
+
+    /// As GetDisplayValue; the number of a quantity is multiplied by the factor of its row's unit, which is 1
+    /// unless the row still has the English name of its unit in metric mode.
+    [[nodiscard]] std::string GetQuantityDisplay(std::string_view variable, int dim1, int dim2) const;
+
   private:
+    void StoreQuantity(std::string_view variable, std::string_view unitVariable, int dim1, int dim2,
+                       std::optional<double> quantity, std::string_view text);
     [[nodiscard]] std::optional<double> ToEnglish(const Variable* variable,
                                                   std::optional<double> value) const;
 

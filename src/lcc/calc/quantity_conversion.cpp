@@ -1,0 +1,91 @@
+#include "lcc/calc/quantity_conversion.h"
+
+#include <string>
+
+#include "calc/ignore_faults.h"
+#include "lcc/calc/cost_grid.h"
+#include "lcc/calc/cost_totals.h"
+#include "lcc/calc/item_costs.h"
+#include "lcc/calc/pavements.h"
+#include "platform/number_text.h"
+
+namespace kelvor {
+
+namespace {
+
+/// The cell as it is; an empty one where there is none.
+CellValue CellOf(const CalcContext& context, const char* column, int row, int pavement) {
+    const CellValue* cell = context.store.FindCell(column, row, pavement);
+    return cell == nullptr ? CellValue{} : *cell;
+}
+
+/// True if one of the cells of a row that follow a switch holds anything; the others have nothing to follow.
+bool HoldsAnything(const CalcContext& context, const CostGrid& grid, int row, int pavement) {
+    const auto isFilled = [&](const char* column) {
+        return CellOf(context, column, row, pavement).IsFilled();
+    };
+    return isFilled(grid.quantity) || isFilled(grid.unit) || isFilled(grid.unitCost) ||
+           isFilled(grid.itemCost);
+}
+
+/// The number of a quantity in the active system, from its text; what it was if there is none.
+std::optional<double> Converted(const CalcContext& context, const CellValue& quantity, double factor) {
+    const std::string& english = *quantity.text;
+    const bool metric = context.units.bMetric();
+    if (!IsNumeric(english) || (metric && factor == 1.0)) return quantity.number;
+    const Real number = ParseNumber(english);
+    return (metric ? number * factor : number / factor).value();
+}
+
+void ConvertRow(CalcContext& context, const CostGrid& grid, int row, int pavement) {
+    const CellValue unit = CellOf(context, grid.unit, row, pavement);
+    const CellValue quantity = CellOf(context, grid.quantity, row, pavement);
+    const double factor = context.units.UnitFactor(unit.text.value_or(""));
+    if (unit.text) {
+        context.store.SetCell(grid.unit, row, pavement, {std::nullopt, context.units.ActiveUnit(*unit.text)});
+    }
+    if (!quantity.text) {
+        context.Clear(grid.quantity, row, pavement);
+        return;
+    }
+    IgnoreFaults([&] {
+        context.store.SetCell(grid.quantity, row, pavement,
+                              {Converted(context, quantity, factor), quantity.text});
+    });
+}
+
+/// Converts the rows of both pavements; `calculate` works out each that holds anything.
+template <typename Calculation>
+void ConvertRows(CalcContext& context, const CostGrid& grid, Calculation calculate) {
+    for (const int pavement : kPavements) {
+        for (int row = 1; row <= kLastConvertedRow; ++row) {
+            if (!HoldsAnything(context, grid, row, pavement)) continue;
+            ConvertRow(context, grid, row, pavement);
+            calculate(row, pavement);
+        }
+    }
+}
+
+}  // namespace
+
+void ConvertInitialQuantities(CalcContext& context) {
+    ConvertRows(context, kInitialGrid, [&](int row, int pavement) {
+        IgnoreFaults([&] { CalcInitialItemCost(context, "InitialItemCost", row, pavement); });
+    });
+    for (const int pavement : kPavements) {
+        IgnoreFaults([&] { SumInitialCosts(context, "ItemTotal2", pavement); });
+    }
+}
+
+void ConvertRehabQuantities(CalcContext& context) {
+    ConvertRows(context, kRehabGrid, [&](int row, int pavement) {
+        IgnoreFaults([&] { CalcRehabItemCost(context, "RehabItemCost", row, pavement); });
+        IgnoreFaults([&] { CalcRehabPresentWorth(context, "PWCostR", row, pavement); });
+    });
+    for (const int pavement : kPavements) {
+        IgnoreFaults([&] { SumRehabCosts(context, "ItemTotal4", pavement); });
+        IgnoreFaults([&] { SumRehabPresentWorth(context, "PrWorthTotal4", pavement); });
+    }
+}
+
+}  // namespace kelvor
