@@ -28,7 +28,7 @@ class GridEditorTest : public KeyboardTest {
 
     GridView& Grid() { return dynamic_cast<GridView&>(*window().FindView("LayDet")->FindWidget("Grid")); }
     QWidget* Frame() { return window().FindView("LayDet")->parentWidget(); }
-    double Thickness(int row) { return state().dbWork.GetVarDim("LDLayerThick", row, 1); }
+    double Thickness(int row) { return state().dbWork.GetVarDim("LDLayerThick", row, 1).value(); }
 
     /// What has been put off until the toolkit comes round is done too.
     static void Settle() {
