@@ -55,10 +55,10 @@ Line MissingLine(const std::vector<std::string>& missing) {
     return {text, false};
 }
 
-/// Sets the traffic that the equation gives beside the stored one.
+/// Sets the traffic that the equation gives, in whole ESALs that the pavement carries, beside the stored one.
 Line CompareLine(Real given, Real stored) {
     const double difference = std::fabs((given - stored).value()) / std::fabs(stored.value());
-    const std::string both = "the equation gives " + FormatNumber(given.value(), kTrafficPicture) +
+    const std::string both = "the equation gives " + FormatNumber(std::floor(given.value()), kTrafficPicture) +
                              " ESALs for " + FormatNumber(stored.value(), kTrafficPicture);
     if (difference > kBalanceTolerance) return {"Not in balance: " + both + ".", true};
     return {"In balance: " + both + " (" + FormatNumber(difference * 100.0, kPercentPicture) + " %).", false};

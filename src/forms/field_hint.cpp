@@ -1,5 +1,7 @@
 #include "forms/field_hint.h"
 
+#include <cmath>
+
 #include "forms/form_builder.h"
 #include "platform/number_picture.h"
 #include "platform/number_text.h"
@@ -8,10 +10,16 @@ namespace kelvor {
 
 namespace {
 
-/// A limit in the field's picture, or in full if the picture would change it.
+/// A limit in the field's picture, or in full if the picture would change it, its thousands set apart where the
+/// picture does so.
 std::string LimitText(double limit, const std::string& picture) {
     std::string text = FormatNumber(limit, picture);
-    return IsNumeric(text) && ParseNumber(text) == limit ? text : NumberToText(limit);
+    if (IsNumeric(text) && ParseNumber(text) == limit) return text;
+    text = NumberToText(limit);
+    if (picture.find(',') == std::string::npos || text.find_first_of("eE") != std::string::npos) return text;
+    const std::size_t point = text.find('.');
+    const std::string fraction = point == std::string::npos ? "" : text.substr(point);
+    return FormatNumber(std::trunc(limit), "#,##0") + fraction;
 }
 
 std::string RangeText(const Range& range, const std::string& picture) {

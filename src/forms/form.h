@@ -50,6 +50,7 @@ struct FormState {
     CellValue valueAtOpening;                  // of a side screen: of the field it was opened for
     bool refused = false;                      // the value that was being typed when a field was left last
     bool workedOut = false;                    // of a side screen: it has a new value for its caller
+    bool edited = false;                       // the user has changed one of its boxes since it opened
 };
 
 /// An open form: its controls in the order of the declaration, which is the reading order and the tab

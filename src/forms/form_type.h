@@ -82,6 +82,11 @@ struct FormEquation {
     std::string check = "CHECK";    // the line that says whether the stored numbers satisfy the equation
 };
 
+/// The buttons that most forms have at their foot: one closes the form, the other helps with the field in
+/// hand.
+inline constexpr const char* kOkButton = "cmdAction";
+inline constexpr const char* kHelpButton = "SSHelp";
+
 /// A designed form: what it is called, what stands on it, and what it does beyond the common routines.
 /// Declared, not drawn: a front end lays it out.
 struct FormType {
@@ -89,7 +94,7 @@ struct FormType {
     std::string tag;  // the catalogue key; empty: the name
     std::string caption;
     LayoutElement layout;
-    std::vector<ButtonItem> foot = {{"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}};  // below the layout
+    std::vector<ButtonItem> foot = {{kOkButton, "&OK"}, {kHelpButton, "Hel&p"}};  // below the layout
     std::vector<Handler> handlers;
     std::vector<FormEquation> equations;  // in the order of their terms
     std::vector<HelpRoute> helpRoutes;    // any other field has the general help

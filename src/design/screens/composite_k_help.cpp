@@ -72,11 +72,13 @@ void Follow(ScreenEvent& event) {
     if (event.form.workedOut) ComputeCompositeK(event.context, event.form);
 }
 
+/// Hands the k over to the field for which the screen was opened, unless nobody changed an input of it: a k
+/// typed by hand survives a look at what k would be.
 void Closing(ScreenEvent& event) {
     const std::string field = event.form.TextOf("FieldName");
     const std::string value = event.form.TextOf(kResult);
     bool taken = false;
-    if (event.form.workedOut && !field.empty() && !value.empty()) {
+    if (event.form.edited && !field.empty() && !value.empty()) {
         const CellValue before = CalledField(event.context, event.form);
         event.context.units.SetDisplayValue(field, 1, 1, value);
         taken = !IsSameValue(CalledField(event.context, event.form), before);

@@ -72,17 +72,24 @@ bool HasTests(const Form& form) {
                        [&](const char* box) { return !form.TextOf(box).empty(); });
 }
 
+/// The estimate by the R-value names its unit in its label.
+void NameUnit(ScreenEvent& event) {
+    const std::string unit = event.context.units.UnitLabel("ORVAL");
+    event.form.SetText(FieldLabelName("ORVAL"), "Resilient Modulus, " + unit + ":");
+}
+
 void TestLeft(ScreenEvent& event) {
     if ((event.control->name == "CBR" || event.control->name == "RVAL") && HasTests(event.form))
         StoreEstimate(event.context, event.form);
 }
 
-/// Hands the governing modulus, as it is shown, to the field for which the screen was opened.
+/// Hands the governing modulus, as it is shown, to the field for which the screen was opened, unless nobody
+/// changed a test: a modulus typed by hand survives a look at the estimates.
 void Closing(ScreenEvent& event) {
     const std::string field = event.form.TextOf("FieldName");
     const std::string value = event.form.TextOf("V");
     bool warns = false;
-    if (!field.empty() && ParseNumber(value) != 0.0) {
+    if (event.form.edited && !field.empty() && ParseNumber(value) != 0.0) {
         const CellValue before = CalledField(event.context, event.form);
         event.context.units.SetDisplayValue(field, 1, 1, value);
         const bool differs = !IsSameValue(CalledField(event.context, event.form), before);
@@ -115,7 +122,9 @@ FormType SubgradeModulusHelp() {
                             {.variable = "ORVAL", .label = "Resilient Modulus, psi:", .computed = true}})})}),
         Fields({{.variable = "V", .label = "Subgrade Resilient Modulus:", .computed = true}}),
     });
-    type.handlers = {{FormEvent::LostFocus, "", HandlerOrder::After, TestLeft},
+    type.handlers = {{FormEvent::Activate, "", HandlerOrder::After, NameUnit},
+                     {FormEvent::UnitsSwitched, "", HandlerOrder::After, NameUnit},
+                     {FormEvent::LostFocus, "", HandlerOrder::After, TestLeft},
                      {FormEvent::Unload, "", HandlerOrder::Before, Closing}};
     return type;
 }
