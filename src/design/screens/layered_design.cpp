@@ -86,7 +86,9 @@ FormType LayeredDesignForm() {
     type.name = kForm;
     type.caption = "Flexible Pavement Layer Thickness Determination";
     type.layout = Rows({
-        Grid("Grid", {{.variable = "LDLayerMat", .list = true},
+        Grid("Grid", {{.variable = "LDLayerMat",
+                       .list = true,
+                       .alsoSets = "also sets the layer coefficient of this row of the existing pavement"},
                       {.variable = "LDLayerCoef"},
                       {.variable = "LDDrainCoef"},
                       {.variable = "LDLayerThick"},
