@@ -82,6 +82,12 @@ struct FormEquation {
     std::string check = "CHECK";    // the line that says whether the stored numbers satisfy the equation
 };
 
+/// A sentence that says how things stand.
+struct StatusLine {
+    std::string text;
+    bool warns = false;
+};
+
 /// A designed form: what it is called, what stands on it, and what it does beyond the common routines.
 /// Declared, not drawn: a front end lays it out.
 struct FormType {
@@ -93,6 +99,8 @@ struct FormType {
     std::vector<Handler> handlers;
     std::vector<FormEquation> equations;  // in the order of their terms
     std::vector<HelpRoute> helpRoutes;    // any other field has the general help
+    StatusLine (*governs)(const ScreenContext& context) =
+        nullptr;  // what decides its result, from the stored cells: shown on the label GOVERNS
     bool modal = false;                   // while it is open, the user works in it alone
     bool isHelp = false;                  // helps with one field of another form; Esc closes it
     bool needsProject = true;             // it shows values of the project, and works on nothing else
