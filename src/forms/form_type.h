@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "forms/layout.h"
+#include "forms/status_line.h"
 
 namespace kelvor {
 
@@ -80,12 +81,6 @@ struct FormEquation {
     std::string button = "Command1";
     std::string target = "TARGET";  // the line that says what the button solves for
     std::string check = "CHECK";    // the line that says whether the stored numbers satisfy the equation
-};
-
-/// A sentence that says how things stand.
-struct StatusLine {
-    std::string text;
-    bool warns = false;
 };
 
 /// A designed form: what it is called, what stands on it, and what it does beyond the common routines.

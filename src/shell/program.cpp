@@ -9,6 +9,7 @@
 #include "forms/screen_builder.h"
 #include "forms/side_screen.h"
 #include "rehab/screens/existing_forms.h"
+#include "rehab/screens/overlay_screens.h"
 #include "shell/about_form.h"
 #include "shell/event_scope.h"
 #include "shell/hub/hub.h"
@@ -31,6 +32,7 @@ Program::Program(Host host, Home home) : state_(host, std::move(home)) {
     state_.formRegistry.Declare(WithHubTold(DesignForms()));
     state_.formRegistry.Declare(WithHubTold(TrafficForms()));
     state_.formRegistry.Declare(WithHubTold(ExistingPavementForms()));
+    state_.formRegistry.Declare(WithHubTold(OverlayForms()));
 }
 
 StartResult Program::Start(const std::string& commandLine) {

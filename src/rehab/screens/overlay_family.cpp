@@ -12,7 +12,7 @@ FormType MakeOverlay(OverlayScreen overlay) {
     type.caption = overlay.caption;
     type.equations = {{.flag = overlay.flag, .button = overlay.button}};
     std::vector<LayoutElement> right = std::move(overlay.effective);
-    std::vector<LayoutElement> answer = {Statement("GOVERNS", 5)};
+    std::vector<LayoutElement> answer = {Statement("GOVERNS", 5, 46.0)};
     if (!overlay.thickness.empty()) answer.insert(answer.begin(), Fields(std::move(overlay.thickness)));
     right.push_back(Frame("Frame3", overlay.answer, std::move(answer)));
     right.push_back(SolveForFrame("Frame4", type.equations[0], FrameShape::Wide));

@@ -1,6 +1,6 @@
 #include "rehab/screens/overlay_screens.h"
 
-#include "design/screens/composite_k_help.h"
+#include "forms/work_out_help.h"
 #include "rehab/screens/overlay_family.h"
 #include "rehab/screens/overlay_governs.h"
 #include "rehab/screens/overlay_routines.h"
@@ -27,7 +27,7 @@ std::vector<FormType> OverlayForms() {
                                   {"ACACEFFSN", "Effective SN for Analysis"}})},
          .thickness = {{"ACACOLLC", "AC Overlay Layer Coefficient"}, {"ACACTHICK", "AC Overlay Thickness"}},
          .helpRoutes = {{"NDTEFFSN", "SNHelp", "Work out the effective SN from deflections"},
-                        {"CONDEFFSN", "SNCHELP", "Work out the effective SN from the condition survey"},
+                        {"CONDEFFSN", "SNCHELP", "Work out the effective SN from the survey"},
                         {"ACACOLLC", "H_ACACOLLC"}},
          .handlers = {NotingOfField()}}));
     forms.push_back(MakeOverlay(
