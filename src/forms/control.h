@@ -53,8 +53,9 @@ struct LetterWord {
 struct GridColumn {
     std::string variable;
     std::string caption;
-    std::string unit;  // in the active system; empty if it is not worth showing
-    std::string hint;  // what a cell wants
+    std::string unit;      // in the active system; empty if it is not worth showing
+    std::string hint;      // what a cell wants
+    std::string alsoSets;  // what else an entry changes, for the hint
     std::string picture;
     std::string list;                // the name of the list that it offers; empty: it takes what is typed
     std::vector<std::string> items;  // the entries of that list
@@ -69,7 +70,7 @@ struct GridColumn {
 /// one.
 struct GridData {
     std::vector<GridColumn> columns;
-    int rows = 0;       // as many as the variables have cells
+    int rows = 0;       // as many as the variables have cells, or as the form offers
     int rowsShown = 0;  // before it scrolls; 0: as many as most grids show
     int row = 1;        // of the cursor, from 1
     std::size_t column = 0;

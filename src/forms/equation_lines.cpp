@@ -19,13 +19,11 @@ constexpr double kBalanceTolerance = 0.002;
 constexpr const char* kTrafficPicture = "#,##0";
 constexpr const char* kPercentPicture = "0.00";
 
+/// The label that says what decides the result.
+constexpr const char* kGoverns = "GOVERNS";
+
 /// So many missing terms are named; of more the first ones.
 constexpr std::size_t kMostNamed = 4;
-
-struct Line {
-    std::string text;
-    bool warns = false;
-};
 
 /// What a term is called on the form.
 std::string LabelOf(const ScreenContext& context, const Form& form, std::string_view variable) {
@@ -47,7 +45,7 @@ std::vector<std::string> MissingTerms(const ScreenContext& context, const Form& 
     return missing;
 }
 
-Line MissingLine(const std::vector<std::string>& missing) {
+StatusLine MissingLine(const std::vector<std::string>& missing) {
     const std::size_t named = missing.size() > kMostNamed ? kMostNamed - 1 : missing.size();
     std::string text = "Missing: " + missing.front();
     for (std::size_t i = 1; i < named; ++i) text += ", " + missing[i];
@@ -56,7 +54,7 @@ Line MissingLine(const std::vector<std::string>& missing) {
 }
 
 /// Sets the traffic that the equation gives, in whole ESALs that the pavement carries, beside the stored one.
-Line CompareLine(Real given, Real stored) {
+StatusLine CompareLine(Real given, Real stored) {
     const double difference = std::fabs((given - stored).value()) / std::fabs(stored.value());
     const std::string both = "the equation gives " + FormatNumber(std::floor(given.value()), kTrafficPicture) +
                              " ESALs for " + FormatNumber(stored.value(), kTrafficPicture);
@@ -64,7 +62,7 @@ Line CompareLine(Real given, Real stored) {
     return {"In balance: " + both + " (" + FormatNumber(difference * 100.0, kPercentPicture) + " %).", false};
 }
 
-Line CheckLine(const ScreenContext& context, const Form& form, const SolveKey& equation) {
+StatusLine CheckLine(const ScreenContext& context, const Form& form, const SolveKey& equation) {
     const std::vector<std::string> missing = MissingTerms(context, form, equation);
     if (!missing.empty()) return MissingLine(missing);
     try {
@@ -86,7 +84,15 @@ std::string TargetText(const ScreenContext& context, const Form& form) {
     return (field != nullptr && field->solveFor ? "Solves for: " : "Cannot solve for: ") + variable->desc;
 }
 
-void Show(Form& form, const std::string& name, const Line& line) {
+StatusLine GovernsLine(const ScreenContext& context, const Form& form) {
+    try {
+        return form.type().governs(context);
+    } catch (const ArithmeticFault&) {
+        return {"The thickness has no value.", true};
+    }
+}
+
+void Show(Form& form, const std::string& name, const StatusLine& line) {
     Control* label = form.Find(name);
     if (label == nullptr) return;
     label->text = line.text;
@@ -97,11 +103,14 @@ void Show(Form& form, const std::string& name, const Line& line) {
 
 void ShowEquationLines(const ScreenContext& context, Form& form) {
     const bool open = context.calc.store.IsOpen();
+    if (form.type().governs != nullptr) {
+        Show(form, kGoverns, open ? GovernsLine(context, form) : StatusLine{});
+    }
     const std::vector<const SolveKey*> keys = context.calculations.EquationsOf(form.tag);
     const std::vector<FormEquation>& equations = form.type().equations;
     for (std::size_t i = 0; i < std::min(equations.size(), keys.size()); ++i) {
         Show(form, equations[i].target, {open ? TargetText(context, form) : "", false});
-        Show(form, equations[i].check, open ? CheckLine(context, form, *keys[i]) : Line{});
+        Show(form, equations[i].check, open ? CheckLine(context, form, *keys[i]) : StatusLine{});
     }
 }
 

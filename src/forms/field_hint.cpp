@@ -51,8 +51,9 @@ std::string FieldHint(const ScreenContext& context, const Control& field) {
 }
 
 std::string ColumnHint(const ScreenContext& context, const GridColumn& column) {
-    const std::string hint = HintOf(context, column.variable, column.locked);
-    return column.list.empty() ? hint : hint + ", from the list";
+    std::string hint = HintOf(context, column.variable, column.locked);
+    if (!column.list.empty()) hint += ", from the list";
+    return column.alsoSets.empty() ? hint : hint + "; " + column.alsoSets;
 }
 
 }  // namespace kelvor

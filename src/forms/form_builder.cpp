@@ -137,6 +137,7 @@ class Builder {
             const Variable* variable = catalogue_.FindVariable(item.variable);
             if (variable != nullptr) grid.rows = std::max(grid.rows, variable->dim1);
         }
+        if (declared.rowsOffered > 0) grid.rows = std::min(grid.rows, declared.rowsOffered);
     }
 
     void Make(const layout::Table& table) {
@@ -251,7 +252,8 @@ class Builder {
         column.variable = item.variable;
         column.caption = ColumnCaption(item);
         column.picture = variable == nullptr ? "" : variable->format;
-        column.list = item.list ? item.variable : "";
+        if (item.list) column.list = item.listName.empty() ? item.variable : item.listName;
+        column.alsoSets = item.alsoSets;
         column.words = item.words;
         column.letters = item.letters;
         column.routines = item.routines;

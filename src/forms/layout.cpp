@@ -86,6 +86,12 @@ LayoutElement Grid(std::string name, std::vector<FieldItem> columns, int rowsSho
     return {layout::Grid{std::move(name), std::move(columns), rowsShown, routines}};
 }
 
+LayoutElement GridOfRows(std::string name, std::vector<FieldItem> columns, int rowsOffered) {
+    layout::Grid grid{.name = std::move(name), .columns = std::move(columns), .rowsShown = rowsOffered};
+    grid.rowsOffered = rowsOffered;
+    return {std::move(grid)};
+}
+
 LayoutElement Table(std::string name, std::vector<std::vector<std::string>> rows) {
     return {layout::Table{std::move(name), std::move(rows)}};
 }

@@ -25,6 +25,8 @@ struct FieldItem {
         {};                        // of a list: a letter gives its word; on a field, whose code is stored
     double letters = 0.0;          // the width of the box or column; 0: by the picture
     ColumnRoutines routines = {};  // of a column whose cells are not simply the project's
+    std::string listName = {};     // of a list: its name among the lists; empty: the variable's
+    std::string alsoSets = {};     // of a column: what else an entry changes, told by its hint
 
     [[nodiscard]] const std::string& Box() const { return box.empty() ? variable : box; }
     [[nodiscard]] std::string Label() const;
@@ -164,6 +166,7 @@ struct Grid {
     std::vector<FieldItem> columns;
     int rowsShown = 0;  // before it scrolls; 0: as many as most show
     GridRoutines routines = {};
+    int rowsOffered = 0;  // of those that the variables have; 0: all
 };
 
 /// A table of fixed texts, the first row its headings.
@@ -248,6 +251,9 @@ LayoutElement SmallPicture(std::string name, std::string file, double letters, s
 /// A table with a column for each variable; an item that is a list offers the list of the variable's name.
 LayoutElement Grid(std::string name, std::vector<FieldItem> columns, int rowsShown = 0,
                    GridRoutines routines = {});
+
+/// A table that offers only the first rows of those that its variables have.
+LayoutElement GridOfRows(std::string name, std::vector<FieldItem> columns, int rowsOffered);
 
 /// A table of fixed texts with its headings in the first row. Its labels are called by the name, the row and
 /// the column, both from 1: Guide1_1.

@@ -99,10 +99,6 @@ LayoutElement GuidanceTable() {
 
 }  // namespace
 
-HelpRoute WorkOutK(const std::string& variable) {
-    return {variable, kForm, "Work out the modulus of subgrade reaction"};
-}
-
 FormType CompositeKHelp() {
     FormType type;
     type.name = kForm;

@@ -1,8 +1,8 @@
 #include "design/screens/flexible_design.h"
 
 #include "design/screens/layered_design.h"
-#include "design/screens/subgrade_modulus_help.h"
 #include "forms/form.h"
+#include "forms/work_out_help.h"
 
 namespace kelvor {
 

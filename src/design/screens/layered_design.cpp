@@ -1,8 +1,7 @@
 #include "design/screens/layered_design.h"
 
-#include <array>
-
 #include "design/calc/layered_structure.h"
+#include "design/calc/material_coefficient.h"
 #include "forms/form.h"
 #include "forms/form_events.h"
 #include "forms/recalculation.h"
@@ -16,27 +15,6 @@ namespace {
 constexpr const char* kForm = "LayDet";
 constexpr const char* kEnough = "OK";
 constexpr const char* kTooLittle = "Selected Structure is Less Than Required.";
-
-/// The layer coefficient of a material.
-struct MaterialCoefficient {
-    std::string_view material;
-    double coefficient;
-};
-
-constexpr std::array kCoefficients = {
-    MaterialCoefficient{"Cement Fly Ash", 0.2},
-    MaterialCoefficient{"Graded Stone Base", 0.14},
-    MaterialCoefficient{"Crushed Stone Base", 0.12},
-    MaterialCoefficient{"Granular Subbase", 0.1},
-};
-
-/// 0 for any other material.
-double CoefficientOf(std::string_view material) {
-    for (const MaterialCoefficient& row : kCoefficients) {
-        if (row.material == material) return row.coefficient;
-    }
-    return 0.0;
-}
 
 /// Compares the two structural numbers as they are shown.
 void ShowVerdict(Form& form) {
@@ -65,8 +43,9 @@ void UnitsSwitched(ScreenEvent& event) { ShowVerdict(event.form); }
 void MaterialChanged(ScreenEvent& event) {
     const GridData& grid = *event.control->grid;
     if (!EqualNoCase(grid.current().variable, "LDLayerMat")) return;
-    SetLayerCoefFromMaterial(event.context, event.form, grid.row,
-                             event.context.units.GetDisplayValue("LDLayerMat", grid.row));
+    Units& units = event.context.units;
+    SetLayerCoefFromMaterial(units, grid.row, units.GetDisplayValue("LDLayerMat", grid.row));
+    RefreshScreen(event.context, event.form);
 }
 
 void RowsWritten(ScreenEvent& event) {
@@ -102,17 +81,14 @@ void Closing(ScreenEvent& event) {
 
 }  // namespace
 
-void SetLayerCoefFromMaterial(ScreenContext& context, Form& form, int row, const std::string& material) {
-    context.units.SetDisplayNumber("ACSURFLC", row, 1, CoefficientOf(material));
-    RefreshScreen(context, form);
-}
-
 FormType LayeredDesignForm() {
     FormType type;
     type.name = kForm;
     type.caption = "Flexible Pavement Layer Thickness Determination";
     type.layout = Rows({
-        Grid("Grid", {{.variable = "LDLayerMat", .list = true},
+        Grid("Grid", {{.variable = "LDLayerMat",
+                       .list = true,
+                       .alsoSets = "also sets the layer coefficient of this row of the existing pavement"},
                       {.variable = "LDLayerCoef"},
                       {.variable = "LDDrainCoef"},
                       {.variable = "LDLayerThick"},

@@ -10,10 +10,6 @@ namespace kelvor {
 /// `LayDet`: turns a structural number into layers, and carries their total back.
 FormType LayeredDesignForm();
 
-/// Writes the layer coefficient of a material, 0 for one that is not in the table, to the existing layer of
-/// the same row, and refreshes the form.
-void SetLayerCoefFromMaterial(ScreenContext& context, Form& form, int row, const std::string& material);
-
 /// Opens `LayDet` for a structural number of another screen, which may take the total when it closes.
 void OpenLayeredDesign(ScreenContext& context, Form& caller, const std::string& variable);
 

@@ -1,8 +1,7 @@
 #include "design/screens/rigid_design.h"
 
-#include "design/screens/composite_k_help.h"
-#include "design/screens/subgrade_modulus_help.h"
 #include "forms/form.h"
+#include "forms/work_out_help.h"
 
 namespace kelvor {
 

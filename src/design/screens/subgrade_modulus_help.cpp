@@ -101,10 +101,6 @@ void Closing(ScreenEvent& event) {
 
 }  // namespace
 
-HelpRoute WorkOutSoilModulus(const std::string& variable) {
-    return {variable, kForm, "Work out the soil resilient modulus"};
-}
-
 FormType SubgradeModulusHelp() {
     FormType type;
     type.name = kForm;

@@ -9,12 +9,11 @@ namespace {
 constexpr double kThickestSlab = 20.0;
 constexpr double kThickestOverlay = 30.0;
 
-/// A: how many inches of AC stand for one inch of PCC where the slab lacks so many inches.
+}  // namespace
+
 Real AsphaltPerConcrete(Real lackInches) {
     return 2.2233 + 0.0099 * Pow(lackInches, 2.0) - 0.1534 * lackInches;
 }
-
-}  // namespace
 
 void CalcEffectiveSlab(CalcContext& context, std::string_view target) {
     const Real thickness = context.Get("EXISTDEPTH") * context.Get("ACPCFJC") * context.Get("ACPCFDUR") *

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "calc/calc_context.h"
+#include "platform/real.h"
 
 namespace kelvor {
 
@@ -10,12 +11,15 @@ namespace kelvor {
 // Section 5.6) and of AC/PCC pavement (Section 5.7). All thicknesses are in inches, and inputs that were not
 // entered count as 0. The bounds are Kelvor's, the Guide has none; a result of exactly 0 passes them.
 
+/// A: how many inches of AC stand for one inch of PCC where a slab lacks so many inches; above 1.6 for any lack.
+Real AsphaltPerConcrete(Real lackInches);
+
 /// The effective thickness of an existing slab: `EXISTDEPTH` times the factors of joints and cracks
 /// `ACPCFJC`, of durability `ACPCFDUR` and of fatigue `ACPCFFAT`. Held to 0 to 20.
 void CalcEffectiveSlab(CalcContext& context, std::string_view target);
 
 /// The AC overlay of a slab: A (Df - Deff) with the future thickness `ACPCFUTD`, the effective one
-/// `ACPCEFFD`, and A, how many inches of AC stand for one of PCC. Held to 0 to 30.
+/// `ACPCEFFD`. Held to 0 to 30.
 void CalcOverlayOfSlab(CalcContext& context, std::string_view target);
 
 /// The effective thickness of AC/PCC pavement, as of a slab: half of the AC layer `ACACPCACT` times its

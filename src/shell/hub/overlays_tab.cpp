@@ -1,5 +1,5 @@
-#include <algorithm>
 #include <initializer_list>
+#include <string>
 
 #include "shell/hub/offer.h"
 #include "shell/hub/screen_choice.h"
@@ -10,26 +10,29 @@ namespace kelvor {
 
 namespace {
 
-constexpr const char* kSlabMissing =
-    "needs modulus of rupture, modulus of elasticity, load transfer and k of the existing slab";
-constexpr const char* kDepthMissing =
-    "needs thickness, modulus of rupture, modulus of elasticity, load transfer and k of the existing slab";
-constexpr const char* kSoilMissing = "needs the soil resilient modulus under the existing flexible pavement";
-
 struct OverlayOption {
     const char* option;
     const char* screen;
 };
 
-bool AreFilled(const ScreenContext& context, std::initializer_list<const char*> variables) {
-    return std::all_of(variables.begin(), variables.end(),
-                       [&](const char* variable) { return IsFilled(context, variable); });
+/// The fields that are still empty, by their labels and in the order in which they are given; empty if none
+/// is.
+std::string MissingFields(const ScreenContext& context, std::initializer_list<const char*> fields) {
+    std::string missing;
+    for (const char* field : fields) {
+        if (IsFilled(context, field)) continue;
+        const Variable* variable = context.catalogue.FindVariable(field);
+        missing += (missing.empty() ? "" : "; ") + (variable == nullptr ? field : variable->desc);
+    }
+    return missing;
 }
 
 void OfferOverlays(const ScreenContext& context, Form& hub, std::initializer_list<OverlayOption> overlays,
-                   bool enabled, const char* whyNot) {
+                   std::initializer_list<const char*> fields) {
+    const std::string missing = MissingFields(context, fields);
     for (const OverlayOption& overlay : overlays) {
-        if (IsDeclared(context, overlay.screen)) Offer(hub, overlay.option, enabled, whyNot);
+        if (IsDeclared(context, overlay.screen))
+            Offer(hub, overlay.option, missing.empty(), "needs " + missing);
     }
 }
 
@@ -59,13 +62,11 @@ HubPage OverlaysTab() {
 }
 
 void UpdateOverlayReportOptions(const ScreenContext& context, Form& hub) {
-    const bool slab = AreFilled(context, {"EXISTMR", "EXISTEC", "EXISTJ", "EXISTK"});
-    const bool depth = slab && IsFilled(context, "EXISTDEPTH");
-    const bool soil = IsFilled(context, "EXISTRM");
-    OfferOverlays(context, hub, {{"oOvBP", "OvBP"}, {"oOvAP", "OvAP"}, {"oOvAFP", "OvAFP"}}, slab,
-                  kSlabMissing);
-    OfferOverlays(context, hub, {{"oOvAA", "OvAA"}, {"oOvWT", "OvWT"}}, soil, kSoilMissing);
-    OfferOverlays(context, hub, {{"oOvAAP", "OvAAP"}, {"oOvUP", "OvUP"}}, depth, kDepthMissing);
+    OfferOverlays(context, hub, {{"oOvBP", "OvBP"}, {"oOvAP", "OvAP"}, {"oOvAFP", "OvAFP"}},
+                  {"EXISTMR", "EXISTEC", "EXISTJ", "EXISTK"});
+    OfferOverlays(context, hub, {{"oOvAA", "OvAA"}, {"oOvWT", "OvWT"}}, {"EXISTRM"});
+    OfferOverlays(context, hub, {{"oOvAAP", "OvAAP"}, {"oOvUP", "OvUP"}},
+                  {"EXISTDEPTH", "EXISTMR", "EXISTEC", "EXISTJ", "EXISTK"});
 }
 
 }  // namespace kelvor

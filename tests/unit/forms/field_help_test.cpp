@@ -441,21 +441,20 @@ TEST_F(FieldHelpTest, OnlyHelpsThatWorkAValueOutHaveSmallButtons) {
             EXPECT_EQ(control->text, "\u2026");
         }
     }
-    EXPECT_THAT(buttons, testing::UnorderedElementsAre("DeF.cmdbRM: Work out the soil resilient modulus",
-                                                       "DeR.cmdbK: Work out the modulus of subgrade reaction",
-                                                       "DeS.cmdbK: Work out the modulus of subgrade reaction",
-                                                       "DeS.cmdbRM: Work out the soil resilient modulus"));
+    EXPECT_THAT(buttons,
+                testing::UnorderedElementsAre("DeF.cmdbRM: Work out the soil resilient modulus",
+                                              "DeR.cmdbK: Work out the modulus of subgrade reaction",
+                                              "DeS.cmdbK: Work out the modulus of subgrade reaction",
+                                              "DeS.cmdbRM: Work out the soil resilient modulus",
+                                              "ExC.cmdbEXISTK: Work out the modulus of subgrade reaction",
+                                              "ExF.cmdbEXISTRM: Work out the soil resilient modulus",
+                                              "ExR.cmdbEXISTK: Work out the modulus of subgrade reaction"));
 }
 
 TEST_F(FieldHelpTest, ExistingPavementsHaveSubgradeDataOfTheirOwn) {
     Raise(Kind::OpenForm, "DeR");
     Form& caller = Current();
     for (const char* screen : {"ExC", "ExR"}) {
-        FormType type;
-        type.name = screen;
-        type.layout = Rows({Fields({{"EXISTK"}})});
-        type.helpRoutes = {{"EXISTK", "H_K"}};
-        Forms().Declare({type});
         Raise(Kind::OpenForm, screen);
         Raise(Kind::Focus, "EXISTK");
         Raise(Kind::Key, "F1");

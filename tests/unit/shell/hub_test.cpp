@@ -195,6 +195,45 @@ TEST_F(HubTest, OverlaysFollowWhatIsKnownOfTheExistingPavement) {
     EXPECT_THAT(Enabled(kOverlays), IsEmpty());
 }
 
+struct SlabOrSoilField {
+    const char* name;
+    const char* label;
+    const char* overlays;  // that need it, by their letters
+};
+
+/// Each field of the existing pavement with the overlays that need it: Bonded, asphalt on Slab, on Fractured
+/// slab, Unbonded, on Composite, on Asphalt, Whitetopping.
+constexpr SlabOrSoilField kNeeded[] = {{"EXISTDEPTH", "Existing PCC Slab Thickness", "UC"},
+                                       {"EXISTMR", "Existing PCC Modulus of Rupture", "BSFUC"},
+                                       {"EXISTEC", "Existing PCC Modulus of Elasticity", "BSFUC"},
+                                       {"EXISTJ", "Existing Load Transfer, J", "BSFUC"},
+                                       {"EXISTK", "Effective Mod. Subgrade Reaction, k", "BSFUC"},
+                                       {"EXISTRM", "Soil Resilient Modulus", "AW"}};
+const std::map<char, std::string> kOverlayOfLetter = {{'B', "oOvBP"}, {'S', "oOvAP"},  {'F', "oOvAFP"},
+                                                      {'U', "oOvUP"}, {'C', "oOvAAP"}, {'A', "oOvAA"},
+                                                      {'W', "oOvWT"}};
+
+TEST_F(HubTest, EachCombinationOfTheSixFieldsOffersItsOverlaysAndTheHintsNameWhatIsMissing) {
+    DeclareOverlays();
+    for (unsigned filled = 0; filled < 64; ++filled) {
+        SCOPED_TRACE(filled);
+        std::map<std::string, std::string> hints;
+        for (unsigned i = 0; i < std::size(kNeeded); ++i) {
+            const bool isFilled = (filled >> i & 1U) != 0;
+            Enter(kNeeded[i].name, isFilled ? "0" : "");  // what counts is that something stands there
+            for (const char letter : std::string(isFilled ? "" : kNeeded[i].overlays)) {
+                std::string& hint = hints[kOverlayOfLetter.at(letter)];
+                hint += (hint.empty() ? "needs " : "; ") + std::string(kNeeded[i].label);
+            }
+        }
+        SwitchTo(3);
+        for (const auto& [letter, option] : kOverlayOfLetter) {
+            EXPECT_EQ(At(option).toolTip, hints[option]) << option;
+            EXPECT_EQ(At(option).enabled, hints[option].empty()) << option;
+        }
+    }
+}
+
 TEST_F(HubTest, OverlaysFollowTheProjectAtNewOpenAndWhenAScreenCloses) {
     DeclareOverlays();
     Enter("EXISTRM", "5000");

@@ -1,0 +1,79 @@
+#include "rehab/screens/overlay_family.h"
+
+#include <utility>
+
+#include "rehab/screens/overlay_routines.h"
+
+namespace kelvor {
+
+FormType MakeOverlay(OverlayScreen overlay) {
+    FormType type;
+    type.name = overlay.name;
+    type.caption = overlay.caption;
+    type.equations = {{.flag = overlay.flag, .button = overlay.button}};
+    std::vector<LayoutElement> right = std::move(overlay.effective);
+    std::vector<LayoutElement> answer = {Statement("GOVERNS", 5, 46.0)};
+    if (!overlay.thickness.empty()) answer.insert(answer.begin(), Fields(std::move(overlay.thickness)));
+    right.push_back(Frame("Frame3", overlay.answer, std::move(answer)));
+    right.push_back(SolveForFrame("Frame4", type.equations[0], FrameShape::Wide));
+    type.layout = Columns({std::move(overlay.future), Rows(std::move(right))});
+    type.handlers = OverlayHandlers(overlay.button);
+    type.handlers.insert(type.handlers.end(), overlay.handlers.begin(), overlay.handlers.end());
+    type.helpRoutes = std::move(overlay.helpRoutes);
+    type.governs = overlay.governs;
+    return type;
+}
+
+HelpRoute WorkOutJointFactor(const char* factor) {
+    return {factor, "FjcHelp", "Work out the joint and crack factor"};
+}
+
+LayoutElement OnSlab(const char* future, const char* reliability, const char* deviation, FieldItem initial,
+                     FieldItem terminal) {
+    return Frame("Frame1", "Slab Thickness for Future Traffic",
+                 {Fields({{future, "Future Thickness"},
+                          {"RIGE18", "Future ESAL"},
+                          {reliability, "Reliability"},
+                          {deviation, "Overall Deviation"},
+                          {"EXISTMR", "Modulus of Rupture"},
+                          {"EXISTEC", "Modulus of Elasticity"},
+                          {"EXISTJ", "Load Transfer, J"},
+                          {"EXISTK", "Mod. Sub. Reaction, k"},
+                          {"EXISTC", "Drainage Coefficient"},
+                          std::move(initial),
+                          std::move(terminal)})});
+}
+
+LayoutElement OfConcrete(const char* future, const char* label, const char* rupture, const char* elasticity,
+                         const char* transfer) {
+    return Frame("Frame1", "Slab Thickness for Future Traffic",
+                 {Fields({{future, label},
+                          {"RIGE18", "Future ESALs"},
+                          {"OLRIGREL", "Reliabilty"},
+                          {"OLRIGDEV", "Overall Deviation"},
+                          {rupture, "Modulus of Rupture"},
+                          {elasticity, "Modulus of Elasticity"},
+                          {transfer, "Load Transfer, J"},
+                          {"EXISTK", "Mod. Subgrade Reaction, k"},
+                          {"EXISTC", "Drainage Coefficient"},
+                          {"OLFUTPO", "Initial Serviceability"},
+                          {"OLFUTPT", "Terminal Serviceability"}})});
+}
+
+LayoutElement OnLayers(Items terms) {
+    return Frame("Frame1", "Structural Number for Future Traffic", {Fields(std::move(terms))});
+}
+
+LayoutElement OfLayer(const char* frame, const char* title, const char* thickness, const char* coefficient,
+                      const char* drainage) {
+    return Frame(frame, title,
+                 {Fields({{thickness, "Thickness"},
+                          {coefficient, "Layer Coefficient"},
+                          {drainage, "Drainage Coefficient"}})});
+}
+
+LayoutElement Effective(const char* title, Items items) {
+    return Frame("Frame2", title, {Fields(std::move(items))});
+}
+
+}  // namespace kelvor

@@ -1,0 +1,122 @@
+#include <initializer_list>
+
+#include "platform/number_picture.h"
+#include "rehab/calc/asphalt_on_concrete.h"
+#include "rehab/screens/overlay_governs.h"
+#include "rehab/screens/overlay_sentences.h"
+
+namespace kelvor {
+
+namespace {
+
+constexpr double kThickestSlab = 20.0;  // inches
+constexpr double kThinnestSlab = 4.0;   // of a slab on its own
+constexpr double kThinnestBonded = 2.0;
+
+constexpr const char* kRatioPicture = "0.00";
+
+Real Product(const ScreenContext& context, std::initializer_list<const char*> factors) {
+    Real product = 1.0;
+    for (const char* factor : factors) product = product * context.calc.Get(factor);
+    return product;
+}
+
+/// What bounds an effective thickness of so many inches.
+std::string EffectiveSentence(const ScreenContext& context, Real inches) {
+    if (inches == 0.0) return "No effective thickness: the slab or one of its factors is 0.";
+    if (inches > kThickestSlab) {
+        return "Effective thickness held at the limit of " + LengthText(context, kThickestSlab) + ".";
+    }
+    return inches < 0.0 ? "A negative effective thickness counts as 0." : "";
+}
+
+/// How much asphalt makes up for the slab that is missing.
+std::string AsphaltSentence(const ScreenContext& context, Real lackInches) {
+    return "The slab lacks " + LengthText(context, lackInches.value()) + ", each part of which takes " +
+           FormatNumber(AsphaltPerConcrete(lackInches).value(), kRatioPicture) + " of asphalt.";
+}
+
+WantedThickness ConcreteOverlay(const ScreenContext& context, Real inches, double least) {
+    return {.inches = inches,
+            .least = least,
+            .most = kThickestSlab,
+            .what = "thickness",
+            .plainly = "The overlay makes up what is missing: " + LengthText(context, inches.value()) + "."};
+}
+
+/// The thickness that the formula of the composite pavement takes from the other screen.
+StatusLine OtherScreenLine(const ScreenContext& context) {
+    if (context.calc.Get("ACACPCFUTD") == 0.0) return {};
+    if (context.calc.Get("ACPCEFFD") == 0.0) {
+        return {
+            "Warning: the formula takes Effective PCC Thickness of the screen AC Overlay of PCC Pavement, "
+            "which is 0, so that the thickness leaps.",
+            true};
+    }
+    return {"The formula takes Effective PCC Thickness of the screen AC Overlay of PCC Pavement, " +
+            StoredText(context, "ACPCEFFD") + "."};
+}
+
+}  // namespace
+
+StatusLine SlabGoverns(const ScreenContext& context) {
+    const Real lack = context.calc.Get("ACPCFUTD") - context.calc.Get("ACPCEFFD");
+    const Real effective = Product(context, {"EXISTDEPTH", "ACPCFJC", "ACPCFDUR", "ACPCFFAT"});
+    return {Joined(EffectiveSentence(context, effective),
+                   AnswerSentence(context, "ACPCFUTD", "ACPCOLT",
+                                  {.inches = lack * AsphaltPerConcrete(lack),
+                                   .what = "thickness",
+                                   .plainly = AsphaltSentence(context, lack)}))};
+}
+
+StatusLine CompositeGoverns(const ScreenContext& context) {
+    const Real future = context.calc.Get("ACACPCFUTD");
+    const Real lack = future - context.calc.Get("ACACPCEFFD");
+    const Real effective = Product(context, {"ACACPCACT", "ACACPCFAC"}) / 2.0 +
+                           Product(context, {"EXISTDEPTH", "ACACPCFJC", "ACACPCFDUR"});
+    const std::string plainly =
+        lack < 0.0 ? "Its own effective thickness exceeds the future one." : AsphaltSentence(context, lack);
+    const std::string own =
+        Joined(EffectiveSentence(context, effective),
+               AnswerSentence(context, "ACACPCFUTD", "ACACPCOLT",
+                              {.inches = (future - context.calc.Get("ACPCEFFD")) * AsphaltPerConcrete(lack),
+                               .what = "thickness",
+                               .plainly = plainly}));
+    const StatusLine other = OtherScreenLine(context);
+    return {Joined(own, other.text), other.warns};
+}
+
+StatusLine BondedGoverns(const ScreenContext& context) {
+    const Real effective = Product(context, {"EXISTDEPTH", "BOLFJC", "BOLFDUR", "BOLFFAT"});
+    const Real lack = context.calc.Get("BOLFUTDEPTH") - context.calc.Get("BOLEFFDEPTH");
+    return {Joined(
+        EffectiveSentence(context, effective),
+        AnswerSentence(context, "BOLFUTDEPTH", "BOLDEPTH", ConcreteOverlay(context, lack, kThinnestBonded)))};
+}
+
+StatusLine UnbondedGoverns(const ScreenContext& context) {
+    const Real effective = Product(context, {"EXISTDEPTH", "UBOLFJCU"});
+    const Real square =
+        Pow(context.calc.Get("UBOLFUTDEPTH"), 2.0) - Pow(context.calc.Get("UBOLEFFDEPTH"), 2.0);
+    const WantedThickness wanted =
+        square > 0.0 ? ConcreteOverlay(context, Pow(square, 0.5), kThinnestSlab)
+                     // A lack of nothing, too, is raised: any negative number tells that none is needed.
+                     : ConcreteOverlay(context, -1.0, kThinnestSlab);
+    return {Joined(EffectiveSentence(context, effective),
+                   AnswerSentence(context, "UBOLFUTDEPTH", "UBOLDEPTH", wanted))};
+}
+
+StatusLine WhitetoppingGoverns(const ScreenContext& context) {
+    const Real thickness = context.calc.Get("WTDEPTH");
+    if (thickness == 0.0) return {"The whitetopping thickness is not known yet."};
+    if (thickness >= kThickestSlab) return {"At the limit of " + LengthText(context, kThickestSlab) + "."};
+    if (thickness < kThinnestSlab) {
+        return {"Below the least thickness of " + LengthText(context, kThinnestSlab) +
+                " that is ever solved for."};
+    }
+    if (thickness == kThinnestSlab)
+        return {"At the least thickness of " + LengthText(context, kThinnestSlab) + "."};
+    return {"The whitetopping carries all of the traffic: the old pavement counts in k alone."};
+}
+
+}  // namespace kelvor
