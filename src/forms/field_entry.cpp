@@ -139,6 +139,7 @@ bool FieldLostFocus(ScreenContext& context, Form& form, Control& control) {
         context.calc.dialogs.ShowMessage({.text = "Please enter valid numeric value.", .title = "Value"});
         if (form.fieldChanged()) context.bProjectChanged = true;
         EmptyCell(context, form, control);
+        if (IsInEquation(context, form, control)) WarnOfChange(context, form, control.tag);
         return Refuse(form, control);
     }
     if (form.fieldChanged()) {

@@ -72,12 +72,6 @@ bool HasTests(const Form& form) {
                        [&](const char* box) { return !form.TextOf(box).empty(); });
 }
 
-/// The estimate by the R-value names its unit in its label.
-void NameUnit(ScreenEvent& event) {
-    const std::string unit = event.context.units.UnitLabel("ORVAL");
-    event.form.SetText(FieldLabelName("ORVAL"), "Resilient Modulus, " + unit + ":");
-}
-
 void TestLeft(ScreenEvent& event) {
     if ((event.control->name == "CBR" || event.control->name == "RVAL") && HasTests(event.form))
         StoreEstimate(event.context, event.form);
@@ -118,9 +112,7 @@ FormType SubgradeModulusHelp() {
                             {.variable = "ORVAL", .label = "Resilient Modulus, psi:", .computed = true}})})}),
         Fields({{.variable = "V", .label = "Subgrade Resilient Modulus:", .computed = true}}),
     });
-    type.handlers = {{FormEvent::Activate, "", HandlerOrder::After, NameUnit},
-                     {FormEvent::UnitsSwitched, "", HandlerOrder::After, NameUnit},
-                     {FormEvent::LostFocus, "", HandlerOrder::After, TestLeft},
+    type.handlers = {{FormEvent::LostFocus, "", HandlerOrder::After, TestLeft},
                      {FormEvent::Unload, "", HandlerOrder::Before, Closing}};
     return type;
 }

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "forms/form.h"
-#include "rehab/rehab_fixture.h"
+#include "rehab_fixture.h"
 
 namespace kelvor::test {
 namespace {
