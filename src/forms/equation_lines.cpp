@@ -56,8 +56,9 @@ StatusLine MissingLine(const std::vector<std::string>& missing) {
 /// Sets the traffic that the equation gives, in whole ESALs that the pavement carries, beside the stored one.
 StatusLine CompareLine(Real given, Real stored) {
     const double difference = std::fabs((given - stored).value()) / std::fabs(stored.value());
-    const std::string both = "the equation gives " + FormatNumber(std::floor(given.value()), kTrafficPicture) +
-                             " ESALs for " + FormatNumber(stored.value(), kTrafficPicture);
+    const std::string both = "the equation gives " +
+                             FormatNumber(std::floor(given.value()), kTrafficPicture) + " ESALs for " +
+                             FormatNumber(stored.value(), kTrafficPicture);
     if (difference > kBalanceTolerance) return {"Not in balance: " + both + ".", true};
     return {"In balance: " + both + " (" + FormatNumber(difference * 100.0, kPercentPicture) + " %).", false};
 }

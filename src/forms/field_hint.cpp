@@ -10,8 +10,8 @@ namespace kelvor {
 
 namespace {
 
-/// A limit in the field's picture, or in full if the picture would change it, its thousands set apart where the
-/// picture does so.
+/// A limit in the field's picture, or in full if the picture would change it, its thousands set apart where
+/// the picture does so.
 std::string LimitText(double limit, const std::string& picture) {
     std::string text = FormatNumber(limit, picture);
     if (IsNumeric(text) && ParseNumber(text) == limit) return text;

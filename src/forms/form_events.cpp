@@ -19,7 +19,6 @@ namespace kelvor {
 
 namespace {
 
-
 bool IsFor(const Handler& handler, FormEvent event, const Control* control, HandlerOrder order) {
     if (handler.event != event || handler.order != order) return false;
     return handler.control.empty() || (control != nullptr && EqualNoCase(handler.control, control->name));

@@ -11,7 +11,8 @@ namespace kelvor {
 // Section 5.6) and of AC/PCC pavement (Section 5.7). All thicknesses are in inches, and inputs that were not
 // entered count as 0. The bounds are Kelvor's, the Guide has none; a result of exactly 0 passes them.
 
-/// A: how many inches of AC stand for one inch of PCC where a slab lacks so many inches; above 1.6 for any lack.
+/// A: how many inches of AC stand for one inch of PCC where a slab lacks so many inches; above 1.6 for any
+/// lack.
 Real AsphaltPerConcrete(Real lackInches);
 
 /// The effective thickness of an existing slab: `EXISTDEPTH` times the factors of joints and cracks
