@@ -6,6 +6,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 
 #include "make_data/help_texts.h"
 #include "make_data/table_files.h"
@@ -27,7 +28,10 @@ TextTable ReadOne(const Path& data, const std::string& table, const ColumnNames&
 /// What a row has in the first columns of its table, as one key.
 std::string KeyOf(const TextRow& row, std::size_t columns) {
     std::string key;
-    for (std::size_t i = 0; i < columns; ++i) key += row.cells[i].value_or("") + '\t';
+    for (std::size_t i = 0; i < columns; ++i) {
+        key += row.cells[i].value_or("");
+        key += '\t';
+    }
     return key;
 }
 
@@ -53,7 +57,8 @@ void SetDefault(std::optional<std::string>& cell, const char* otherwise) {
 /// A help text without a variable would never be shown: its name is misspelt.
 void RefuseStrayHelp(const std::map<std::string, HelpText>& texts, const std::set<std::string>& variables) {
     for (const auto& [name, help] : texts) {
-        if (!variables.contains(name)) throw TextTableError(name + ".txt: there is no variable " + name);
+        if (variables.contains(name)) continue;
+        throw TextTableError(Path(name).concat(".txt").string() + ": there is no variable " + name);
     }
 }
 

@@ -39,7 +39,7 @@ std::optional<std::string> Unescape(const TextRow& row, std::string_view cell) {
                 text.push_back('\\');
                 break;
             default:
-                row.Refuse("an escape is none of \\s, \\t, \\n, \\\\");
+                row.Refuse(R"(an escape is none of \s, \t, \n, \\)");
         }
     }
     return text;
