@@ -87,5 +87,46 @@ TEST_F(ItemQuantityTest, AnyOtherItemLeavesTheRow) {
     }
 }
 
+/// The items that ship, of whose places the quantity table makes numbers.
+class ShippedItemsTest : public CostTest {
+  protected:
+    void ExpectPlaces(const char* list, bool metric) {
+        ListDatabase& lists = *program_.program.state().dbCustom;
+        const std::string thick = metric ? " m" : " in";
+        const auto place = [&](const std::string& item) { return lists.FindPlace(list, item, metric); };
+        for (int layer = 1; layer <= 8; ++layer) {
+            EXPECT_EQ(place("Layer " + std::to_string(layer) + ", area"), layer) << list;
+            EXPECT_EQ(place("Layer " + std::to_string(layer) + ", weight"), 9 + layer) << list;
+        }
+        EXPECT_EQ(place("Layers 1, 7 and 8, area"), 9) << list;
+        EXPECT_EQ(place("Layers 1, 7 and 8, weight"), 18) << list;
+        EXPECT_EQ(place("Length of the project"), 19) << list;
+        EXPECT_EQ(place("Twice the length of the project"), 20) << list;
+        EXPECT_EQ(place("Transverse joints"), 21) << list;
+        for (int thickness = 1; thickness <= 3; ++thickness) {
+            EXPECT_EQ(place("Overlay of layer 1, " + std::to_string(thickness) + thick), 21 + thickness);
+        }
+        EXPECT_GT(place("Mobilization"), 24) << list;
+        EXPECT_GT(place("Other"), 24) << list;
+    }
+};
+
+TEST_F(ShippedItemsTest, StandInTheirListsByTheirNumbers) {
+    for (const char* list : {kInitialGrid.items, kRehabGrid.items, "InitialItem"}) {
+        ExpectPlaces(list, false);
+        ExpectPlaces(list, true);
+    }
+}
+
+TEST_F(ShippedItemsTest, BringTheirQuantities) {
+    SetRow(1, 1, {{"ProjectLength", 900.0}, {"LayerWidth", 20.0}});
+    CalcContext context = Context();
+    FillItem(context, *program_.program.state().dbCustom, kInitialGrid, 1, 1, "Layer 1, area");
+    EXPECT_EQ(Cell("InitialQuantity", 1, 1), 2000.0);
+    FillItem(context, *program_.program.state().dbCustom, kRehabGrid, 2, 1, "Length of the project");
+    EXPECT_EQ(Cell("RehabQuantity", 2, 1), 900.0);
+    EXPECT_EQ(Text("RehabUnit", 2, 1), "In feet");
+}
+
 }  // namespace
 }  // namespace kelvor::test
