@@ -8,6 +8,7 @@
 #include "forms/grid_entry.h"
 #include "forms/screen_builder.h"
 #include "forms/side_screen.h"
+#include "ndt/screens/ndt_forms.h"
 #include "shell/about_form.h"
 #include "shell/event_scope.h"
 #include "shell/hub/hub.h"
@@ -29,6 +30,7 @@ Program::Program(Host host, Home home) : state_(host, std::move(home)) {
     state_.formRegistry.Declare({BlankForm()});
     state_.formRegistry.Declare(WithHubTold(DesignForms()));
     state_.formRegistry.Declare(WithHubTold(TrafficForms()));
+    state_.formRegistry.Declare(WithHubTold(DeflectionForms()));
 }
 
 StartResult Program::Start(const std::string& commandLine) {
