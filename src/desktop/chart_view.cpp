@@ -12,8 +12,8 @@ namespace kelvor {
 
 namespace {
 
-constexpr int kChartLetters = 90;
-constexpr int kChartLines = 22;
+constexpr double kChartLetters = 90.0;  // its width, unless its control has one
+constexpr double kLinesOfLetter = 22.0 / kChartLetters;
 constexpr qreal kDarkest = 0.5;  // of a layer whose label is black
 
 /// A chart in the colours of the window, also after they have changed.
@@ -106,8 +106,9 @@ QWidget* MakeChart(const Control& control, QWidget* parent) {
     auto* view = new ChartView(*control.chart, parent);
     view->setRenderHint(QPainter::Antialiasing);
     view->setFocusPolicy(Qt::NoFocus);
-    view->setMinimumSize(view->fontMetrics().averageCharWidth() * kChartLetters,
-                         view->fontMetrics().lineSpacing() * kChartLines);
+    const double letters = control.letters > 0.0 ? control.letters : kChartLetters;
+    view->setMinimumSize(qRound(view->fontMetrics().averageCharWidth() * letters),
+                         qRound(view->fontMetrics().lineSpacing() * letters * kLinesOfLetter));
     return view;
 }
 

@@ -3,8 +3,14 @@
 #include <string_view>
 
 #include "calc/calc_context.h"
+#include "ndt/calc/two_layer_deflection.h"
 
 namespace kelvor {
+
+/// The moduli of a pavement that are searched, psi, and how close, in mils, the deflection must come.
+inline constexpr double kLeastPavementModulus = 5'000.0;
+inline constexpr double kLargestPavementModulus = 2'000'000.0;
+inline constexpr double kCloseDeflection = 0.01;
 
 /// The subgrade modulus, psi, of one test on flexible pavement, for design: C 0.24 P / (dr r), with the load
 /// P `NDTLOADF` in pounds, the deflection dr `DR` in mils at the distance r `NDTR` in inches, and the
@@ -21,8 +27,12 @@ void CalcSubgradeModulus(CalcContext& context, std::string_view target, int row,
 ///
 /// The search halves the range from 5,000 to 2,000,000 psi, beginning at 1,000,000, at most 25 times, and
 /// ends within a hundredth of a mil. A deflection that no modulus of the range gives leaves the result at
-/// its end, without a word. Each step is written as it is taken: a fault leaves the last one. (1993 AASHTO
+/// its end, without a word. A fault ends the search with the modulus of its last step. (1993 AASHTO
 /// Guide, Part III, Section 5.4.5, which reads Ep from Figure 5.5.)
 void CalcEffectivePavementModulus(CalcContext& context, std::string_view target, int row, int dim2);
+
+/// The pavement of a test: `Radius`, `NDTLOADF`, `NDTRM` without its correction `NDTRMC`, and `NDTEFFD`.
+/// Raises ArithmeticFault without a correction.
+TwoLayerPavement ReadTwoLayerPavement(const CalcContext& context, int row, int dim2);
 
 }  // namespace kelvor

@@ -9,7 +9,6 @@ namespace {
 constexpr double kInchesPerMil = 0.001;
 constexpr double kPsiPerKsi = 1000.0;
 constexpr double kTwoPi = 2.0 * 3.141592;
-constexpr double kEvenBasin = 36.0;  // AREA, inches, that no slab reaches
 
 }  // namespace
 
@@ -19,8 +18,8 @@ Real BasinArea(Real d0, Real d12, Real d24, Real d36) {
 }
 
 std::optional<Real> RadiusOfStiffness(Real area) {
-    if (area <= 0.0 || area >= kEvenBasin) return std::nullopt;
-    const Real radius = Pow(Log((kEvenBasin - area) / 1812.2791333) / -2.55934, 4.387009);
+    if (area <= 0.0 || area >= kEvenBasinArea) return std::nullopt;
+    const Real radius = Pow(Log((kEvenBasinArea - area) / 1812.2791333) / -2.55934, 4.387009);
     return ClampValue(radius, 1.0, 200.0);
 }
 

@@ -10,6 +10,9 @@ namespace kelvor {
 // load, gives k and the modulus of the slab (1993 AASHTO Guide, Part III, Section 5.6.5). Each result is held
 // to bounds that are Kelvor's. Each raises ArithmeticFault where it has no value.
 
+/// The AREA, inches, of a basin as deep everywhere, which no slab reaches.
+inline constexpr double kEvenBasinArea = 36.0;
+
 /// AREA, inches: 6 (1 + 2 d12/d0 + 2 d24/d0 + d36/d0), the size of the basin over its depth; all deflections
 /// in the same unit. Held to 0.01 to 99.99. It is 36 for a basin as deep everywhere.
 Real BasinArea(Real d0, Real d12, Real d24, Real d36);

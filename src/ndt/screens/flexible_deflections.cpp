@@ -1,0 +1,65 @@
+#include "ndt/screens/flexible_deflections.h"
+
+#include "forms/form.h"
+#include "forms/screen_context.h"
+#include "ndt/calc/pavement_thickness.h"
+#include "ndt/screens/test_notes.h"
+#include "ndt/screens/test_rows.h"
+#include "ndt/screens/test_summary.h"
+
+namespace kelvor {
+
+namespace {
+
+constexpr double kInputLetters = 9.9;
+constexpr double kRemarkLetters = 9.8;
+constexpr double kResultLetters = 20.2;
+
+std::vector<ResultColumn> Results() {
+    return {{"NDTRM", "AVGNDTRM", "ChartMr"}, {"NDTEFFEP", "AVGNDTEFFEP", "ChartEp"}};
+}
+
+/// The layers may have changed meanwhile, and with them every effective modulus.
+void Activated(ScreenEvent& event) {
+    StorePavementThickness(event.context.calc);
+    RecalcTests(event);
+}
+
+void Show(ScreenEvent& event) {
+    event.form.SetText(kSoundnessLine, SearchSummary(event.context, event.form));
+    ShowResults(event.context, event.form, Results());
+}
+
+LayoutElement Tests() {
+    return Grid("Grid",
+                {{.variable = "NDTLOADF", .letters = kInputLetters},
+                 {.variable = "D0F", .letters = kInputLetters},
+                 {.variable = "DR", .letters = kInputLetters},
+                 {.variable = "Msg", .letters = kRemarkLetters},
+                 {.variable = "NDTRM", .letters = kResultLetters},
+                 {.variable = "NDTEFFEP", .letters = kResultLetters}},
+                kTestsShown, {.note = SearchNote});
+}
+
+}  // namespace
+
+FormType FlexibleDeflectionsForm() {
+    FormType type;
+    type.name = "ReDfF";
+    type.caption = "Flexible Pavement Deflection Information and Backcalculation";
+    type.layout = Rows({
+        Columns({Fields({{"NDTR"}, {"NDTRMC"}}),
+                 Fields({{"Radius"}, {.variable = "NDTEFFD", .computed = true}})}),
+        Tests(),
+        Statement(kSoundnessLine, 1, kLineLetters),
+        SpreadOfResults(Results()),
+        ChartsOfResults(Results()),
+    });
+    type.handlers = RecalcWhenLeft({"NDTR", "NDTRMC", "Radius"});
+    type.handlers.push_back({FormEvent::Activate, "", HandlerOrder::After, Activated});
+    type.handlers.push_back({FormEvent::RowDeleted, "", HandlerOrder::Instead, RecalcTests});
+    Append(type.handlers, AfterResults(Show));
+    return type;
+}
+
+}  // namespace kelvor

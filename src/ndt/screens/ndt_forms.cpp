@@ -1,0 +1,13 @@
+#include "ndt/screens/ndt_forms.h"
+
+#include "ndt/screens/composite_deflections.h"
+#include "ndt/screens/flexible_deflections.h"
+#include "ndt/screens/rigid_deflections.h"
+
+namespace kelvor {
+
+std::vector<FormType> DeflectionForms() {
+    return {FlexibleDeflectionsForm(), RigidDeflectionsForm(), CompositeDeflectionsForm()};
+}
+
+}  // namespace kelvor

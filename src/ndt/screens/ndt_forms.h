@@ -1,0 +1,12 @@
+#pragma once
+
+#include <vector>
+
+#include "forms/form_type.h"
+
+namespace kelvor {
+
+/// The screens of deflection tests on flexible, rigid and composite pavements.
+std::vector<FormType> DeflectionForms();
+
+}  // namespace kelvor

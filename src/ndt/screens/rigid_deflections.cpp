@@ -1,0 +1,69 @@
+#include "ndt/screens/rigid_deflections.h"
+
+#include "forms/form.h"
+#include "ndt/screens/test_notes.h"
+#include "ndt/screens/test_rows.h"
+#include "ndt/screens/test_summary.h"
+
+namespace kelvor {
+
+namespace {
+
+constexpr double kLetters = 8.2;
+constexpr double kUsualPoisson = 0.15;
+
+std::vector<ResultColumn> Results() {
+    return {{"BACKL", "AVGBACKL", nullptr}, {"STATK", "AVGSTATK", "ChartK"}, {"NDTE", "AVGNDTE", "ChartEc"}};
+}
+
+void Activated(ScreenEvent& event) {
+    SetIfBlank(event.context, event.form, "Poisson", kUsualPoisson);
+    RecalcTests(event);
+}
+
+void Show(ScreenEvent& event) {
+    event.form.SetText(kSoundnessLine, AreaSummary(event.context, event.form, "AREA"));
+    ShowResults(event.context, event.form, Results());
+}
+
+LayoutElement Tests() {
+    return Grid("Grid",
+                {{.variable = "NDTLOAD", .letters = kLetters},
+                 {.variable = "D0", .letters = kLetters},
+                 {.variable = "D12", .letters = kLetters},
+                 {.variable = "D24", .letters = kLetters},
+                 {.variable = "D36", .letters = kLetters},
+                 {.variable = "AREA", .letters = kLetters},
+                 {.variable = "BACKL", .letters = kLetters},
+                 {.variable = "DYNK", .letters = kLetters},
+                 {.variable = "STATK", .letters = kLetters},
+                 {.variable = "NDTE", .letters = kLetters}},
+                kTestsShown, {.note = AreaNote});
+}
+
+}  // namespace
+
+FormType RigidDeflectionsForm() {
+    FormType type;
+    type.name = "ReDfR";
+    type.caption = "Rigid Pavement Deflection Information";
+    type.layout = Rows({
+        Columns({Fields({{"Radius"}, {"Poisson"}}), Fields({{"EXISTDEPTH"}})}),
+        Tests(),
+        Statement(kSoundnessLine, 1, kLineLetters),
+        Statement(kOutdatedLine, 2, kLineLetters),
+        SpreadOfResults(Results()),
+        ChartsOfResults(Results()),
+        Hidden({kOutdatedInputs}),
+    });
+    // The slab thickness works no test out anew: it counts from the next activation on, or the next edit of a
+    // row.
+    type.handlers = RecalcWhenLeft({"Radius", "Poisson"});
+    Append(type.handlers, TellWhenOutdated({"EXISTDEPTH"}));
+    type.handlers.push_back({FormEvent::Activate, "", HandlerOrder::After, Activated});
+    type.handlers.push_back({FormEvent::RowDeleted, "", HandlerOrder::Instead, RecalcTests});
+    Append(type.handlers, AfterResults(Show));
+    return type;
+}
+
+}  // namespace kelvor

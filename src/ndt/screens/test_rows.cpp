@@ -1,0 +1,102 @@
+#include "ndt/screens/test_rows.h"
+
+#include <algorithm>
+
+#include "forms/form.h"
+#include "forms/recalculation.h"
+#include "forms/screen_context.h"
+
+namespace kelvor {
+
+namespace {
+
+/// A text that was refused because it is no number has emptied the cell; a number out of range has not.
+bool IsEmptied(const ScreenEvent& event) {
+    const CellValue* cell = event.context.calc.store.FindCell(event.control->tag, 1, 1);
+    return event.form.refused && cell != nullptr && !cell->IsFilled();
+}
+
+void RecalcIfEmptied(ScreenEvent& event) {
+    if (IsEmptied(event)) RecalcTests(event);
+}
+
+/// True if a column of results holds one.
+bool HasResults(const ScreenContext& context, const Form& form) {
+    const auto& columns = form.FindGrid()->grid->columns;
+    return std::any_of(columns.begin(), columns.end(), [&](const GridColumn& column) {
+        return column.locked && context.calc.store.SQLCount(column.variable) > 0;
+    });
+}
+
+/// "Tests were worked out before A and B changed ...": a name that stands there already is not added again.
+void TellOutdated(ScreenEvent& event) {
+    if (!HasResults(event.context, event.form)) return;
+    const Variable* variable = event.context.catalogue.FindVariable(event.control->tag);
+    if (variable == nullptr) return;
+    std::string changed = event.form.TextOf(kOutdatedInputs);
+    if (changed.find(variable->desc) != std::string::npos) return;
+    if (!changed.empty()) changed += "; ";
+    changed += variable->desc;
+    event.form.SetText(kOutdatedInputs, changed);
+    event.form.SetText(kOutdatedLine, "Worked out before this changed: " + changed +
+                                          ". A test follows when its row is edited, all when the screen is "
+                                          "opened again.");
+}
+
+void TellIfEmptied(ScreenEvent& event) {
+    if (IsEmptied(event)) TellOutdated(event);
+}
+
+void AllUpToDate(ScreenEvent& event) {
+    event.form.SetText(kOutdatedInputs, "");
+    event.form.SetText(kOutdatedLine, "");
+}
+
+}  // namespace
+
+void RecalcTests(ScreenContext& context, Form& form) {
+    RecalcFilledRows(context, form);
+    RecalcOutputs(context, form, "", 0);
+}
+
+void RecalcTests(ScreenEvent& event) { RecalcTests(event.context, event.form); }
+
+void SetIfBlank(ScreenContext& context, Form& form, std::string_view variable, double value) {
+    if (!context.units.GetDisplayValue(variable).empty()) return;
+    context.units.SetDisplayNumber(variable, 1, 1, value);
+    form.SetText(variable, context.units.GetDisplayValue(variable));
+}
+
+std::vector<Handler> RecalcWhenLeft(const std::vector<std::string>& inputs) {
+    std::vector<Handler> handlers;
+    for (const std::string& input : inputs) {
+        handlers.push_back({FormEvent::Stored, input, HandlerOrder::After, RecalcTests});
+        handlers.push_back({FormEvent::LostFocus, input, HandlerOrder::After, RecalcIfEmptied});
+    }
+    return handlers;
+}
+
+std::vector<Handler> TellWhenOutdated(const std::vector<std::string>& inputs) {
+    std::vector<Handler> handlers = {{FormEvent::Activate, "", HandlerOrder::After, AllUpToDate},
+                                     {FormEvent::RowDeleted, "", HandlerOrder::After, AllUpToDate}};
+    for (const std::string& input : inputs) {
+        handlers.push_back({FormEvent::Stored, input, HandlerOrder::After, TellOutdated});
+        handlers.push_back({FormEvent::LostFocus, input, HandlerOrder::After, TellIfEmptied});
+    }
+    return handlers;
+}
+
+std::vector<Handler> AfterResults(void (*show)(ScreenEvent& event)) {
+    std::vector<Handler> handlers;
+    for (const FormEvent event : {FormEvent::Activate, FormEvent::LostFocus, FormEvent::Stored,
+                                  FormEvent::RowsWritten, FormEvent::RowDeleted, FormEvent::UnitsSwitched}) {
+        handlers.push_back({event, "", HandlerOrder::After, show});
+    }
+    return handlers;
+}
+
+void Append(std::vector<Handler>& handlers, const std::vector<Handler>& more) {
+    handlers.insert(handlers.end(), more.begin(), more.end());
+}
+
+}  // namespace kelvor

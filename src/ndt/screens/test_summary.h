@@ -1,0 +1,26 @@
+#pragma once
+
+#include <vector>
+
+#include "forms/form_type.h"
+
+namespace kelvor {
+
+/// A column of results that a screen sums up below its table.
+struct ResultColumn {
+    const char* column;
+    const char* average;  // the variable of its average
+    const char* chart;    // the name of its chart; null: it has none
+};
+
+/// A line for each column: its average, and how the results spread: the number of tests that count, the
+/// standard deviation, the coefficient of variation, the 15th and the 85th percentile.
+LayoutElement SpreadOfResults(const std::vector<ResultColumn>& results);
+
+/// The charts of the results by test number, side by side, each with the average as a line.
+LayoutElement ChartsOfResults(const std::vector<ResultColumn>& results);
+
+/// Brings both up to date, in the active units.
+void ShowResults(ScreenContext& context, Form& form, const std::vector<ResultColumn>& results);
+
+}  // namespace kelvor
