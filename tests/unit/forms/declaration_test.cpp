@@ -196,7 +196,8 @@ TEST_F(DeclarationTest, TheStartLooksAtWhatIsDeclared) {
 }
 
 TEST_F(DeclarationTest, AFormTellsWhichControlItLacks) {
-    Form form(Trial(), catalogue());
+    const FormType type = Trial();
+    Form form(type, catalogue());
     EXPECT_EQ(form.Get("frame1").name, "Frame1");
     EXPECT_THAT([&] { (void)form.Get("Frame9"); },
                 ThrowsMessage<std::logic_error>("form Trial has no control Frame9"));
