@@ -98,11 +98,13 @@ class VisitFunction {
 }  // namespace
 
 void VisitRows(SQLite::Database& database, const std::string& table, const std::string& columns,
-               const std::string& order, const std::function<void(const RowView&)>& visit) {
+               const std::string& order, const std::function<void(const RowView&)>& visit,
+               const std::string& condition) {
     Visit state{visit, nullptr};
+    const std::string where = condition.empty() ? std::string{} : "(" + condition + ") AND ";
     try {
         const VisitFunction function(database.getHandle(), state);
-        database.exec("SELECT 1 FROM \"" + table + "\" WHERE " + kVisitFunction + "(" + columns +
+        database.exec("SELECT 1 FROM \"" + table + "\" WHERE " + where + kVisitFunction + "(" + columns +
                       ") ORDER BY " + order);
     } catch (const SQLite::Exception& failure) {
         if (state.failure) std::rethrow_exception(state.failure);

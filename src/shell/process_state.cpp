@@ -16,6 +16,7 @@ void ProcessState::OpenCatalogue(const Path& path) {
     for (const Variable& variable : dbCatalogue->variables()) {
         projectBounds.push_back({variable.name, variable.dim1, variable.dim2});
     }
+    SortByName(projectBounds);
 }
 
 CalcContext ProcessState::MakeCalcContext() {

@@ -25,7 +25,19 @@ int CompareNames(std::string_view a, std::string_view b) {
     return byte(*x) - byte(*y);
 }
 
+std::size_t CountCells(const std::vector<CellBounds>& bounds) {
+    std::size_t count = 0;
+    for (const CellBounds& variable : bounds)
+        count += static_cast<std::size_t>(variable.dim1) * static_cast<std::size_t>(variable.dim2);
+    return count;
+}
+
 }  // namespace
+
+void SortByName(std::vector<CellBounds>& bounds) {
+    std::sort(bounds.begin(), bounds.end(),
+              [](const CellBounds& a, const CellBounds& b) { return CompareNames(a.name, b.name) < 0; });
+}
 
 std::string CellText(std::string_view name, int dim1, int dim2) {
     return std::string(name) + "(" + std::to_string(dim1) + "," + std::to_string(dim2) + ")";
@@ -42,18 +54,48 @@ void ProjectStore::Open(const Path& workCopy, const std::vector<CellBounds>& bou
     ++openings_;
     workCopy_ = std::make_unique<WorkCopy>(workCopy, checkPages);
     try {
-        Load(bounds);
+        if (checkPages || !LoadByBounds(bounds)) LoadByRows(bounds);
     } catch (...) {
         Abandon();
         throw;
     }
 }
 
-void ProjectStore::Load(const std::vector<CellBounds>& bounds) {
-    std::size_t expected = 0;
-    for (const CellBounds& variable : bounds)
-        expected += static_cast<std::size_t>(variable.dim1 * variable.dim2);
-    cells_.reserve(std::min(expected, kUsualCells));  // a damaged catalogue may ask for any number
+bool ProjectStore::LoadByBounds(const std::vector<CellBounds>& bounds) {
+    const auto unordered = [](const CellBounds& a, const CellBounds& b) {
+        return CompareNames(a.name, b.name) >= 0;
+    };
+    const std::size_t count = CountCells(bounds);
+    if (count > kUsualCells || count != workCopy_->CountRows() ||
+        std::adjacent_find(bounds.begin(), bounds.end(), unordered) != bounds.end()) {
+        return false;
+    }
+    LayOut(bounds);
+    bool within = true;
+    workCopy_->ReadFilledRows([&](const WorkCopy::Row& row) {
+        const auto index = Index(row.name, row.dim1, row.dim2);
+        if (index) cells_[*index].value = row.value;
+        within = within && index;
+    });
+    if (!within) ForgetCells();
+    return within;
+}
+
+void ProjectStore::LayOut(const std::vector<CellBounds>& bounds) {
+    cells_.reserve(CountCells(bounds));
+    variables_.reserve(bounds.size());
+    byName_.reserve(bounds.size());
+    for (const CellBounds& variable : bounds) {
+        AddVariable(variable.name);
+        for (int dim1 = 1; dim1 <= variable.dim1; ++dim1) {
+            for (int dim2 = 1; dim2 <= variable.dim2; ++dim2) AppendCell(dim1, dim2);
+        }
+        variables_.back().width = variable.dim2;
+    }
+}
+
+void ProjectStore::LoadByRows(const std::vector<CellBounds>& bounds) {
+    cells_.reserve(std::min(CountCells(bounds), kUsualCells));  // a damaged catalogue may ask for any number
     variables_.reserve(bounds.size());
     byName_.reserve(bounds.size());
     workCopy_->ReadRows(
@@ -70,16 +112,23 @@ void ProjectStore::AddCell(std::string_view name, int dim1, int dim2, const Cell
         (order == 0 && std::pair(dim1, dim2) <= std::pair(cells_.back().dim1, cells_.back().dim2))) {
         throw DatabaseError("rows out of order", false);
     }
-    if (order > 0) {
-        byName_.emplace(name, static_cast<std::uint32_t>(variables_.size()));
-        variables_.push_back({std::string(name), static_cast<std::uint32_t>(cells_.size()), 0, 0});
-    }
+    if (order > 0) AddVariable(name);
+    Cell& cell = AppendCell(dim1, dim2);
+    if (value.IsFilled()) cell.value = value;
+}
+
+void ProjectStore::AddVariable(std::string_view name) {
+    byName_.emplace(name, static_cast<std::uint32_t>(variables_.size()));
+    variables_.push_back({std::string(name), static_cast<std::uint32_t>(cells_.size()), 0, 0});
+}
+
+ProjectStore::Cell& ProjectStore::AppendCell(int dim1, int dim2) {
     ++variables_.back().count;
     Cell& cell = cells_.emplace_back();
     cell.variable = static_cast<std::uint32_t>(variables_.size() - 1);
     cell.dim1 = dim1;
     cell.dim2 = dim2;
-    if (value.IsFilled()) cell.value = value;
+    return cell;
 }
 
 void ProjectStore::MarkBlocks() {
@@ -121,12 +170,16 @@ void ProjectStore::Abandon() noexcept {
 
 void ProjectStore::Forget() noexcept {
     workCopy_.reset();
-    cells_.clear();
-    variables_.clear();
-    byName_.clear();
+    ForgetCells();
     formers_.clear();
     inEvent_ = false;
     inTransaction_ = false;
+}
+
+void ProjectStore::ForgetCells() noexcept {
+    cells_.clear();
+    variables_.clear();
+    byName_.clear();
 }
 
 // --- Finding -------------------------------------------------------------------------------------

@@ -74,18 +74,32 @@ WorkCopy::WorkCopy(const Path& path, bool checkPages)
 
 WorkCopy::~WorkCopy() = default;
 
-void WorkCopy::ReadRows(const std::function<void(const Row&)>& visit) {
+void WorkCopy::ReadRows(const std::function<void(const Row&)>& visit) { ReadRowsThat("", visit); }
+
+void WorkCopy::ReadFilledRows(const std::function<void(const Row&)>& visit) {
+    ReadRowsThat("RValue IS NOT NULL OR SValue IS NOT NULL", visit);
+}
+
+std::size_t WorkCopy::CountRows() {
+    std::int64_t count = 0;
+    Run([&] { count = database_->execAndGet("SELECT count(*) FROM Project").getInt64(); });
+    return static_cast<std::size_t>(count);
+}
+
+void WorkCopy::ReadRowsThat(const std::string& condition, const std::function<void(const Row&)>& visit) {
     Row row;
-    VisitRows(*database_, "Project", "Name, Dim1, Dim2, RValue, SValue", "Name, Dim1, Dim2",
-              [&](const RowView& columns) {
-                  row.name = columns.Letters(0);
-                  row.dim1 = Subscript(columns, 1);
-                  row.dim2 = Subscript(columns, 2);
-                  row.value.number = FiniteNumber(columns, 3);
-                  row.value.text.reset();
-                  if (columns.IsText(4)) row.value.text = columns.Letters(4);
-                  visit(row);
-              });
+    VisitRows(
+        *database_, "Project", "Name, Dim1, Dim2, RValue, SValue", "Name, Dim1, Dim2",
+        [&](const RowView& columns) {
+            row.name = columns.Letters(0);
+            row.dim1 = Subscript(columns, 1);
+            row.dim2 = Subscript(columns, 2);
+            row.value.number = FiniteNumber(columns, 3);
+            row.value.text.reset();
+            if (columns.IsText(4)) row.value.text = columns.Letters(4);
+            visit(row);
+        },
+        condition);
 }
 
 void WorkCopy::Update(std::string_view name, int dim1, int dim2, const CellValue& value) {

@@ -192,6 +192,57 @@ TEST_F(ProjectStoreTest, ClosingLeavesNoFileBesideTheWorkCopy) {
     }
 }
 
+TEST_F(ProjectStoreTest, ItLoadsTheSameByItsBoundsAndByItsRows) {
+    TestHome other;
+    std::filesystem::copy_file(other / "kvrwork.tpl", other / "kvrwork.tmp");
+    const std::vector<CellBounds>& bounds = program_.state().projectBounds;
+    const auto filled = [](const ProjectStore& store) {
+        std::vector<std::pair<std::string, CellValue>> cells;
+        store.ForEachFilled([&](const CellKey& key, const CellValue& value) {
+            cells.emplace_back(CellText(key.name, key.dim1, key.dim2), value);
+        });
+        return cells;
+    };
+    ProjectStore store;
+    store.Open(other / "kvrwork.tmp", bounds, false);
+    store.SetVarDim("NDTRM", 300, 1, 5000.0);
+    store.SetVarDim("InitialQuantity", 35, 2, 7.0);
+    store.SetVarText("Agency", "County");
+    EXPECT_TRUE(store.CompareWithWorkCopy().empty());
+    const auto before = filled(store);
+    store.Close();
+    for (const bool checkPages : {false, true}) {
+        store.Open(other / "kvrwork.tmp", bounds, checkPages);
+        EXPECT_EQ(filled(store), before) << checkPages;
+        EXPECT_TRUE(store.CompareWithWorkCopy().empty());
+        EXPECT_EQ(store.FindCell("NDTRM", 301, 1), nullptr);
+        EXPECT_EQ(store.FindCell("InitialQuantity", 1, 3), nullptr);
+        store.Close();
+    }
+}
+
+TEST_F(ProjectStoreTest, AValueThatStandsOutsideTheBoundsIsLoadedAllTheSame) {
+    TestHome other;
+    std::filesystem::copy_file(other / "kvrwork.tpl", other / "kvrwork.tmp");
+    {
+        SQLite::Database database = OpenDatabase(other / "kvrwork.tmp", DatabaseAccess::ReadWrite);
+        database.exec("UPDATE Project SET Name = 'Surplus', RValue = 4 WHERE Name = 'NDTRM' AND Dim1 = 300");
+    }
+    std::vector<CellBounds> bounds = program_.state().projectBounds;
+    for (CellBounds& variable : bounds) {
+        if (variable.name == "SN") variable.dim1 = 2;  // as many cells as rows, but others
+        if (variable.name == "NDTRM") variable.dim1 = 299;
+    }
+    ProjectStore store;
+    EXPECT_THROW(store.Open(other / "kvrwork.tmp", bounds, false), DatabaseError);
+    for (CellBounds& variable : bounds) {
+        if (variable.name == "SN") variable.dim1 = 1;
+    }
+    store.Open(other / "kvrwork.tmp", bounds, false);
+    EXPECT_EQ(store.GetVarDim("Surplus", 300, 1), 4.0);
+    EXPECT_TRUE(store.CompareWithWorkCopy().empty());
+}
+
 TEST_F(ProjectStoreTest, ACellThatTheBoundsNameMustBeThere) {
     TestHome other;
     std::filesystem::copy_file(other / "kvrwork.tpl", other / "kvrwork.tmp");
