@@ -34,6 +34,10 @@ void ModelDriver::Save() { program_.Save(); }
 void ModelDriver::SaveAs(const std::string& path) { program_.SaveAs(path); }
 void ModelDriver::ChooseUnits(bool metric) { program_.ChooseUnits(metric); }
 
+std::optional<std::string> ModelDriver::Undo() { return program_.Undo(); }
+
+std::optional<std::string> ModelDriver::Redo() { return program_.Redo(); }
+
 CellReport ModelDriver::Get(const CellKey& key) {
     const ProjectStore& store = program_.state().dbWork;
     const CellValue* cell = store.FindCell(key.name, key.dim1, key.dim2);

@@ -24,6 +24,8 @@ class ModelDriver : public Driver {
     void Save() override;
     void SaveAs(const std::string& path) override;
     void ChooseUnits(bool metric) override;
+    std::optional<std::string> Undo() override;
+    std::optional<std::string> Redo() override;
     CellReport Get(const CellKey& key) override;
     void Set(const CellKey& key, const std::string& value) override;
     DisplayReport Show(const CellKey& key) override;

@@ -144,6 +144,11 @@ bool FormView::Filter(const Control& control, QEvent& event) {
             return control.grid ? HandleGridKey(control, static_cast<QKeyEvent&>(event))
                                 : HandleKey(static_cast<QKeyEvent&>(event));
         case QEvent::ShortcutOverride:
+            // A box must not keep the keys of Undo and Redo to itself: the Edit menu has them.
+            if (IsTravelKey(static_cast<QKeyEvent&>(event))) {
+                event.ignore();
+                return true;
+            }
             if (IsAccessKey(static_cast<QKeyEvent&>(event))) event.accept();
             return event.isAccepted() && IsAccessKey(static_cast<QKeyEvent&>(event));
         case QEvent::MouseButtonPress:

@@ -65,6 +65,7 @@ class FormView : public QWidget {
     void CloseCellEditor(const Control& control);
     bool HandleTabKey(const QKeyEvent& key);
     void NoteKeyRelease(const QKeyEvent& key);
+    [[nodiscard]] static bool IsTravelKey(const QKeyEvent& key);
     [[nodiscard]] bool IsAccessKey(const QKeyEvent& key) const;
 
     /// Asks the model for the focus. True if the control has it then.

@@ -70,6 +70,11 @@ bool IsPlain(const QKeyEvent& key) {
 
 }  // namespace
 
+bool FormView::IsTravelKey(const QKeyEvent& key) {
+    return key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo) ||
+           (key.key() == Qt::Key_Y && key.modifiers() == Qt::ControlModifier);
+}
+
 bool FormView::IsAccessKey(const QKeyEvent& key) const {
     if (!key.modifiers().testFlag(Qt::AltModifier) || key.key() > Qt::Key_Z) return false;
     return form_->FindAccessKey(static_cast<char>(key.key())) != nullptr;

@@ -43,7 +43,7 @@ QAction* MenuBar::AddEntry(QMenu& menu, const MenuEntry& entry) {
     QAction* action = menu.addAction(ToQt(entry.caption));
     action->setObjectName(ActionName(entry));
     action->setCheckable(entry.checkable);
-    if (!entry.shortcut.empty()) action->setShortcut(QKeySequence::fromString(ToQt(entry.shortcut)));
+    if (!entry.shortcut.empty()) action->setShortcuts(QKeySequence::listFromString(ToQt(entry.shortcut)));
     connect(action, &QAction::triggered, this, [this, name = entry.name, index = entry.index] {
         door_.Raise({UserEvent::Kind::Menu, name, {}, index});
         Sync();
@@ -77,7 +77,7 @@ void MenuBar::SyncEntry(QAction& action, const MenuEntry& entry) {
     if (entry.IsSeparator()) return;
     action.setText(CaptionOf(entry));
     action.setToolTip(entry.comesLater ? QString::fromLatin1(kComesLater) : ToQt(entry.toolTip));
-    action.setEnabled(!entry.comesLater);
+    action.setEnabled(entry.enabled && !entry.comesLater);
     action.setChecked(entry.checked);
 }
 

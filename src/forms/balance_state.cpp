@@ -67,6 +67,7 @@ void SolveForField(ScreenContext& context, Form& form, const Field& field) {
     }
     ClampToRange(context, field.name);
     context.bProjectChanged = true;
+    context.act = "Solve For";
     ShowSolvedField(context, form, field);
     RecalcOutputs(context, form, "", 0);
     if (const auto flag = form.type().equations[equation].flag) context.balance.Set(*flag, true);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "forms/act_name.h"
 #include "forms/coded_list.h"
 #include "forms/indicator.h"
 #include "forms/recalculation.h"
@@ -90,6 +91,7 @@ void StoreField(ScreenContext& context, Form& form, Control& control) {
         context.units.SetDisplayValue(control.tag, form.dim1().value_or(1), form.dim2().value_or(1),
                                       control.text);
     }
+    context.act = ChangeOf(context, control.tag);
     RecalcOutputs(context, form, control.tag, 0);
     if (IsInEquation(context, form, control)) WarnOfChange(context, form, control.tag);
 }
@@ -139,6 +141,7 @@ bool FieldLostFocus(ScreenContext& context, Form& form, Control& control) {
         context.calc.dialogs.ShowMessage({.text = "Please enter valid numeric value.", .title = "Value"});
         if (form.fieldChanged()) context.bProjectChanged = true;
         EmptyCell(context, form, control);
+        context.act = ChangeOf(context, control.tag);
         if (IsInEquation(context, form, control)) WarnOfChange(context, form, control.tag);
         return Refuse(form, control);
     }

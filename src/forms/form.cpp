@@ -109,6 +109,11 @@ void Form::SetText(std::string_view name, std::string text) {
 
 bool Form::fieldChanged() const { return Val(TextOf(kFieldChanged)) != 0.0; }
 
+bool Form::IsTyping() const {
+    if (focus == nullptr) return false;
+    return focus->grid ? focus->grid->typed.has_value() : focus->IsField() && fieldChanged();
+}
+
 void Form::SetFieldChanged(bool changed) { SetText(kFieldChanged, changed ? kTrue : kFalse); }
 
 std::optional<int> Form::dim2() const { return ParseSubscript(TextOf("Dim2")); }

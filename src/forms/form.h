@@ -21,6 +21,8 @@ enum class SolveState { Resting = 0, Warning = 1, Solved = 2 };
 struct EquationState {
     SolveState state = SolveState::Resting;
     std::string solvedFor;  // the variable that the indicator shows
+
+    friend bool operator==(const EquationState&, const EquationState&) = default;
 };
 
 /// What a side screen tells the form it was opened from when it closes.
@@ -108,6 +110,9 @@ class Form : public FormState {
     /// True while the field in focus has been typed in since it got the focus.
     [[nodiscard]] bool fieldChanged() const;
     void SetFieldChanged(bool changed);
+
+    /// True while something is being typed that is not stored yet.
+    [[nodiscard]] bool IsTyping() const;
 
     /// The page of the tab strip that shows, from 0; 0 on a form without one.
     [[nodiscard]] int page() const { return page_; }

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "forms/act_name.h"
 #include "forms/balance_state.h"
 #include "forms/coded_list.h"
 #include "forms/field_entry.h"
@@ -241,6 +242,16 @@ void FormEvents::Press(Form& form, Control& button) {
     if (MoveFocus(form, button)) Click(form, button);
 }
 
+/// What else the form does on a click names itself.
+void FormEvents::NameClick(const Control& control) {
+    const bool common = EqualNoCase(control.name, kOkButton) || EqualNoCase(control.name, kHelpButton);
+    if (control.IsChoice()) {
+        context_.act = "choice of " + PlainCaption(control.text);
+    } else if (context_.act.empty() && control.IsButton() && !common) {
+        context_.act = PlainCaption(control.text);
+    }
+}
+
 void FormEvents::Click(Form& form, Control& control) {
     if (control.kind == ControlKind::OptionButton) {
         for (const auto& other : form.controls()) {
@@ -251,6 +262,7 @@ void FormEvents::Click(Form& form, Control& control) {
     } else if (control.kind == ControlKind::CheckBox) {
         control.value = !control.value;
     }
+    NameClick(control);
     Handle(FormEvent::Click, form, &control, [&] {
         if (const auto equation = EquationOfButton(form, control)) SolveForClick(context_, form, *equation);
         if (EqualNoCase(control.name, kOkButton)) Close(form);
@@ -288,6 +300,16 @@ void FormEvents::ShowProject(Form& form) {
         if (control->IsField()) control->text.clear();
     }
     form.SetFieldChanged(false);
+}
+
+void FormEvents::ShowAnew(Form& form) {
+    Form* const current = Current();
+    Control* const focus = form.focus;
+    NoteCurrentCell(form);
+    Handle(FormEvent::Activate, form, nullptr, [&] { LoadScreen(context_, form); });
+    if (form.focus != focus && focus != nullptr && form.CanFocus(*focus)) GetFocus(form, *focus);
+    context_.forms.CurrentForm = current;
+    if (current != nullptr) NoteCurrentCell(*current);
 }
 
 // --- Units ------------------------------------------------------------------------------------------------

@@ -80,6 +80,13 @@ class FormEvents {
     /// open, none.
     void ShowProject(Form& form);
 
+    /// Shows what the open project holds now on a form that is open: as when it comes in front, but it stays
+    /// where it is, and the focus with it.
+    void ShowAnew(Form& form);
+
+    /// Puts the stored value back into the control in focus. False if nothing was being typed there.
+    bool DropTyping();
+
     /// Rewrites the current form after a switch of the unit system.
     void AfterUnitSwitch();
 
@@ -105,6 +112,7 @@ class FormEvents {
     void TakeReturn(Form& form, const SideScreenReturn& returned);
     void FocusFirstField(Form& form);
     void ActivateFront();
+    void NameClick(const Control& control);
     void Click(Form& form, Control& control);
     void WorkOut(Form& form, const std::string& variable);
     void TypeCharacter(Form& form, const std::string& character);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/act_name.h"
 #include "forms/cell_block.h"
 #include "forms/coded_list.h"
 #include "forms/form_events.h"
@@ -135,7 +136,9 @@ bool FormEvents::PasteCells(Form& form, const std::string& block) {
         const bool single = lines.size() == 1 && lines.front().size() == 1;
         context_.calc.dialogs.ShowMessage(single ? plan.first->reason : LeftOutMessage(plan));
     }
-    NoteRowsWritten(form, *control, RowsOf(plan.cells));
+    const std::vector<int> rows = RowsOf(plan.cells);
+    context_.act = CountOf("paste", rows.size(), form.type().rowName);
+    NoteRowsWritten(form, *control, rows);
     return true;
 }
 
@@ -150,6 +153,7 @@ bool FormEvents::EmptyCells(Form& form, const CellRange& range) {
     }
     const std::vector<CellEntry> cells = FilledCells(context_, form, *control->grid, range);
     WriteCells(form, *control, cells);
+    context_.act = CountOf("emptying", cells.size(), "cell");
     GridAfterColUpdate(form);
     NoteRowsWritten(form, *control, RowsOf(cells));
     return true;

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/act_name.h"
 #include "forms/coded_list.h"
 #include "forms/form_events.h"
 #include "forms/grid_entry.h"
@@ -55,6 +56,7 @@ bool FormEvents::StoreCell(Form& form, Control& control, const std::string& text
     const GridColumn& column = control.grid->current();
     const int row = control.grid->row;
     if (!GridBeforeColUpdate(context_, form, column, text)) return false;
+    context_.act = ChangeOf(context_, column.variable, row);
     WriteCells(form, control, {{row, control.grid->column, text}});
     GridAfterColUpdate(form);
     NoteRowsWritten(form, control, {row});
@@ -96,6 +98,7 @@ bool FormEvents::DeleteRow(Form& form, int row) {
     } else {
         return true;
     }
+    context_.act = "deletion of " + form.type().rowName + " " + std::to_string(row);
     Handle(FormEvent::RowDeleted, form, control, [&] {
         RecalcAllOutputs(context_, form);
         RecalcOutputs(context_, form, "", 0);

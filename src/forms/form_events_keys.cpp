@@ -133,6 +133,13 @@ bool FormEvents::NamedKey(Form& form, const std::string& key) {
 }
 
 /// Drops what was typed and not yet stored.
+bool FormEvents::DropTyping() {
+    Form* form = Current();
+    if (form == nullptr || !form->IsTyping()) return false;
+    Restore(*form);
+    return true;
+}
+
 void FormEvents::Restore(Form& form) {
     if (form.focus == nullptr) return;
     if (form.focus->grid) {

@@ -100,11 +100,12 @@ struct FormType {
     std::vector<FormEquation> equations;  // in the order of their terms
     std::vector<HelpRoute> helpRoutes;    // any other field has the general help
     StatusLine (*governs)(const ScreenContext& context) =
-        nullptr;               // what decides its result, from the stored cells: shown on the label GOVERNS
-    bool modal = false;        // while it is open, the user works in it alone
-    bool isHelp = false;       // helps with one field of another form; Esc closes it
-    bool needsProject = true;  // it shows values of the project, and works on nothing else
-    bool isHub = false;        // the form with the tabs: always open, and Enter selects its options
+        nullptr;  // what decides its result, from the stored cells: shown on the label GOVERNS
+    std::string rowName = "row";  // what a row of its grid holds, in the singular: "test"
+    bool modal = false;           // while it is open, the user works in it alone
+    bool isHelp = false;          // helps with one field of another form; Esc closes it
+    bool needsProject = true;     // it shows values of the project, and works on nothing else
+    bool isHub = false;           // the form with the tabs: always open, and Enter selects its options
 };
 
 }  // namespace kelvor

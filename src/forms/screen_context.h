@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "calc/calc_context.h"
 #include "calc/dispatch.h"
 #include "catalogue/catalogue.h"
@@ -21,6 +23,8 @@ struct ScreenContext {
     bool& bProjectChanged;
     ListDatabase& lists;
     FormValues& values;  // what the calculations may know of the current form
+    std::string& act;    // what the event does, in the user's words ("change of Reliability"), for Undo; the
+                         // routine that names it last is right, and an event that only looks has none
 };
 
 }  // namespace kelvor

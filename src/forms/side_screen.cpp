@@ -1,5 +1,7 @@
 #include "forms/side_screen.h"
 
+#include "forms/act_name.h"
+
 namespace kelvor {
 
 namespace {
@@ -32,7 +34,10 @@ bool IsSameValue(const CellValue& one, const CellValue& other) {
 
 void ReturnFromSideScreen(ScreenContext& context, const Form& sideScreen, bool valueTaken) {
     context.calc.store.SetVar("FieldChanged", valueTaken ? kTrue : 0.0);
-    if (valueTaken) context.bProjectChanged = true;
+    if (valueTaken) {
+        context.bProjectChanged = true;
+        context.act = ChangeOf(context, sideScreen.TextOf("FieldName"), sideScreen.dim1().value_or(0));
+    }
     Form* caller = context.forms.Find(sideScreen.TextOf("FormName"));
     if (caller == nullptr) return;
     caller->returned =

@@ -22,6 +22,7 @@ EventScope::EventScope(ProcessState& state, bool& running)
       forms_(ImageOfOpenForms(state.formRegistry)),
       marks_(TakeMarks()) {
     running_ = true;
+    state_.act.clear();
     state_.dbWork.BeginEvent();
 }
 

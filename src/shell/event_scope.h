@@ -19,7 +19,6 @@ class EventScope {
     /// what was written since then and the forms opened since then go.
     void Undo();
 
-  private:
     /// What a fault takes back, beside cells and forms.
     struct Marks {
         BalanceFlags balance;
@@ -29,9 +28,15 @@ class EventScope {
         FormValues formValues;
     };
 
-    [[nodiscard]] Marks TakeMarks() const;
+    /// The marks and the open forms as the event found them.
+    [[nodiscard]] const Marks& marks() const { return marks_; }
+    [[nodiscard]] const FormRegistry::Image& forms() const { return forms_; }
 
+    /// False once the event has opened another project, or this one anew.
     [[nodiscard]] bool HasSameProject() const;
+
+  private:
+    [[nodiscard]] Marks TakeMarks() const;
 
     ProcessState& state_;
     bool& running_;

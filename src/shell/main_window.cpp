@@ -38,13 +38,26 @@ MenuEntry RecentEntry(const ProcessState& state, int position) {
     return entry;
 }
 
+/// Undo, or Redo, with the name of what it would take back or do again.
+MenuEntry EditEntry(const char* name, const std::string& caption, const char* shortcut,
+                    const std::string* act) {
+    MenuEntry entry{"MenuEdit", name, act == nullptr ? caption : caption + " " + AsCaption(*act)};
+    entry.shortcut = shortcut;
+    entry.enabled = act != nullptr;
+    return entry;
+}
+
 }  // namespace
 
 std::vector<MenuTitle> MenuTitles() {
-    return {{"MenuFile", "&File"}, {"MenuUnits", "&Units"}, {"MenuWindow", "&Window"}, {"MenuHelp", "&Help"}};
+    return {{"MenuFile", "&File"},
+            {"MenuEdit", "Ed&it"},
+            {"MenuUnits", "&Units"},
+            {"MenuWindow", "&Window"},
+            {"MenuHelp", "&Help"}};
 }
 
-std::vector<MenuEntry> MenuEntries(const ProcessState& state) {
+std::vector<MenuEntry> MenuEntries(const ProcessState& state, const UndoNames& names) {
     const bool metric = state.units && state.units->bMetric();
     // New and Open have no key of their own: they drop an unnamed project without a question.
     std::vector<MenuEntry> entries = {
@@ -59,6 +72,8 @@ std::vector<MenuEntry> MenuEntries(const ProcessState& state) {
     const std::vector<MenuEntry> others = {
         Separator("BreakLine2", true),
         {"MenuFile", "MenuFileExit", "E&xit", false, "Ctrl+Q"},
+        EditEntry("MenuEditUndo", "&Undo", "Ctrl+Z", names.undo),
+        EditEntry("MenuEditRedo", "&Redo", "Ctrl+Shift+Z; Ctrl+Y", names.redo),
         {"MenuUnits", "MenuUnitsEnglish", "&English", false, "", true, !metric},
         {"MenuUnits", "MenuUnitsMetric", "&Metric", false, "", true, metric},
         {"MenuHelp", "MenuAbout", "A&bout Kelvor"},

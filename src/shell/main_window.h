@@ -15,12 +15,13 @@ struct MenuEntry {
     std::string name;
     std::string caption;  // `&` before the letter of its access key; empty: a separator
     bool comesLater = false;
-    std::string shortcut = {};  // a key that chooses it without the menu
+    std::string shortcut = {};  // the keys, parted by ";", that choose it without the menu
     bool checkable = false;
     bool checked = false;
     int index = 0;  // of entries that share a name
     bool visible = true;
     std::string toolTip = {};
+    bool enabled = true;
 
     [[nodiscard]] bool IsSeparator() const { return caption.empty(); }
 };
@@ -33,9 +34,15 @@ struct MenuTitle {
 
 std::vector<MenuTitle> MenuTitles();
 
+/// What Undo and Redo would do next; null: nothing.
+struct UndoNames {
+    const std::string* undo = nullptr;
+    const std::string* redo = nullptr;
+};
+
 /// The entries of all menus, with the unit system that is active checked and the recent projects by their
 /// position; always the same entries in the same order, of which some are not visible.
-std::vector<MenuEntry> MenuEntries(const ProcessState& state);
+std::vector<MenuEntry> MenuEntries(const ProcessState& state, const UndoNames& names);
 
 /// The caption of an entry of the hidden menu, Sub1 to Sub5: the name of the screen that it builds. Nothing
 /// for any other name.

@@ -49,6 +49,7 @@ struct ProcessState {
     std::optional<Units> units;             // holds bMetric
 
     std::string sIniFile;
+    int projects = 0;          // counts them: each New and each Open is another one
     std::string sProjectFile;  // full path of the open project; empty for an unnamed one
     std::string caption;       // of the main window
     bool bProjectChanged = false;
@@ -58,6 +59,8 @@ struct ProcessState {
     ReliabilityState reliability;
     FormValues formValues;
     Dispatch calculations;
+
+    std::string act;  // of the event under way; see ScreenContext
 
     FormRegistry formRegistry;  // holds CurrentForm
     BalanceFlags balance;

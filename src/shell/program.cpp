@@ -1,6 +1,9 @@
 #include "shell/program.h"
 
+#include <utility>
+
 #include "design/screens/design_forms.h"
+#include "forms/act_name.h"
 #include "forms/declaration_check.h"
 #include "forms/equation_lines.h"
 #include "forms/field_help.h"
@@ -22,6 +25,8 @@ namespace kelvor {
 namespace {
 
 constexpr int kNotSolved = -1;  // as SolveForVariable tells it
+
+constexpr const char* kTyping = "typing";  // what Undo drops before it takes a step back
 
 }  // namespace
 
@@ -50,7 +55,12 @@ StartResult Program::Start(const std::string& commandLine) {
     return result;
 }
 
-std::vector<MenuEntry> Program::Menus() const { return MenuEntries(state_); }
+std::vector<MenuEntry> Program::Menus() const {
+    static const std::string kTypingAct = kTyping;
+    const Form* form = state_.formRegistry.CurrentForm;
+    const bool typing = form != nullptr && form->IsTyping();
+    return MenuEntries(state_, {typing ? &kTypingAct : history_.NextUndo(), history_.NextRedo()});
+}
 
 std::string Program::CellText(const Form& form, int row, const GridColumn& column) {
     return GridReadCell(state_.MakeScreenContext(), form, row, column);
@@ -72,11 +82,13 @@ bool Program::InEvent(const std::function<bool()>& action) {
     try {
         const bool made = action();
         EndOfEvent();
+        if (!std::exchange(travelled_, false)) history_.Record(state_, event);
         return made;
     } catch (const ProgramStop&) {
         throw;
     } catch (const std::exception& fault) {
         event.Undo();
+        travelled_ = false;
         ShowFault(fault.what());
         return false;
     }
@@ -213,6 +225,48 @@ bool Program::SwitchTab(int tab) {
     return true;
 }
 
+// --- Undo -----------------------------------------------------------------------------------------------
+
+std::optional<std::string> Program::Undo() {
+    std::optional<std::string> act;
+    InEvent([&] {
+        act = UndoLast();
+        return true;
+    });
+    return act;
+}
+
+std::optional<std::string> Program::Redo() {
+    std::optional<std::string> act;
+    InEvent([&] {
+        act = RedoLast();
+        return true;
+    });
+    return act;
+}
+
+/// False while a form in front keeps the user from all others.
+bool Program::MayTravel() const {
+    const Form* form = state_.formRegistry.CurrentForm;
+    return state_.dbWork.IsOpen() && (form == nullptr || !form->modal);
+}
+
+std::optional<std::string> Program::UndoLast() {
+    if (!MayTravel()) return std::nullopt;
+    ScreenContext context = state_.MakeScreenContext();
+    if (FormEvents(context).DropTyping()) return kTyping;
+    travelled_ = true;
+    return history_.Undo(state_);
+}
+
+std::optional<std::string> Program::RedoLast() {
+    if (!MayTravel()) return std::nullopt;
+    ScreenContext context = state_.MakeScreenContext();
+    FormEvents(context).DropTyping();
+    travelled_ = true;
+    return history_.Redo(state_);
+}
+
 // --- Units --------------------------------------------------------------------------------------------
 
 void Program::ChooseUnits(bool metric) {
@@ -229,6 +283,7 @@ void Program::SwitchUnits(bool metric) {
     if (!events.Commit()) return;
     state_.host.dialogs.SetWaitCursor(true);
     state_.units->SetMetric(metric);
+    state_.act = "switch of units";
     events.AfterUnitSwitch();
     state_.host.dialogs.SetWaitCursor(false);
 }
@@ -239,6 +294,7 @@ void Program::SetValue(std::string_view name, int dim1, int dim2, std::string_vi
     InEvent([&] {
         if (state_.dbWork.FindCell(name, dim1, dim2) == nullptr) return true;
         state_.units->SetDisplayValue(name, dim1, dim2, value);
+        state_.act = ChangeOf(state_.MakeScreenContext(), name);
         state_.bProjectChanged = true;
         return true;
     });
@@ -248,6 +304,7 @@ void Program::CalcField(std::string_view target, std::string_view key) {
     InEvent([&] {
         CalcContext context = state_.MakeCalcContext();
         state_.calculations.CalcField(context, target, key);
+        state_.act = "calculation of " + std::string(target);
         return true;
     });
 }
@@ -256,6 +313,7 @@ void Program::CalcCell(std::string_view target, int dim1, int dim2, std::string_
     InEvent([&] {
         CalcContext context = state_.MakeCalcContext();
         state_.calculations.CalcCell(context, target, dim1, dim2, key);
+        state_.act = "calculation of " + std::string(target);
         return true;
     });
 }
@@ -265,6 +323,7 @@ int Program::Solve(std::string_view screen, int term) {
     InEvent([&] {
         CalcContext context = state_.MakeCalcContext();
         result = state_.calculations.SolveForVariable(context, screen, term);
+        state_.act = "Solve For";
         if (result == 0 && state_.calculations.LastTerm(screen) > 0) state_.bProjectChanged = true;
         return true;
     });

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -9,6 +10,7 @@
 #include "shell/main_window.h"
 #include "shell/process_state.h"
 #include "shell/start_up.h"
+#include "shell/undo_history.h"
 #include "shell/user_event.h"
 
 namespace kelvor {
@@ -46,6 +48,11 @@ class Program {
     bool Save();
     bool SaveAs(const std::string& name);
 
+    /// The Edit menu: drops what is being typed, or else takes the last step back; does it again. What that
+    /// was, as in "change of Reliability"; nothing if there is nothing to undo or redo.
+    std::optional<std::string> Undo();
+    std::optional<std::string> Redo();
+
     /// The Units menu: a choice of the system that is active does nothing.
     void ChooseUnits(bool metric);
 
@@ -65,6 +72,9 @@ class Program {
     /// Does something as one event; while one runs, further ones are dropped. False after a fault.
     bool InEvent(const std::function<bool()>& action);
     void ShowFault(const std::string& reason);
+    std::optional<std::string> UndoLast();
+    std::optional<std::string> RedoLast();
+    [[nodiscard]] bool MayTravel() const;
 
     /// What every event brings to an end: the focus, and the lines that tell the truth about equations.
     void EndOfEvent();
@@ -93,6 +103,8 @@ class Program {
     bool ConfirmClose();
 
     ProcessState state_;
+    UndoHistory history_;
+    bool travelled_ = false;  // the event under way undoes or redoes: it is no step itself
     bool running_ = false;
     bool ended_ = false;
 };

@@ -27,7 +27,7 @@ bool Program::ChooseMenu(const std::string& name, int index) {
                (e.index == index || name != "mnuRecentFile");
     });
     if (entry == entries.end()) return false;
-    if (entry->comesLater) return true;
+    if (entry->comesLater || !entry->enabled) return true;
     const std::pair<const char*, std::function<void()>> actions[] = {
         {"NewProj", [&] { MakeNewProject(); }},
         {"MenuFileOpen", [&] { OpenProjectByDialog(); }},
@@ -35,6 +35,8 @@ bool Program::ChooseMenu(const std::string& name, int index) {
         {"MenuFileSaveAs", [&] { SaveByMenu(true); }},
         {"mnuRecentFile", [&] { OpenRecentFile(index); }},
         {kExit, [&] { Exit(); }},
+        {"MenuEditUndo", [&] { UndoLast(); }},
+        {"MenuEditRedo", [&] { RedoLast(); }},
         {"MenuUnitsEnglish", [&] { SwitchUnits(false); }},
         {"MenuUnitsMetric", [&] { SwitchUnits(true); }},
         {"MenuAbout", [&] { ShowAbout(); }},

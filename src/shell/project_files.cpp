@@ -60,6 +60,7 @@ void ProjectFiles::WriteWorkCopy(const std::string& content) {
         state_.host.files.Remove(file.string() + ending);
     }
     state_.host.files.Write(file, content);
+    ++state_.projects;
 }
 
 bool ProjectFiles::NewWorkCopy() {

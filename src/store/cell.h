@@ -22,4 +22,11 @@ struct CellKey {
     int dim2 = 1;
 };
 
+/// What a cell was, and what it has become.
+struct CellChange {
+    CellKey cell;
+    CellValue before;
+    CellValue after;
+};
+
 }  // namespace kelvor

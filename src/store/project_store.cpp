@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <tuple>
+#include <unordered_set>
 #include <utility>
 
 #include "platform/database_error.h"
@@ -293,6 +294,18 @@ void ProjectStore::EndEvent() {
         }
     }
     formers_.clear();
+}
+
+std::vector<CellChange> ProjectStore::EventChanges() const {
+    std::vector<CellChange> changes;
+    std::unordered_set<std::uint32_t> seen;
+    for (const Former& former : formers_) {
+        if (!seen.insert(former.index).second) continue;
+        const Cell& cell = cells_[former.index];
+        if (cell.value == former.value) continue;
+        changes.push_back({{variables_[cell.variable].name, cell.dim1, cell.dim2}, former.value, cell.value});
+    }
+    return changes;
 }
 
 void ProjectStore::UndoEvent() noexcept {

@@ -133,6 +133,10 @@ class ProjectStore {
     void BeginEvent() { inEvent_ = true; }
     void EndEvent();
 
+    /// What the open event has written so far: each cell that is not what it was, once, in the order of the
+    /// first write to it.
+    [[nodiscard]] std::vector<CellChange> EventChanges() const;
+
     /// Takes back what the open event has written, in memory and in the work copy, and ends the event.
     void UndoEvent() noexcept;
 

@@ -119,6 +119,18 @@ void WindowDriver::ChooseUnits(bool metric) {
     ChooseMenu(metric ? "MenuUnitsMetric" : "MenuUnitsEnglish", 0);
 }
 
+std::optional<std::string> WindowDriver::Undo() { return ChooseStep("MenuEditUndo"); }
+
+std::optional<std::string> WindowDriver::Redo() { return ChooseStep("MenuEditRedo"); }
+
+std::optional<std::string> WindowDriver::ChooseStep(const std::string& name) {
+    const QAction* entry = desktop_.window().FindAction(name, 0);
+    if (!desktop_.window().menuBar()->isEnabled() || !entry->isEnabled()) return std::nullopt;
+    QString act = entry->text().section(' ', 1);
+    ChooseMenu(name, 0);
+    return FromQt(act.replace("&&", "&"));
+}
+
 void WindowDriver::ClickEntry(QMenu& menu, QAction& entry) {
     QMenuBar* bar = desktop_.window().menuBar();
     if (!bar->isEnabled()) return;  // a form in front keeps it off

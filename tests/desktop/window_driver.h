@@ -27,6 +27,8 @@ class WindowDriver : public ModelDriver {
     void Save() override;
     void SaveAs(const std::string& path) override;
     void ChooseUnits(bool metric) override;
+    std::optional<std::string> Undo() override;
+    std::optional<std::string> Redo() override;
     void Set(const CellKey& key, const std::string& value) override;
     void Calc(const std::string& key, const std::string& target) override;
     void CalcCell(const std::string& key, int dim1, int dim2, const std::string& target) override;
@@ -54,6 +56,9 @@ class WindowDriver : public ModelDriver {
   private:
     /// Does to the model what no window does, and shows it. What goes wrong comes out here.
     void OnModel(const std::function<void()>& act);
+
+    /// Chooses an entry of the Edit menu, and gives what stood behind its first word.
+    std::optional<std::string> ChooseStep(const std::string& name);
 
     void ComeToFront();
     FormView& View();

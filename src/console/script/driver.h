@@ -56,6 +56,11 @@ class Driver {
     virtual void Save() = 0;
     virtual void SaveAs(const std::string& path) = 0;
     virtual void ChooseUnits(bool metric) = 0;
+
+    /// What was taken back or done again; nothing if there is nothing.
+    virtual std::optional<std::string> Undo() = 0;
+    virtual std::optional<std::string> Redo() = 0;
+
     virtual CellReport Get(const CellKey& key) = 0;
     virtual void Set(const CellKey& key, const std::string& value) = 0;
     virtual DisplayReport Show(const CellKey& key) = 0;

@@ -40,6 +40,10 @@ void JsonOutput::Display(const DisplayReport& display) {
     Print(stream_, {{"display", object}});
 }
 
+void JsonOutput::Step(const std::string& way, const std::optional<std::string>& act) {
+    Print(stream_, {{way, OrNull(act)}});
+}
+
 void JsonOutput::Solve(const std::string& screen, int term, int result) {
     Print(stream_, {{"solve", {{"screen", screen}, {"term", term}, {"result", result}}}});
 }

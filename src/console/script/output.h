@@ -15,6 +15,9 @@ class Output : public DialogObserver {
   public:
     virtual void Cell(const CellReport& cell) = 0;
     virtual void Display(const DisplayReport& display) = 0;
+
+    /// What `way`, undo or redo, took back or did again; nothing if there was nothing.
+    virtual void Step(const std::string& way, const std::optional<std::string>& act) = 0;
     virtual void Solve(const std::string& screen, int term, int result) = 0;
     virtual void Property(const std::string& control, const std::string& property,
                           const PropertyValue& value) = 0;
@@ -32,6 +35,7 @@ class JsonOutput : public Output {
 
     void Cell(const CellReport& cell) override;
     void Display(const DisplayReport& display) override;
+    void Step(const std::string& way, const std::optional<std::string>& act) override;
     void Solve(const std::string& screen, int term, int result) override;
     void Property(const std::string& control, const std::string& property,
                   const PropertyValue& value) override;
@@ -55,6 +59,7 @@ class PlainOutput : public Output {
 
     void Cell(const CellReport& cell) override;
     void Display(const DisplayReport& display) override;
+    void Step(const std::string& way, const std::optional<std::string>& act) override;
     void Solve(const std::string& screen, int term, int result) override;
     void Property(const std::string& control, const std::string& property,
                   const PropertyValue& value) override;

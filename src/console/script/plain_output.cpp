@@ -40,6 +40,10 @@ void PlainOutput::Display(const DisplayReport& display) {
     stream_ << '\n';
 }
 
+void PlainOutput::Step(const std::string& way, const std::optional<std::string>& act) {
+    stream_ << way << ": " << act.value_or("nothing") << '\n';
+}
+
 void PlainOutput::Solve(const std::string& screen, int term, int result) {
     stream_ << "solve " << screen << " " << term << ": " << (result == 0 ? "done" : "not solved") << " ("
             << result << ")\n";

@@ -147,6 +147,8 @@ constexpr std::array kCommands = {
     Command{"open", 1, 1, [](const Context& c) { c.driver.Open(c.arguments[0]); }},
     Command{"save", 0, 1, Save},
     Command{"units", 1, 1, ChooseUnits},
+    Command{"undo", 0, 0, [](const Context& c) { c.output.Step("undo", c.driver.Undo()); }},
+    Command{"redo", 0, 0, [](const Context& c) { c.output.Step("redo", c.driver.Redo()); }},
     Command{"get", 1, 3, [](const Context& c) { c.output.Cell(c.driver.Get(c.arguments.Cell())); }},
     Command{"set", 2, 4, Set},
     Command{"show", 1, 3, [](const Context& c) { c.output.Display(c.driver.Show(c.arguments.Cell())); }},

@@ -195,7 +195,7 @@ TEST_F(ProjectStoreTest, ClosingLeavesNoFileBesideTheWorkCopy) {
 TEST_F(ProjectStoreTest, ItLoadsTheSameByItsBoundsAndByItsRows) {
     TestHome other;
     std::filesystem::copy_file(other / "kvrwork.tpl", other / "kvrwork.tmp");
-    const std::vector<CellBounds>& bounds = program_.state().projectBounds;
+    const std::vector<CellBounds>& bounds = program_.program.state().projectBounds;
     const auto filled = [](const ProjectStore& store) {
         std::vector<std::pair<std::string, CellValue>> cells;
         store.ForEachFilled([&](const CellKey& key, const CellValue& value) {
@@ -228,7 +228,7 @@ TEST_F(ProjectStoreTest, AValueThatStandsOutsideTheBoundsIsLoadedAllTheSame) {
         SQLite::Database database = OpenDatabase(other / "kvrwork.tmp", DatabaseAccess::ReadWrite);
         database.exec("UPDATE Project SET Name = 'Surplus', RValue = 4 WHERE Name = 'NDTRM' AND Dim1 = 300");
     }
-    std::vector<CellBounds> bounds = program_.state().projectBounds;
+    std::vector<CellBounds> bounds = program_.program.state().projectBounds;
     for (CellBounds& variable : bounds) {
         if (variable.name == "SN") variable.dim1 = 2;  // as many cells as rows, but others
         if (variable.name == "NDTRM") variable.dim1 = 299;

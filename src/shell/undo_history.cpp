@@ -1,0 +1,306 @@
+#include "shell/undo_history.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <tuple>
+#include <utility>
+
+#include "forms/form_events.h"
+#include "forms/indicator.h"
+#include "forms/recalculation.h"
+#include "forms/side_screen.h"
+#include "shell/hub/hub.h"
+
+namespace kelvor {
+
+namespace {
+
+/// So many steps are kept at least; beyond them the oldest go when the cells of all grow too many.
+constexpr std::size_t kLeastSteps = 1'000;
+constexpr std::size_t kMostCells = 400'000;
+
+/// Cells by which the program remembers how it stands, not what the user has entered.
+constexpr std::array<std::string_view, 2> kBookkeeping = {"FieldChanged", "MetricMode"};
+
+bool IsBookkeeping(const CellChange& change) {
+    return std::any_of(kBookkeeping.begin(), kBookkeeping.end(),
+                       [&](std::string_view name) { return EqualNoCase(change.cell.name, name); });
+}
+
+using Place = std::tuple<std::string, int, int>;
+
+Place PlaceOf(const CellChange& change) { return {change.cell.name, change.cell.dim1, change.cell.dim2}; }
+
+/// One change of each cell out of two that follow each other.
+std::vector<CellChange> Compose(const std::vector<CellChange>& first, std::vector<CellChange> second) {
+    if (first.empty()) return second;
+    std::map<Place, CellChange> changes;
+    for (const CellChange& change : first) changes.emplace(PlaceOf(change), change);
+    for (CellChange& change : second) {
+        const auto [at, added] = changes.emplace(PlaceOf(change), change);
+        if (!added) at->second.after = std::move(change.after);
+    }
+    std::vector<CellChange> composed;
+    for (auto& [place, change] : changes) {
+        if (!(change.before == change.after)) composed.push_back(std::move(change));
+    }
+    return composed;
+}
+
+// --- Looks ------------------------------------------------------------------------------------------
+
+ControlLook LookOf(const Control& control) {
+    return {control.text,    control.backColor, control.foreColor, control.enabled,
+            control.visible, control.locked,    control.value,     control.bold};
+}
+
+/// A box and a unit show what the cells and the unit system say.
+bool ShowsItsOwnText(const Control& control) {
+    const bool unit = control.kind == ControlKind::Label && control.tag.starts_with('u');
+    return control.kind != ControlKind::TextBox && !unit;
+}
+
+void TakeOn(Control& control, const ControlLook& look) {
+    if (ShowsItsOwnText(control)) control.text = look.text;
+    control.backColor = look.backColor;
+    control.foreColor = look.foreColor;
+    control.enabled = look.enabled;
+    control.visible = look.visible;
+    control.locked = look.locked;
+    control.value = look.value;
+    control.bold = look.bold;
+}
+
+FormLook Compare(const Form& form, const Form::Image& before) {
+    FormLook look{form.name(), form.dim2(), before.state.equations, form.equations, {}};
+    const std::size_t count = std::min(before.controls.size(), form.controls().size());
+    for (std::size_t i = 0; i < count; ++i) {
+        ControlLook then = LookOf(before.controls[i]);
+        ControlLook now = LookOf(*form.controls()[i]);
+        if (!(then == now)) look.controls.push_back({i, std::move(then), std::move(now)});
+    }
+    return look;
+}
+
+std::vector<FormLook> CompareForms(const FormRegistry& forms, const FormRegistry::Image& before) {
+    std::vector<FormLook> looks;
+    const std::vector<Form*>& open = forms.InOpeningOrder();
+    for (const auto& [form, image] : before.stack) {
+        if (std::find(open.begin(), open.end(), form) == open.end()) continue;
+        FormLook look = Compare(*form, image);
+        if (!look.controls.empty() || look.equationsBefore != look.equationsAfter)
+            looks.push_back(std::move(look));
+    }
+    return looks;
+}
+
+/// The screen in which an event took place: one that the user can be brought back to.
+const Form* ScreenOf(const ProcessState& state, const EventScope& event) {
+    const std::vector<Form*>& open = state.formRegistry.InOpeningOrder();
+    const Form* const before = event.forms().current;
+    const bool stays = std::find(open.begin(), open.end(), before) != open.end();
+    const bool serves = stays && (before->modal || before->type().isHelp);
+    return stays && !serves ? before : state.formRegistry.CurrentForm;
+}
+
+// --- Travelling ---------------------------------------------------------------------------------------
+
+/// Puts the cells where they are to be, and holds them there against what screens work out when they show.
+class CellTargets {
+  public:
+    CellTargets(ProjectStore& store, const std::vector<CellChange>& changes, bool back) : store_(store) {
+        for (const CellChange& change : changes)
+            targets_.emplace(PlaceOf(change), back ? change.before : change.after);
+    }
+
+    /// True if a cell was not where it is to be.
+    bool Hold() {
+        bool moved = false;
+        for (const auto& [place, value] : targets_) moved = Put(place, value) || moved;
+        for (const CellChange& change : store_.EventChanges()) {
+            if (!targets_.contains(PlaceOf(change))) moved = Put(PlaceOf(change), change.before) || moved;
+        }
+        return moved;
+    }
+
+  private:
+    bool Put(const Place& place, const CellValue& value) {
+        const auto& [name, dim1, dim2] = place;
+        const CellValue* cell = store_.FindCell(name, dim1, dim2);
+        if (cell == nullptr || *cell == value) return false;
+        store_.SetCell(name, dim1, dim2, value);
+        return true;
+    }
+
+    ProjectStore& store_;
+    std::map<Place, CellValue> targets_;
+};
+
+/// The indicators of the open forms at one moment: a screen that only shows other values keeps what its
+/// indicators say.
+class KeptIndicators {
+  public:
+    explicit KeptIndicators(const FormRegistry& forms) {
+        for (Form* form : forms.InOpeningOrder()) kept_.push_back({form, form->dim2(), form->equations, {}});
+        for (Kept& kept : kept_) {
+            for (std::size_t i = 0; i < kept.equations.size(); ++i) {
+                if (Control* indicator = IndicatorLabel(*kept.form, i))
+                    kept.looks.emplace_back(indicator, LookOf(*indicator));
+            }
+        }
+    }
+
+    /// On the forms that are still open and show the same slice.
+    void PutBack(const FormRegistry& forms) {
+        const std::vector<Form*>& open = forms.InOpeningOrder();
+        for (const Kept& kept : kept_) {
+            if (std::find(open.begin(), open.end(), kept.form) == open.end()) continue;
+            if (kept.form->dim2() != kept.dim2) continue;
+            kept.form->equations = kept.equations;
+            for (const auto& [indicator, look] : kept.looks) TakeOn(*indicator, look);
+        }
+    }
+
+  private:
+    struct Kept {
+        Form* form;
+        std::optional<int> dim2;
+        std::vector<EquationState> equations;
+        std::vector<std::pair<Control*, ControlLook>> looks;
+    };
+
+    std::vector<Kept> kept_;
+};
+
+void BringToFront(ScreenContext& context, const UndoStep& step) {
+    const FormType* type = context.forms.FindType(step.form);
+    Form* open = context.forms.Find(step.form);
+    // A form that serves another one is not opened for itself.
+    if (type == nullptr || (open == nullptr && (type->modal || type->isHelp))) return;
+    FormEvents events(context);
+    if (type->isHub && open != nullptr) {
+        events.Activate(*open);
+        if (open->page() != step.page) EnterHubTab(context, *open, static_cast<HubTab>(step.page));
+    } else if (open != nullptr && open->dim2() == step.dim2) {
+        events.Activate(*open);
+    } else if (context.catalogue.FindScreen(type->tag) != nullptr || open != nullptr) {
+        events.Open({.form = step.form, .dim2 = step.dim2});
+    }
+}
+
+void TakeOnLooks(FormRegistry& forms, const std::vector<FormLook>& looks, bool back) {
+    for (const FormLook& look : looks) {
+        Form* form = forms.Find(look.form);
+        if (form == nullptr || form->dim2() != look.dim2) continue;
+        form->equations = back ? look.equationsBefore : look.equationsAfter;
+        for (const FormLook::Difference& difference : look.controls) {
+            if (difference.control >= form->controls().size()) continue;
+            TakeOn(*form->controls()[difference.control], back ? difference.before : difference.after);
+        }
+    }
+}
+
+}  // namespace
+
+// --- Recording ------------------------------------------------------------------------------------------
+
+void UndoHistory::Record(const ProcessState& state, const EventScope& event) {
+    if (std::exchange(project_, state.projects) != state.projects) {
+        *this = {};
+        project_ = state.projects;
+        return;
+    }
+    if (!event.HasSameProject()) return;  // saved: the same cells, opened anew
+    std::vector<CellChange> changes = state.dbWork.EventChanges();
+    if (changes.empty()) return;
+    if (state.act.empty() || std::all_of(changes.begin(), changes.end(), IsBookkeeping)) {
+        unnamed_ = Compose(unnamed_, std::move(changes));
+        return;
+    }
+    UndoStep step;
+    step.act = state.act;
+    if (const Form* screen = ScreenOf(state, event)) {
+        step.form = screen->name();
+        step.dim2 = screen->dim2();
+        step.page = screen->page();
+    }
+    step.metric = event.marks().metric;
+    step.metricAfter = state.units->bMetric();
+    step.cells = Compose(std::exchange(unnamed_, {}), std::move(changes));
+    step.balanceBefore = event.marks().balance;
+    step.balanceAfter = state.balance;
+    step.looks = CompareForms(state.formRegistry, event.forms());
+    Add(std::move(step));
+}
+
+void UndoHistory::Add(UndoStep step) {
+    for (; steps_.size() > done_; steps_.pop_back()) cells_ -= steps_.back().cells.size();
+    cells_ += step.cells.size();
+    steps_.push_back(std::move(step));
+    for (; steps_.size() > kLeastSteps && cells_ > kMostCells; steps_.pop_front())
+        cells_ -= steps_.front().cells.size();
+    done_ = steps_.size();
+}
+
+// --- Undoing and redoing --------------------------------------------------------------------------------
+
+const std::string* UndoHistory::NextUndo() const { return done_ == 0 ? nullptr : &steps_[done_ - 1].act; }
+
+const std::string* UndoHistory::NextRedo() const {
+    return done_ == steps_.size() ? nullptr : &steps_[done_].act;
+}
+
+std::optional<std::string> UndoHistory::Undo(ProcessState& state) {
+    if (done_ == 0) return std::nullopt;
+    UndoStep step = steps_[done_ - 1];
+    step.cells = Compose(step.cells, unnamed_);
+    Travel(state, step, Way::Back);
+    unnamed_.clear();
+    --done_;
+    cells_ += step.cells.size() - steps_[done_].cells.size();
+    steps_[done_] = std::move(step);
+    return steps_[done_].act;
+}
+
+std::optional<std::string> UndoHistory::Redo(ProcessState& state) {
+    if (done_ == steps_.size()) return std::nullopt;
+    // What was worked out since the step was taken back goes first, so that all is again as it was.
+    UndoStep step = steps_[done_];
+    for (CellChange& change : unnamed_) std::swap(change.before, change.after);
+    step.cells = Compose(unnamed_, std::move(step.cells));
+    Travel(state, step, Way::Forth);
+    unnamed_.clear();
+    return steps_[done_++].act;
+}
+
+void UndoHistory::Travel(ProcessState& state, const UndoStep& step, Way way) {
+    const bool back = way == Way::Back;
+    ScreenContext context = state.MakeScreenContext();
+    CellTargets targets(state.dbWork, step.cells, back);
+    KeptIndicators indicators(context.forms);
+    const bool metric = state.units->bMetric();
+    const bool ended = back ? step.metricAfter : step.metric;  // the unit system from which the step travels
+    state.units->SetMetric(back ? step.metric : step.metricAfter);
+    targets.Hold();
+    state.balance = back ? step.balanceBefore : step.balanceAfter;
+    BringToFront(context, step);
+    for (Form* form : std::vector<Form*>(context.forms.InOpeningOrder())) {
+        if (form->type().isHub || form->type().needsProject) FormEvents(context).ShowAnew(*form);
+    }
+    if (targets.Hold()) {
+        for (Form* form : context.forms.InOpeningOrder()) {
+            if (form->type().needsProject) RefreshScreen(context, *form);
+        }
+    }
+    state.balance = back ? step.balanceBefore : step.balanceAfter;
+    indicators.PutBack(context.forms);
+    TakeOnLooks(context.forms, step.looks, back);
+    state.bProjectChanged = true;
+    if (metric != ended) {  // the user has changed the unit system since, and keeps it
+        state.units->SetMetric(metric);
+        FormEvents(context).AfterUnitSwitch();
+    }
+}
+
+}  // namespace kelvor
