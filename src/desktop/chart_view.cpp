@@ -3,6 +3,7 @@
 #include <QAbstractBarSeries>
 #include <QChart>
 #include <QChartView>
+#include <QGraphicsLayout>
 #include <QPainter>
 
 #include "desktop/chart_drawing.h"
@@ -19,7 +20,13 @@ constexpr qreal kDarkest = 0.5;  // of a layer whose label is black
 /// A chart in the colours of the window, also after they have changed.
 class ChartView : public QChartView {
   public:
-    ChartView(const ChartData& sheet, QWidget* parent) : QChartView(new QChart, parent) { Show(sheet); }
+    ChartView(const ChartData& sheet, QWidget* parent) : QChartView(new QChart, parent) {
+        chart()->layout()->setContentsMargins(0, 0, 0, 0);
+        chart()->setBackgroundRoundness(0);
+        const int room = fontMetrics().averageCharWidth();
+        chart()->setMargins({room, room, room, room});
+        Show(sheet);
+    }
 
     void Show(const ChartData& sheet) {
         shown_ = sheet;

@@ -53,8 +53,10 @@ int BoxWidth(const Control& control, const QWidget& box) {
 
 QWidget* MakeTextBox(const Control& control, QWidget* parent) {
     auto* box = new QLineEdit(parent);
+    box->setFrame(!control.plain);
     box->setMinimumWidth(BoxWidth(control, *box));
-    box->setAlignment((IsTextPicture(control.picture) ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+    const bool isText = !control.plain && IsTextPicture(control.picture);
+    box->setAlignment((isText ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
     box->setMaxLength(kLongestText);
     box->setAcceptDrops(false);  // a text dropped on a field without the focus would be nobody's edit
     return box;
@@ -89,6 +91,11 @@ QWidget* MakeLabel(const Control& control, QWidget* parent) {
     if (IsIndicator(control)) return MakeIndicator(parent);
     auto* label = new QLabel(parent);
     label->setTextFormat(Qt::PlainText);
+    int width = 0;
+    for (const std::string& wording : control.wordings) {
+        width = std::max(width, label->fontMetrics().horizontalAdvance(PlainLabelText(wording)));
+    }
+    label->setMinimumWidth(width);
     return label;
 }
 

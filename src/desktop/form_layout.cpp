@@ -23,6 +23,7 @@ constexpr int kUnitLetters = 6;
 constexpr int kGridRows = 8;  // of a built screen, for its grid
 constexpr int kParagraphLetters = 84;
 constexpr double kStatementLetters = 36.0;  // about as wide as an indicator
+constexpr int kFigureSpacing = 2;  // between the rows of a matrix of figures
 constexpr double kHeadingScale = 2.4;
 
 /// The columns of a group of fields.
@@ -105,10 +106,12 @@ class LayoutMaker {
     void Add(QBoxLayout& to, const layout::Matrix& matrix) {
         auto* grid = new QGridLayout;
         grid->setHorizontalSpacing(form_.fontMetrics().averageCharWidth());
+        if (matrix.ofFigures) grid->setVerticalSpacing(kFigureSpacing);
         int columns = 0;
         for (const MatrixCell& place : matrix.cells) {
             auto* cell = new QVBoxLayout;
             AddCell(*cell, place.element);
+            if (matrix.ofFigures && place.column > 0) AlignRight(*cell);
             const Qt::Alignment side = place.rows > 1 ? Qt::AlignTop : Qt::Alignment();
             grid->addLayout(cell, place.row, place.column, place.rows, 1, side);
             columns = std::max(columns, place.column + 1);
@@ -116,6 +119,11 @@ class LayoutMaker {
         SetRowsApart(*grid);
         grid->setColumnStretch(columns, 1);
         to.addLayout(grid);
+    }
+
+    static void AlignRight(const QLayout& cell) {
+        auto* label = qobject_cast<QLabel*>(cell.itemAt(0)->widget());
+        if (label != nullptr) label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     }
 
     /// An option stands in the line of the box beside it.

@@ -49,6 +49,12 @@ int CellModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() || control_ == nullptr ? 0 : static_cast<int>(control_->grid->columns.size());
 }
 
+bool CellModel::HasLists() const {
+    const std::vector<GridColumn>& columns = control_->grid->columns;
+    return std::any_of(columns.begin(), columns.end(),
+                       [](const auto& column) { return !column.list.empty(); });
+}
+
 void CellModel::Refresh() {
     if (std::exchange(shownRows_, control_->grid->rows) != control_->grid->rows) {
         beginResetModel();
@@ -199,6 +205,7 @@ GridView::GridView(const Control& control, GridHooks hooks, QWidget* parent)
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setStretchLastSection(true);
     verticalHeader()->setSectionsClickable(false);
+    if (!cells_.HasLists()) verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() * 3 / 2);
     SizeColumns();
 }
 

@@ -48,6 +48,9 @@ class CellModel : public QAbstractTableModel {
         return control_->grid->columns[static_cast<std::size_t>(column)];
     }
 
+    /// True if a cell may be edited in a list, which needs more height than a line.
+    [[nodiscard]] bool HasLists() const;
+
   private:
     [[nodiscard]] std::string ShownText(const QModelIndex& index) const;
     [[nodiscard]] QString NoteOf(const QModelIndex& index) const;

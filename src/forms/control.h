@@ -115,20 +115,23 @@ struct Control {
     bool visible = true;
     bool locked = false;    // shows a value and takes none
     bool computed = false;  // of a box: its value is worked out, and has the colour of such values
+    bool plain = false;     // of a box: it has no frame, and shows a figure among others
     bool tabStop = true;
     bool value = false;  // of an option button or a check box
     bool bold = false;
     Colour backColor = colours::kButtonFace;
     Colour foreColor = colours::kWindowText;
-    char accessKey = '\0';          // pressed with Alt: moves the focus here, and clicks a button
-    std::string labelOf;            // of a caption: the control it describes
-    std::string unitOf;             // of a unit label: the box it stands behind
-    std::string worksOut;           // of a small button beside a field: the variable whose help it opens
-    bool onlyItems = false;         // of a list: it takes nothing but its items
-    bool coded = false;             // of a list: what is stored is the place of the word, from 1
-    std::vector<LetterWord> words;  // that a letter typed into a list stands for
-    double letters = 0.0;           // the width of a box or of a picture; 0: by its kind
-    int page = -1;                  // of the tab strip; -1: on every page
+    char accessKey = '\0';              // pressed with Alt: moves the focus here, and clicks a button
+    std::string labelOf;                // of a caption: the control it describes
+    std::string unitOf;                 // of a unit label: the box it stands behind
+    std::vector<std::string> wordings;  // of a label that names a unit: what it says in English and in
+                                        // metric units; it has room for both
+    std::string worksOut;               // of a small button beside a field: the variable whose help it opens
+    bool onlyItems = false;             // of a list: it takes nothing but its items
+    bool coded = false;                 // of a list: what is stored is the place of the word, from 1
+    std::vector<LetterWord> words;      // that a letter typed into a list stands for
+    double letters = 0.0;               // the width of a box or of a picture; 0: by its kind
+    int page = -1;                      // of the tab strip; -1: on every page
     int group = 0;  // of option buttons: one of a group is selected; the innermost frame or page
 
     /// Makes a box one that shows a value and takes none.

@@ -205,13 +205,17 @@ class Builder {
     void AddField(const FieldItem& item) {
         const Variable* variable = catalogue_.FindVariable(item.variable);
         const bool described = item.label.empty() && variable != nullptr;
-        AddLabelled(ControlKind::Label, item.Label(), described ? variable->desc : item.label).labelOf =
-            item.Box();
+        Control& label =
+            AddLabelled(ControlKind::Label, item.Label(), described ? variable->desc : item.label);
+        label.labelOf = item.Box();
+        if (!item.metricLabel.empty()) label.wordings = {item.label, item.metricLabel};
         Control& box = AddBox(item);
         if (!item.choice.empty()) AddChoice(item);
         Control& unit = Add(ControlKind::Label, item.Unit());
         unit.unitOf = item.Box();
         if (!item.variable.empty()) BindBox(box, unit, item.variable, variable);
+        if (const UnitPair* pair = catalogue_.FindPairByEnglish(unit.text))
+            unit.wordings = {pair->english, pair->metric};
     }
 
     Control& AddBox(const FieldItem& item) {
@@ -219,6 +223,7 @@ class Builder {
         Control& box = Add(list ? ControlKind::ComboBox : ControlKind::TextBox, item.Box());
         box.backColor = colours::kWindow;
         box.letters = item.letters;
+        box.plain = item.plain;
         if (!item.words.empty()) MakeCoded(box, item.words);
         if (item.computed || IsOutput(item.variable)) {
             box.LockAsComputed();

@@ -43,6 +43,8 @@ MatrixCell At(int row, int column, LayoutElement element, int rows) {
     return {row, column, std::move(element), rows};
 }
 
+LayoutElement Figures(std::vector<MatrixCell> cells) { return {layout::Matrix{std::move(cells), true}}; }
+
 LayoutElement Fields(std::vector<FieldItem> fields) { return {layout::Fields{std::move(fields)}}; }
 LayoutElement BareBox(FieldItem field) { return {layout::BareBox{std::move(field)}}; }
 LayoutElement LabelOf(const std::string& box) { return {layout::DetachedLabel{FieldLabelName(box)}}; }

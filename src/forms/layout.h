@@ -13,10 +13,12 @@ namespace kelvor {
 /// field without a variable is bound when its form opens; it names its controls.
 struct FieldItem {
     std::string variable = {};
-    std::string label = {};  // empty: the variable's description
+    std::string label = {};        // empty: the variable's description
+    std::string metricLabel = {};  // the label in metric units; empty: the same
     bool locked = false;
     bool list = false;           // a drop-down list instead of a text box
     bool computed = false;       // worked out by the form itself: locked, and looks like an output
+    bool plain = false;          // a figure among others: its box has no frame
     std::string box = {};        // the name of the box; empty: the variable's
     std::string labelName = {};  // of the label before the box; empty: FieldLabelName
     std::string unitName = {};   // of the unit behind it; empty: UnitLabelName
@@ -83,6 +85,7 @@ struct Frame {
 /// Elements in rows and columns.
 struct Matrix {
     std::vector<MatrixCell> cells;
+    bool ofFigures = false;  // its rows stand close, and its headings above the ends of the numbers
 };
 
 /// Label, box and unit of each field, in aligned columns.
@@ -226,6 +229,9 @@ LayoutElement Section(std::string name, std::string title, std::vector<LayoutEle
 /// Elements in rows and columns; each is put to its place by At.
 LayoutElement Matrix(std::vector<MatrixCell> cells);
 MatrixCell At(int row, int column, LayoutElement element, int rows = 1);
+
+/// A matrix of plain boxes with headings above and before them.
+LayoutElement Figures(std::vector<MatrixCell> cells);
 
 LayoutElement Fields(std::vector<FieldItem> fields);
 

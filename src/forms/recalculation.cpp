@@ -32,6 +32,8 @@ void RefreshControl(const ScreenContext& context, const Form& form, Control& con
         control.text = FieldText(context, form, control);
     } else if (control.kind == ControlKind::Label && control.tag.starts_with('u')) {
         control.text = IsNoUnit(control.text) ? "" : context.units.UnitLabel(control.tag.substr(1));
+    } else if (!control.wordings.empty()) {
+        control.text = control.wordings.at(context.units.bMetric() ? 1 : 0);
     }
 }
 

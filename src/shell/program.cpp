@@ -11,6 +11,7 @@
 #include "forms/grid_entry.h"
 #include "forms/screen_builder.h"
 #include "forms/side_screen.h"
+#include "ndt/screens/ndt_forms.h"
 #include "rehab/screens/existing_forms.h"
 #include "rehab/screens/overlay_screens.h"
 #include "shell/about_form.h"
@@ -38,6 +39,7 @@ Program::Program(Host host, Home home) : state_(host, std::move(home)) {
     state_.formRegistry.Declare(WithHubTold(TrafficForms()));
     state_.formRegistry.Declare(WithHubTold(ExistingPavementForms()));
     state_.formRegistry.Declare(WithHubTold(OverlayForms()));
+    state_.formRegistry.Declare(WithHubTold(DeflectionForms()));
 }
 
 StartResult Program::Start(const std::string& commandLine) {

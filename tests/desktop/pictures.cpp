@@ -1,7 +1,7 @@
 // Makes pictures of the windows: of each script below docs/pictures/scripts, in both unit systems, light and
 // dark. A script with a line `# picture: menu MenuFile`, `# picture: dialog` or
 // `# picture: help` shows that menu, the first dialog that comes up or the window of the help, and the units
-// that it has at its end.
+// that it has at its end. One with a line `# sample: NAME` goes on where that sample ends.
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <fmt/format.h>
@@ -41,14 +41,22 @@ std::string WithUnits(std::string script, const std::string& units) {
     return at == std::string::npos ? script : script.replace(at, mark.size(), units);
 }
 
-constexpr std::string_view kSubjectMark = "# picture: ";
+/// The rest of the line of a script that begins with a mark; empty if there is none.
+std::string MarkedLine(const std::string& script, const std::string& mark) {
+    const std::size_t at = script.find(mark);
+    if (at == std::string::npos) return {};
+    const std::size_t start = at + mark.size();
+    return script.substr(start, script.find('\n', start) - start);
+}
 
 /// What a script's picture shows: "menu NAME", "dialog", "help", or nothing for the main window.
-std::string SubjectOf(const std::string& script) {
-    const std::size_t at = script.find(kSubjectMark);
-    if (at == std::string::npos) return {};
-    const std::size_t start = at + kSubjectMark.size();
-    return script.substr(start, script.find('\n', start) - start);
+std::string SubjectOf(const std::string& script) { return MarkedLine(script, "# picture: "); }
+
+/// A script goes on from the end of the sample that it names.
+std::string AfterSample(const std::string& script) {
+    const std::string sample = MarkedLine(script, "# sample: ");
+    if (sample.empty()) return script;
+    return ReadFile(KELVOR_SOURCE_FOLDER "/data/samples/" + sample + ".kvs") + script;
 }
 
 /// The frame that a window manager would draw round a dialog.
@@ -137,6 +145,7 @@ class PictureRun {
             throw std::runtime_error("a script does not run through: " + printed_.str());
         }
         QApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         if (subject.empty()) return desktop_.window().grab();
         if (subject == "help") return desktop_.helpWindow()->grab();
         if (subject.rfind("menu ", 0) == 0) return WithMenu(desktop_.window(), subject.substr(5));
@@ -161,7 +170,7 @@ void Save(const QPixmap& picture, const Path& file) {
 }
 
 void TakePictures(const Path& script, const Look& look, const Path& folder) {
-    const std::string text = ReadFile(script);
+    const std::string text = AfterSample(ReadFile(script));
     const std::string name = script.stem().string();
     if (!SubjectOf(text).empty()) {
         return Save(PictureRun(look.palette).Of(text), folder / fmt::format("{}-{}.png", name, look.name));
@@ -173,11 +182,14 @@ void TakePictures(const Path& script, const Look& look, const Path& folder) {
     }
 }
 
-int TakeAllPictures(const Path& scriptFolder, const Path& folder) {
+/// Of the scripts that are named, or of all.
+int TakePictures(const Path& scriptFolder, const Path& folder, const std::vector<std::string>& names) {
     std::filesystem::create_directories(folder);
     std::vector<Path> scripts;
     for (const auto& entry : std::filesystem::directory_iterator(scriptFolder)) {
-        if (entry.path().extension() == ".kvs") scripts.push_back(entry.path());
+        const bool wanted =
+            names.empty() || std::find(names.begin(), names.end(), entry.path().stem()) != names.end();
+        if (wanted && entry.path().extension() == ".kvs") scripts.push_back(entry.path());
     }
     std::sort(scripts.begin(), scripts.end());
     for (const Path& script : scripts) {
@@ -199,8 +211,9 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     try {
-        if (argc != 2) throw std::runtime_error("usage: kelvor-pictures FOLDER");
-        return kelvor::test::TakeAllPictures(KELVOR_SOURCE_FOLDER "/docs/pictures/scripts", argv[1]);
+        if (argc < 2) throw std::runtime_error("usage: kelvor-pictures FOLDER [SCRIPT...]");
+        return kelvor::test::TakePictures(KELVOR_SOURCE_FOLDER "/docs/pictures/scripts", argv[1],
+                                          {argv + 2, argv + argc});
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "%s\n", failure.what());
         return 1;

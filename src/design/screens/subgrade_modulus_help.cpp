@@ -103,13 +103,15 @@ FormType SubgradeModulusHelp() {
     type.layout = Rows({
         Text("LabTests", kAboutTests),
         Text("LabCorrelation", kAboutCorrelation),
-        Columns(
-            {Frame("Frame1", "By CBR",
-                   {Fields({{.variable = "CBR", .label = "CBR Value:"},
-                            {.variable = "OCBR", .label = "Resilient Modulus:", .computed = true}})}),
-             Frame("Frame2", "By R-Value",
-                   {Fields({{.variable = "RVAL", .label = "R-Value:"},
-                            {.variable = "ORVAL", .label = "Resilient Modulus, psi:", .computed = true}})})}),
+        Columns({Frame("Frame1", "By CBR",
+                       {Fields({{.variable = "CBR", .label = "CBR Value:"},
+                                {.variable = "OCBR", .label = "Resilient Modulus:", .computed = true}})}),
+                 Frame("Frame2", "By R-Value",
+                       {Fields({{.variable = "RVAL", .label = "R-Value:"},
+                                {.variable = "ORVAL",
+                                 .label = "Resilient Modulus, psi:",
+                                 .metricLabel = "Resilient Modulus, MPa:",
+                                 .computed = true}})})}),
         Fields({{.variable = "V", .label = "Subgrade Resilient Modulus:", .computed = true}}),
     });
     type.handlers = {{FormEvent::LostFocus, "", HandlerOrder::After, TestLeft},

@@ -9,14 +9,15 @@ namespace kelvor {
 
 namespace {
 
+constexpr int kTestsShown = 7;
 constexpr double kLetters = 8.2;
 constexpr double kUsualPoisson = 0.15;
 constexpr double kUnbonded = 0.0;
 
 std::vector<ResultColumn> Results() {
-    return {{"BACKLC", "AVGBACKLC", nullptr},
-            {"STATKC", "AVGSTATKC", "ChartK"},
-            {"NDTEC", "AVGNDTEC", "ChartEc"}};
+    return {{"BACKLC", "AVGBACKLC", "l", nullptr},
+            {"STATKC", "AVGSTATKC", "Static k", "ChartK"},
+            {"NDTEC", "AVGNDTEC", "Slab Ec", "ChartEc"}};
 }
 
 void Activated(ScreenEvent& event) {
@@ -52,13 +53,12 @@ FormType CompositeDeflectionsForm() {
     type.name = "ReDfC";
     type.caption = "Composite Pavement Deflection Information";
     type.layout = Rows({
-        Columns({Fields({{"NDTEAC"}, {"ACACPCACT"}, {"BOND"}}),
-                 Fields({{"Radius"}, {"Poisson"}, {"EXISTDEPTH"}})}),
+        Columns({InputsOfAllTests({{"NDTEAC"}, {"ACACPCACT"}, {"BOND"}}),
+                 InputsOfAllTests({{"Radius"}, {"Poisson"}, {"EXISTDEPTH"}})}),
         Tests(),
-        Statement(kSoundnessLine, 1, kLineLetters),
-        Statement(kOutdatedLine, 2, kLineLetters),
-        SpreadOfResults(Results()),
-        ChartsOfResults(Results()),
+        Columns(
+            {Statement(kSoundnessLine, 1, kSoundnessLetters), Statement(kOutdatedLine, 2, kOutdatedLetters)}),
+        SpreadAndCharts(Results()),
         Hidden({kOutdatedInputs}),
     });
     // No input of all tests works them out anew when it is left: it counts from the next activation on, or

@@ -11,12 +11,14 @@ namespace kelvor {
 
 namespace {
 
-constexpr double kInputLetters = 9.9;
+constexpr int kTestsShown = 8;
+constexpr double kMeasuredLetters = 9.9;
 constexpr double kRemarkLetters = 9.8;
 constexpr double kResultLetters = 20.2;
 
 std::vector<ResultColumn> Results() {
-    return {{"NDTRM", "AVGNDTRM", "ChartMr"}, {"NDTEFFEP", "AVGNDTEFFEP", "ChartEp"}};
+    return {{"NDTRM", "AVGNDTRM", "Subgrade Mr", "ChartMr"},
+            {"NDTEFFEP", "AVGNDTEFFEP", "Pavement EP", "ChartEp"}};
 }
 
 /// The layers may have changed meanwhile, and with them every effective modulus.
@@ -32,9 +34,9 @@ void Show(ScreenEvent& event) {
 
 LayoutElement Tests() {
     return Grid("Grid",
-                {{.variable = "NDTLOADF", .letters = kInputLetters},
-                 {.variable = "D0F", .letters = kInputLetters},
-                 {.variable = "DR", .letters = kInputLetters},
+                {{.variable = "NDTLOADF", .letters = kMeasuredLetters},
+                 {.variable = "D0F", .letters = kMeasuredLetters},
+                 {.variable = "DR", .letters = kMeasuredLetters},
                  {.variable = "Msg", .letters = kRemarkLetters},
                  {.variable = "NDTRM", .letters = kResultLetters},
                  {.variable = "NDTEFFEP", .letters = kResultLetters}},
@@ -48,12 +50,11 @@ FormType FlexibleDeflectionsForm() {
     type.name = "ReDfF";
     type.caption = "Flexible Pavement Deflection Information and Backcalculation";
     type.layout = Rows({
-        Columns({Fields({{"NDTR"}, {"NDTRMC"}}),
-                 Fields({{"Radius"}, {.variable = "NDTEFFD", .computed = true}})}),
+        Columns({InputsOfAllTests({{"NDTR"}, {"NDTRMC"}}),
+                 InputsOfAllTests({{"Radius"}, {.variable = "NDTEFFD", .computed = true}})}),
         Tests(),
-        Statement(kSoundnessLine, 1, kLineLetters),
-        SpreadOfResults(Results()),
-        ChartsOfResults(Results()),
+        Statement(kSoundnessLine, 1, kOutdatedLetters),
+        SpreadAndCharts(Results()),
     });
     type.handlers = RecalcWhenLeft({"NDTR", "NDTRMC", "Radius"});
     type.handlers.push_back({FormEvent::Activate, "", HandlerOrder::After, Activated});

@@ -9,11 +9,14 @@ namespace kelvor {
 
 namespace {
 
+constexpr int kTestsShown = 8;
 constexpr double kLetters = 8.2;
 constexpr double kUsualPoisson = 0.15;
 
 std::vector<ResultColumn> Results() {
-    return {{"BACKL", "AVGBACKL", nullptr}, {"STATK", "AVGSTATK", "ChartK"}, {"NDTE", "AVGNDTE", "ChartEc"}};
+    return {{"BACKL", "AVGBACKL", "l", nullptr},
+            {"STATK", "AVGSTATK", "Static k", "ChartK"},
+            {"NDTE", "AVGNDTE", "Slab Ec", "ChartEc"}};
 }
 
 void Activated(ScreenEvent& event) {
@@ -48,12 +51,11 @@ FormType RigidDeflectionsForm() {
     type.name = "ReDfR";
     type.caption = "Rigid Pavement Deflection Information";
     type.layout = Rows({
-        Columns({Fields({{"Radius"}, {"Poisson"}}), Fields({{"EXISTDEPTH"}})}),
+        Columns({InputsOfAllTests({{"Radius"}, {"Poisson"}}), InputsOfAllTests({{"EXISTDEPTH"}})}),
         Tests(),
-        Statement(kSoundnessLine, 1, kLineLetters),
-        Statement(kOutdatedLine, 2, kLineLetters),
-        SpreadOfResults(Results()),
-        ChartsOfResults(Results()),
+        Columns(
+            {Statement(kSoundnessLine, 1, kSoundnessLetters), Statement(kOutdatedLine, 2, kOutdatedLetters)}),
+        SpreadAndCharts(Results()),
         Hidden({kOutdatedInputs}),
     });
     // The slab thickness works no test out anew: it counts from the next activation on, or the next edit of a

@@ -1,6 +1,7 @@
 #include "ndt/screens/test_rows.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "forms/form.h"
 #include "forms/recalculation.h"
@@ -53,6 +54,11 @@ void AllUpToDate(ScreenEvent& event) {
 }
 
 }  // namespace
+
+LayoutElement InputsOfAllTests(std::vector<FieldItem> fields) {
+    for (FieldItem& field : fields) field.letters = kInputLetters;
+    return Fields(std::move(fields));
+}
 
 void RecalcTests(ScreenContext& context, Form& form) {
     RecalcFilledRows(context, form);

@@ -8,11 +8,15 @@
 
 namespace kelvor {
 
-/// Rows of a grid of deflection tests that show before it scrolls.
-inline constexpr int kTestsShown = 8;
+/// The width of an input of all tests, in letters.
+inline constexpr double kInputLetters = 9.0;
 
-/// The width of the lines below a grid, in letters.
-inline constexpr double kLineLetters = 90.0;
+/// Fields of inputs that all tests share.
+LayoutElement InputsOfAllTests(std::vector<FieldItem> fields);
+
+/// The widths of the lines below a grid, in letters.
+inline constexpr double kSoundnessLetters = 35.0;
+inline constexpr double kOutdatedLetters = 85.0;
 
 /// The name of the line below a grid that counts the tests whose results are not sound.
 inline constexpr const char* kSoundnessLine = "SOUNDNESS";

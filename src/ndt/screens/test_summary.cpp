@@ -18,45 +18,48 @@ namespace {
 constexpr const char* kTestColour = "#1F5FBF";
 constexpr const char* kAverageColour = "#C2571A";
 constexpr const char* kPerCent = "0.0";
-constexpr double kChartLetters = 50.0;
-constexpr double kCountLetters = 6.0;
-constexpr double kValueLetters = 11.0;
+constexpr double kChartLetters = 30.0;
+constexpr double kValueLetters = 9.0;
 
-/// A box of the spread: what its name adds to that of the column, and its heading.
-struct SpreadBox {
+/// A line of the spread: what the names of its boxes add to that of the column, and its heading.
+struct SpreadLine {
     const char* suffix;
     const char* heading;
-    double letters;
 };
 
-constexpr std::array kBoxes = {
-    SpreadBox{"Count", "Tests", kCountLetters},
-    SpreadBox{"Deviation", "Std. Deviation", kValueLetters},
-    SpreadBox{"Variation", "Variation, %", kValueLetters},
-    SpreadBox{"Percentile15", "15th Percentile", kValueLetters},
-    SpreadBox{"Percentile85", "85th Percentile", kValueLetters},
+constexpr std::array kLines = {
+    SpreadLine{"Count", "Tests"},
+    SpreadLine{"Deviation", "Std. Deviation"},
+    SpreadLine{"Variation", "Variation, %"},
+    SpreadLine{"Percentile15", "15th Percentile"},
+    SpreadLine{"Percentile85", "85th Percentile"},
 };
 
-enum SummaryColumn { kLabelColumn, kAverageColumn, kUnitColumn, kFirstBoxColumn };
+/// The rows of the spread, from above; its first column has their headings.
+enum SpreadRow { kHeadingRow, kUnitRow, kAverageRow, kFirstLine };
 
 void AddHeadings(std::vector<MatrixCell>& cells) {
-    for (std::size_t i = 0; i < kBoxes.size(); ++i) {
-        cells.push_back(At(0, kFirstBoxColumn + static_cast<int>(i),
-                           Caption(std::string("Head") + kBoxes.at(i).suffix, kBoxes.at(i).heading)));
+    cells.push_back(At(kAverageRow, 0, Caption("HeadAverage", "Average")));
+    for (std::size_t i = 0; i < kLines.size(); ++i) {
+        cells.push_back(At(kFirstLine + static_cast<int>(i), 0,
+                           Caption(std::string("Head") + kLines.at(i).suffix, kLines.at(i).heading)));
     }
 }
 
-void AddLine(std::vector<MatrixCell>& cells, int line, const ResultColumn& result) {
-    cells.push_back(At(line, kLabelColumn, LabelOf(result.average)));
-    cells.push_back(At(line, kAverageColumn, BareBox({.variable = result.average})));
-    cells.push_back(At(line, kUnitColumn, UnitOf(result.average)));
-    for (std::size_t i = 0; i < kBoxes.size(); ++i) {
-        const SpreadBox& box = kBoxes.at(i);
-        cells.push_back(At(line, kFirstBoxColumn + static_cast<int>(i),
-                           BareBox({.label = std::string(box.heading) + " of " + result.column,
+void AddColumn(std::vector<MatrixCell>& cells, int column, const ResultColumn& result) {
+    const std::string name = result.column;
+    cells.push_back(At(kHeadingRow, column, Caption("Head" + name, result.heading)));
+    cells.push_back(At(kAverageRow, column,
+                       BareBox({.variable = result.average, .plain = true, .letters = kValueLetters})));
+    cells.push_back(At(kUnitRow, column, UnitOf(result.average)));
+    for (std::size_t i = 0; i < kLines.size(); ++i) {
+        const SpreadLine& line = kLines.at(i);
+        cells.push_back(At(kFirstLine + static_cast<int>(i), column,
+                           BareBox({.label = std::string(line.heading) + " of " + name,
                                     .computed = true,
-                                    .box = std::string(result.column) + box.suffix,
-                                    .letters = box.letters})));
+                                    .plain = true,
+                                    .box = name + line.suffix,
+                                    .letters = kValueLetters})));
     }
 }
 
@@ -109,9 +112,9 @@ void ShowSpread(Form& form, const ResultColumn& result, const ShownColumn& shown
 ChartData ChartOf(const ScreenContext& context, const ResultColumn& result, const ShownColumn& shown,
                   const std::vector<std::optional<Real>>& results) {
     ChartData chart;
-    chart.title = shown.variable->desc;
-    chart.across = {.title = "Test", .picture = "0"};
-    chart.up = {.title = shown.unit, .picture = shown.factor == 1.0 ? "0" : ""};
+    chart.title = std::string(result.heading) + ", " + shown.unit;
+    chart.across = {.title = {}, .picture = "0"};
+    chart.up = {.title = {}, .picture = shown.factor == 1.0 ? "0" : ""};
     chart.series = {{"Test", kTestColour}, {"Average", kAverageColour}};
     const double average = context.calc.Get(result.average).value() * shown.factor;
     for (std::size_t i = 0; i < results.size(); ++i) {
@@ -124,18 +127,15 @@ ChartData ChartOf(const ScreenContext& context, const ResultColumn& result, cons
 
 }  // namespace
 
-LayoutElement SpreadOfResults(const std::vector<ResultColumn>& results) {
+LayoutElement SpreadAndCharts(const std::vector<ResultColumn>& results) {
     std::vector<MatrixCell> cells;
-    AddHeadings(cells);
-    for (std::size_t i = 0; i < results.size(); ++i) AddLine(cells, static_cast<int>(i) + 1, results[i]);
-    return Matrix(std::move(cells));
-}
-
-LayoutElement ChartsOfResults(const std::vector<ResultColumn>& results) {
     std::vector<LayoutElement> charts;
-    for (const ResultColumn& result : results) {
-        if (result.chart != nullptr) charts.push_back(Chart(result.chart, {}));
+    AddHeadings(cells);
+    for (std::size_t i = 0; i < results.size(); ++i) {
+        AddColumn(cells, static_cast<int>(i) + 1, results[i]);
+        if (results[i].chart != nullptr) charts.push_back(Chart(results[i].chart, {}));
     }
+    charts.insert(charts.begin(), Figures(std::move(cells)));
     return Columns(std::move(charts));
 }
 

@@ -10,15 +10,14 @@ namespace kelvor {
 struct ResultColumn {
     const char* column;
     const char* average;  // the variable of its average
-    const char* chart;    // the name of its chart; null: it has none
+    const char* heading;
+    const char* chart;  // the name of its chart; null: it has none
 };
 
-/// A line for each column: its average, and how the results spread: the number of tests that count, the
-/// standard deviation, the coefficient of variation, the 15th and the 85th percentile.
-LayoutElement SpreadOfResults(const std::vector<ResultColumn>& results);
-
-/// The charts of the results by test number, side by side, each with the average as a line.
-LayoutElement ChartsOfResults(const std::vector<ResultColumn>& results);
+/// Below the table of tests: a column for each of results with their average and how they spread (the number
+/// of tests that count, the standard deviation, the coefficient of variation, the 15th and the 85th
+/// percentile), and beside it the charts of the results by test number, each with the average as a line.
+LayoutElement SpreadAndCharts(const std::vector<ResultColumn>& results);
 
 /// Brings both up to date, in the active units.
 void ShowResults(ScreenContext& context, Form& form, const std::vector<ResultColumn>& results);
