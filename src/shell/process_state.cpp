@@ -24,7 +24,7 @@ CalcContext ProcessState::MakeCalcContext() {
 
 ScreenContext ProcessState::MakeScreenContext() {
     return {MakeCalcContext(), *dbCatalogue,    *units,    calculations, formRegistry,
-            balance,           bProjectChanged, *dbCustom, formValues};
+            balance,           bProjectChanged, *dbCustom, formValues,   costSummary};
 }
 
 }  // namespace kelvor
