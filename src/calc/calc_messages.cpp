@@ -10,4 +10,10 @@ void ReportOutsideBounds(Dialogs& dialogs) {
     dialogs.ShowMessage({.text = "Inputs outside of Equation Bounds!"});
 }
 
+void ShowError(Dialogs& dialogs, const std::string& procedure, int number, const std::string& description) {
+    dialogs.ShowMessage(
+        {.text = "Error in " + procedure + " Error Number : " + std::to_string(number) + "\n" + description,
+         .title = "Error"});
+}
+
 }  // namespace kelvor

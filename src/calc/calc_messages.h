@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "platform/dialogs.h"
 
 namespace kelvor {
@@ -9,5 +11,8 @@ void ReportMathOverflow(Dialogs& dialogs);
 
 /// Shows that the inputs lie outside of what an equation can answer.
 void ReportOutsideBounds(Dialogs& dialogs);
+
+/// Shows a failure that has no message of its own.
+void ShowError(Dialogs& dialogs, const std::string& procedure, int number, const std::string& description);
 
 }  // namespace kelvor

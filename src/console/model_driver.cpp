@@ -109,8 +109,8 @@ const Control& ModelDriver::FindControl(const std::string& name) {
     return *control;
 }
 
-void ModelDriver::OpenForm(const std::string& name) {
-    Raise({UserEvent::Kind::OpenForm, name, {}, 0}, name + " is not available yet");
+void ModelDriver::OpenForm(const std::string& name, int dim2) {
+    Raise({UserEvent::Kind::OpenForm, name, {}, dim2}, name + " is not available yet");
 }
 
 void ModelDriver::ActivateForm(const std::string& name) {
@@ -213,7 +213,13 @@ std::vector<GridCellReport> ModelDriver::GridCells() {
     return cells;
 }
 
+bool ModelDriver::IsCurrentForm(const std::string& name) {
+    const Form& form = CurrentForm();
+    return EqualNoCase(form.name(), name) && form.Find(name) == nullptr;
+}
+
 PropertyValue ModelDriver::Read(const std::string& control, const std::string& property) {
+    if (property == "text" && IsCurrentForm(control)) return CurrentForm().caption;
     const Control& c = FindControl(control);
     if (property == "text") return c.text;
     if (property == "enabled") return c.enabled;

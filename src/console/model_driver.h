@@ -34,7 +34,7 @@ class ModelDriver : public Driver {
     void CalcCell(const std::string& key, int dim1, int dim2, const std::string& target) override;
     int FindTerm(const std::string& screen, const std::string& term) override;
     int Solve(const std::string& screen, int term) override;
-    void OpenForm(const std::string& name) override;
+    void OpenForm(const std::string& name, int dim2) override;
     void ActivateForm(const std::string& name) override;
     void CloseForm(const std::optional<std::string>& name) override;
     std::vector<std::string> Forms() override;
@@ -62,6 +62,9 @@ class ModelDriver : public Driver {
     /// The form in which the script works, and a control of it. Both throw ScriptError if there is none.
     const Form& CurrentForm();
     const Control& FindControl(const std::string& name);
+
+    /// True for the name of the current form itself, unless one of its controls has it too.
+    bool IsCurrentForm(const std::string& name);
 
     /// Throws ScriptError for a menu entry that does nothing yet.
     void CheckMenu(const std::string& name);

@@ -23,8 +23,6 @@ FormView::FormView(Form& form, EventDoor& door, QWidget* parent)
     : QWidget(parent), form_(&form), door_(door) {
     setFocusPolicy(Qt::ClickFocus);
     setObjectName(ToQt(form.name()));
-    setWindowTitle(ToQt(form.caption));
-    setAccessibleName(ToQt(form.caption));
     MakeWidgets();
     tabs_ = LayOutForm(form, *this, [this](const std::string& name) { return FindWidget(name); });
     SetBuddies();
@@ -35,6 +33,13 @@ FormView::FormView(Form& form, EventDoor& door, QWidget* parent)
 /// What is inside goes after this; it must not report its end to what is no more.
 FormView::~FormView() {
     for (QObject* inside : findChildren<QObject*>()) inside->disconnect(this);
+}
+
+void FormView::ShowCaption() {
+    const QString caption = ToQt(form_->caption);
+    if (caption == windowTitle()) return;
+    setWindowTitle(caption);
+    setAccessibleName(caption);
 }
 
 void FormView::MakeWidgets() {

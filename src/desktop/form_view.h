@@ -48,6 +48,7 @@ class FormView : public QWidget {
     void changeEvent(QEvent* event) override;
 
   private:
+    void ShowCaption();
     void MakeWidgets();
     QWidget* MakeGrid(const Control& control);
     void ConnectWidgets();

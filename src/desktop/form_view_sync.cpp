@@ -11,6 +11,7 @@ namespace kelvor {
 
 void FormView::Sync() {
     if (form_ == nullptr) return;
+    ShowCaption();
     for (const auto& control : form_->controls()) {
         QWidget* widget = widgets_.value(control.get());
         if (auto* grid = dynamic_cast<GridView*>(widget)) grid->Show();

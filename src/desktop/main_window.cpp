@@ -123,6 +123,7 @@ void MainWindow::SyncForms() {
     for (Form* form : open) {
         if (FormView* view = views_.value(form)) {
             view->Sync();
+            FrameOf(*view)->setWindowTitle(view->windowTitle());
         } else {
             OpenView(*form);
         }

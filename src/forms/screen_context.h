@@ -12,6 +12,8 @@
 
 namespace kelvor {
 
+struct CostSummary;
+
 /// All that a screen's routine may see and touch: what a calculation sees, and the forms.
 struct ScreenContext {
     CalcContext calc;
@@ -25,6 +27,7 @@ struct ScreenContext {
     FormValues& values;  // what the calculations may know of the current form
     std::string& act;    // what the event does, in the user's words ("change of Reliability"), for Undo; the
                          // routine that names it last is right, and an event that only looks has none
+    CostSummary& costSummary;
 };
 
 }  // namespace kelvor

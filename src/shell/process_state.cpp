@@ -25,7 +25,8 @@ CalcContext ProcessState::MakeCalcContext() {
 
 ScreenContext ProcessState::MakeScreenContext() {
     return {MakeCalcContext(), *dbCatalogue,    *units,    calculations, formRegistry,
-            balance,           bProjectChanged, *dbCustom, formValues,   act};
+            balance,           bProjectChanged, *dbCustom, formValues,   act,
+            costSummary};
 }
 
 }  // namespace kelvor

@@ -11,6 +11,7 @@
 #include "catalogue/list_database.h"
 #include "design/calc/reliability.h"
 #include "forms/screen_context.h"
+#include "lcc/calc/cost_summary.h"
 #include "platform/file_lock.h"
 #include "platform/host.h"
 #include "shell/home.h"
@@ -58,6 +59,7 @@ struct ProcessState {
 
     ReliabilityState reliability;
     FormValues formValues;
+    CostSummary costSummary;  // of the cost summary that was worked out last
     Dispatch calculations;
 
     std::string act;  // of the event under way; see ScreenContext

@@ -11,6 +11,8 @@
 #include "forms/grid_entry.h"
 #include "forms/screen_builder.h"
 #include "forms/side_screen.h"
+#include "lcc/screens/cost_forms.h"
+#include "lcc/screens/cost_page.h"
 #include "ndt/screens/ndt_forms.h"
 #include "rehab/screens/existing_forms.h"
 #include "rehab/screens/overlay_screens.h"
@@ -40,6 +42,7 @@ Program::Program(Host host, Home home) : state_(host, std::move(home)) {
     state_.formRegistry.Declare(WithHubTold(ExistingPavementForms()));
     state_.formRegistry.Declare(WithHubTold(OverlayForms()));
     state_.formRegistry.Declare(WithHubTold(DeflectionForms()));
+    state_.formRegistry.Declare(CostForms());
 }
 
 StartResult Program::Start(const std::string& commandLine) {
@@ -156,12 +159,14 @@ bool Program::IsOutsideModalForm(const UserEvent& event) const {
     }
 }
 
-/// The number of the event is the slice that the form shows; 0 for as it has it.
+/// The number of the event is the slice that the form shows; 0 for as it has it. A page of pavement B goes by
+/// the name that the catalogue has for it.
 bool Program::OpenScreen(const UserEvent& event) {
-    if (state_.formRegistry.FindType(event.name) == nullptr) return false;
-    ScreenContext context = state_.MakeScreenContext();
     const auto dim2 = event.number > 0 ? std::optional(event.number) : std::nullopt;
-    FormEvents(context).Open({.form = event.name, .dim2 = dim2});
+    const OpenRequest request = PageOfPavementB(event.name).value_or(OpenRequest{event.name, dim2, {}});
+    if (state_.formRegistry.FindType(request.form) == nullptr) return false;
+    ScreenContext context = state_.MakeScreenContext();
+    FormEvents(context).Open(request);
     return true;
 }
 

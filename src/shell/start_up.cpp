@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "calc/calc_messages.h"
 #include "platform/database_error.h"
 #include "platform/ini_file.h"
 #include "platform/text.h"
@@ -158,12 +159,6 @@ StartResult Main(ProcessState& state, const std::string& commandLine) {
     // With an absent file the start ends early, and the wait cursor stays.
     if (result != StartResult::FileMissing) state.host.dialogs.SetWaitCursor(false);
     return result;
-}
-
-void ShowError(Dialogs& dialogs, const std::string& procedure, int number, const std::string& description) {
-    dialogs.ShowMessage(
-        {.text = "Error in " + procedure + " Error Number : " + std::to_string(number) + "\n" + description,
-         .title = "Error"});
 }
 
 }  // namespace kelvor

@@ -17,7 +17,4 @@ enum class StartResult {
 /// line names (double quotes in it are dropped). Every failure has its message.
 StartResult Main(ProcessState& state, const std::string& commandLine);
 
-/// Shows a failure that has no message of its own.
-void ShowError(Dialogs& dialogs, const std::string& procedure, int number, const std::string& description);
-
 }  // namespace kelvor

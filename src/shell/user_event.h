@@ -9,7 +9,7 @@ namespace kelvor {
 /// One act of the user on the windows. A front end tells the program nothing else.
 struct UserEvent {
     enum class Kind {
-        OpenForm,      // name: the form
+        OpenForm,      // name: the form; number: the slice that it shows, 0: as it has it
         ActivateForm,  // name: an open form
         CloseForm,     // name: an open form; its close box
         Focus,         // name: a control of the current form

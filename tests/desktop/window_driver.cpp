@@ -95,8 +95,8 @@ int WindowDriver::Solve(const std::string& screen, int term) {
     return result;
 }
 
-void WindowDriver::OpenForm(const std::string& name) {
-    OnModel([&] { ModelDriver::OpenForm(name); });
+void WindowDriver::OpenForm(const std::string& name, int dim2) {
+    OnModel([&] { ModelDriver::OpenForm(name, dim2); });
 }
 
 // --- Menus -------------------------------------------------------------------------------------------
@@ -303,6 +303,7 @@ void WindowDriver::Choose(const std::string& control, const std::string& item) {
 // --- Reading -----------------------------------------------------------------------------------------
 
 PropertyValue WindowDriver::Read(const std::string& control, const std::string& property) {
+    if (property == "text" && IsCurrentForm(control)) return FromQt(View().parentWidget()->windowTitle());
     const QWidget& widget = Widget(control);
     if (property == "text") return TextOf(widget);
     if (property == "enabled") return IsEnabled(widget);

@@ -33,7 +33,7 @@ class WindowDriver : public ModelDriver {
     void Calc(const std::string& key, const std::string& target) override;
     void CalcCell(const std::string& key, int dim1, int dim2, const std::string& target) override;
     int Solve(const std::string& screen, int term) override;
-    void OpenForm(const std::string& name) override;
+    void OpenForm(const std::string& name, int dim2) override;
     void ActivateForm(const std::string& name) override;
     void CloseForm(const std::optional<std::string>& name) override;
     std::vector<std::string> Forms() override;

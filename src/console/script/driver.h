@@ -75,7 +75,8 @@ class Driver {
     virtual int Solve(const std::string& screen, int term) = 0;
 
     // Screens
-    virtual void OpenForm(const std::string& name) = 0;
+    /// Opens a screen; `dim2` is the slice that it shows, 0: as it has it.
+    virtual void OpenForm(const std::string& name, int dim2) = 0;
     virtual void ActivateForm(const std::string& name) = 0;
 
     /// Closes a form, or the current one if no name is given.

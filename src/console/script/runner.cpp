@@ -103,12 +103,10 @@ void FormCommand(const Context& c) {
         c.driver.CloseForm(words.count() == 2 ? std::optional(words[1]) : std::nullopt);
     } else if (what == "activate" && words.count() == 2) {
         c.driver.ActivateForm(words[1]);
-    } else if (what == "open" && words.count() == 2) {
-        c.driver.OpenForm(words[1]);
-    } else if (what == "open" && words.count() == 3) {
-        throw ScriptError("a screen of one pavement is not available yet");
+    } else if (what == "open" && words.count() >= 2) {
+        c.driver.OpenForm(words[1], words.count() == 3 ? words.Subscript(2) : 0);
     } else {
-        throw ScriptError("it is form open NAME, form activate NAME or form close [NAME]");
+        throw ScriptError("it is form open NAME [DIM2], form activate NAME or form close [NAME]");
     }
 }
 

@@ -2,10 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <string>
+#include <optional>
 
 #include "forms/form_events.h"
-#include "forms/recalculation.h"
 #include "forms/side_screen.h"
 #include "shell/hub/offer.h"
 
@@ -17,7 +16,7 @@ struct ScreenChoice {
     const char* button = "";
     const char* option = "";
     const char* screen = "";
-    const char* pavement = "";  // of a screen that serves both: what its hidden Dim2 holds
+    std::optional<int> slice = {};  // of a screen that has several: the pavement, the category of cost
 };
 
 /// What the buttons open, in the order in which they look at their options.
@@ -42,27 +41,20 @@ constexpr std::array kChoices = {
     ScreenChoice{"Command7", "RPNDTCalc", "ReDfR"},
     ScreenChoice{"Command7", "FPNDTCalc", "ReDfF"},
     ScreenChoice{"Command7", "CPNDTCalc", "ReDfC"},
-    ScreenChoice{"Command2", "oLcA1", "LcA1", "1"},
-    ScreenChoice{"Command2", "oLcA2", "LcA1", "2"},
+    ScreenChoice{"Command2", "oLcA1", "LcA1", 1},
+    ScreenChoice{"Command2", "oLcA2", "LcA1", 2},
     ScreenChoice{"Command2", "oLcS", "LcS"},
-    ScreenChoice{"Command8", "InitialCost", "CostChart"},
-    ScreenChoice{"Command8", "MaintenanceCosts", "CostChart"},
-    ScreenChoice{"Command8", "RehabilitationCosts", "CostChart"},
-    ScreenChoice{"Command8", "PW", "CostChart"},
-    ScreenChoice{"Command8", "EUAC", "CostChart"},
+    ScreenChoice{"Command8", "InitialCost", "CostChart", 1},
+    ScreenChoice{"Command8", "MaintenanceCosts", "CostChart", 2},
+    ScreenChoice{"Command8", "RehabilitationCosts", "CostChart", 3},
+    ScreenChoice{"Command8", "PW", "CostChart", 4},
+    ScreenChoice{"Command8", "EUAC", "CostChart", 5},
     ScreenChoice{"Command8", "ExpenditureHistogram", "Histogr"},
 };
 
 bool IsSelected(const Form& hub, const ScreenChoice& choice) {
     const Control* option = hub.Find(choice.option);
     return option != nullptr && option->value;
-}
-
-void ShowPavement(ScreenContext& context, const ScreenChoice& choice) {
-    Form* form = context.forms.Find(choice.screen);
-    if (form == nullptr || *choice.pavement == '\0') return;
-    form->SetText("Dim2", choice.pavement);
-    RefreshScreen(context, *form);
 }
 
 bool HasClick(const FormType& type, const Control& button) {
@@ -84,8 +76,7 @@ bool OpensSomething(const ScreenContext& context, const Control& button) {
 void OpenChosenScreen(ScreenEvent& event) {
     for (const ScreenChoice& choice : kChoices) {
         if (event.control->name != choice.button || !IsSelected(event.form, choice)) continue;
-        FormEvents(event.context).Open({.form = choice.screen});
-        ShowPavement(event.context, choice);
+        FormEvents(event.context).Open({.form = choice.screen, .dim2 = choice.slice});
         return;
     }
 }

@@ -157,11 +157,6 @@ TEST_F(HubTest, ATableThatNamesWhatIsNotThereFails) {
 }
 
 TEST_F(HubTest, BothPavementsHaveTheSameScreenWithTheirOwnNumber) {
-    FormType costs;
-    costs.name = "LcA1";
-    costs.tag = "DeF";
-    State().formRegistry.Declare({costs});
-    OfferAgain();
     SwitchTo(4);
     Choose("oLcA2");
     Press("Command2");
@@ -354,7 +349,6 @@ TEST_F(HubTest, ATrafficTickStaysOnlyOnceItsCategoryIsSelected) {
 }
 
 TEST_F(HubTest, TheCostsStandAlone) {
-    Declare({"LcA1"});
     SwitchTo(5);
     EXPECT_FALSE(At("rbCost").enabled);
     // A cost screen holds data as soon as a row of the catalogue does.
@@ -363,9 +357,6 @@ TEST_F(HubTest, TheCostsStandAlone) {
     TestHost host;
     Program program(host.host(), {program_.home.path(), folder_.path()});
     ASSERT_EQ(program.Start(""), StartResult::Running);
-    FormType costs;
-    costs.name = "LcA1";
-    program.state().formRegistry.Declare({costs});
     program.SetValue("RehabQuantity", 1, 1, "3");
     program.Raise({UserEvent::Kind::SwitchTab, {}, {}, 5});
     Form& hub = *program.state().formRegistry.Find("TabForm");
@@ -378,9 +369,8 @@ TEST_F(HubTest, TheCostsStandAlone) {
 }
 
 TEST_F(HubTest, TheGraphsAskForAChoice) {
-    Declare({"CostChart"});
     SwitchTo(4);
-    EXPECT_FALSE(At("ExpenditureHistogram").enabled);
+    EXPECT_TRUE(At("ExpenditureHistogram").enabled);
     Press("Command8");
     EXPECT_EQ(program_.host.record.messages.at(0).title, "Graphs");
     EXPECT_THAT(Messages(), ElementsAre("Please select the graph."));

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "forms/screen_context.h"
+#include "lcc/calc/cost_grid.h"
+
+namespace kelvor {
+
+class Form;
+
+// What the pages of initial costs and of rehabilitation have in common: quantities that follow from the
+// geometry of the pavement, in units that follow the unit system.
+
+/// A cell under the cursor was written: a picked item fills its quantity and its unit, and a quantity keeps
+/// its number when it gets another unit.
+void FollowCostCell(ScreenContext& context, Form& page, const CostGrid& grid);
+
+/// Brings the names of a page's units over to the active system, also those of the rows whose quantities do
+/// not follow.
+void SwapUnitNames(const ScreenContext& context, const Form& page, const CostGrid& grid);
+
+}  // namespace kelvor

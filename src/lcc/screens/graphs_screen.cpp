@@ -1,0 +1,56 @@
+#include "lcc/screens/graphs_screen.h"
+
+#include <array>
+
+#include "forms/form.h"
+
+namespace kelvor {
+
+namespace {
+
+constexpr std::array kChecks = {"InitialCost", "MaintenanceCosts", "RehabilitationCosts"};
+constexpr std::array kLabels = {"Label3", "Label4", "Label5"};
+
+void EnableGraphChecks(Form& form, bool enabled) {
+    for (const char* name : kChecks) form.Get(name).enabled = enabled;
+    for (const char* name : kLabels) form.Get(name).enabled = enabled;
+}
+
+void DisableGraphChecks(Form& form) {
+    EnableGraphChecks(form, false);
+    for (const char* name : kChecks) form.Get(name).value = false;
+}
+
+void SumClick(ScreenEvent& event) { EnableGraphChecks(event.form, true); }
+void HistogramClick(ScreenEvent& event) { DisableGraphChecks(event.form); }
+
+}  // namespace
+
+FormType GraphsForm() {
+    FormType type;
+    type.name = "Graphs";
+    type.caption = "Graphs";
+    type.layout = Columns({
+        Frame("Frame1", "Graph",
+              {Options({{"PW", "Present Worth"},
+                        {"EUAC", "EUAC"},
+                        {"PWH", "Present  Worth Histogram"},
+                        {"EUACH", "EUAC Histogram"}})}),
+        Frame("Frame2", "Costs in it",
+              {Matrix({At(0, 0, Checks({{"InitialCost", "Initial Cost"}})),
+                       At(0, 1, Caption("Label3", "before the opening")),
+                       At(1, 0, Checks({{"MaintenanceCosts", "Maintenance Cost"}})),
+                       At(1, 1, Caption("Label4", "in every year")),
+                       At(2, 0, Checks({{"RehabilitationCosts", "Rehabilitation Cost"}})),
+                       At(2, 1, Caption("Label5", "once, in their years"))})}),
+    });
+    type.handlers = {
+        {FormEvent::Click, "PW", HandlerOrder::After, SumClick},
+        {FormEvent::Click, "EUAC", HandlerOrder::After, SumClick},
+        {FormEvent::Click, "PWH", HandlerOrder::After, HistogramClick},
+        {FormEvent::Click, "EUACH", HandlerOrder::After, HistogramClick},
+    };
+    return type;
+}
+
+}  // namespace kelvor

@@ -1,0 +1,62 @@
+#include "lcc/screens/histogram_screen.h"
+
+#include <string>
+
+#include "forms/form.h"
+#include "forms/form_events.h"
+#include "lcc/calc/expenditure_histogram.h"
+#include "lcc/screens/pavement_colours.h"
+
+namespace kelvor {
+
+namespace {
+
+constexpr const char* kChart = "Chart1";
+
+ChartRow RowOf(const YearOfExpenditure& year) {
+    ChartRow row{std::to_string(year.year), {}};
+    for (const std::optional<Real>& amount : year.amounts) {
+        row.cells.push_back(amount ? std::optional(amount->value()) : std::nullopt);
+    }
+    return row;
+}
+
+void Loaded(ScreenEvent& event) {
+    Dialogs& dialogs = event.context.calc.dialogs;
+    ChartData& chart = *event.form.Get(kChart).chart;
+    chart.rows.clear();
+    const auto histogram = BuildHistogram(event.context.calc);
+    if (!histogram) {
+        dialogs.ShowMessage({.text = "No Analysis periods entered."});
+        return;
+    }
+    for (const YearOfExpenditure& year : *histogram) chart.rows.push_back(RowOf(year));
+}
+
+void CloseClick(ScreenEvent& event) { FormEvents(event.context).Close(event.form); }
+
+ChartData YearlyBars() {
+    ChartData data;
+    data.kind = ChartKind::GroupedBars;
+    data.title = "Expenditures by year";
+    data.showsValues = true;
+    data.across.title = "Year";
+    data.up.picture = "#,##0";
+    data.series = {{"Pavement A", kColourOfA}, {"Pavement B", kColourOfB}};
+    return data;
+}
+
+}  // namespace
+
+FormType HistogramForm() {
+    FormType type;
+    type.name = "Histogr";
+    type.caption = "Histogram";
+    type.layout = Chart(kChart, YearlyBars());
+    type.foot = {{"cmdbClose", "&Close"}};
+    type.handlers = {{FormEvent::Load, "", HandlerOrder::After, Loaded},
+                     {FormEvent::Click, "cmdbClose", HandlerOrder::Instead, CloseClick}};
+    return type;
+}
+
+}  // namespace kelvor
