@@ -20,6 +20,7 @@ using StagedValue = std::variant<std::monostate, double, std::string>;
 struct StagedColumn {
     std::string name;
     std::string picture = {};  // the number picture in which a screen shows its values; empty for texts
+    std::string unit = {};  // the label of its variable's unit in the active system; empty if there is none
 };
 
 /// A staging table as a report reads it: its columns in their order, and its rows, each with a value for
