@@ -52,9 +52,13 @@ std::string ReportMaker::Content(const Report& report, ReportFormat format) cons
         case ReportFormat::Text:
             return WriteText(*report.document);
         case ReportFormat::Pdf:
-            break;
+            return Break(report)->Pdf();
     }
-    throw FileError("Pages cannot be made");
+    return {};
+}
+
+std::unique_ptr<ReportPages> ReportMaker::Break(const Report& report) const {
+    return LoadPageMaker().Break(*report.document, setup_);
 }
 
 void ReportMaker::Write(const Report& report, ReportFormat format, const Path& file) {

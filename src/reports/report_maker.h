@@ -3,6 +3,7 @@
 #include "platform/file_system.h"
 #include "reports/document/page_setup.h"
 #include "reports/engine.h"
+#include "reports/page_maker.h"
 
 namespace kelvor {
 
@@ -21,6 +22,9 @@ class ReportMaker : public ReportEngine {
 
     /// What a filled report looks like as a file of a format. Throws FileError if no pages can be made.
     [[nodiscard]] std::string Content(const Report& report, ReportFormat format) const;
+
+    /// A filled report in pages. Throws FileError if what makes them cannot be loaded.
+    [[nodiscard]] std::unique_ptr<ReportPages> Break(const Report& report) const;
 
   private:
     FileSystem& files_;

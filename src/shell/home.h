@@ -22,7 +22,4 @@ struct Home {
     static constexpr const char* kTemplateName = "kvrwork.tpl";
 };
 
-/// The folder of the running executable.
-Path ExecutableFolder();
-
 }  // namespace kelvor
