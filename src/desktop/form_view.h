@@ -53,6 +53,7 @@ class FormView : public QWidget {
     void ConnectWidgets();
     void ConnectControl(const Control& control, QWidget& widget);
     void SetBuddies();
+    void SyncCaption();
     bool Filter(const Control& control, QEvent& event);
     void OnFocusIn(const Control& control, Qt::FocusReason reason);
     void OnEdited(const Control& control, const QString& text);

@@ -10,6 +10,8 @@
 
 namespace kelvor {
 
+class ReportDesk;
+
 /// All that a screen's routine may see and touch: what a calculation sees, and the forms.
 struct ScreenContext {
     CalcContext calc;
@@ -21,6 +23,7 @@ struct ScreenContext {
     bool& bProjectChanged;
     ListDatabase& lists;
     FormValues& values;  // what the calculations may know of the current form
+    ReportDesk& reports;
 };
 
 }  // namespace kelvor

@@ -24,6 +24,7 @@ struct ReportRequest {
 
     /// What a layout may show beside the staging tables, by name. Always there, perhaps empty:
     /// `Check`: whether the stored numbers satisfy the equation of the report's screen, in a sentence;
+    /// `Governs`: what decides its result, in a sentence;
     /// `Project`: the name of the project file, without its folder; `DateTime`: when the run was made.
     std::map<std::string, std::string, std::less<>> texts;
 };

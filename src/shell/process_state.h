@@ -13,6 +13,7 @@
 #include "forms/screen_context.h"
 #include "platform/file_lock.h"
 #include "platform/host.h"
+#include "reports/run/report_desk.h"
 #include "shell/home.h"
 #include "store/project_store.h"
 #include "units/units.h"
@@ -61,6 +62,7 @@ struct ProcessState {
 
     FormRegistry formRegistry;  // holds CurrentForm
     BalanceFlags balance;
+    ReportDesk reports;
 
     std::unique_ptr<FileLock> workLock;
 };

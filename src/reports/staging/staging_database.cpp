@@ -95,23 +95,24 @@ StagedValue StagingDatabase::Read(const std::string& table, int row, const std::
     });
 }
 
-StagedTables StagingDatabase::ReadAll(const Catalogue& catalogue) {
+StagedTables StagingDatabase::ReadAll(const Catalogue& catalogue, const Units& units) {
     return OrDatabaseError([&] {
         StagedTables all;
         for (const StagingTableEntry& entry : plan_.tables()) {
-            all.tables.push_back(ReadTable(entry.name, plan_.Filling(entry.columnsOf), catalogue));
+            all.tables.push_back(ReadTable(entry.name, plan_.Filling(entry.columnsOf), catalogue, units));
         }
         return all;
     });
 }
 
 StagedTable StagingDatabase::ReadTable(const std::string& name, const StagingFilling& filling,
-                                       const Catalogue& catalogue) {
+                                       const Catalogue& catalogue, const Units& units) {
     StagedTable table{name, {}, {}};
     std::string columns;
     for (const StagingColumn& column : filling.columns) {
         const Variable* variable = column.isText ? nullptr : catalogue.FindVariable(column.source);
-        table.columns.push_back({column.name, variable != nullptr ? variable->format : ""});
+        table.columns.push_back({column.name, variable != nullptr ? variable->format : "",
+                                 variable != nullptr ? units.UnitLabel(column.source) : ""});
         columns += (columns.empty() ? "" : ", ") + Quoted(column.name);
     }
     SQLite::Statement rows(database_, "SELECT " + columns + " FROM " + Quoted(name) + " ORDER BY rowid");

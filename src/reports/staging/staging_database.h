@@ -8,6 +8,7 @@
 #include "catalogue/catalogue.h"
 #include "reports/staged_tables.h"
 #include "reports/staging/staging_plan.h"
+#include "units/units.h"
 
 namespace kelvor {
 
@@ -36,14 +37,15 @@ class StagingDatabase {
     /// What stands in a column of a row.
     [[nodiscard]] StagedValue Read(const std::string& table, int row, const std::string& column);
 
-    /// Every staging table as it stands. A column that shows a variable has its picture.
-    [[nodiscard]] StagedTables ReadAll(const Catalogue& catalogue);
+    /// Every staging table as it stands. A column that shows a variable has its picture and its unit.
+    [[nodiscard]] StagedTables ReadAll(const Catalogue& catalogue, const Units& units);
 
     /// Ends the run: what was written stays.
     void Commit();
 
   private:
-    StagedTable ReadTable(const std::string& name, const StagingFilling& filling, const Catalogue& catalogue);
+    StagedTable ReadTable(const std::string& name, const StagingFilling& filling, const Catalogue& catalogue,
+                          const Units& units);
 
     SQLite::Database database_;
     StagingPlan plan_;

@@ -30,7 +30,7 @@ StagingFile::~StagingFile() {
 const Path& StagingFile::Provide(FileSystem& files, const Path& catalogue) {
     if (made_ && files.Kind(path_) == FileKind::Regular) return path_;
     // What a killed process has left is no copy of this catalogue.
-    if (files.Kind(path_) != FileKind::Missing) files.Remove(path_);
+    for (const char* ending : {"-journal", "-wal", "-shm", ""}) files.Remove(path_.string() + ending);
     Copy(catalogue, path_);
     made_ = true;
     return path_;
