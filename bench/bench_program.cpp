@@ -1,4 +1,5 @@
 #include "bench_program.h"
+#include "platform/executable_folder.h"
 
 #include <stdlib.h>  // NOLINT(modernize-deprecated-headers): mkdtemp
 

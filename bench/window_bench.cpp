@@ -4,6 +4,7 @@
 
 #include "benchmarks.h"
 #include "child_program.h"
+#include "platform/executable_folder.h"
 
 namespace kelvor::bench {
 

@@ -7,7 +7,12 @@ function(kelvor_expose target folder)
   get_filename_component(parent "${root}/${folder}" DIRECTORY)
   file(MAKE_DIRECTORY "${parent}")
   file(CREATE_LINK "${CMAKE_SOURCE_DIR}/src/${folder}" "${root}/${folder}" SYMBOLIC)
-  target_include_directories(${target} PUBLIC "${root}")
+  get_target_property(type ${target} TYPE)
+  set(scope PUBLIC)
+  if(type STREQUAL "INTERFACE_LIBRARY")
+    set(scope INTERFACE)
+  endif()
+  target_include_directories(${target} ${scope} "${root}")
 endfunction()
 
 # kelvor_library(<name> FOLDER <folder below src> SOURCES <files> LINKS <libraries of lower layers>

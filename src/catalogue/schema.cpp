@@ -85,6 +85,9 @@ const std::vector<TableDefinition>& CatalogueTables() {
         {"Label", {{"Screen", kName}, {"Label", kText}, {"x", kNumber}, {"y", kNumber}}},
         {"Convert", {{"English", kName}, {"Metric", kName}, {"Factor", "REAL NOT NULL"}}},
         {"RecentFiles", {{"FileName", kText}, {"OpenDate", kText}, {"SortOrder", kWhole}}},
+        {"StagingTable", {{"Name", kKeyName}, {"Rows", kWhole}, {"ColumnsOf", kName}}},
+        {"StagingColumn",
+         {{"Filling", kName}, {"Column", kName}, {"Type", kName}, {"Rule", kName}, {"Source", kName}}},
     };
     return kTables;
 }

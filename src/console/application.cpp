@@ -16,6 +16,7 @@
 #include "console/script/runner.h"
 #include "platform/clock.h"
 #include "platform/component_probe.h"
+#include "platform/executable_folder.h"
 #include "platform/file_system.h"
 #include "shell/program.h"
 

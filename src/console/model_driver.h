@@ -53,6 +53,12 @@ class ModelDriver : public Driver {
     std::vector<ControlReport> Controls() override;
     ChartData Chart(const std::string& control) override;
     std::optional<std::string> FocusName() override;
+    void MakeReports() override;
+    void ExportReports() override;
+    void PrintReport() override;
+    std::vector<PreviewReport> Previews() override;
+    void WritePreview(int number, const std::string& file) override;
+    StagedTable Table(const std::string& name) override;
     void QueueAnswer(const std::string& text) override;
     bool HasEnded() override;
 
@@ -75,6 +81,7 @@ class ModelDriver : public Driver {
     void CheckColumn(const std::string& column);
 
   private:
+    void PressOnReportsTab(const std::string& button);
     void Raise(const UserEvent& event, const std::string& refusal);
 
     Program& program_;

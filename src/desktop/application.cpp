@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "desktop/qt_text.h"
+#include "platform/executable_folder.h"
 #include "shell/home.h"
 
 namespace kelvor {

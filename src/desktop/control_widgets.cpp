@@ -16,6 +16,7 @@
 
 #include "desktop/picture_view.h"
 #include "desktop/qt_text.h"
+#include "desktop/report_pages_view.h"
 #include "desktop/theme.h"
 #include "forms/form_builder.h"
 #include "platform/number_picture.h"
@@ -223,6 +224,8 @@ QWidget* MakeWidget(const Control& control, QWidget* parent) {
             return new QGroupBox(parent);
         case ControlKind::TabStrip:
             return MakeTabStrip(parent);
+        case ControlKind::ReportPages:
+            return new ReportPagesView(parent);
         case ControlKind::Grid:
         case ControlKind::Chart:
             break;  // it needs more than its control

@@ -35,13 +35,6 @@ FormView::~FormView() {
     for (QObject* inside : findChildren<QObject*>()) inside->disconnect(this);
 }
 
-void FormView::ShowCaption() {
-    const QString caption = ToQt(form_->caption);
-    if (caption == windowTitle()) return;
-    setWindowTitle(caption);
-    setAccessibleName(caption);
-}
-
 void FormView::MakeWidgets() {
     for (const auto& control : form_->controls()) {
         QWidget* widget = control->grid    ? MakeGrid(*control)

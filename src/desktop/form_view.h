@@ -48,12 +48,12 @@ class FormView : public QWidget {
     void changeEvent(QEvent* event) override;
 
   private:
-    void ShowCaption();
     void MakeWidgets();
     QWidget* MakeGrid(const Control& control);
     void ConnectWidgets();
     void ConnectControl(const Control& control, QWidget& widget);
     void SetBuddies();
+    void SyncCaption();
     bool Filter(const Control& control, QEvent& event);
     void OnFocusIn(const Control& control, Qt::FocusReason reason);
     void OnEdited(const Control& control, const QString& text);

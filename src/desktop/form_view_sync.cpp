@@ -6,12 +6,13 @@
 #include "desktop/control_widgets.h"
 #include "desktop/form_view.h"
 #include "desktop/grid_view.h"
+#include "desktop/qt_text.h"
 
 namespace kelvor {
 
 void FormView::Sync() {
     if (form_ == nullptr) return;
-    ShowCaption();
+    SyncCaption();
     for (const auto& control : form_->controls()) {
         QWidget* widget = widgets_.value(control.get());
         if (auto* grid = dynamic_cast<GridView*>(widget)) grid->Show();
@@ -28,6 +29,15 @@ void FormView::Sync() {
         const QSignalBlocker quiet(tabs_);
         tabs_->setCurrentIndex(form_->page());
     }
+}
+
+/// A form may change its caption while it is open; the frame around it has the same.
+void FormView::SyncCaption() {
+    const QString caption = ToQt(form_->caption);
+    if (windowTitle() == caption) return;
+    setWindowTitle(caption);
+    setAccessibleName(caption);
+    if (parentWidget() != nullptr) parentWidget()->setWindowTitle(caption);
 }
 
 void FormView::changeEvent(QEvent* event) {

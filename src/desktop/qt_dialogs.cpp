@@ -119,6 +119,13 @@ std::optional<Path> QtDialogs::AskFile(const FileRequest& request) {
     return Path(FromQt(dialog.selectedFiles().constFirst()));
 }
 
+void QtDialogs::ShowWait(const WaitNotice& notice) {
+    if (wait_ == nullptr) wait_ = std::make_unique<WaitBox>(parent_);
+    wait_->Show(notice);
+}
+
+void QtDialogs::HideWait() { wait_.reset(); }
+
 void QtDialogs::ShowHelp(const HelpRequest& request) {
     if (help_ == nullptr) help_ = HelpWindow::Open(request.file);
     if (help_ != nullptr) help_->ShowPage(request.page);

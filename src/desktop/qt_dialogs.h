@@ -7,6 +7,7 @@
 #include <string>
 
 #include "desktop/help_window.h"
+#include "desktop/wait_box.h"
 #include "platform/dialogs.h"
 
 namespace kelvor {
@@ -22,6 +23,8 @@ class QtDialogs : public Dialogs {
     std::optional<std::string> AskText(const InputRequest& request) override;
     std::optional<Path> AskFile(const FileRequest& request) override;
     void SetWaitCursor(bool on) override;
+    void ShowWait(const WaitNotice& notice) override;
+    void HideWait() override;
     void ShowHelp(const HelpRequest& request) override;
 
     /// The window of the help; null until it was asked for.
@@ -30,6 +33,7 @@ class QtDialogs : public Dialogs {
   private:
     QPointer<QWidget> parent_;
     std::unique_ptr<HelpWindow> help_;
+    std::unique_ptr<WaitBox> wait_;
     bool waiting_ = false;
 };
 

@@ -26,6 +26,8 @@ const char* NameOf(ControlKind kind) {
             return "Grid";
         case ControlKind::Chart:
             return "Chart";
+        case ControlKind::ReportPages:
+            return "ReportPages";
         case ControlKind::TabStrip:
             return "TabStrip";
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -10,6 +11,8 @@
 #include "forms/grid_routines.h"
 
 namespace kelvor {
+
+class Document;
 
 enum class ControlKind {
     Label,
@@ -22,6 +25,7 @@ enum class ControlKind {
     Image,
     Grid,
     Chart,
+    ReportPages,
     TabStrip,
 };
 
@@ -107,10 +111,11 @@ struct Control {
     std::string text;     // of a box; the caption of a label, button or frame, and of the tab that shows
     std::string picture;  // the number picture of a field; sizes its box
     std::string toolTip;
-    std::vector<std::string> items;    // of a list; the captions of a tab strip
-    std::optional<GridData> grid;      // of a grid
-    std::optional<ChartData> chart;    // of a chart
-    std::optional<CoarsePlace> place;  // on a built screen
+    std::vector<std::string> items;                 // of a list; the captions of a tab strip
+    std::optional<GridData> grid;                   // of a grid
+    std::optional<ChartData> chart;                 // of a chart
+    std::optional<CoarsePlace> place;               // on a built screen
+    std::shared_ptr<const Document> document = {};  // of report pages; null: the text says why there are none
     bool enabled = true;
     bool visible = true;
     bool locked = false;    // shows a value and takes none

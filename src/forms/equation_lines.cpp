@@ -85,9 +85,9 @@ std::string TargetText(const ScreenContext& context, const Form& form) {
     return (field != nullptr && field->solveFor ? "Solves for: " : "Cannot solve for: ") + variable->desc;
 }
 
-StatusLine GovernsLine(const ScreenContext& context, const Form& form) {
+StatusLine GovernsLine(const ScreenContext& context, const FormType& type) {
     try {
-        return form.type().governs(context);
+        return type.governs(context);
     } catch (const ArithmeticFault&) {
         return {"The thickness has no value.", true};
     }
@@ -105,7 +105,7 @@ void Show(Form& form, const std::string& name, const StatusLine& line) {
 void ShowEquationLines(const ScreenContext& context, Form& form) {
     const bool open = context.calc.store.IsOpen();
     if (form.type().governs != nullptr) {
-        Show(form, kGoverns, open ? GovernsLine(context, form) : StatusLine{});
+        Show(form, kGoverns, open ? GovernsLine(context, form.type()) : StatusLine{});
     }
     const std::vector<const SolveKey*> keys = context.calculations.EquationsOf(form.tag);
     const std::vector<FormEquation>& equations = form.type().equations;
@@ -113,6 +113,19 @@ void ShowEquationLines(const ScreenContext& context, Form& form) {
         Show(form, equations[i].target, {open ? TargetText(context, form) : "", false});
         Show(form, equations[i].check, open ? CheckLine(context, form, *keys[i]) : StatusLine{});
     }
+}
+
+std::string EquationCheck(const ScreenContext& context, std::string_view screen) {
+    const FormType* type = context.forms.FindType(screen);
+    const std::vector<const SolveKey*> keys = context.calculations.EquationsOf(screen);
+    if (type == nullptr || type->equations.empty() || keys.empty()) return {};
+    const Form closed(*type, context.catalogue);
+    return CheckLine(context, closed, *keys.front()).text;
+}
+
+std::string WhatGoverns(const ScreenContext& context, std::string_view screen) {
+    const FormType* type = context.forms.FindType(screen);
+    return type == nullptr || type->governs == nullptr ? "" : GovernsLine(context, *type).text;
 }
 
 }  // namespace kelvor

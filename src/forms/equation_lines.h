@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include "forms/form.h"
 #include "forms/screen_context.h"
 
@@ -10,5 +13,10 @@ namespace kelvor {
 /// traffic that the equation gives; and on a form that tells it, what decides its result. It touches no flag
 /// and no indicator. With no project open all are empty.
 void ShowEquationLines(const ScreenContext& context, Form& form);
+
+/// What the lines of a screen say, also while it is closed: whether the stored cells satisfy its equation,
+/// and what decides its result. Empty for a screen that has no such line.
+std::string EquationCheck(const ScreenContext& context, std::string_view screen);
+std::string WhatGoverns(const ScreenContext& context, std::string_view screen);
 
 }  // namespace kelvor

@@ -152,6 +152,8 @@ class Builder {
 
     void Make(const layout::Chart& chart) { Add(ControlKind::Chart, chart.name).chart = chart.data; }
 
+    void Make(const layout::ReportPages& pages) { Add(ControlKind::ReportPages, pages.name); }
+
     void Make(const layout::Indicator& indicator) {
         Control& label = Add(ControlKind::Label, indicator.name);
         label.tag = "SolveFor";

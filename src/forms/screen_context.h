@@ -13,6 +13,7 @@
 namespace kelvor {
 
 struct CostSummary;
+class ReportDesk;
 
 /// All that a screen's routine may see and touch: what a calculation sees, and the forms.
 struct ScreenContext {
@@ -28,6 +29,7 @@ struct ScreenContext {
     std::string& act;    // what the event does, in the user's words ("change of Reliability"), for Undo; the
                          // routine that names it last is right, and an event that only looks has none
     CostSummary& costSummary;
+    ReportDesk& reports;
 };
 
 }  // namespace kelvor

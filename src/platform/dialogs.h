@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <deque>
 #include <optional>
 #include <string>
@@ -41,6 +42,20 @@ struct HelpRequest {
     std::string page = {};  // the name of the form it tells of; empty: the contents
 };
 
+/// What is shown while the program works: not a question, and gone when the work is done.
+struct WaitNotice {
+    std::string title = "Please Wait";
+    std::string text = {};
+    std::size_t done = 0;
+    std::size_t steps = 0;
+};
+
+/// A file to be printed, in the format PDF.
+struct PrintRequest {
+    Path file;
+    std::string title;
+};
+
 /// Everything that asks the user something. Each call returns when the user has answered.
 class Dialogs {
   public:
@@ -58,6 +73,16 @@ class Dialogs {
     virtual std::optional<Path> AskFile(const FileRequest& request) = 0;
 
     virtual void SetWaitCursor(bool on) = 0;
+
+    /// Shows a notice, or changes the one that shows. A front end without windows shows none.
+    virtual void ShowWait(const WaitNotice& /*notice*/) {}
+    virtual void HideWait() {}
+
+    /// Prints a file, which may be removed when the call returns. The reason if it cannot be printed; nothing
+    /// if it was, or if the user does not want it after all.
+    virtual std::optional<std::string> Print(const PrintRequest& /*request*/) {
+        return "there is no printer here";
+    }
 
     /// Opens the help file beside the program, and returns at once. A front end without windows shows none,
     /// and a failure is not told.

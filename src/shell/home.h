@@ -17,12 +17,10 @@ struct Home {
     [[nodiscard]] Path HelpFile() const { return folder / "Help/Kelvor.hlp"; }
     [[nodiscard]] Path Template() const { return folder / kTemplateName; }
     [[nodiscard]] Path WorkCopyFile() const { return work / "kvrwork.tmp"; }
+    [[nodiscard]] Path ReportTablesFile() const { return work / "kvrrport.tmp"; }
     [[nodiscard]] Path LockFile() const { return work / "kvrwork.lck"; }
 
     static constexpr const char* kTemplateName = "kvrwork.tpl";
 };
-
-/// The folder of the running executable.
-Path ExecutableFolder();
 
 }  // namespace kelvor

@@ -63,7 +63,7 @@ std::vector<MenuEntry> MenuEntries(const ProcessState& state, const UndoNames& n
     std::vector<MenuEntry> entries = {
         {"MenuFile", "NewProj", "&New Project"},
         {"MenuFile", "MenuFileOpen", "&Open Project..."},
-        {"MenuFile", "MenuFilePrint", "&Print", true, "Ctrl+P"},
+        {"MenuFile", "MenuFilePrint", "&Print", false, "Ctrl+P"},
         {"MenuFile", "MenuFileSave", "&Save Project...", false, "Ctrl+S"},
         {"MenuFile", "MenuFileSaveAs", "Save Project &As...", false, "Ctrl+Shift+S"},
         Separator("BreakLine1", !state.recentMenu.empty()),

@@ -7,7 +7,11 @@
 namespace kelvor {
 
 ProcessState::ProcessState(Host hostInterfaces, Home homeFolders)
-    : host(hostInterfaces), home(std::move(homeFolders)), calculations(JoinCalculations()) {}
+    : host(hostInterfaces),
+      home(std::move(homeFolders)),
+      calculations(JoinCalculations()),
+      reports(
+          {host, home.folder, home.ReportTablesFile(), sProjectFile, bProjectChanged, bReportsUnavailable}) {}
 
 void ProcessState::OpenCatalogue(const Path& path) {
     dbCatalogue = std::make_unique<Catalogue>(path);
@@ -26,7 +30,7 @@ CalcContext ProcessState::MakeCalcContext() {
 ScreenContext ProcessState::MakeScreenContext() {
     return {MakeCalcContext(), *dbCatalogue,    *units,    calculations, formRegistry,
             balance,           bProjectChanged, *dbCustom, formValues,   act,
-            costSummary};
+            costSummary,       reports};
 }
 
 }  // namespace kelvor

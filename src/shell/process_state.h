@@ -14,6 +14,7 @@
 #include "lcc/calc/cost_summary.h"
 #include "platform/file_lock.h"
 #include "platform/host.h"
+#include "reports/run/report_desk.h"
 #include "shell/home.h"
 #include "store/project_store.h"
 #include "units/units.h"
@@ -66,6 +67,7 @@ struct ProcessState {
 
     FormRegistry formRegistry;  // holds CurrentForm
     BalanceFlags balance;
+    ReportDesk reports;
 
     std::unique_ptr<FileLock> workLock;
 };

@@ -16,6 +16,7 @@
 #include "ndt/screens/ndt_forms.h"
 #include "rehab/screens/existing_forms.h"
 #include "rehab/screens/overlay_screens.h"
+#include "reports/run/preview_form.h"
 #include "shell/about_form.h"
 #include "shell/event_scope.h"
 #include "shell/hub/hub.h"
@@ -36,7 +37,7 @@ constexpr const char* kTyping = "typing";  // what Undo drops before it takes a 
 Program::Program(Host host, Home home) : state_(host, std::move(home)) {
     state_.formRegistry.Declare({HubForm(), AboutForm()});
     state_.formRegistry.Declare(HelpForms());
-    state_.formRegistry.Declare({BlankForm()});
+    state_.formRegistry.Declare({BlankForm(), ReportsPreviewForm()});
     state_.formRegistry.Declare(WithHubTold(DesignForms()));
     state_.formRegistry.Declare(WithHubTold(TrafficForms()));
     state_.formRegistry.Declare(WithHubTold(ExistingPavementForms()));

@@ -96,6 +96,7 @@ class Program {
     [[nodiscard]] static bool HasFieldHelp(const Form& form);
     [[nodiscard]] static std::string HelpPageOf(const Form& form);
     void ShowHelp(const std::string& page);
+    void PrintReport();
     void ShowAbout();
     void ShowHub();
     void ShowStartTab();

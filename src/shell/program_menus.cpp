@@ -31,6 +31,7 @@ bool Program::ChooseMenu(const std::string& name, int index) {
     const std::pair<const char*, std::function<void()>> actions[] = {
         {"NewProj", [&] { MakeNewProject(); }},
         {"MenuFileOpen", [&] { OpenProjectByDialog(); }},
+        {"MenuFilePrint", [&] { PrintReport(); }},
         {"MenuFileSave", [&] { SaveByMenu(false); }},
         {"MenuFileSaveAs", [&] { SaveByMenu(true); }},
         {"mnuRecentFile", [&] { OpenRecentFile(index); }},
@@ -51,6 +52,12 @@ bool Program::ChooseMenu(const std::string& name, int index) {
 void Program::ShowAbout() {
     ScreenContext context = state_.MakeScreenContext();
     FormEvents(context).Open({.form = "About"});
+}
+
+/// The value being typed is committed first; a refused one stops it.
+void Program::PrintReport() {
+    ScreenContext context = state_.MakeScreenContext();
+    if (FormEvents(context).Commit()) state_.reports.Print(context);
 }
 
 // --- Help ---------------------------------------------------------------------------------------------

@@ -95,8 +95,30 @@ bool DialogResponder::eventFilter(QObject* watched, QEvent* event) {
                 if (shown) AnswerFileDialog(*shown);
             },
             Qt::QueuedConnection);
+    } else if (auto* input = qobject_cast<QInputDialog*>(watched)) {
+        const QPointer<QInputDialog> shown = input;
+        QMetaObject::invokeMethod(
+            this,
+            [this, shown] {
+                if (shown) AnswerInputBox(*shown);
+            },
+            Qt::QueuedConnection);
     }
     return false;
+}
+
+/// With nothing queued the box is cancelled.
+void DialogResponder::AnswerInputBox(QInputDialog& dialog) {
+    std::optional<std::string> answer = NextAnswer();
+    if (answer == NameOf(Answer::Cancel)) answer.reset();
+    observer_.OnInput({dialog.labelText().toStdString(), dialog.windowTitle().toStdString()}, answer);
+    auto* box = dialog.findChild<QLineEdit*>();
+    if (!answer || box == nullptr) {
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        return;
+    }
+    box->setText(QString::fromStdString(*answer));
+    QTest::keyClick(box, Qt::Key_Return);
 }
 
 void DialogResponder::AnswerBox(QMessageBox& box) {

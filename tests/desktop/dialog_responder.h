@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFileDialog>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QObject>
 #include <deque>
@@ -33,6 +34,7 @@ class DialogResponder : public QObject {
     void AnswerBox(QMessageBox& box);
     static void AnswerBoxOfFileDialog(QMessageBox& box, QFileDialog& dialog);
     void AnswerFileDialog(QFileDialog& dialog);
+    void AnswerInputBox(QInputDialog& dialog);
     std::optional<std::string> NextAnswer();
 
     DialogObserver& observer_;

@@ -16,6 +16,7 @@
 #include "desktop/control_widgets.h"
 #include "desktop/picture_view.h"
 #include "desktop/qt_text.h"
+#include "desktop/report_pages_view.h"
 #include "desktop/theme.h"
 
 namespace kelvor::test {
@@ -65,6 +66,7 @@ ControlKind KindOf(const QWidget& widget) {
     if (qobject_cast<const QGroupBox*>(&widget) != nullptr) return ControlKind::Frame;
     if (qobject_cast<const QTabWidget*>(&widget) != nullptr) return ControlKind::TabStrip;
     if (dynamic_cast<const PictureView*>(&widget) != nullptr) return ControlKind::Image;
+    if (dynamic_cast<const ReportPagesView*>(&widget) != nullptr) return ControlKind::ReportPages;
     return ControlKind::Label;
 }
 

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "make_data/help_texts.h"
+#include "make_data/staging_tables.h"
 #include "make_data/table_files.h"
 
 namespace kelvor {
@@ -176,6 +177,8 @@ TextTable ReadCatalogueTable(const Path& data, const TableDefinition& definition
     if (definition.name == "Field") return ReadFields(data);
     if (definition.name == "Screen") return ReadScreens(data);
     if (definition.name == "Label") return ReadOne(data, "coarse_grid/Label", ColumnsOf(definition));
+    if (definition.name == kStagingTables) return ReadStagingTables(data);
+    if (definition.name == kStagingColumns) return ReadStagingColumns(data);
     return ReadOne(data, std::string(definition.name), ColumnsOf(definition));
 }
 

@@ -9,6 +9,7 @@
 #include "catalogue/schema.h"
 #include "make_data/catalogue_tables.h"
 #include "make_data/list_tables.h"
+#include "make_data/staging_tables.h"
 #include "make_data/table_files.h"
 #include "make_data/text_table.h"
 #include "platform/sqlite.h"
@@ -112,6 +113,7 @@ void MakeCatalogue(const Path& data, const Path& file) {
         for (const TableDefinition& definition : CatalogueTables()) {
             FillTable(database, definition, ReadCatalogueTable(data, definition));
         }
+        MakeStagingTables(database, ReadStagingTables(data), ReadStagingColumns(data));
     });
 }
 

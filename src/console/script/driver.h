@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "forms/chart.h"
+#include "reports/staged_tables.h"
 #include "store/cell.h"
 
 namespace kelvor {
@@ -36,6 +37,13 @@ struct GridCellReport {
     std::string column;  // its variable
     std::string text;
     std::string note = {};  // what it has to say beside its text
+};
+
+/// A preview of the last run of reports.
+struct PreviewReport {
+    int index = 1;
+    std::string name;  // of the report
+    std::string caption;
 };
 
 /// A property of a control: a truth value, the number of a tab, or a text.
@@ -103,6 +111,22 @@ class Driver {
 
     /// The control that has the focus; nothing if none has it.
     virtual std::optional<std::string> FocusName() = 0;
+
+    // Reports
+
+    /// The buttons of the tab Reports, with the ticks as they stand.
+    virtual void MakeReports() = 0;
+    virtual void ExportReports() = 0;
+
+    /// The menu entry Print.
+    virtual void PrintReport() = 0;
+    virtual std::vector<PreviewReport> Previews() = 0;
+
+    /// Writes a preview, by its number from 1, to a file of the kind that its ending says.
+    virtual void WritePreview(int number, const std::string& file) = 0;
+
+    /// A staging table as the last run has left it.
+    virtual StagedTable Table(const std::string& name) = 0;
 
     // Questions
     virtual void QueueAnswer(const std::string& text) = 0;

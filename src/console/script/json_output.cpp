@@ -18,6 +18,10 @@ Json OrNull(const std::optional<Value>& value) {
     return value ? Json(*value) : Json(nullptr);
 }
 
+Json JsonOf(std::monostate /*nothing*/) { return nullptr; }
+Json JsonOf(double number) { return number; }
+Json JsonOf(const std::string& text) { return text; }
+
 Json KeyObject(const CellKey& key) { return {{"name", key.name}, {"dim1", key.dim1}, {"dim2", key.dim2}}; }
 
 }  // namespace
@@ -89,6 +93,26 @@ void JsonOutput::Chart(const ChartData& chart) {
     const Json ceiling = chart.ceiling > 0.0 ? Json(chart.ceiling) : Json(0);
     Print(stream_,
           {{"chart", {{"title", chart.title}, {"ceiling", ceiling}, {"series", series}, {"rows", rows}}}});
+}
+
+void JsonOutput::Previews(const std::vector<PreviewReport>& previews) {
+    Json list = Json::array();
+    for (const PreviewReport& preview : previews) {
+        list.push_back({{"index", preview.index}, {"name", preview.name}, {"caption", preview.caption}});
+    }
+    Print(stream_, {{"previews", list}});
+}
+
+void JsonOutput::Table(const StagedTable& table) {
+    Json rows = Json::array();
+    for (const auto& cells : table.rows) {
+        Json row = Json::object();
+        for (std::size_t i = 0; i < table.columns.size(); ++i) {
+            row[table.columns[i].name] = std::visit([](const auto& v) { return JsonOf(v); }, cells[i]);
+        }
+        rows.push_back(std::move(row));
+    }
+    Print(stream_, {{"table", {{"name", table.name}, {"rows", rows}}}});
 }
 
 void JsonOutput::Forms(const std::vector<std::string>& names) { Print(stream_, {{"forms", names}}); }

@@ -24,6 +24,8 @@ class Output : public DialogObserver {
     virtual void Controls(const std::vector<ControlReport>& controls) = 0;
     virtual void Grid(const std::vector<GridCellReport>& cells) = 0;
     virtual void Chart(const ChartData& chart) = 0;
+    virtual void Previews(const std::vector<PreviewReport>& previews) = 0;
+    virtual void Table(const StagedTable& table) = 0;
     virtual void Forms(const std::vector<std::string>& names) = 0;
     virtual void Focus(const std::optional<std::string>& control) = 0;
 };
@@ -42,6 +44,8 @@ class JsonOutput : public Output {
     void Controls(const std::vector<ControlReport>& controls) override;
     void Grid(const std::vector<GridCellReport>& cells) override;
     void Chart(const ChartData& chart) override;
+    void Previews(const std::vector<PreviewReport>& previews) override;
+    void Table(const StagedTable& table) override;
     void Forms(const std::vector<std::string>& names) override;
     void Focus(const std::optional<std::string>& control) override;
     void OnMessage(const Message& message, Answer answer) override;
@@ -66,6 +70,8 @@ class PlainOutput : public Output {
     void Controls(const std::vector<ControlReport>& controls) override;
     void Grid(const std::vector<GridCellReport>& cells) override;
     void Chart(const ChartData& chart) override;
+    void Previews(const std::vector<PreviewReport>& previews) override;
+    void Table(const StagedTable& table) override;
     void Forms(const std::vector<std::string>& names) override;
     void Focus(const std::optional<std::string>& control) override;
     void OnMessage(const Message& message, Answer answer) override;
@@ -75,7 +81,5 @@ class PlainOutput : public Output {
   private:
     std::ostream& stream_;
 };
-
-/// The name of a kind of file dialog.
 
 }  // namespace kelvor

@@ -21,6 +21,10 @@ std::string PropertyText(bool truth) { return truth ? "true" : "false"; }
 std::string PropertyText(int number) { return std::to_string(number); }
 std::string PropertyText(const std::string& text) { return Quoted(text); }
 
+std::string StagedText(std::monostate /*nothing*/) { return "empty"; }
+std::string StagedText(double number) { return ExactNumberText(number); }
+std::string StagedText(const std::string& text) { return Quoted(text); }
+
 /// The number, the text where there is only a text, or both where the text says the number otherwise.
 std::string ValueText(const CellValue& value) {
     if (!value.number) return value.text ? Quoted(*value.text) : "empty";
@@ -82,6 +86,27 @@ void PlainOutput::Chart(const ChartData& chart) {
         stream_ << "  " << row.label << ":";
         for (const std::optional<double>& cell : row.cells) {
             stream_ << " " << (cell ? ExactNumberText(*cell) : "empty");
+        }
+        stream_ << '\n';
+    }
+}
+
+void PlainOutput::Previews(const std::vector<PreviewReport>& previews) {
+    if (previews.empty()) stream_ << "no previews\n";
+    for (const PreviewReport& preview : previews) {
+        stream_ << "preview " << preview.index << ": " << preview.name << " " << Quoted(preview.caption)
+                << '\n';
+    }
+}
+
+void PlainOutput::Table(const StagedTable& table) {
+    stream_ << "table " << table.name << ":\n";
+    for (const auto& row : table.rows) {
+        const char* blank = "  ";
+        for (std::size_t i = 0; i < table.columns.size(); ++i) {
+            stream_ << blank << table.columns[i].name << " = "
+                    << std::visit([](const auto& v) { return StagedText(v); }, row[i]);
+            blank = ", ";
         }
         stream_ << '\n';
     }

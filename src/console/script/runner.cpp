@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <istream>
-#include <limits>
 #include <optional>
 #include <ostream>
 #include <string_view>
@@ -129,16 +128,12 @@ void Read(const Context& c) {
     c.output.Property(c.arguments[0], property, c.driver.Read(c.arguments[0], property));
 }
 
-void NotAvailableYet(const Context& /*context*/) { throw ScriptError("not available yet"); }
-
 struct Command {
     std::string_view name;
     std::size_t fewest;
     std::size_t most;
     void (*run)(const Context&);
 };
-
-constexpr std::size_t kAnyNumber = std::numeric_limits<std::size_t>::max();
 
 constexpr std::array kCommands = {
     Command{"new", 0, 0, [](const Context& c) { c.driver.New(); }},
@@ -173,23 +168,23 @@ constexpr std::array kCommands = {
     Command{"read", 1, 2, Read},
     Command{"chart", 1, 1, [](const Context& c) { c.output.Chart(c.driver.Chart(c.arguments[0])); }},
     Command{"controls", 0, 0, [](const Context& c) { c.output.Controls(c.driver.Controls()); }},
+    Command{"report", 0, 0, [](const Context& c) { c.driver.MakeReports(); }},
+    Command{"export", 0, 0, [](const Context& c) { c.driver.ExportReports(); }},
+    Command{"print", 0, 0, [](const Context& c) { c.driver.PrintReport(); }},
+    Command{"previews", 0, 0, [](const Context& c) { c.output.Previews(c.driver.Previews()); }},
+    Command{"preview", 2, 2,
+            [](const Context& c) { c.driver.WritePreview(c.arguments.Subscript(0), c.arguments[1]); }},
+    Command{"table", 1, 1, [](const Context& c) { c.output.Table(c.driver.Table(c.arguments[0])); }},
     Command{"answer", 1, 1, [](const Context& c) { c.driver.QueueAnswer(c.arguments[0]); }},
 };
-
-/// The commands of reports.
-constexpr std::array<std::string_view, 6> kAwaitedCommands = {"report",  "print",  "previews",
-                                                              "preview", "export", "table"};
 
 /// Some editors begin a UTF-8 text with it. It is no part of the first command.
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 const Command& FindCommand(const std::string& name) {
-    static constexpr Command kAwaited{"", 0, kAnyNumber, NotAvailableYet};
     const auto command =
         std::find_if(kCommands.begin(), kCommands.end(), [&](const Command& c) { return c.name == name; });
     if (command != kCommands.end()) return *command;
-    if (std::find(kAwaitedCommands.begin(), kAwaitedCommands.end(), name) != kAwaitedCommands.end())
-        return kAwaited;
     throw ScriptError("unknown command");
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "forms/form_events.h"
+#include "reports/run/report_desk.h"
 #include "shell/hub/offer.h"
 #include "shell/hub/screen_data.h"
 #include "shell/hub/tabs.h"
@@ -28,6 +29,8 @@ constexpr const char* kDesign = "rbND";
 constexpr const char* kOverlays = "rbOV";
 constexpr const char* kTraffic = "rbTr";
 constexpr const char* kCost = "rbCost";
+constexpr const char* kReport = "Command10";
+constexpr const char* kExport = "cmdbExport";
 constexpr std::array kCategories = {kDesign, kOverlays, kTraffic, kCost};
 
 constexpr std::array kBoxes = {
@@ -135,8 +138,14 @@ LayoutElement Category(const char* frame, const char* category, const char* capt
     return Section(frame, "", std::move(rows));
 }
 
+void Report(ScreenEvent& event) { event.context.reports.ReportTicked(event.context, event.form); }
+
+void Export(ScreenEvent& event) { event.context.reports.Export(event.context, event.form); }
+
 std::vector<Handler> ReportHandlers() {
-    std::vector<Handler> handlers = {{FormEvent::Click, kCost, HandlerOrder::Instead, CostClick}};
+    std::vector<Handler> handlers = {{FormEvent::Click, kCost, HandlerOrder::Instead, CostClick},
+                                     {FormEvent::Click, kReport, HandlerOrder::Instead, Report},
+                                     {FormEvent::Click, kExport, HandlerOrder::Instead, Export}};
     for (const char* category : {kDesign, kOverlays, kTraffic}) {
         handlers.push_back({FormEvent::Click, category, HandlerOrder::Instead, CategoryClick});
     }
@@ -154,7 +163,7 @@ HubPage ReportsTab() {
     const LayoutElement traffic = Category("FrameRepTr", kTraffic, "Traffic");
     const LayoutElement costs = Category("FrameRepCost", kCost, "Cost");
     return {Page("Reports", {Columns({Rows({design, overlays}), Rows({traffic, costs})}),
-                             Buttons({{"Command10", "&Report"}, {"cmdbExport", "&Export"}})}),
+                             Buttons({{kReport, "&Report"}, {kExport, "&Export"}})}),
             ReportHandlers()};
 }
 

@@ -1,4 +1,4 @@
-#include "shell/home.h"
+#include "platform/executable_folder.h"
 
 #include <system_error>
 
