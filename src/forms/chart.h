@@ -13,11 +13,17 @@ enum class ChartKind {
     GroupedBars,  // a group of bars a row, one bar a series; the labels stand below the groups
     StackedBars,  // a layer a row, the lowest first, in the colour of the series of the same place; its
                   // cells are its parts of the bars from left to right, and its label stands in them
+    Section,      // a pavement: a layer a row, the lowest first, of one cell, its thickness; the series of
+                  // the same place says of what it is
 };
+
+/// What a layer of a pavement is made of, which decides how it is drawn.
+enum class Material { Other, Asphalt, Concrete, Treated, Granular, Interlayer, Subgrade };
 
 struct ChartSeries {
     std::string name;
-    std::string colour;  // "#RRGGBB"
+    std::string colour;                   // "#RRGGBB"
+    Material material = Material::Other;  // of a section
 
     bool operator==(const ChartSeries&) const = default;
 };
@@ -46,10 +52,11 @@ struct ChartAxis {
 struct ChartData {
     ChartKind kind = ChartKind::Line;
     std::string title;         // its lines divided by "\n"
-    double ceiling = 0.0;      // the greatest number of the axis up that was passed in; 0: none
+    double ceiling = 0.0;      // the greatest number of the axis up that was passed in; 0: none. The layers
+                               // of a section count from the top of the subgrade
     bool showsValues = false;  // each bar or point has its number beside it
     ChartAxis across;
-    ChartAxis up;
+    ChartAxis up;  // of a section: its unit and the picture of its thicknesses
     std::vector<ChartSeries> series;
     std::vector<ChartRow> rows;
 
