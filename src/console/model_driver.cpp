@@ -5,6 +5,7 @@
 #include "console/script/command_line.h"
 #include "platform/number_text.h"
 #include "platform/text.h"
+#include "shell/overview.h"
 
 namespace kelvor {
 
@@ -33,6 +34,8 @@ void ModelDriver::Open(const std::string& path) { program_.OpenProject(path); }
 void ModelDriver::Save() { program_.Save(); }
 void ModelDriver::SaveAs(const std::string& path) { program_.SaveAs(path); }
 void ModelDriver::ChooseUnits(bool metric) { program_.ChooseUnits(metric); }
+
+std::vector<OverviewLine> ModelDriver::Overview() { return MakeOverview(program_.state()); }
 
 std::optional<std::string> ModelDriver::Undo() { return program_.Undo(); }
 

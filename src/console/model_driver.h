@@ -38,6 +38,7 @@ class ModelDriver : public Driver {
     void ActivateForm(const std::string& name) override;
     void CloseForm(const std::optional<std::string>& name) override;
     std::vector<std::string> Forms() override;
+    std::vector<OverviewLine> Overview() override;
     void Focus(const std::string& control) override;
     void Type(const std::string& text) override;
     void Key(const std::string& key) override;

@@ -63,9 +63,8 @@ StatusLine CompareLine(Real given, Real stored) {
     return {"In balance: " + both + " (" + FormatNumber(difference * 100.0, kPercentPicture) + " %).", false};
 }
 
-StatusLine CheckLine(const ScreenContext& context, const Form& form, const SolveKey& equation) {
-    const std::vector<std::string> missing = MissingTerms(context, form, equation);
-    if (!missing.empty()) return MissingLine(missing);
+/// What the equation says of terms that are all entered.
+StatusLine AnswerLine(const ScreenContext& context, const SolveKey& equation) {
     try {
         const EquationAnswer answer = equation.answer(context.calc, equation.terms);
         if (answer.traffic) return CompareLine(*answer.traffic, context.calc.Get(equation.Traffic()));
@@ -73,6 +72,11 @@ StatusLine CheckLine(const ScreenContext& context, const Form& form, const Solve
     } catch (const ArithmeticFault&) {
         return {"Not in balance: the equation has no value.", true};
     }
+}
+
+StatusLine CheckLine(const ScreenContext& context, const Form& form, const SolveKey& equation) {
+    const std::vector<std::string> missing = MissingTerms(context, form, equation);
+    return missing.empty() ? AnswerLine(context, equation) : MissingLine(missing);
 }
 
 /// What a press of a Solve For button would do for the field that had the focus last.
@@ -113,6 +117,16 @@ void ShowEquationLines(const ScreenContext& context, Form& form) {
         Show(form, equations[i].target, {open ? TargetText(context, form) : "", false});
         Show(form, equations[i].check, open ? CheckLine(context, form, *keys[i]) : StatusLine{});
     }
+}
+
+std::optional<bool> EquationHolds(const ScreenContext& context, std::string_view screen) {
+    const std::vector<const SolveKey*> keys = context.calculations.EquationsOf(screen);
+    if (keys.empty()) return std::nullopt;
+    return std::all_of(keys.begin(), keys.end(), [&](const SolveKey* key) {
+        const auto isMissing = [&](std::string_view term) { return context.calc.Get(term) == 0.0; };
+        if (std::any_of(key->terms.begin(), key->terms.end(), isMissing)) return false;
+        return !AnswerLine(context, *key).warns;
+    });
 }
 
 std::string EquationCheck(const ScreenContext& context, std::string_view screen) {

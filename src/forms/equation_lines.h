@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -16,6 +17,10 @@ void ShowEquationLines(const ScreenContext& context, Form& form);
 
 /// What the lines of a screen say, also while it is closed: whether the stored cells satisfy its equation,
 /// and what decides its result. Empty for a screen that has no such line.
+/// True if the stored cells satisfy the equations of a screen; false also where a term is missing. Nothing
+/// for a screen without an equation.
+std::optional<bool> EquationHolds(const ScreenContext& context, std::string_view screen);
+
 std::string EquationCheck(const ScreenContext& context, std::string_view screen);
 std::string WhatGoverns(const ScreenContext& context, std::string_view screen);
 

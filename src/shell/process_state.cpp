@@ -23,14 +23,18 @@ void ProcessState::OpenCatalogue(const Path& path) {
     SortByName(projectBounds);
 }
 
+void ProcessState::NoteChanges(const std::vector<CellChange>& cells) {
+    ++events_;
+    for (const CellChange& change : cells) changes[change.cell.name] = events_;
+}
+
 CalcContext ProcessState::MakeCalcContext() {
     return {dbWork, *units, host.dialogs, host.clock, reliability, formValues};
 }
 
 ScreenContext ProcessState::MakeScreenContext() {
-    return {MakeCalcContext(), *dbCatalogue,    *units,    calculations, formRegistry,
-            balance,           bProjectChanged, *dbCustom, formValues,   act,
-            costSummary,       reports};
+    return {MakeCalcContext(), *dbCatalogue, *units,     calculations, formRegistry, balance,
+            bProjectChanged,   *dbCustom,    formValues, act,          costSummary,  reports};
 }
 
 }  // namespace kelvor

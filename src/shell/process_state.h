@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "calc/calc_context.h"
@@ -35,6 +36,9 @@ struct ProcessState {
     /// Opens the catalogue and what depends on it. Throws DatabaseError.
     void OpenCatalogue(const Path& path);
 
+    /// Notes which variables an event has changed.
+    void NoteChanges(const std::vector<CellChange>& cells);
+
     /// What a calculation may see.
     [[nodiscard]] CalcContext MakeCalcContext();
 
@@ -51,6 +55,8 @@ struct ProcessState {
     std::optional<Units> units;             // holds bMetric
 
     std::string sIniFile;
+    std::unordered_map<std::string, int, NameHash, NameEqual>
+        changes;               // by variable: the event that changed it last, counted
     int projects = 0;          // counts them: each New and each Open is another one
     std::string sProjectFile;  // full path of the open project; empty for an unnamed one
     std::string caption;       // of the main window
@@ -70,6 +76,9 @@ struct ProcessState {
     ReportDesk reports;
 
     std::unique_ptr<FileLock> workLock;
+
+  private:
+    int events_ = 0;
 };
 
 }  // namespace kelvor

@@ -88,7 +88,9 @@ bool Program::InEvent(const std::function<bool()>& action) {
     try {
         const bool made = action();
         EndOfEvent();
-        if (!std::exchange(travelled_, false)) history_.Record(state_, event);
+        const std::vector<CellChange> changes = state_.dbWork.EventChanges();
+        if (!changes.empty()) state_.NoteChanges(changes);
+        if (!std::exchange(travelled_, false)) history_.Record(state_, event, changes);
         return made;
     } catch (const ProgramStop&) {
         throw;

@@ -61,6 +61,7 @@ void ProjectFiles::WriteWorkCopy(const std::string& content) {
     }
     state_.host.files.Write(file, content);
     ++state_.projects;
+    state_.changes.clear();
 }
 
 bool ProjectFiles::NewWorkCopy() {

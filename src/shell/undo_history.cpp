@@ -205,14 +205,14 @@ void TakeOnLooks(FormRegistry& forms, const std::vector<FormLook>& looks, bool b
 
 // --- Recording ------------------------------------------------------------------------------------------
 
-void UndoHistory::Record(const ProcessState& state, const EventScope& event) {
+void UndoHistory::Record(const ProcessState& state, const EventScope& event,
+                         std::vector<CellChange> changes) {
     if (std::exchange(project_, state.projects) != state.projects) {
         *this = {};
         project_ = state.projects;
         return;
     }
     if (!event.HasSameProject()) return;  // saved: the same cells, opened anew
-    std::vector<CellChange> changes = state.dbWork.EventChanges();
     if (changes.empty()) return;
     if (state.act.empty() || std::all_of(changes.begin(), changes.end(), IsBookkeeping)) {
         unnamed_ = Compose(unnamed_, std::move(changes));

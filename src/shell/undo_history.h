@@ -61,8 +61,9 @@ struct UndoStep {
 /// leaves it.
 class UndoHistory {
   public:
-    /// Notes what an event has done, at its end. A step that was taken back before is then past redoing.
-    void Record(const ProcessState& state, const EventScope& event);
+    /// Notes what an event has done, at its end, with the cells that it changed. A step that was taken back
+    /// before is then past redoing.
+    void Record(const ProcessState& state, const EventScope& event, std::vector<CellChange> changes);
 
     /// The act that would be taken back or done again next; null if there is none.
     [[nodiscard]] const std::string* NextUndo() const;

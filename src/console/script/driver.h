@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "forms/chart.h"
+#include "forms/overview_line.h"
 #include "reports/staged_tables.h"
 #include "store/cell.h"
 
@@ -90,6 +91,7 @@ class Driver {
     /// Closes a form, or the current one if no name is given.
     virtual void CloseForm(const std::optional<std::string>& name) = 0;
     virtual std::vector<std::string> Forms() = 0;
+    virtual std::vector<OverviewLine> Overview() = 0;
     virtual void Focus(const std::string& control) = 0;
     virtual void Type(const std::string& text) = 0;
     virtual void Key(const std::string& key) = 0;

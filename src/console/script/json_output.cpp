@@ -117,6 +117,20 @@ void JsonOutput::Table(const StagedTable& table) {
 
 void JsonOutput::Forms(const std::vector<std::string>& names) { Print(stream_, {{"forms", names}}); }
 
+void JsonOutput::Overview(const std::vector<OverviewLine>& lines) {
+    Json list = Json::array();
+    for (const OverviewLine& line : lines) {
+        Json results = Json::array();
+        for (const OverviewResult& result : line.results)
+            results.push_back({{"name", result.name}, {"text", result.text}, {"unit", result.unit}});
+        list.push_back({{"name", line.name},
+                        {"title", line.title},
+                        {"results", results},
+                        {"balanced", OrNull(line.balanced)}});
+    }
+    Print(stream_, {{"overview", list}});
+}
+
 void JsonOutput::Focus(const std::optional<std::string>& control) {
     Print(stream_, {{"focus", OrNull(control)}});
 }

@@ -27,6 +27,7 @@ class Output : public DialogObserver {
     virtual void Previews(const std::vector<PreviewReport>& previews) = 0;
     virtual void Table(const StagedTable& table) = 0;
     virtual void Forms(const std::vector<std::string>& names) = 0;
+    virtual void Overview(const std::vector<OverviewLine>& lines) = 0;
     virtual void Focus(const std::optional<std::string>& control) = 0;
 };
 
@@ -47,6 +48,7 @@ class JsonOutput : public Output {
     void Previews(const std::vector<PreviewReport>& previews) override;
     void Table(const StagedTable& table) override;
     void Forms(const std::vector<std::string>& names) override;
+    void Overview(const std::vector<OverviewLine>& lines) override;
     void Focus(const std::optional<std::string>& control) override;
     void OnMessage(const Message& message, Answer answer) override;
     void OnInput(const InputRequest& request, const std::optional<std::string>& answer) override;
@@ -73,6 +75,7 @@ class PlainOutput : public Output {
     void Previews(const std::vector<PreviewReport>& previews) override;
     void Table(const StagedTable& table) override;
     void Forms(const std::vector<std::string>& names) override;
+    void Overview(const std::vector<OverviewLine>& lines) override;
     void Focus(const std::optional<std::string>& control) override;
     void OnMessage(const Message& message, Answer answer) override;
     void OnInput(const InputRequest& request, const std::optional<std::string>& answer) override;

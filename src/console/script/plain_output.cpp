@@ -112,6 +112,18 @@ void PlainOutput::Table(const StagedTable& table) {
     }
 }
 
+void PlainOutput::Overview(const std::vector<OverviewLine>& lines) {
+    for (const OverviewLine& line : lines) {
+        stream_ << line.name << " " << Quoted(line.title) << ":";
+        for (const OverviewResult& result : line.results) {
+            stream_ << " " << result.name << " " << (result.text.empty() ? "empty" : result.text);
+            if (!result.unit.empty()) stream_ << " [" << result.unit << "]";
+        }
+        if (line.balanced) stream_ << (*line.balanced ? ", in balance" : ", not in balance");
+        stream_ << '\n';
+    }
+}
+
 void PlainOutput::Forms(const std::vector<std::string>& names) {
     stream_ << "forms:";
     for (const std::string& name : names) stream_ << " " << name;

@@ -151,6 +151,7 @@ constexpr std::array kCommands = {
     Command{"solve", 2, 2, Solve},
     Command{"form", 1, 3, FormCommand},
     Command{"forms", 0, 0, [](const Context& c) { c.output.Forms(c.driver.Forms()); }},
+    Command{"overview", 0, 0, [](const Context& c) { c.output.Overview(c.driver.Overview()); }},
     Command{"focus", 1, 1, [](const Context& c) { ThenFocus(c, &Driver::Focus); }},
     Command{"type", 1, 1, [](const Context& c) { c.driver.Type(c.arguments[0]); }},
     Command{"key", 1, 1, [](const Context& c) { ThenFocus(c, &Driver::Key); }},

@@ -29,6 +29,7 @@ class Walker {
         for (int tab = 0; tab < kHubTabs; ++tab) Try({{UserEvent::Kind::SwitchTab, {}, {}, tab}});
         Try(TrafficInputs());
         Try(ExistingPavement());
+        Try(Printed());
         while (!waiting_.empty()) {
             const Acts acts = waiting_.front();
             waiting_.pop_front();
@@ -70,6 +71,11 @@ class Walker {
                                      {"EXISTK", "200"}});
         for (const UserEvent& act : Entered("oExF", {{"EXISTRM", "5,000"}})) acts.push_back(act);
         return acts;
+    }
+
+    /// The menu's report of the flexible design.
+    static Acts Printed() {
+        return {{UserEvent::Kind::OpenForm, "DeF", {}, 0}, {UserEvent::Kind::Menu, "MenuFilePrint", {}, 0}};
     }
 
     /// Fields of a screen of the tab Overlays typed into.

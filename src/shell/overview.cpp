@@ -1,0 +1,122 @@
+#include "shell/overview.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+#include "forms/equation_lines.h"
+#include "forms/form_builder.h"
+#include "lcc/calc/cost_summary.h"
+
+namespace kelvor {
+
+namespace {
+
+/// A screen of the overview. It holds data if one of its results or of its own inputs, which no other screen
+/// has, is a number other than 0.
+struct OverviewScreen {
+    std::string_view name;
+    std::vector<std::string_view> results;
+    std::vector<std::string_view> inputs;
+};
+
+const std::vector<OverviewScreen>& Screens() {
+    static const std::vector<OverviewScreen> screens = {
+        {"DeF", {"SN"}, {"FLEXREL", "FLEXDEV", "RM", "FLEXPO", "FLEXPT"}},
+        {"DeR", {"DEPTH"}, {"RIGREL", "RIGDEV", "MR", "EC", "RIGPO", "RIGPT"}},
+        {"OvAA", {"ACACTHICK"}, {"ACACREL", "ACACDEV", "ACACPO", "ACACPT"}},
+        {"OvAFP", {"ACCSTHICK"}, {"ACCSREL", "ACCSDEV", "ACCSPO", "ACCSPT"}},
+        {"OvAP", {"ACPCOLT"}, {"ACPCREL", "ACPCDEV", "ACPCPO", "ACPCPT"}},
+        {"OvAAP", {"ACACPCOLT"}, {"ACACPCREL", "ACACPCDEV", "ACACPCPO", "ACACPCPT"}},
+        {"OvBP", {"BOLDEPTH"}, {"BOLFJC", "BOLFDUR", "BOLFFAT"}},
+        {"OvUP", {"UBOLDEPTH"}, {"UBOLFJCU"}},
+        {"OvWT", {"WTDEPTH"}, {}},
+        {"TrAx", {"RIGE18", "FLEXE18"}, {"AxleWeight", "NumOfAxles"}},
+        {"TrVe", {"RIGE18", "FLEXE18"}, {"AW52", "AW55", "AW58", "NA53", "NA56"}},
+        {"TrTr", {"RIGE18", "FLEXE18"}, {"TrInADTT", "TrInADT", "TrInPerTruck"}},
+        {"ReDfF", {"AVGNDTRM", "AVGNDTEFFEP"}, {}},
+        {"ReDfR", {"AVGSTATK", "AVGNDTE"}, {}},
+        {"ReDfC", {"AVGSTATKC", "AVGNDTEC"}, {}},
+    };
+    return screens;
+}
+
+/// The comparison of costs keeps no results in the project: they are worked out.
+constexpr const char* kCostScreen = "LcS";
+const std::vector<std::string_view> kCostInputs = {"InitialItemCost", "RehabItemCost", "MaintItemCost"};
+
+/// ESALs are on the screens of the designs too: on a route to them they tell nothing of the route.
+bool IsShared(std::string_view variable) { return variable == "RIGE18" || variable == "FLEXE18"; }
+
+bool AnyCellCounts(const ProcessState& state, std::string_view name) {
+    const Variable* variable = state.dbCatalogue->FindVariable(name);
+    if (variable == nullptr || state.dbWork.SQLCount(name) == 0) return false;
+    for (int dim1 = 1; dim1 <= variable->dim1; ++dim1) {
+        for (int dim2 = 1; dim2 <= variable->dim2; ++dim2) {
+            const CellValue* cell = state.dbWork.FindCell(name, dim1, dim2);
+            if (cell != nullptr && cell->number.value_or(0.0) != 0.0) return true;
+        }
+    }
+    return false;
+}
+
+bool AnyCounts(const ProcessState& state, const std::vector<std::string_view>& variables) {
+    return std::any_of(variables.begin(), variables.end(), [&](std::string_view variable) {
+        return !IsShared(variable) && AnyCellCounts(state, variable);
+    });
+}
+
+OverviewResult ResultOf(const ProcessState& state, std::string_view variable) {
+    const std::string unit = state.units->UnitLabel(variable);
+    return {std::string(variable), state.units->GetDisplayValue(variable), IsNoUnit(unit) ? "" : unit};
+}
+
+std::vector<OverviewResult> CostResults(ProcessState& state) {
+    CostSummary summary;
+    bool complete = true;
+    ComputeCostSummary(state.MakeCalcContext(), summary, [&](const ArithmeticFault&) { complete = false; });
+    std::vector<OverviewResult> results;
+    for (const auto& [name, costs] :
+         {std::pair("EUACA", &summary.pavements[0]), std::pair("EUACB", &summary.pavements[1])}) {
+        results.push_back({name, complete ? FormatWhole(costs->euac) : "", ""});
+    }
+    return results;
+}
+
+/// When one of a screen's variables was changed last, counted in events; 0: not since the project was opened.
+int LastChange(const ProcessState& state, const std::string& screen) {
+    int last = 0;
+    for (const Field* field : state.dbCatalogue->FieldsOfScreen(screen)) {
+        const auto found = state.changes.find(field->name);
+        if (found != state.changes.end()) last = std::max(last, found->second);
+    }
+    return last;
+}
+
+std::string CaptionOf(const ProcessState& state, std::string_view screen) {
+    const FormType* type = state.formRegistry.FindType(screen);
+    return type == nullptr ? std::string(screen) : type->caption;
+}
+
+}  // namespace
+
+std::vector<OverviewLine> MakeOverview(ProcessState& state) {
+    std::vector<OverviewLine> lines;
+    if (!state.dbWork.IsOpen()) return lines;
+    const ScreenContext context = state.MakeScreenContext();
+    for (const OverviewScreen& screen : Screens()) {
+        if (!AnyCounts(state, screen.results) && !AnyCounts(state, screen.inputs)) continue;
+        OverviewLine line{std::string(screen.name), CaptionOf(state, screen.name), {}, {}};
+        for (const std::string_view result : screen.results) line.results.push_back(ResultOf(state, result));
+        line.balanced = EquationHolds(context, screen.name);
+        lines.push_back(std::move(line));
+    }
+    if (AnyCounts(state, kCostInputs))
+        lines.push_back({kCostScreen, CaptionOf(state, kCostScreen), CostResults(state), std::nullopt});
+    std::stable_sort(lines.begin(), lines.end(), [&](const OverviewLine& a, const OverviewLine& b) {
+        return LastChange(state, a.name) > LastChange(state, b.name);
+    });
+    return lines;
+}
+
+}  // namespace kelvor
