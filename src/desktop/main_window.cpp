@@ -214,6 +214,7 @@ void MainWindow::SyncStatus() {
     const Control* focus = form == nullptr ? nullptr : form->focus;
     QString hint;
     if (focus != nullptr) hint = ToQt(focus->grid ? focus->grid->current().hint : focus->toolTip);
+    if (const std::string preview = program_.EntryPreview(); !preview.empty()) hint = ToQt(preview);
     if (!program_.state().dbWork.IsOpen()) {
         hint = QStringLiteral("No project is open: choose New Project or Open Project");
     }

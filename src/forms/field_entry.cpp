@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "forms/act_name.h"
 #include "forms/coded_list.h"
 #include "forms/indicator.h"
 #include "forms/recalculation.h"
 #include "platform/number_text.h"
+#include "units/number_entry.h"
 
 namespace kelvor {
 
@@ -37,6 +39,13 @@ bool TakesText(const ScreenContext& context, const Control& control) {
 bool IsOffered(const Control& control) {
     if (!control.onlyItems || control.text.empty()) return true;
     return std::find(control.items.begin(), control.items.end(), control.text) != control.items.end();
+}
+
+/// Puts a plain number in the place of a multiple, a fraction, a sum or a value with its unit.
+void TakeEntry(const ScreenContext& context, Control& control) {
+    if (control.text.empty() || IsNumeric(control.text) || TakesText(context, control)) return;
+    if (auto number = ReadNumberEntry(context.units, control.tag, control.text))
+        control.text = std::move(*number);
 }
 
 /// Empties the box of a refused value.
@@ -137,6 +146,7 @@ bool FieldLostFocus(ScreenContext& context, Form& form, Control& control) {
         if (control.coded) form.SetFieldChanged(true);
         return false;
     }
+    if (form.fieldChanged()) TakeEntry(context, control);
     if (!control.text.empty() && !IsNumeric(control.text) && !TakesText(context, control)) {
         context.calc.dialogs.ShowMessage({.text = "Please enter valid numeric value.", .title = "Value"});
         if (form.fieldChanged()) context.bProjectChanged = true;

@@ -102,7 +102,7 @@ class FormEvents {
     void TypeCharacterIntoCell(Form& form, Control& control, const std::string& character);
     void TypeIntoCell(Form& form, Control& control, const std::string& text);
     bool CommitCell(Form& form, Control& control);
-    bool StoreCell(Form& form, Control& control, const std::string& text);
+    bool StoreCell(Form& form, Control& control, const std::string& typed);
     void WriteCells(Form& form, Control& control, const std::vector<CellEntry>& cells);
     void NoteRowsWritten(Form& form, Control& control, std::vector<int> rows);
     bool MoveGridCursor(Form& form, Control& control, int row, std::size_t column);

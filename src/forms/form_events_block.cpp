@@ -58,7 +58,7 @@ class PastePlanner {
         for (std::size_t i = 0; i < line.size() && grid_.column + i < grid_.columns.size(); ++i) {
             const GridColumn& column = grid_.columns[grid_.column + i];
             if (!GridTakesEdit(context_, form_, row, column)) continue;
-            std::string text = EntryOf(column, line[i]);
+            std::string text = GridEntry(context_, column, EntryOf(column, line[i]));
             if (auto refusal = GridRefusal(context_, column, text)) {
                 plan_.LeaveOut({row, column.caption, *std::move(refusal)});
                 return;

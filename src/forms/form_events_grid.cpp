@@ -52,8 +52,9 @@ bool FormEvents::CommitCell(Form& form, Control& control) {
     return !typed || StoreCell(form, control, *typed);
 }
 
-bool FormEvents::StoreCell(Form& form, Control& control, const std::string& text) {
+bool FormEvents::StoreCell(Form& form, Control& control, const std::string& typed) {
     const GridColumn& column = control.grid->current();
+    const std::string text = GridEntry(context_, column, typed);
     const int row = control.grid->row;
     if (!GridBeforeColUpdate(context_, form, column, text)) return false;
     context_.act = ChangeOf(context_, column.variable, row);

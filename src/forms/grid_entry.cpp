@@ -3,9 +3,11 @@
 #include <algorithm>
 
 #include "forms/field_entry.h"
+#include "forms/form_builder.h"
 #include "platform/database_error.h"
 #include "platform/number_picture.h"
 #include "platform/number_text.h"
+#include "units/number_entry.h"
 
 namespace kelvor {
 
@@ -68,6 +70,25 @@ void GridWriteCell(ScreenContext& context, Form& form, int row, const GridColumn
 void GridChange(ScreenContext& context, Form& form) {
     form.SetFieldChanged(true);
     if (!form.FindGrid()->grid->texts) context.bProjectChanged = true;
+}
+
+std::string EntryPreview(const ScreenContext& context, const Form& form) {
+    if (!form.IsTyping()) return {};
+    const Control& control = *form.focus;
+    const std::string& variable = control.grid ? control.grid->current().variable : control.tag;
+    const std::string& text = control.grid ? *control.grid->typed : control.text;
+    const Variable* row = context.catalogue.FindVariable(variable);
+    if (row == nullptr || row->IsText() || control.kind == ControlKind::ComboBox || IsNumeric(text))
+        return {};
+    const auto number = ReadNumberEntry(context.units, variable, text);
+    if (!number) return {};
+    const std::string unit = context.units.UnitLabel(variable);
+    return "= " + *number + (IsNoUnit(unit) ? "" : " " + unit);
+}
+
+std::string GridEntry(const ScreenContext& context, const GridColumn& column, const std::string& text) {
+    if (text.empty() || !column.list.empty() || IsTextPicture(column.picture) || IsNumeric(text)) return text;
+    return ReadNumberEntry(context.units, column.variable, text).value_or(text);
 }
 
 std::optional<Message> GridRefusal(const ScreenContext& context, const GridColumn& column,

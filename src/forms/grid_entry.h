@@ -24,6 +24,14 @@ void GridWriteCell(ScreenContext& context, Form& form, int row, const GridColumn
 /// A cell is being edited: the project has changed, unless the grid shows none of it.
 void GridChange(ScreenContext& context, Form& form);
 
+/// The value with its unit that the text being typed on a form stands for, as "= 150 mm"; empty for a plain
+/// number and for what cannot be read.
+std::string EntryPreview(const ScreenContext& context, const Form& form);
+
+/// What was typed into a cell as a plain number, if it is a multiple, a fraction, a sum or a value with its
+/// unit; any other text stands.
+std::string GridEntry(const ScreenContext& context, const GridColumn& column, const std::string& text);
+
 /// Why a column does not take a text; nothing if it does. A number must be one and lie within the range of
 /// the active unit system; a list takes its entries alone; any cell takes an empty text.
 std::optional<Message> GridRefusal(const ScreenContext& context, const GridColumn& column,

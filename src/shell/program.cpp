@@ -80,6 +80,12 @@ bool Program::TakesEdit(const Form& form, int row, const GridColumn& column) {
     return GridTakesEdit(state_.MakeScreenContext(), form, row, column);
 }
 
+std::string Program::EntryPreview() {
+    const Form* form = state_.formRegistry.CurrentForm;
+    if (form == nullptr || !state_.dbWork.IsOpen()) return {};
+    return kelvor::EntryPreview(state_.MakeScreenContext(), *form);
+}
+
 // --- Events -------------------------------------------------------------------------------------------
 
 bool Program::InEvent(const std::function<bool()>& action) {

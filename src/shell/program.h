@@ -41,6 +41,9 @@ class Program {
     [[nodiscard]] std::string CellNote(const Form& form, int row, const GridColumn& column);
     [[nodiscard]] bool TakesEdit(const Form& form, int row, const GridColumn& column);
 
+    /// What the text being typed on the current form stands for, as "= 150 mm"; empty for a plain number.
+    [[nodiscard]] std::string EntryPreview();
+
     /// The File menu; the messages were shown. False from New only if no project can be made any more; it is
     /// true if a refused value kept the old one. The others tell whether they succeeded.
     bool NewProject();

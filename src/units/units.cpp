@@ -26,6 +26,11 @@ std::string Units::UnitLabel(std::string_view variable) const {
     return pair == nullptr ? row->units : pair->metric;
 }
 
+const UnitPair* Units::PairOf(std::string_view variable) const {
+    const Variable* row = catalogue_.FindVariable(variable);
+    return row == nullptr ? nullptr : catalogue_.FindPairByEnglish(row->units);
+}
+
 std::string Units::ActiveUnit(std::string_view unit) const {
     const UnitPair* pair = metric_ ? catalogue_.FindPairByEnglish(unit) : catalogue_.FindPairByMetric(unit);
     if (pair == nullptr) return std::string(unit);

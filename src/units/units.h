@@ -36,6 +36,10 @@ class Units {
     /// metric partner.
     [[nodiscard]] double UnitFactor(std::string_view englishUnit) const;
 
+    /// The names of a variable's unit in both systems, and the factor from English to metric; null for an
+    /// unknown variable and a unit without a partner.
+    [[nodiscard]] const UnitPair* PairOf(std::string_view variable) const;
+
     /// The unit of a variable in the active system; empty for an unknown variable.
     [[nodiscard]] std::string UnitLabel(std::string_view variable) const;
 
