@@ -16,7 +16,6 @@
 
 #include "desktop/picture_view.h"
 #include "desktop/qt_text.h"
-#include "desktop/report_pages_view.h"
 #include "desktop/theme.h"
 #include "forms/form_builder.h"
 #include "platform/number_picture.h"
@@ -224,10 +223,9 @@ QWidget* MakeWidget(const Control& control, QWidget* parent) {
             return new QGroupBox(parent);
         case ControlKind::TabStrip:
             return MakeTabStrip(parent);
-        case ControlKind::ReportPages:
-            return new ReportPagesView(parent);
         case ControlKind::Grid:
         case ControlKind::Chart:
+        case ControlKind::ReportPages:
             break;  // it needs more than its control
     }
     return nullptr;

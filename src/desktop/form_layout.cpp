@@ -300,7 +300,7 @@ class LayoutMaker {
     void Add(QBoxLayout& to, const layout::Grid& grid) { to.addWidget(find_(grid.name), 1); }
     void Add(QBoxLayout& to, const layout::Chart& chart) { to.addWidget(find_(chart.name), 1); }
 
-    void Add(QBoxLayout& to, const layout::ReportPages& pages) { to.addWidget(find_(pages.name), 1); }
+    void Add(QBoxLayout& to, const layout::ReportView& pages) { to.addWidget(find_(pages.name), 1); }
 
     void Add(QBoxLayout& to, const layout::Table& table) {
         auto* grid = new QGridLayout;

@@ -15,6 +15,7 @@
 #include "desktop/control_widgets.h"
 #include "desktop/form_layout.h"
 #include "desktop/grid_view.h"
+#include "desktop/preview/report_pages_view.h"
 #include "desktop/qt_text.h"
 
 namespace kelvor {
@@ -37,14 +38,31 @@ FormView::~FormView() {
 
 void FormView::MakeWidgets() {
     for (const auto& control : form_->controls()) {
-        QWidget* widget = control->grid    ? MakeGrid(*control)
-                          : control->chart ? MakeChart(*control, this)
-                                           : MakeWidget(*control, this);
+        QWidget* widget = MakeControl(*control);
         widget->setObjectName(ToQt(control->name));
         widget->setVisible(control->visible);
         widgets_.insert(control.get(), widget);
         controls_.insert(widget, control.get());
     }
+}
+
+QWidget* FormView::MakeControl(const Control& control) {
+    if (control.grid) return MakeGrid(control);
+    if (control.chart) return MakeChart(control, this);
+    if (control.kind == ControlKind::ReportPages) return MakeReportPages(control);
+    return MakeWidget(control, this);
+}
+
+QWidget* FormView::MakeReportPages(const Control& control) {
+    const auto engine = [this]() -> ReportEngine& { return *door_.program().state().reports.engine(); };
+    ReportPagesHooks hooks;
+    hooks.setup = [engine] { return engine().Pages(); };
+    hooks.changeSetup = [engine](const PageSetup& setup) { engine().SetPages(setup); };
+    hooks.write = [engine, &control](ReportFormat format, const Path& file) {
+        engine().Write({control.document, {}}, format, file);
+    };
+    hooks.giveFocusBack = [this] { SyncFocus(); };
+    return new ReportPagesView(std::move(hooks), this);
 }
 
 QWidget* FormView::MakeGrid(const Control& control) {

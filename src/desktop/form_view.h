@@ -49,7 +49,9 @@ class FormView : public QWidget {
 
   private:
     void MakeWidgets();
+    QWidget* MakeControl(const Control& control);
     QWidget* MakeGrid(const Control& control);
+    QWidget* MakeReportPages(const Control& control);
     void ConnectWidgets();
     void ConnectControl(const Control& control, QWidget& widget);
     void SetBuddies();

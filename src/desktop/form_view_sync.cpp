@@ -6,6 +6,7 @@
 #include "desktop/control_widgets.h"
 #include "desktop/form_view.h"
 #include "desktop/grid_view.h"
+#include "desktop/preview/report_pages_view.h"
 #include "desktop/qt_text.h"
 
 namespace kelvor {
@@ -17,6 +18,8 @@ void FormView::Sync() {
         QWidget* widget = widgets_.value(control.get());
         if (auto* grid = dynamic_cast<GridView*>(widget)) grid->Show();
         if (control->chart) MirrorChart(*control, *widget);
+        if (auto* pages = dynamic_cast<ReportPagesView*>(widget))
+            pages->Show(control->document, control->text);
         const bool rewritten = MirrorControl(*control, *widget);
         auto* box = qobject_cast<QLineEdit*>(widget);
         if (rewritten && box != nullptr && form_->focus == control.get()) box->selectAll();

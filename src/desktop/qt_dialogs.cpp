@@ -5,6 +5,7 @@
 #include <QInputDialog>
 #include <QMessageBox>
 
+#include "desktop/print_file.h"
 #include "desktop/qt_text.h"
 
 namespace kelvor {
@@ -125,6 +126,11 @@ void QtDialogs::ShowWait(const WaitNotice& notice) {
 }
 
 void QtDialogs::HideWait() { wait_.reset(); }
+
+std::optional<std::string> QtDialogs::Print(const PrintRequest& request) {
+    const BoxPointer pointer;
+    return PrintFile(parent_, request);
+}
 
 void QtDialogs::ShowHelp(const HelpRequest& request) {
     if (help_ == nullptr) help_ = HelpWindow::Open(request.file);

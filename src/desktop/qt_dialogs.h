@@ -25,6 +25,7 @@ class QtDialogs : public Dialogs {
     void SetWaitCursor(bool on) override;
     void ShowWait(const WaitNotice& notice) override;
     void HideWait() override;
+    std::optional<std::string> Print(const PrintRequest& request) override;
     void ShowHelp(const HelpRequest& request) override;
 
     /// The window of the help; null until it was asked for.

@@ -152,7 +152,7 @@ class Builder {
 
     void Make(const layout::Chart& chart) { Add(ControlKind::Chart, chart.name).chart = chart.data; }
 
-    void Make(const layout::ReportPages& pages) { Add(ControlKind::ReportPages, pages.name); }
+    void Make(const layout::ReportView& pages) { Add(ControlKind::ReportPages, pages.name); }
 
     void Make(const layout::Indicator& indicator) {
         Control& label = Add(ControlKind::Label, indicator.name);

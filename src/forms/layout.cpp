@@ -106,7 +106,7 @@ LayoutElement Chart(std::string name, ChartData data) {
     return {layout::Chart{std::move(name), std::move(data)}};
 }
 
-LayoutElement ReportPages(std::string name) { return {layout::ReportPages{std::move(name)}}; }
+LayoutElement ReportView(std::string name) { return {layout::ReportView{std::move(name)}}; }
 
 LayoutElement CoarseGrid() { return {layout::CoarseGrid{}}; }
 LayoutElement Hidden(std::vector<std::string> names) { return {layout::Hidden{std::move(names)}}; }

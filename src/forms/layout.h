@@ -185,7 +185,7 @@ struct Chart {
 };
 
 /// The pages of a report.
-struct ReportPages {
+struct ReportView {
     std::string name;
 };
 
@@ -210,7 +210,7 @@ struct LayoutElement {
                  layout::BareBox, layout::DetachedLabel, layout::Options, layout::Checks, layout::Buttons,
                  layout::Choice, layout::Heading, layout::Text, layout::Caption, layout::Verdict,
                  layout::Statement, layout::Picture, layout::Grid, layout::Table, layout::Chart,
-                 layout::ReportPages, layout::Indicator, layout::CoarseGrid, layout::Hidden>
+                 layout::ReportView, layout::Indicator, layout::CoarseGrid, layout::Hidden>
         kind;
 };
 
@@ -272,7 +272,7 @@ LayoutElement Table(std::string name, std::vector<std::vector<std::string>> rows
 std::string TableCellName(const std::string& table, std::size_t row, std::size_t column);
 
 LayoutElement Chart(std::string name, ChartData data);
-LayoutElement ReportPages(std::string name);
+LayoutElement ReportView(std::string name);
 LayoutElement CoarseGrid();
 LayoutElement Hidden(std::vector<std::string> names);
 

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/file_system.h"
+#include "reports/document/page_setup.h"
 #include "reports/staged_tables.h"
 
 namespace kelvor {
@@ -51,6 +52,10 @@ class ReportEngine {
     /// Writes a filled report to a file, which is replaced whole. Throws FileError and leaves what stood
     /// there.
     virtual void Write(const Report& report, ReportFormat format, const Path& file) = 0;
+
+    /// The sheet that pages are set on, in files and on paper.
+    [[nodiscard]] virtual PageSetup Pages() const { return {}; }
+    virtual void SetPages(const PageSetup& /*setup*/) {}
 };
 
 }  // namespace kelvor

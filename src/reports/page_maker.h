@@ -28,12 +28,12 @@ struct PageRectangle {
 };
 
 /// A report broken into pages, which look the same in a file, on the screen and on paper. Pages count from 0.
-class ReportPages {
+class PagedReport {
   public:
-    ReportPages() = default;
-    ReportPages(const ReportPages&) = delete;
-    ReportPages& operator=(const ReportPages&) = delete;
-    virtual ~ReportPages() = default;
+    PagedReport() = default;
+    PagedReport(const PagedReport&) = delete;
+    PagedReport& operator=(const PagedReport&) = delete;
+    virtual ~PagedReport() = default;
 
     [[nodiscard]] virtual std::size_t Count() const = 0;
     [[nodiscard]] virtual PointSize Sheet() const = 0;
@@ -58,7 +58,7 @@ class PageMaker {
     PageMaker& operator=(const PageMaker&) = delete;
     virtual ~PageMaker() = default;
 
-    [[nodiscard]] virtual std::unique_ptr<ReportPages> Break(const Document& document,
+    [[nodiscard]] virtual std::unique_ptr<PagedReport> Break(const Document& document,
                                                              const PageSetup& setup) const = 0;
 };
 

@@ -57,7 +57,7 @@ std::string ReportMaker::Content(const Report& report, ReportFormat format) cons
     return {};
 }
 
-std::unique_ptr<ReportPages> ReportMaker::Break(const Report& report) const {
+std::unique_ptr<PagedReport> ReportMaker::Break(const Report& report) const {
     return LoadPageMaker().Break(*report.document, setup_);
 }
 

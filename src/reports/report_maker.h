@@ -16,15 +16,14 @@ class ReportMaker : public ReportEngine {
     Report Fill(const ReportRequest& request) override;
     void Write(const Report& report, ReportFormat format, const Path& file) override;
 
-    /// The sheet that reports are set on from now on.
-    void SetPages(const PageSetup& setup) { setup_ = setup; }
-    [[nodiscard]] const PageSetup& Pages() const { return setup_; }
+    [[nodiscard]] PageSetup Pages() const override { return setup_; }
+    void SetPages(const PageSetup& setup) override { setup_ = setup; }
 
     /// What a filled report looks like as a file of a format. Throws FileError if no pages can be made.
     [[nodiscard]] std::string Content(const Report& report, ReportFormat format) const;
 
     /// A filled report in pages. Throws FileError if what makes them cannot be loaded.
-    [[nodiscard]] std::unique_ptr<ReportPages> Break(const Report& report) const;
+    [[nodiscard]] std::unique_ptr<PagedReport> Break(const Report& report) const;
 
   private:
     FileSystem& files_;

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "reports/own_engine.h"
 #include "shell/calculations.h"
 
 namespace kelvor {
@@ -11,7 +12,9 @@ ProcessState::ProcessState(Host hostInterfaces, Home homeFolders)
       home(std::move(homeFolders)),
       calculations(JoinCalculations()),
       reports(
-          {host, home.folder, home.ReportTablesFile(), sProjectFile, bProjectChanged, bReportsUnavailable}) {}
+          {host, home.folder, home.ReportTablesFile(), sProjectFile, bProjectChanged, bReportsUnavailable}) {
+    reports.SetEngine(MakeReportEngine(host.files));
+}
 
 void ProcessState::OpenCatalogue(const Path& path) {
     dbCatalogue = std::make_unique<Catalogue>(path);

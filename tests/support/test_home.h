@@ -8,7 +8,7 @@
 
 namespace kelvor::test {
 
-/// A copy of the built home folder (configuration, databases, template) in a temporary folder, with the
+/// A copy of the built home folder (configuration, databases, layouts, template) in a temporary folder, with the
 /// work copy in it.
 class TestHome {
   public:

@@ -9,6 +9,10 @@ namespace kelvor {
 // A filled report, before anybody knows whether it becomes pages, a page of the web, or plain text. All texts
 // are UTF-8; "\n" in one is a line break, and no other control character stands in them.
 
+enum class Alignment { Left, Right };
+
+namespace blocks {
+
 /// Level 1 is the title of the report, 2 a section, 3 a part of one.
 struct Heading {
     int level = 1;
@@ -18,8 +22,6 @@ struct Heading {
 struct Paragraph {
     std::string text;
 };
-
-enum class Alignment { Left, Right };
 
 /// Labels beside their values and units, such as "Slab Thickness, D", "9.5" and "in".
 struct ValueList {
@@ -50,7 +52,10 @@ struct Picture {
     double heightPoints = 0.0;
 };
 
-using Block = std::variant<Heading, Paragraph, ValueList, Table, Picture>;
+}  // namespace blocks
+
+using Block =
+    std::variant<blocks::Heading, blocks::Paragraph, blocks::ValueList, blocks::Table, blocks::Picture>;
 
 /// The line at the head or at the foot of each page. On paper a page number stands at the right of the foot.
 struct PageEdge {

@@ -57,15 +57,15 @@ class Reader {
 
     void ReadHeading(pugi::xml_node element, const LayoutScope& scope) {
         const int level = element.name()[1] - '0';
-        document_.blocks.emplace_back(Heading{level, source_.FilledText(element, scope)});
+        document_.blocks.emplace_back(blocks::Heading{level, source_.FilledText(element, scope)});
     }
 
     void ReadParagraph(pugi::xml_node element, const LayoutScope& scope) {
-        document_.blocks.emplace_back(Paragraph{source_.FilledText(element, scope)});
+        document_.blocks.emplace_back(blocks::Paragraph{source_.FilledText(element, scope)});
     }
 
     void ReadValueList(pugi::xml_node element, const LayoutScope& scope) {
-        ValueList list;
+        blocks::ValueList list;
         if (HasClass(element, "number")) list.alignment = Alignment::Right;
         for (pugi::xml_node label = element.first_child(); label;) {
             const pugi::xml_node value = label.next_sibling();
@@ -111,7 +111,7 @@ class Reader {
         if (name.empty() || name.front() == '.' || name.find_first_of("/\\:") != std::string::npos) {
             throw source_.Error(element, "a picture is named by a file beside the layout, without a folder");
         }
-        Picture picture;
+        blocks::Picture picture;
         picture.png = PictureFile(element, name);
         const auto size = PngSize(picture.png);
         if (!size) throw source_.Error(element, "the picture \"" + name + "\" is no PNG file");

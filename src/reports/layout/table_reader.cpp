@@ -19,9 +19,9 @@ const StagedTable& TableNamed(const LayoutSource& source, pugi::xml_node element
     return *table;
 }
 
-std::vector<Table::Column> ReadColumns(const LayoutSource& source, pugi::xml_node row,
-                                       const LayoutScope& scope) {
-    std::vector<Table::Column> columns;
+std::vector<blocks::Table::Column> ReadColumns(const LayoutSource& source, pugi::xml_node row,
+                                               const LayoutScope& scope) {
+    std::vector<blocks::Table::Column> columns;
     for (const pugi::xml_node cell : row.children()) {
         if (!IsNamed(cell, "th")) throw source.Error(cell, "the headings of a table are \"th\"");
         columns.push_back(
@@ -45,7 +45,8 @@ std::vector<std::string> ReadCells(const LayoutSource& source, pugi::xml_node ro
 }
 
 /// Appends what a `tr` stands for: a row, or one for each row of a staging table.
-void AppendRows(const LayoutSource& source, pugi::xml_node row, const LayoutScope& outer, Table& table) {
+void AppendRows(const LayoutSource& source, pugi::xml_node row, const LayoutScope& outer,
+                blocks::Table& table) {
     if (!IsNamed(row, "tr")) throw source.Error(row, "the rows of a table are \"tr\"");
     LayoutScope scope = InnerScope(source, row, outer);
     if (!row.attribute(kRowsAttribute)) {
@@ -71,8 +72,8 @@ LayoutScope InnerScope(const LayoutSource& source, pugi::xml_node element, const
     return scope;
 }
 
-Table ReadTable(const LayoutSource& source, pugi::xml_node element, const LayoutScope& scope) {
-    Table table;
+blocks::Table ReadTable(const LayoutSource& source, pugi::xml_node element, const LayoutScope& scope) {
+    blocks::Table table;
     const pugi::xml_node head = element.child("thead").child("tr");
     if (!head) throw source.Error(element, "a table has its headings in a \"tr\" of its \"thead\"");
     table.columns = ReadColumns(source, head, InnerScope(source, head, scope));

@@ -13,6 +13,6 @@ LayoutScope InnerScope(const LayoutSource& source, pugi::xml_node element, const
 
 /// Reads an element `table`: a `thead` with one `tr` of `th`, and a `tbody` of `tr` of `td`, each of which
 /// has a cell for every column. Throws LayoutError.
-Table ReadTable(const LayoutSource& source, pugi::xml_node element, const LayoutScope& scope);
+blocks::Table ReadTable(const LayoutSource& source, pugi::xml_node element, const LayoutScope& scope);
 
 }  // namespace kelvor

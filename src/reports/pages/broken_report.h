@@ -9,7 +9,7 @@
 namespace kelvor {
 
 /// A report, broken into pages for good; it needs the type setter as long as it lives.
-class BrokenReport : public ReportPages {
+class BrokenReport : public PagedReport {
   public:
     BrokenReport(const TypeSetter& setter, const Document& document, const PageSetup& setup);
 

@@ -10,8 +10,8 @@ namespace {
 double Sum(const std::vector<double>& widths) { return std::accumulate(widths.begin(), widths.end(), 0.0); }
 
 /// No column is wanted wider than its heading's words and its cells make it, nor than half of the text.
-double Wanted(const TypeSetter& setter, const Table& table, std::size_t column, const TextStyle& cells,
-              const TextStyle& headings, double most) {
+double Wanted(const TypeSetter& setter, const blocks::Table& table, std::size_t column,
+              const TextStyle& cells, const TextStyle& headings, double most) {
     double wanted = setter.WidestWord(table.columns[column].heading, headings);
     for (const std::vector<std::string>& row : table.rows) {
         if (wanted >= most) return most;
@@ -36,7 +36,7 @@ void Narrow(std::vector<double>& widths, double room) {
 
 }  // namespace
 
-std::vector<double> ColumnWidths(const TypeSetter& setter, const Table& table, const TextStyle& cells,
+std::vector<double> ColumnWidths(const TypeSetter& setter, const blocks::Table& table, const TextStyle& cells,
                                  const TextStyle& headings, double width, double padding) {
     const auto count = static_cast<double>(table.columns.size());
     const double room = width - 2.0 * padding * count;

@@ -7,7 +7,7 @@ namespace {
 
 class PangoPageMaker : public PageMaker {
   public:
-    [[nodiscard]] std::unique_ptr<ReportPages> Break(const Document& document,
+    [[nodiscard]] std::unique_ptr<PagedReport> Break(const Document& document,
                                                      const PageSetup& setup) const override {
         return std::make_unique<BrokenReport>(setter_, document, setup);
     }

@@ -19,7 +19,7 @@ cairo_status_t ReadBytes(void* rest, unsigned char* bytes, unsigned int count) {
 
 }  // namespace
 
-PlacedPicture PlacePicture(const Picture& picture, const PointSize& room) {
+PlacedPicture PlacePicture(const blocks::Picture& picture, const PointSize& room) {
     std::string_view rest = picture.png;
     SharedSurface surface(cairo_image_surface_create_from_png_stream(ReadBytes, &rest), ReleaseSurface());
     if (cairo_surface_status(surface.get()) != CAIRO_STATUS_SUCCESS) return {};

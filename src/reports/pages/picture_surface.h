@@ -8,6 +8,6 @@ namespace kelvor {
 
 /// A picture in its size, made smaller where it is larger than the room; without a surface if it cannot be
 /// read.
-PlacedPicture PlacePicture(const Picture& picture, const PointSize& room);
+PlacedPicture PlacePicture(const blocks::Picture& picture, const PointSize& room);
 
 }  // namespace kelvor

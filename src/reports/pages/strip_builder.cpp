@@ -43,7 +43,7 @@ class Builder {
           width_(setup.TextWidth()),
           height_(setup.Sheet().height - 2.0 * setup.marginPoints) {}
 
-    void operator()(const Heading& heading) {
+    void operator()(const blocks::Heading& heading) {
         const auto level = static_cast<std::size_t>(std::clamp(heading.level, 1, 3)) - 1;
         const HeadingStyle& style = kHeadings[level];
         std::vector<Strip> strips = RowStrips({{setter_.Set(heading.text, style.text, width_), 0.0, width_}});
@@ -52,29 +52,29 @@ class Builder {
         Append(std::move(strips), style.above);
     }
 
-    void operator()(const Paragraph& paragraph) {
+    void operator()(const blocks::Paragraph& paragraph) {
         if (paragraph.text.empty()) return;
         Append(RowStrips({{setter_.Set(paragraph.text, styles::kText, width_), 0.0, width_}}),
                kParagraphSpace);
     }
 
-    void operator()(const ValueList& list) {
+    void operator()(const blocks::ValueList& list) {
         const bool numbers = list.alignment == Alignment::Right;
         const double begin = numbers ? width_ * kNumberBegin : TextBegin(list);
-        for (const ValueList::Row& row : list.rows) {
+        for (const blocks::ValueList::Row& row : list.rows) {
             std::vector<Strip> strips = RowStrips(numbers ? NumberCells(row, begin) : TextCells(row, begin));
             Pad(strips, 0.0, kBelowListRow);
             Append(std::move(strips), 0.0);
         }
     }
 
-    void operator()(const Table& table) {
+    void operator()(const blocks::Table& table) {
         Append(TableStrips(setter_, table, width_, height_), kParagraphSpace);
     }
 
-    void operator()(const Picture& picture) {
+    void operator()(const blocks::Picture& picture) {
         PlacedPicture placed = PlacePicture(picture, {width_, height_ / 2.0});
-        if (!placed.surface) return (*this)(Paragraph{picture.words});
+        if (!placed.surface) return (*this)(blocks::Paragraph{picture.words});
         Strip strip;
         strip.height = placed.height;
         strip.picture = std::move(placed);
@@ -84,9 +84,9 @@ class Builder {
     std::vector<Strip> Take() { return std::move(strips_); }
 
   private:
-    [[nodiscard]] double TextBegin(const ValueList& list) const {
+    [[nodiscard]] double TextBegin(const blocks::ValueList& list) const {
         double begin = width_ * kTextBegin;
-        for (const ValueList::Row& row : list.rows) {
+        for (const blocks::ValueList::Row& row : list.rows) {
             begin = std::max(begin, setter_.Natural(row.label, styles::kLabel) + kTextGap);
         }
         return std::min(begin, width_ * kTextBeginMost);
@@ -98,13 +98,13 @@ class Builder {
         return {setter_.Set(text, style, right - left), left, right - left};
     }
 
-    [[nodiscard]] std::vector<RowCell> TextCells(const ValueList::Row& row, double begin) const {
+    [[nodiscard]] std::vector<RowCell> TextCells(const blocks::ValueList::Row& row, double begin) const {
         const std::string both = row.unit.empty() ? row.value : row.value + " " + row.unit;
         return {Cell(row.label, styles::kLabel, 0.0, begin - kTextGap),
                 Cell(both, styles::kText, begin, width_)};
     }
 
-    [[nodiscard]] std::vector<RowCell> NumberCells(const ValueList::Row& row, double begin) const {
+    [[nodiscard]] std::vector<RowCell> NumberCells(const blocks::ValueList::Row& row, double begin) const {
         std::vector<RowCell> cells = {Cell(row.label, styles::kLabel, 0.0, begin),
                                       Cell(row.value, styles::kText, begin, width_ * kNumberEnd),
                                       Cell(row.unit, styles::kLabel, width_ * kUnitBegin, width_)};

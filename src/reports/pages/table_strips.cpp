@@ -17,8 +17,9 @@ constexpr double kBelow = 2.0;
 constexpr double kLightGrey = 0.8;
 
 /// The texts of a row in the columns of its table.
-std::vector<Strip> SetRow(const TypeSetter& setter, const std::vector<std::string>& texts, const Table& table,
-                          const std::vector<double>& widths, const TextStyle& style) {
+std::vector<Strip> SetRow(const TypeSetter& setter, const std::vector<std::string>& texts,
+                          const blocks::Table& table, const std::vector<double>& widths,
+                          const TextStyle& style) {
     std::vector<RowCell> cells;
     double left = 0.0;
     for (std::size_t i = 0; i < widths.size(); ++i) {
@@ -38,10 +39,10 @@ void Underline(std::vector<Strip>& strips, double width, double grey) {
 }
 
 /// Headings of several lines end at the same height.
-std::vector<Strip> Headings(const TypeSetter& setter, const Table& table, const std::vector<double>& widths,
-                            double width) {
+std::vector<Strip> Headings(const TypeSetter& setter, const blocks::Table& table,
+                            const std::vector<double>& widths, double width) {
     std::vector<std::string> texts;
-    for (const Table::Column& column : table.columns) texts.push_back(column.heading);
+    for (const blocks::Table::Column& column : table.columns) texts.push_back(column.heading);
     std::vector<Strip> strips = SetRow(setter, texts, table, widths, styles::kTableHeading);
     for (Strip& strip : strips) strip.keepWithNext = true;
     Underline(strips, width, 0.0);
@@ -56,7 +57,7 @@ double HeightOf(const std::vector<Strip>& strips) {
 
 }  // namespace
 
-std::vector<Strip> TableStrips(const TypeSetter& setter, const Table& table, double width,
+std::vector<Strip> TableStrips(const TypeSetter& setter, const blocks::Table& table, double width,
                                double pageHeight) {
     const std::vector<double> widths =
         ColumnWidths(setter, table, styles::kText, styles::kTableHeading, width, kPadding);

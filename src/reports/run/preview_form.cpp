@@ -29,7 +29,7 @@ FormType ReportsPreviewForm() {
     FormType type;
     type.name = kPreviewForm;
     type.caption = "Preview Report";
-    type.layout = Rows({ReportPages(kPreviewPages), Buttons({{"PreviousRep", "<< P&revious "},
+    type.layout = Rows({ReportView(kPreviewPages), Buttons({{"PreviousRep", "<< P&revious "},
                                                              {"NextRep", "&Next >>"},
                                                              {"PrintRep", "&Print Report"},
                                                              {"Close", "&Close All"}})});

@@ -45,6 +45,9 @@ class ReportDesk {
     /// Without an engine there are no reports.
     void SetEngine(std::unique_ptr<ReportEngine> engine) { engine_ = std::move(engine); }
 
+    /// Null without one.
+    [[nodiscard]] ReportEngine* engine() const { return engine_.get(); }
+
     /// File > Print: the report of the current screen, by its catalogue key.
     void Print(ScreenContext& context);
 

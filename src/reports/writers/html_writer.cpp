@@ -64,24 +64,24 @@ std::string Edge(std::string_view tag, const PageEdge& edge) {
 struct BlockWriter {
     std::string& page;
 
-    void operator()(const Heading& heading) {
+    void operator()(const blocks::Heading& heading) {
         page += Tagged("h" + std::to_string(heading.level), heading.text) + "\n";
     }
 
-    void operator()(const Paragraph& paragraph) { page += Tagged("p", paragraph.text) + "\n"; }
+    void operator()(const blocks::Paragraph& paragraph) { page += Tagged("p", paragraph.text) + "\n"; }
 
-    void operator()(const ValueList& list) {
+    void operator()(const blocks::ValueList& list) {
         const bool numbers = list.alignment == Alignment::Right;
         page += numbers ? "<dl class=\"numbers\">\n" : "<dl>\n";
-        for (const ValueList::Row& row : list.rows) {
+        for (const blocks::ValueList::Row& row : list.rows) {
             page += Tagged("dt", row.label) + Tagged("dd", row.value) + Tagged("dd", row.unit) + "\n";
         }
         page += "</dl>\n";
     }
 
-    void operator()(const Table& table) {
+    void operator()(const blocks::Table& table) {
         page += "<table>\n<thead><tr>";
-        for (const Table::Column& column : table.columns)
+        for (const blocks::Table::Column& column : table.columns)
             page += Tagged("th", column.heading, ClassOf(column));
         page += "</tr></thead>\n<tbody>\n";
         for (const std::vector<std::string>& row : table.rows) {
@@ -93,14 +93,14 @@ struct BlockWriter {
         page += "</tbody>\n</table>\n";
     }
 
-    void operator()(const Picture& picture) {
+    void operator()(const blocks::Picture& picture) {
         constexpr double kDotsPerPoint = 96.0 / 72.0;
         page += "<p><img src=\"data:image/png;base64," + Base64(picture.png) + "\" alt=\"" +
                 Escaped(picture.words) + "\" width=\"" +
                 std::to_string(static_cast<int>(picture.widthPoints * kDotsPerPoint)) + "\"/></p>\n";
     }
 
-    static std::string_view ClassOf(const Table::Column& column) {
+    static std::string_view ClassOf(const blocks::Table::Column& column) {
         return column.alignment == Alignment::Right ? " class=\"number\"" : "";
     }
 };

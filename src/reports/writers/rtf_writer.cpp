@@ -64,7 +64,7 @@ std::string Row(const std::vector<std::string>& cells, const std::vector<RowColu
 
 /// Shares the width of the page among columns by their longest texts, none less than a third of an even
 /// share.
-std::vector<RowColumn> Share(const Table& table, double width) {
+std::vector<RowColumn> Share(const blocks::Table& table, double width) {
     std::vector<double> wanted;
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
         std::size_t longest = DisplayWidth(table.columns[i].heading) / 2;
@@ -97,34 +97,34 @@ struct BlockWriter {
     std::string& rtf;
     double width;  // of the text, points
 
-    void operator()(const Heading& heading) {
+    void operator()(const blocks::Heading& heading) {
         const auto level = static_cast<std::size_t>(std::clamp(heading.level, 1, 3));
         rtf += std::string(kHeadings[level - 1]) + RtfText(heading.text) + "\\par\n";
     }
 
-    void operator()(const Paragraph& paragraph) {
+    void operator()(const blocks::Paragraph& paragraph) {
         rtf += std::string(kNormal) + "\\sb80\\sa80 " + RtfText(paragraph.text) + "\\par\n";
     }
 
-    void operator()(const ValueList& list) {
+    void operator()(const blocks::ValueList& list) {
         const double end = list.alignment == Alignment::Right ? kNumberShare : kTextShare;
         const std::vector<RowColumn> columns = {
             {width * kLabelShare}, {width * end, list.alignment}, {width}};
-        for (const ValueList::Row& row : list.rows)
+        for (const blocks::ValueList::Row& row : list.rows)
             rtf += Row({row.label, row.value, row.unit}, columns, "", "");
         rtf += std::string(kNormal) + "\n";
     }
 
-    void operator()(const Table& table) {
+    void operator()(const blocks::Table& table) {
         const std::vector<RowColumn> columns = Share(table, width);
         std::vector<std::string> headings;
-        for (const Table::Column& column : table.columns) headings.push_back(column.heading);
+        for (const blocks::Table::Column& column : table.columns) headings.push_back(column.heading);
         rtf += Row(headings, columns, "\\trhdr", "\\b\\keepn");
         for (const std::vector<std::string>& row : table.rows) rtf += Row(row, columns, "", "");
         rtf += std::string(kNormal) + "\n";
     }
 
-    void operator()(const Picture& picture) {
+    void operator()(const blocks::Picture& picture) {
         rtf += std::string(kNormal) + "{\\pict\\pngblip\\picwgoal" + Twips(picture.widthPoints) +
                "\\pichgoal" + Twips(picture.heightPoints) + " " + Hexadecimal(picture.png) + "}\\par\n";
     }

@@ -38,13 +38,14 @@ std::string Edge(const PageEdge& edge) {
 }
 
 /// The widest of one part of a list's rows, at most so wide.
-std::size_t Widest(const ValueList& list, std::string ValueList::Row::*part, std::size_t most) {
+std::size_t Widest(const blocks::ValueList& list, std::string blocks::ValueList::Row::*part,
+                   std::size_t most) {
     std::size_t widest = 0;
-    for (const ValueList::Row& row : list.rows) widest = std::max(widest, WidestLine(row.*part));
+    for (const blocks::ValueList::Row& row : list.rows) widest = std::max(widest, WidestLine(row.*part));
     return std::min(widest, most);
 }
 
-std::vector<TextColumn> ColumnsOf(const Table& table) {
+std::vector<TextColumn> ColumnsOf(const blocks::Table& table) {
     std::vector<TextColumn> columns;
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
         std::size_t width = WidestLine(table.columns[i].heading);
@@ -58,26 +59,26 @@ std::vector<TextColumn> ColumnsOf(const Table& table) {
 struct BlockWriter {
     std::string& text;
 
-    void operator()(const Heading& heading) {
+    void operator()(const blocks::Heading& heading) {
         const std::string lines = Joined(heading.text, kWidth);
         text += "\n" + lines +
                 std::string(std::min(kWidth, WidestLine(heading.text)), heading.level == 1 ? '=' : '-') +
                 "\n";
     }
 
-    void operator()(const Paragraph& paragraph) { text += "\n" + Joined(paragraph.text, kWidth); }
+    void operator()(const blocks::Paragraph& paragraph) { text += "\n" + Joined(paragraph.text, kWidth); }
 
-    void operator()(const ValueList& list) {
-        const std::size_t label = Widest(list, &ValueList::Row::label, kWidestLabel);
-        const std::size_t unit = Widest(list, &ValueList::Row::unit, kWidestUnit);
-        const std::size_t value = Widest(list, &ValueList::Row::value, kWidth - label - unit - 4);
-        for (const ValueList::Row& row : list.rows) {
+    void operator()(const blocks::ValueList& list) {
+        const std::size_t label = Widest(list, &blocks::ValueList::Row::label, kWidestLabel);
+        const std::size_t unit = Widest(list, &blocks::ValueList::Row::unit, kWidestUnit);
+        const std::size_t value = Widest(list, &blocks::ValueList::Row::value, kWidth - label - unit - 4);
+        for (const blocks::ValueList::Row& row : list.rows) {
             text +=
                 SetInColumns({row.label, row.value, row.unit}, {{label}, {value, list.alignment}, {unit}});
         }
     }
 
-    void operator()(const Table& table) {
+    void operator()(const blocks::Table& table) {
         const std::vector<TextColumn> columns = ColumnsOf(table);
         std::vector<std::string> headings;
         std::vector<std::string> lines;
@@ -89,7 +90,9 @@ struct BlockWriter {
         for (const std::vector<std::string>& row : table.rows) text += SetInColumns(row, columns);
     }
 
-    void operator()(const Picture& picture) { text += "\n" + Joined("[" + picture.words + "]", kWidth); }
+    void operator()(const blocks::Picture& picture) {
+        text += "\n" + Joined("[" + picture.words + "]", kWidth);
+    }
 };
 
 }  // namespace

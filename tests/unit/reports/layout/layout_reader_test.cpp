@@ -52,16 +52,16 @@ TEST_F(LayoutReaderTest, HeadingsAndParagraphs) {
     const Document document = Body("<h1>A &amp; B</h1><!-- left out --><p>one<br/>two {Check}</p>");
     EXPECT_EQ(document.title, "Axles");
     ASSERT_EQ(document.blocks.size(), 2U);
-    EXPECT_EQ(std::get<Heading>(document.blocks[0]).level, 1);
-    EXPECT_EQ(std::get<Heading>(document.blocks[0]).text, "A & B");
-    EXPECT_EQ(std::get<Paragraph>(document.blocks[1]).text, "one\ntwo In balance.");
+    EXPECT_EQ(std::get<blocks::Heading>(document.blocks[0]).level, 1);
+    EXPECT_EQ(std::get<blocks::Heading>(document.blocks[0]).text, "A & B");
+    EXPECT_EQ(std::get<blocks::Paragraph>(document.blocks[1]).text, "one\ntwo In balance.");
 }
 
 TEST_F(LayoutReaderTest, LabelsValuesAndUnits) {
     const Document document = Body(
         "<dl class=\"number\" data-table=\"TrAx\"><dt>Load</dt><dd>{AxleWeight}</dd>"
         "<dd class=\"unit\">{unit of AxleWeight}</dd><dt>Type</dt><dd>{AxleType}</dd></dl>");
-    const auto& list = std::get<ValueList>(document.blocks.at(0));
+    const auto& list = std::get<blocks::ValueList>(document.blocks.at(0));
     EXPECT_EQ(list.alignment, Alignment::Right);
     ASSERT_EQ(list.rows.size(), 2U);
     EXPECT_EQ(list.rows[0].label + "|" + list.rows[0].value + "|" + list.rows[0].unit, "Load|18.0|kips");
@@ -73,7 +73,7 @@ TEST_F(LayoutReaderTest, ARowIsRepeatedForEachRowOfItsTable) {
         "<table><thead><tr><th>Type</th><th class=\"number\">Load</th></tr></thead><tbody>"
         "<tr><td>first</td><td>0</td></tr>"
         "<tr data-rows=\"TrAx\"><td>{AxleType}</td><td>{AxleWeight}</td></tr></tbody></table>");
-    const auto& table = std::get<Table>(document.blocks.at(0));
+    const auto& table = std::get<blocks::Table>(document.blocks.at(0));
     ASSERT_EQ(table.columns.size(), 2U);
     EXPECT_EQ(table.columns[0].alignment, Alignment::Left);
     EXPECT_EQ(table.columns[1].alignment, Alignment::Right);
@@ -91,7 +91,7 @@ TEST_F(LayoutReaderTest, HeadAndFootOfThePages) {
 
 TEST_F(LayoutReaderTest, APictureBesideTheLayout) {
     const Document document = Body("<img src=\"logo.png\" alt=\"Our office\" width=\"192\"/>");
-    const auto& picture = std::get<Picture>(document.blocks.at(0));
+    const auto& picture = std::get<blocks::Picture>(document.blocks.at(0));
     EXPECT_EQ(picture.words, "Our office");
     EXPECT_EQ(picture.png, kPicture);
     EXPECT_DOUBLE_EQ(picture.widthPoints, 144.0);  // 192 of 96 an inch are 2 inches

@@ -27,7 +27,7 @@ class PagesTest : public ::testing::Test {
         return test::OutputOf("pdftotext -layout" + which + " '" + file.string() + "' - 2>&1");
     }
 
-    [[nodiscard]] std::unique_ptr<ReportPages> Break(const Document& document,
+    [[nodiscard]] std::unique_ptr<PagedReport> Break(const Document& document,
                                                      Paper paper = Paper::Letter) const {
         return LoadPageMaker().Break(document, {paper});
     }
@@ -56,8 +56,8 @@ TEST_P(EveryPageTest, ThePagesShowEveryCell) {
 INSTANTIATE_TEST_SUITE_P(Reports, EveryPageTest, ::testing::ValuesIn(test::SampleReports()),
                          [](const auto& report) { return report.param.name; });
 
-Table LongTable(int rows) {
-    Table table{{{"Axle Type"}, {"Axle Load", Alignment::Right}}, {}};
+blocks::Table LongTable(int rows) {
+    blocks::Table table{{{"Axle Type"}, {"Axle Load", Alignment::Right}}, {}};
     for (int i = 1; i <= rows; ++i) table.rows.push_back({"axle" + std::to_string(i) + ".", "1.0"});
     return table;
 }
@@ -90,8 +90,8 @@ TEST_F(PagesTest, NoRowStandsAloneOnTheLastPage) {
 TEST_F(PagesTest, NoHeadingStandsAtTheFootOfAPage) {
     for (int paragraphs = 20; paragraphs < 60; ++paragraphs) {
         Document document;
-        for (int i = 0; i < paragraphs; ++i) document.blocks.emplace_back(Paragraph{"above"});
-        document.blocks.emplace_back(Heading{2, "The Axles"});
+        for (int i = 0; i < paragraphs; ++i) document.blocks.emplace_back(blocks::Paragraph{"above"});
+        document.blocks.emplace_back(blocks::Heading{2, "The Axles"});
         document.blocks.emplace_back(LongTable(3));
         const auto pages = Break(document, Paper::A4);
         for (std::size_t i = 0; i < pages->Count(); ++i) {
@@ -106,7 +106,7 @@ TEST_F(PagesTest, ATextOfManyPagesIsBrokenBetweenItsLines) {
     std::string text;
     for (int i = 0; i < 2000; ++i) text += "word" + std::to_string(i) + ". ";
     Document document;
-    document.blocks = {ValueList{Alignment::Left, {{"Location", text, ""}}}};
+    document.blocks = {blocks::ValueList{Alignment::Left, {{"Location", text, ""}}}};
     const auto pages = Break(document);
     EXPECT_GT(pages->Count(), 2U);
     const std::string words = TextOf(pages->Pdf());
@@ -115,7 +115,7 @@ TEST_F(PagesTest, ATextOfManyPagesIsBrokenBetweenItsLines) {
 
 TEST_F(PagesTest, AWordOfTenThousandLettersStaysOnItsPage) {
     Document document;
-    document.blocks = {ValueList{Alignment::Left, {{"Location", std::string(10000, 'q'), ""}}}};
+    document.blocks = {blocks::ValueList{Alignment::Left, {{"Location", std::string(10000, 'q'), ""}}}};
     const auto pages = Break(document);
     const std::string words = TextOf(pages->Pdf());
     EXPECT_EQ(std::count(words.begin(), words.end(), 'q'), 10000);
@@ -133,7 +133,7 @@ TEST_F(PagesTest, LettersOfEveryKindCanBeSearchedInTheFile) {
     Document document;
     document.title = "é漢字";
     document.head = {"&<>{}\\\"é漢字", "", "Job {7}"};
-    document.blocks = {Paragraph{"&<>{}\\\"é漢字\nefficient traffic office"}};
+    document.blocks = {blocks::Paragraph{"&<>{}\\\"é漢字\nefficient traffic office"}};
     const std::string words = TextOf(Break(document)->Pdf());
     EXPECT_THAT(words, HasSubstr("&<>{}\\\"é漢字\n"));
     EXPECT_THAT(words, HasSubstr("efficient traffic office"));
@@ -169,7 +169,7 @@ TEST_F(PagesTest, ALongHeadIsCutAndTheOthersStay) {
 
 TEST_F(PagesTest, WordsAreFoundWithoutRegardToCase) {
     Document document;
-    document.blocks = {Paragraph{"Slab ÉTAGE and slab"}, Heading{2, "SLAB"}};
+    document.blocks = {blocks::Paragraph{"Slab ÉTAGE and slab"}, blocks::Heading{2, "SLAB"}};
     const auto pages = Break(document);
     EXPECT_THAT(pages->Find(0, "slab"), SizeIs(3));
     EXPECT_THAT(pages->Find(0, "étage"), SizeIs(1));
@@ -182,7 +182,7 @@ TEST_F(PagesTest, WordsAreFoundWithoutRegardToCase) {
 
 TEST_F(PagesTest, ThePictureOfAPageHasItsSizeAndIsWhiteOutsideOfTheText) {
     Document document;
-    document.blocks = {Heading{1, "Title"}};
+    document.blocks = {blocks::Heading{1, "Title"}};
     const auto pages = Break(document, Paper::Letter);
     const PageImage image = pages->Paint(0, 2.0);
     ASSERT_EQ(image.width, 1224);   // 8.5 in of 72 points, twice
@@ -202,14 +202,14 @@ TEST_F(PagesTest, ThePictureOfAPageHasItsSizeAndIsWhiteOutsideOfTheText) {
 
 TEST_F(PagesTest, APictureThatCannotBeReadShowsItsWords) {
     Document document;
-    document.blocks = {Picture{"no picture", "Our office", 72.0, 36.0}};
+    document.blocks = {blocks::Picture{"no picture", "Our office", 72.0, 36.0}};
     EXPECT_THAT(TextOf(Break(document)->Pdf()), HasSubstr("Our office"));
 }
 
 TEST_F(PagesTest, AnEmptyReportIsOnePage) { EXPECT_EQ(Break(Document{})->Count(), 1U); }
 
 TEST_F(PagesTest, ATableOfWideTextsKeepsToThePage) {
-    Table table{{{"No."}, {"Item"}, {"Cost", Alignment::Right}}, {}};
+    blocks::Table table{{{"No."}, {"Item"}, {"Cost", Alignment::Right}}, {}};
     table.rows = {{"1", std::string(300, 'w'), "1,000.00"}, {"2", "Crack sealing of all lanes", "25.00"}};
     Document document;
     document.blocks = {table};

@@ -18,9 +18,9 @@ Document SmallReport() {
     document.head = {"Agency", "", "Job 7"};
     document.foot = {"route.kvr", "2 May 2026", ""};
     document.blocks = {
-        Heading{1, "Title"}, Heading{2, "Section"}, Paragraph{"one\ntwo"},
-        ValueList{Alignment::Right, {{"Thickness", "9.5", "in"}, {"Load Transfer, J", "3.20", ""}}},
-        Table{{{"Type"}, {"Number", Alignment::Right}}, {{"Single", "1,000.0"}, {"Tandem", "5.0"}}}};
+        blocks::Heading{1, "Title"}, blocks::Heading{2, "Section"}, blocks::Paragraph{"one\ntwo"},
+        blocks::ValueList{Alignment::Right, {{"Thickness", "9.5", "in"}, {"Load Transfer, J", "3.20", ""}}},
+        blocks::Table{{{"Type"}, {"Number", Alignment::Right}}, {{"Single", "1,000.0"}, {"Tandem", "5.0"}}}};
     return document;
 }
 
@@ -58,13 +58,13 @@ TEST(HtmlWriterTest, AReport) {
 
 TEST(HtmlWriterTest, NothingOfATextIsTakenForMarkup) {
     Document document;
-    document.blocks = {Paragraph{"&<>{}\\\"é漢字"}};
+    document.blocks = {blocks::Paragraph{"&<>{}\\\"é漢字"}};
     EXPECT_THAT(WriteHtml(document), HasSubstr("<p>&amp;&lt;&gt;{}\\&quot;é漢字</p>"));
 }
 
 TEST(RtfWriterTest, NothingOfATextIsTakenForMarkup) {
     Document document;
-    document.blocks = {Paragraph{"&<>{}\\\"é漢\n😀"}};
+    document.blocks = {blocks::Paragraph{"&<>{}\\\"é漢\n😀"}};
     // 6F22 is 28450; the picture is the pair D83D DE00, which are -10179 and -8704 as signed numbers.
     EXPECT_THAT(WriteRtf(document, {}),
                 HasSubstr("&<>\\{\\}\\\\\"\\u233?\\u28450?\\line \\u-10179?\\u-8704?\\par"));
