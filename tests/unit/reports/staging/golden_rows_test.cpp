@@ -199,7 +199,9 @@ class GoldenRowsTest : public StagingTest {
             const auto found = tables.Find(table.table)->Find(column.name);
             ASSERT_TRUE(found);
             // The rigid report has the columns of its k-value in an order of its own.
-            if (std::string(table.routine) != "Rigid") EXPECT_GE(*found, place) << "out of order";
+            if (std::string(table.routine) != "Rigid") {
+                EXPECT_GE(*found, place) << "out of order";
+            }
             place = *found;
             if (column.variable.empty()) {
                 EXPECT_EQ(Text(tables, table.table, column.name), UnitName(column.unit));

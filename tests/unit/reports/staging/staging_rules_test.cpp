@@ -103,7 +103,8 @@ TEST_F(StagingTest, AnEmptyProjectStagesZerosWithoutAMessage) {
         const StagedTable& table = *tables.Find(name);
         ASSERT_EQ(table.rows.size(), 1U) << name;
         for (const StagedValue& value : table.rows.front()) {
-            if (const auto* number = std::get_if<double>(&value)) EXPECT_EQ(*number, 0.0) << name;
+            const auto* number = std::get_if<double>(&value);
+            EXPECT_EQ(number == nullptr ? 0.0 : *number, 0.0) << name;
         }
     }
 }
