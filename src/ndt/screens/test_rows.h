@@ -16,7 +16,7 @@ LayoutElement InputsOfAllTests(std::vector<FieldItem> fields);
 
 /// The widths of the lines below a grid, in letters.
 inline constexpr double kSoundnessLetters = 30.0;
-inline constexpr double kOutdatedLetters = 55.0;
+inline constexpr double kOutdatedLetters = 64.0;
 
 /// The name of the line below a grid that counts the tests whose results are not sound.
 inline constexpr const char* kSoundnessLine = "SOUNDNESS";
