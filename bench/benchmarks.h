@@ -35,6 +35,10 @@ std::vector<Pair> RegisterWrites(BenchProgram& program, const Path& home);
 /// All ESALs of a spectrum of axles once a parameter of the traffic has changed.
 std::vector<Pair> RegisterSpectrum(BenchProgram& program);
 
+/// All deflection tests of a day once an input that they share has changed: 75, 150 and 300 of each kind, and
+/// the flexible ones against a plain loop that writes the same cells.
+std::vector<Pair> RegisterDeflections(BenchProgram& program);
+
 /// How often one solve for the structural number reads the store, and what it does meanwhile.
 struct SolveCount {
     int byName = 0;

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
 #include <utility>
@@ -25,6 +26,7 @@ namespace {
 constexpr int kMostRowsShown = 12;
 constexpr int kLettersOfNumber = 12;
 constexpr int kLettersOfText = 26;
+constexpr const char* kNoteColour = "#C2271A";
 
 /// The caption, and the unit below it.
 QString HeadingOf(const GridColumn& column) {
@@ -148,6 +150,20 @@ class GridView::Delegate : public QStyledItemDelegate {
             line->setText(text);
         }
         if (auto* list = qobject_cast<QComboBox*>(editor)) list->setCurrentText(text);
+    }
+
+    /// A corner of a cell with a note is filled, as in a spreadsheet.
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyledItemDelegate::paint(painter, option, index);
+        if (index.data(Qt::AccessibleDescriptionRole).toString().isEmpty()) return;
+        const QPoint corner = option.rect.topRight();
+        const int side = option.fontMetrics.averageCharWidth();
+        painter->save();
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(QColor(kNoteColour));
+        painter->drawPolygon(QPolygon({corner, corner - QPoint(side, 0), corner + QPoint(0, side)}));
+        painter->restore();
     }
 
     void setModelData(QWidget* /*editor*/, QAbstractItemModel* /*model*/,

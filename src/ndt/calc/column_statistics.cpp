@@ -16,7 +16,7 @@ Real MeanOf(const std::vector<Real>& values) {
 }
 
 void DescribeSpread(const std::vector<Real>& values, ColumnStatistics& statistics) {
-    const Real mean = MeanOf(values);
+    const Real mean = *statistics.mean;
     Real squares = 0.0;
     for (const Real value : values) squares = squares + Pow(value - mean, 2.0);
     statistics.deviation = Pow(squares / static_cast<double>(values.size() - 1), 0.5);
@@ -33,6 +33,7 @@ ColumnStatistics DescribeColumn(std::vector<Real> values) {
     IgnoreFaults([&] {
         statistics.percentile15 = Percentile(values, 0.15);
         statistics.percentile85 = Percentile(values, 0.85);
+        statistics.mean = MeanOf(values);
         if (values.size() > 1) DescribeSpread(values, statistics);
     });
     return statistics;

@@ -10,6 +10,7 @@ namespace kelvor {
 /// How the values of one column spread over the tests, in the unit of the values.
 struct ColumnStatistics {
     int tests = 0;                     // that have a value
+    std::optional<Real> mean;          // of one test or more
     std::optional<Real> deviation;     // the standard deviation of a sample, by n - 1; of two tests or more
     std::optional<Real> variation;     // the coefficient of variation, per cent: deviation over mean
     std::optional<Real> percentile15;  // linear between the ordered values; of one test or more

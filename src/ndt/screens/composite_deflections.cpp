@@ -1,6 +1,7 @@
 #include "ndt/screens/composite_deflections.h"
 
 #include "forms/form.h"
+#include "ndt/screens/left_out_tests.h"
 #include "ndt/screens/test_notes.h"
 #include "ndt/screens/test_rows.h"
 #include "ndt/screens/test_summary.h"
@@ -43,7 +44,7 @@ LayoutElement Tests() {
                  {.variable = "DYNKC", .letters = kLetters},
                  {.variable = "STATKC", .letters = kLetters},
                  {.variable = "NDTEC", .letters = kLetters}},
-                kTestsShown, {.note = AreaNote});
+                kTestsShown, {.mayDelete = PrepareDeletion, .note = AreaNote});
 }
 
 }  // namespace
@@ -56,16 +57,18 @@ FormType CompositeDeflectionsForm() {
         Columns({InputsOfAllTests({{"NDTEAC"}, {"ACACPCACT"}, {"BOND"}}),
                  InputsOfAllTests({{"Radius"}, {"Poisson"}, {"EXISTDEPTH"}})}),
         Tests(),
-        Columns(
-            {Statement(kSoundnessLine, 1, kSoundnessLetters), Statement(kOutdatedLine, 2, kOutdatedLetters)}),
+        Columns({LeaveOutBox(), Statement(kSoundnessLine, 1, kSoundnessLetters),
+                 Statement(kOutdatedLine, 2, kOutdatedLetters)}),
         SpreadAndCharts(Results()),
         Hidden({kOutdatedInputs}),
+        LeaveOutState(),
     });
     // No input of all tests works them out anew when it is left: it counts from the next activation on, or
     // the next edit of a row.
     type.handlers = TellWhenOutdated({"NDTEAC", "ACACPCACT", "BOND", "Radius", "Poisson", "EXISTDEPTH"});
     type.handlers.push_back({FormEvent::Activate, "", HandlerOrder::After, Activated});
     type.handlers.push_back({FormEvent::RowDeleted, "", HandlerOrder::Instead, RecalcTests});
+    Append(type.handlers, LeaveOutHandlers());
     Append(type.handlers, AfterResults(Show));
     return type;
 }

@@ -3,6 +3,7 @@
 #include "forms/form.h"
 #include "forms/screen_context.h"
 #include "ndt/calc/pavement_thickness.h"
+#include "ndt/screens/left_out_tests.h"
 #include "ndt/screens/test_notes.h"
 #include "ndt/screens/test_rows.h"
 #include "ndt/screens/test_summary.h"
@@ -40,7 +41,7 @@ LayoutElement Tests() {
                  {.variable = "Msg", .letters = kRemarkLetters},
                  {.variable = "NDTRM", .letters = kResultLetters},
                  {.variable = "NDTEFFEP", .letters = kResultLetters}},
-                kTestsShown, {.note = SearchNote});
+                kTestsShown, {.mayDelete = PrepareDeletion, .note = SearchNote});
 }
 
 }  // namespace
@@ -53,12 +54,14 @@ FormType FlexibleDeflectionsForm() {
         Columns({InputsOfAllTests({{"NDTR"}, {"NDTRMC"}}),
                  InputsOfAllTests({{"Radius"}, {.variable = "NDTEFFD", .computed = true}})}),
         Tests(),
-        Statement(kSoundnessLine, 1, kOutdatedLetters),
+        Columns({LeaveOutBox(), Statement(kSoundnessLine, 2, kOutdatedLetters)}),
         SpreadAndCharts(Results()),
+        LeaveOutState(),
     });
     type.handlers = RecalcWhenLeft({"NDTR", "NDTRMC", "Radius"});
     type.handlers.push_back({FormEvent::Activate, "", HandlerOrder::After, Activated});
     type.handlers.push_back({FormEvent::RowDeleted, "", HandlerOrder::Instead, RecalcTests});
+    Append(type.handlers, LeaveOutHandlers());
     Append(type.handlers, AfterResults(Show));
     return type;
 }

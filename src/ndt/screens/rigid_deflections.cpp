@@ -1,6 +1,7 @@
 #include "ndt/screens/rigid_deflections.h"
 
 #include "forms/form.h"
+#include "ndt/screens/left_out_tests.h"
 #include "ndt/screens/test_notes.h"
 #include "ndt/screens/test_rows.h"
 #include "ndt/screens/test_summary.h"
@@ -41,7 +42,7 @@ LayoutElement Tests() {
                  {.variable = "DYNK", .letters = kLetters},
                  {.variable = "STATK", .letters = kLetters},
                  {.variable = "NDTE", .letters = kLetters}},
-                kTestsShown, {.note = AreaNote});
+                kTestsShown, {.mayDelete = PrepareDeletion, .note = AreaNote});
 }
 
 }  // namespace
@@ -51,12 +52,13 @@ FormType RigidDeflectionsForm() {
     type.name = "ReDfR";
     type.caption = "Rigid Pavement Deflection Information";
     type.layout = Rows({
-        Columns({InputsOfAllTests({{"Radius"}, {"Poisson"}}), InputsOfAllTests({{"EXISTDEPTH"}})}),
+        Columns({InputsOfAllTests({{"Radius"}, {"Poisson"}}), Rows({InputsOfAllTests({{"EXISTDEPTH"}})})}),
         Tests(),
-        Columns(
-            {Statement(kSoundnessLine, 1, kSoundnessLetters), Statement(kOutdatedLine, 2, kOutdatedLetters)}),
+        Columns({LeaveOutBox(), Statement(kSoundnessLine, 1, kSoundnessLetters),
+                 Statement(kOutdatedLine, 2, kOutdatedLetters)}),
         SpreadAndCharts(Results()),
         Hidden({kOutdatedInputs}),
+        LeaveOutState(),
     });
     // The slab thickness works no test out anew: it counts from the next activation on, or the next edit of a
     // row.
@@ -64,6 +66,7 @@ FormType RigidDeflectionsForm() {
     Append(type.handlers, TellWhenOutdated({"EXISTDEPTH"}));
     type.handlers.push_back({FormEvent::Activate, "", HandlerOrder::After, Activated});
     type.handlers.push_back({FormEvent::RowDeleted, "", HandlerOrder::Instead, RecalcTests});
+    Append(type.handlers, LeaveOutHandlers());
     Append(type.handlers, AfterResults(Show));
     return type;
 }

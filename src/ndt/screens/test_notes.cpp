@@ -4,6 +4,7 @@
 #include "forms/screen_context.h"
 #include "ndt/calc/slab_basin.h"
 #include "ndt/calc/test_outcome.h"
+#include "ndt/screens/left_out_tests.h"
 #include "platform/number_picture.h"
 
 namespace kelvor {
@@ -32,9 +33,8 @@ bool HasNumber(const ScreenContext& context, const std::string& variable, int ro
     return cell != nullptr && cell->number.has_value();
 }
 
-}  // namespace
-
-std::string SearchNote(const ScreenContext& context, const Form& form, int row, const GridColumn& column) {
+/// Of a search that did not give the measured deflection, or that ended at a bound.
+std::string NoteOfSearch(const ScreenContext& context, const Form& form, int row, const GridColumn& column) {
     if (column.variable != "NDTEFFEP") return {};
     const auto outcome = OutcomeOfSearch(context.calc, row, SliceOf(form));
     if (!outcome || outcome->IsSound()) return {};
@@ -44,11 +44,22 @@ std::string SearchNote(const ScreenContext& context, const Form& form, int row, 
     return outcome->converged ? "Converged, but " + end : "Did not converge: " + end;
 }
 
-std::string AreaNote(const ScreenContext& context, const Form& form, int row, const GridColumn& column) {
+/// Of an AREA that no slab has.
+std::string NoteOfArea(const ScreenContext& context, const Form& form, int row, const GridColumn& column) {
     if (column.variable != "AREA" && column.variable != "AREAC") return {};
     if (!IsAreaWithoutSolution(context.calc, column.variable, row, SliceOf(form))) return {};
     return "No solution: AREA is not below " + Shown(context, column.variable, kEvenBasinArea) +
            ", so the basin does not get shallower away from the load";
+}
+
+}  // namespace
+
+std::string SearchNote(const ScreenContext& context, const Form& form, int row, const GridColumn& column) {
+    return WithLeftOutNote(NoteOfSearch(context, form, row, column), form, row, column);
+}
+
+std::string AreaNote(const ScreenContext& context, const Form& form, int row, const GridColumn& column) {
+    return WithLeftOutNote(NoteOfArea(context, form, row, column), form, row, column);
 }
 
 std::string SearchSummary(const ScreenContext& context, const Form& form) {

@@ -7,7 +7,7 @@
 namespace kelvor {
 
 // What is to be said of single tests: as the note of the cell that it concerns, and counted in a sentence
-// above the table. Nothing of it is stored.
+// below the table. Nothing of it is stored. The notes also tell of a test that is left out of the spread.
 
 /// Says of an effective modulus, `NDTEFFEP`, that it does not give the measured deflection, or that the
 /// search ended at one of its bounds.

@@ -29,19 +29,29 @@ bool HasResults(const ScreenContext& context, const Form& form) {
     });
 }
 
-/// "Tests were worked out before A and B changed ...": a name that stands there already is not added again.
+/// Names in one text.
+constexpr const char* kBetweenNames = "; ";
+
+/// Which inputs have changed is said by name of one, by number of several.
+void ShowOutdated(Form& form, const std::string& names, int count) {
+    const std::string what = count == 1 ? names : std::to_string(count) + " inputs";
+    Control& line = form.Get(kOutdatedLine);
+    line.text =
+        count == 0 ? "" : "Worked out before " + what + " changed: edit a test, or open the screen again.";
+    line.toolTip = count == 0 ? "" : "Changed: " + names;
+}
+
+/// An input that has changed already is not counted again.
 void TellOutdated(ScreenEvent& event) {
     if (!HasResults(event.context, event.form)) return;
     const Variable* variable = event.context.catalogue.FindVariable(event.control->tag);
     if (variable == nullptr) return;
     std::string changed = event.form.TextOf(kOutdatedInputs);
     if (changed.find(variable->desc) != std::string::npos) return;
-    if (!changed.empty()) changed += "; ";
-    changed += variable->desc;
+    changed += (changed.empty() ? "" : kBetweenNames) + variable->desc;
     event.form.SetText(kOutdatedInputs, changed);
-    event.form.SetText(kOutdatedLine, "Worked out before this changed: " + changed +
-                                          ". A test follows when its row is edited, all when the screen is "
-                                          "opened again.");
+    const auto semicolons = std::count(changed.begin(), changed.end(), ';');
+    ShowOutdated(event.form, changed, static_cast<int>(semicolons) + 1);
 }
 
 void TellIfEmptied(ScreenEvent& event) {
@@ -50,7 +60,7 @@ void TellIfEmptied(ScreenEvent& event) {
 
 void AllUpToDate(ScreenEvent& event) {
     event.form.SetText(kOutdatedInputs, "");
-    event.form.SetText(kOutdatedLine, "");
+    ShowOutdated(event.form, "", 0);
 }
 
 }  // namespace
@@ -94,8 +104,9 @@ std::vector<Handler> TellWhenOutdated(const std::vector<std::string>& inputs) {
 
 std::vector<Handler> AfterResults(void (*show)(ScreenEvent& event)) {
     std::vector<Handler> handlers;
-    for (const FormEvent event : {FormEvent::Activate, FormEvent::LostFocus, FormEvent::Stored,
-                                  FormEvent::RowsWritten, FormEvent::RowDeleted, FormEvent::UnitsSwitched}) {
+    for (const FormEvent event :
+         {FormEvent::Activate, FormEvent::LostFocus, FormEvent::Stored, FormEvent::RowsWritten,
+          FormEvent::RowDeleted, FormEvent::UnitsSwitched, FormEvent::Click}) {
         handlers.push_back({event, "", HandlerOrder::After, show});
     }
     return handlers;

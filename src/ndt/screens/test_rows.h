@@ -15,8 +15,8 @@ inline constexpr double kInputLetters = 9.0;
 LayoutElement InputsOfAllTests(std::vector<FieldItem> fields);
 
 /// The widths of the lines below a grid, in letters.
-inline constexpr double kSoundnessLetters = 35.0;
-inline constexpr double kOutdatedLetters = 85.0;
+inline constexpr double kSoundnessLetters = 30.0;
+inline constexpr double kOutdatedLetters = 64.0;
 
 /// The name of the line below a grid that counts the tests whose results are not sound.
 inline constexpr const char* kSoundnessLine = "SOUNDNESS";

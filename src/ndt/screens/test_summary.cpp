@@ -2,6 +2,7 @@
 
 #include <array>
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 
@@ -9,13 +10,14 @@
 #include "forms/form_builder.h"
 #include "forms/screen_context.h"
 #include "ndt/calc/column_statistics.h"
+#include "ndt/screens/left_out_tests.h"
 #include "platform/number_picture.h"
 
 namespace kelvor {
 
 namespace {
 
-constexpr const char* kTestColour = "#1F5FBF";
+constexpr const char* kTestColour = "#2F7FD6";
 constexpr const char* kAverageColour = "#C2571A";
 constexpr const char* kPerCent = "0.0";
 constexpr double kChartLetters = 30.0;
@@ -28,11 +30,9 @@ struct SpreadLine {
 };
 
 constexpr std::array kLines = {
-    SpreadLine{"Count", "Tests"},
-    SpreadLine{"Deviation", "Std. Deviation"},
-    SpreadLine{"Variation", "Variation, %"},
-    SpreadLine{"Percentile15", "15th Percentile"},
-    SpreadLine{"Percentile85", "85th Percentile"},
+    SpreadLine{"Count", "Tests Counted"},          SpreadLine{"Mean", "Their Mean"},
+    SpreadLine{"Deviation", "Std. Deviation"},     SpreadLine{"Variation", "Variation, %"},
+    SpreadLine{"Percentile15", "15th Percentile"}, SpreadLine{"Percentile85", "85th Percentile"},
 };
 
 /// The rows of the spread, from above; its first column has their headings.
@@ -95,13 +95,15 @@ std::vector<std::optional<Real>> ResultsOf(const ScreenContext& context, const F
 
 void ShowSpread(Form& form, const ResultColumn& result, const ShownColumn& shown,
                 const std::vector<std::optional<Real>>& results) {
+    const std::set<int> leftOut = LeftOutTests(form);
     std::vector<Real> values;
-    for (const std::optional<Real>& value : results) {
-        if (value) values.push_back(*value);
+    for (std::size_t i = 0; i < results.size(); ++i) {
+        if (results[i] && !leftOut.contains(static_cast<int>(i) + 1)) values.push_back(*results[i]);
     }
     const ColumnStatistics spread = DescribeColumn(std::move(values));
     const std::string name = result.column;
     form.SetText(name + "Count", std::to_string(spread.tests));
+    form.SetText(name + "Mean", shown.Text(spread.mean));
     form.SetText(name + "Deviation", shown.Text(spread.deviation));
     form.SetText(name + "Variation",
                  spread.variation ? FormatNumber(spread.variation->value(), kPerCent) : std::string());

@@ -15,8 +15,8 @@ struct ResultColumn {
 };
 
 /// Below the table of tests: a column for each of results with their average and how they spread (the number
-/// of tests that count, the standard deviation, the coefficient of variation, the 15th and the 85th
-/// percentile), and beside it the charts of the results by test number, each with the average as a line.
+/// of tests that count, their mean, the standard deviation, the coefficient of variation, the 15th and the
+/// 85th percentile), and beside it the charts of the results by test number, each with the average as a line.
 LayoutElement SpreadAndCharts(const std::vector<ResultColumn>& results);
 
 /// Brings both up to date, in the active units.

@@ -12,6 +12,7 @@ TEST(ColumnStatisticsTest, ATextbooksSample) {
     // 2 4 4 4 5 5 7 9: mean 5, squares about it 32, so the deviation of the sample is the root of 32 / 7.
     const ColumnStatistics spread = DescribeColumn({9.0, 2.0, 4.0, 5.0, 4.0, 7.0, 4.0, 5.0});
     EXPECT_EQ(spread.tests, 8);
+    EXPECT_NEAR(spread.mean->value(), 5.0, 1e-12);
     EXPECT_NEAR(spread.deviation->value(), std::sqrt(32.0 / 7.0), 1e-12);
     EXPECT_NEAR(spread.variation->value(), 100.0 * std::sqrt(32.0 / 7.0) / 5.0, 1e-12);
     // Places 0.15 x 7 = 1.05 and 0.85 x 7 = 5.95 of 2 4 4 4 5 5 7 9.
@@ -28,6 +29,7 @@ TEST(ColumnStatisticsTest, PercentilesLieBetweenTheOrderedValues) {
 TEST(ColumnStatisticsTest, OfOneTestThereIsNoSpread) {
     const ColumnStatistics spread = DescribeColumn({7.0});
     EXPECT_EQ(spread.tests, 1);
+    EXPECT_EQ(spread.mean->value(), 7.0);
     EXPECT_FALSE(spread.deviation);
     EXPECT_FALSE(spread.variation);
     EXPECT_EQ(spread.percentile15->value(), 7.0);
@@ -37,6 +39,7 @@ TEST(ColumnStatisticsTest, OfOneTestThereIsNoSpread) {
 TEST(ColumnStatisticsTest, OfNoTestThereIsNothing) {
     const ColumnStatistics spread = DescribeColumn({});
     EXPECT_EQ(spread.tests, 0);
+    EXPECT_FALSE(spread.mean);
     EXPECT_FALSE(spread.percentile15);
     EXPECT_FALSE(spread.percentile85);
 }
@@ -51,6 +54,7 @@ TEST(ColumnStatisticsTest, WhatNoDoubleHoldsIsNotGiven) {
     const double huge = std::numeric_limits<double>::max();
     const ColumnStatistics spread = DescribeColumn({huge, huge});
     EXPECT_EQ(spread.tests, 2);
+    EXPECT_FALSE(spread.mean);
     EXPECT_FALSE(spread.deviation);
 }
 

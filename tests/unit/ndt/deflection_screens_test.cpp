@@ -138,6 +138,48 @@ INSTANTIATE_TEST_SUITE_P(Composite, ChangeTest,
                                          Change{"ReDfC", "Poisson", "0.2", "NDTEC", "AVGNDTEC", false},
                                          Change{"ReDfC", "EXISTDEPTH", "10", "NDTEC", "AVGNDTEC", false}));
 
+// --- Inputs of other screens ----------------------------------------------------------------------------
+
+struct Stranger {
+    const char* screen;
+    const char* input;
+    double value;
+    std::vector<const char*> results;
+};
+
+void PrintTo(const Stranger& stranger, std::ostream* stream) {
+    *stream << stranger.screen << " " << stranger.input;
+}
+
+class StrangerTest : public DeflectionScreenTest, public testing::WithParamInterface<Stranger> {};
+
+TEST_P(StrangerTest, AnInputOfAnotherScreenNeverChangesAResult) {
+    const Stranger& stranger = GetParam();
+    Open(stranger.screen);
+    std::vector<std::optional<double>> before;
+    for (const char* result : stranger.results) before.push_back(Cell(result, 1));
+    program_.Set(stranger.input, stranger.value);
+    Reactivate(stranger.screen);
+    for (std::size_t i = 0; i < before.size(); ++i) {
+        ASSERT_TRUE(before[i]);
+        EXPECT_EQ(Cell(stranger.results[i], 1), before[i]) << stranger.results[i];
+    }
+}
+
+const std::vector<const char*> kFlexible = {"NDTRM", "NDTEFFEP"};
+const std::vector<const char*> kRigid = {"AREA", "BACKL", "DYNK", "STATK", "NDTE"};
+const std::vector<const char*> kComposite = {"AREAC", "BACKLC", "DYNKC", "STATKC", "NDTEC"};
+
+INSTANTIATE_TEST_SUITE_P(OfAllScreens, StrangerTest,
+                         testing::Values(Stranger{"ReDfF", "Poisson", 0.3, kFlexible},
+                                         Stranger{"ReDfF", "EXISTDEPTH", 12.0, kFlexible},
+                                         Stranger{"ReDfF", "BOND", 0.0, kFlexible},
+                                         Stranger{"ReDfR", "NDTR", 48.0, kRigid},
+                                         Stranger{"ReDfR", "NDTRMC", 0.25, kRigid},
+                                         Stranger{"ReDfR", "BOND", 0.0, kRigid},
+                                         Stranger{"ReDfC", "NDTR", 48.0, kComposite},
+                                         Stranger{"ReDfC", "NDTRMC", 0.25, kComposite}));
+
 TEST_F(DeflectionScreenTest, AnInputEmptiedByATextThatIsNoNumberEmptiesTheResults) {
     Open("ReDfF");
     Raise(Kind::Focus, "NDTR");
