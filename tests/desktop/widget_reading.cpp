@@ -16,7 +16,7 @@
 #include "desktop/control_widgets.h"
 #include "desktop/picture_view.h"
 #include "desktop/qt_text.h"
-#include "desktop/report_pages_view.h"
+#include "desktop/preview/report_pages_view.h"
 #include "desktop/theme.h"
 
 namespace kelvor::test {
