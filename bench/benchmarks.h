@@ -35,6 +35,9 @@ std::vector<Pair> RegisterWrites(BenchProgram& program, const Path& home);
 /// All ESALs of a spectrum of axles once a parameter of the traffic has changed.
 std::vector<Pair> RegisterSpectrum(BenchProgram& program);
 
+/// The cost summary and the histogram opened, and a cell of a page of costs written.
+std::vector<Pair> RegisterCosts(BenchProgram& program);
+
 /// How often one solve for the structural number reads the store, and what it does meanwhile.
 struct SolveCount {
     int byName = 0;
