@@ -33,6 +33,7 @@ class BenchProgram {
     explicit BenchProgram(const Path& home);
 
     [[nodiscard]] ProjectStore& store() { return program_.state().dbWork; }
+    [[nodiscard]] Program& program() { return program_; }
     [[nodiscard]] Clock& clock() { return clock_; }
     [[nodiscard]] CalcContext MakeCalcContext() { return program_.state().MakeCalcContext(); }
 

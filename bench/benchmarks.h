@@ -39,6 +39,9 @@ std::vector<Pair> RegisterSpectrum(BenchProgram& program);
 /// the flexible ones against a plain loop that writes the same cells.
 std::vector<Pair> RegisterDeflections(BenchProgram& program);
 
+/// The cost summary and the histogram opened, and a cell of a page of costs written.
+std::vector<Pair> RegisterCosts(BenchProgram& program);
+
 /// How often one solve for the structural number reads the store, and what it does meanwhile.
 struct SolveCount {
     int byName = 0;

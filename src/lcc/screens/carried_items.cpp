@@ -17,6 +17,7 @@ void Carry(ScreenContext& context, int pavement, const char* from, const char* t
         if (context.units.GetDisplayValue(to, row, pavement) == item) continue;
         context.units.SetDisplayValue(to, row, pavement, item);
         context.bProjectChanged = true;
+        context.act = "copy of item names";
     }
 }
 

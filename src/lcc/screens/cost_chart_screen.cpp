@@ -73,12 +73,14 @@ void Activated(ScreenEvent& event) {
     form.SetText("Title", category.title);
     ShowHeights(form, costs, larger);
     ShowScale(form, larger);
+    form.Get(kBars).chart->title = category.title;
     DrawBars(*form.Get(kBars).chart, costs, larger);
 }
 
-/// The drawing shows the bars and their scale; these hold their numbers.
+/// The drawing shows the title, the bars and their scale; these hold their texts and numbers.
 void HideNumbers(ScreenEvent& event) {
-    for (const char* name : {"CostA", "CostB", "SSCostA", "SSCostB"}) event.form.Get(name).visible = false;
+    for (const char* name : {"Title", "CostA", "CostB", "SSCostA", "SSCostB"})
+        event.form.Get(name).visible = false;
     for (int i = 1; i <= kScaleLabels; ++i) event.form.Get(ScaleLabel(i)).visible = false;
 }
 
@@ -97,7 +99,7 @@ FormType CostChartForm() {
     FormType type;
     type.name = "CostChart";
     type.caption = "Cost Comparison";
-    std::vector<LayoutElement> elements = {Heading("Title", ""),         Chart(kBars, TwoBars()),
+    std::vector<LayoutElement> elements = {Caption("Title", ""),         Chart(kBars, TwoBars()),
                                            Caption("CostA", ""),         Caption("CostB", ""),
                                            Caption("SSCostA", "Cost A"), Caption("SSCostB", "Cost B")};
     for (int i = 1; i <= kScaleLabels; ++i) elements.push_back(Caption(ScaleLabel(i), ""));

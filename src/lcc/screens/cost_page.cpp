@@ -72,6 +72,7 @@ void HideUnitNote(ScreenEvent& event) { ShowUnitNote(event.form, ""); }
 FormType CostPage(const std::string& name, const std::vector<Handler>& own) {
     FormType type;
     type.name = name;
+    type.rowName = "item";
     type.foot = {{"PrevPage", "&Back"}, {"NextPage", "&Next"}, {"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}};
     type.handlers = {
         {FormEvent::Load, "", HandlerOrder::Before, BeginPage},

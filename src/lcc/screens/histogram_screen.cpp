@@ -21,11 +21,36 @@ ChartRow RowOf(const YearOfExpenditure& year) {
     return row;
 }
 
+/// What the work on the histogram is at, shown for as long as it lasts.
+class Progress {
+  public:
+    explicit Progress(Dialogs& dialogs) : dialogs_(dialogs) { Tell("Opening Histogram"); }
+    Progress(const Progress&) = delete;
+    Progress& operator=(const Progress&) = delete;
+    ~Progress() { dialogs_.HideWait(); }
+
+    void Tell(const std::string& step) {
+        dialogs_.ShowWait({.title = "Calculating Amounts...", .text = step});
+    }
+
+  private:
+    Dialogs& dialogs_;
+};
+
+/// The progress opens with the first step: without a period there is none.
+std::optional<std::vector<YearOfExpenditure>> BuildWithProgress(const CalcContext& context) {
+    std::optional<Progress> progress;
+    return BuildHistogram(context, [&](const std::string& step) {
+        if (!progress) progress.emplace(context.dialogs);
+        progress->Tell(step);
+    });
+}
+
 void Loaded(ScreenEvent& event) {
     Dialogs& dialogs = event.context.calc.dialogs;
     ChartData& chart = *event.form.Get(kChart).chart;
     chart.rows.clear();
-    const auto histogram = BuildHistogram(event.context.calc);
+    const auto histogram = BuildWithProgress(event.context.calc);
     if (!histogram) {
         dialogs.ShowMessage({.text = "No Analysis periods entered."});
         return;

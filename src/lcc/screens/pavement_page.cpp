@@ -26,6 +26,12 @@ std::string ReadLayerNumber(const ScreenContext& context, const Form& form, int 
     return isLayer ? std::to_string(row) : "";
 }
 
+/// The cursor begins where something can be entered.
+void Loaded(ScreenEvent& event) {
+    GridData& grid = *event.form.FindGrid()->grid;
+    grid.column = grid.Find("LayerType").value_or(0);
+}
+
 /// Stores a length as its picture shows it, and shows it.
 void StoreLength(ScreenEvent& event, const char* variable, Real length) {
     Control& box = event.form.Get(variable);
@@ -66,11 +72,13 @@ FormType PavementPage() {
     constexpr int kRowsShown = 10;
     FormType type =
         CostPage("LcA1", {
+                             {FormEvent::Load, "", HandlerOrder::After, Loaded},
                              {FormEvent::LostFocus, kLength, HandlerOrder::After, LengthLeft},
                              {FormEvent::Stored, kLength, HandlerOrder::After, LengthStored},
                              {FormEvent::Stored, kLongLength, HandlerOrder::After, LongLengthStored},
                          });
     type.caption = "Pavement (A) Information";
+    type.rowName = "layer";
     type.layout = Rows({
         Fields({{"PavDesc"}}),
         Columns({Fields({{kLength}, {kLongLength}}), Fields({{"JointSpacing"}})}),

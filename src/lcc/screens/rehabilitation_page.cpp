@@ -18,6 +18,9 @@ std::string ReadQuantity(const ScreenContext& context, const Form& form, int row
 /// The first row is that of the annual maintenance, which has no year of its own.
 void Loaded(ScreenEvent& event) {
     const int pavement = PavementOf(event.form);
+    GridData& grid = *event.form.FindGrid()->grid;
+    grid.row = kAnnualMaintenanceRow;
+    grid.column = grid.Find(kRehabGrid.quantity).value_or(0);  // the first that can be entered
     event.context.units.SetDisplayValue("RehabItem", kAnnualMaintenanceRow, pavement, "Annual Maintenance");
     event.context.units.SetDisplayValue("RehabYear", kAnnualMaintenanceRow, pavement, "N/A");
 }

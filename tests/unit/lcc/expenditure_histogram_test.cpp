@@ -26,7 +26,7 @@ class ExpenditureHistogramTest : public CostTest {
     /// The amounts of a pavement, year by year.
     std::vector<std::optional<double>> Amounts(std::size_t pavement) {
         std::vector<std::optional<double>> amounts;
-        const auto histogram = BuildHistogram(Context());
+        const auto histogram = BuildHistogram(Context(), [](const std::string&) {});
         for (const YearOfExpenditure& year : histogram.value()) {
             EXPECT_EQ(year.year, static_cast<int>(amounts.size()));
             const std::optional<Real> amount = year.amounts[pavement - 1];
@@ -96,7 +96,7 @@ TEST_F(ExpenditureHistogramTest, APavementWithoutAPeriodHasNoSeries) {
 
 TEST_F(ExpenditureHistogramTest, WithoutAnyPeriodThereIsNone) {
     Set({{"AnalysisPeriodA", 0.0}, {"AnalysisPeriodB", 0.0}});
-    EXPECT_FALSE(BuildHistogram(Context()).has_value());
+    EXPECT_FALSE(BuildHistogram(Context(), [](const std::string&) {}).has_value());
 }
 
 TEST_F(ExpenditureHistogramTest, PeriodsAreWholeYearsOfACentury) {
@@ -115,6 +115,19 @@ TEST_F(ExpenditureHistogramTest, ASumBeyondADoubleIsPassedOver) {
     Item(2, 1, 1.7e308, "3");
     Item(3, 1, 1.7e308, "3");
     EXPECT_EQ(Amounts(1)[3], 1.7e308);
+}
+
+TEST_F(ExpenditureHistogramTest, EachRowWithAYearAndEachYearOfThePeriodIsReported) {
+    Set({{"AnalysisPeriodA", 2.0}, {"AnalysisPeriodB", 1.0}});
+    AnnualMaintenance(1, 1, 150.0);
+    Item(2, 1, 300.0, "7");
+    Item(3, 1, 300.0, "");
+    std::vector<std::string> steps;
+    BuildHistogram(Context(), [&](const std::string& step) { steps.push_back(step); });
+    EXPECT_EQ(steps,
+              (std::vector<std::string>{
+                  "Calculating annual cost for 7 year.", "Building histogram (costs for 1 year).",
+                  "Building histogram (costs for 2 year).", "Building histogram (costs for 1 year)."}));
 }
 
 }  // namespace
