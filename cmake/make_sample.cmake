@@ -6,6 +6,7 @@
 
 file(REMOVE_RECURSE "${SCRATCH}")
 file(COPY "${HOME_FOLDER}/kvor.ini" "${HOME_FOLDER}/kvrwork.tpl" "${HOME_FOLDER}/DataBase"
+          "${HOME_FOLDER}/Reports"
      DESTINATION "${SCRATCH}")
 file(READ "${SCRIPT}" commands)
 get_filename_component(name "${PROJECT}" NAME)
