@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "desktop/app_icon.h"
+#include "desktop/preview/page_browser.h"
 #include "desktop/qt_text.h"
 
 namespace kelvor {
@@ -144,10 +145,19 @@ FormView& MainWindow::OpenView(Form& form) {
     return *view;
 }
 
-/// The hub fills the window; any other form stands in its middle, as large as its content asks.
+bool MainWindow::FillsWindow(const QMdiSubWindow& window) const {
+    if (&window == hubFrame_) return true;
+    for (const QWidget* inside : window.findChildren<QWidget*>()) {
+        if (dynamic_cast<const PageBrowser*>(inside) != nullptr) return true;
+    }
+    return false;
+}
+
+/// The hub fills the window, and so does a form that shows pages; any other form stands in its middle, as
+/// large as its content asks.
 void MainWindow::Place(QMdiSubWindow& window) {
     const QSize all = area_->viewport()->size();
-    if (&window == hubFrame_) {
+    if (FillsWindow(window)) {
         window.setGeometry({{0, 0}, all.expandedTo(window.minimumSizeHint())});
         return;
     }
@@ -160,8 +170,10 @@ void MainWindow::Place(QMdiSubWindow& window) {
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == area_->viewport() && event->type() == QEvent::Resize && hubFrame_ != nullptr) {
-        Place(*hubFrame_);
+    if (watched == area_->viewport() && event->type() == QEvent::Resize) {
+        for (QMdiSubWindow* window : area_->subWindowList()) {
+            if (FillsWindow(*window)) Place(*window);
+        }
     }
     return QMainWindow::eventFilter(watched, event);
 }

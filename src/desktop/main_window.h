@@ -62,6 +62,7 @@ class MainWindow : public QMainWindow {
     FormView& OpenView(Form& form);
     void CloseView(Form* form);
     void Place(QMdiSubWindow& window);
+    [[nodiscard]] bool FillsWindow(const QMdiSubWindow& window) const;
     void OnSubWindowActivated(QMdiSubWindow* window);
     void OnStop(const std::string& reason);
     static QString DraggedFile(const QMimeData& dragged);
