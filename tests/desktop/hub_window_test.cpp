@@ -111,10 +111,11 @@ TEST_F(HubWindowTest, EveryScreenOfTheHubIsReachedByTheKeyboardAlone) {
             ASSERT_TRUE(TabTo(step.button)) << step.button;
             Press(Qt::Key_Space);
             QKeyEvent released(QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier, " ");
+            ASSERT_NE(QApplication::focusWidget(), nullptr) << step.control << ", " << step.button << ", " << Current().name();
             QApplication::sendEvent(QApplication::focusWidget(), &released);
             if (Current().type().isHub) continue;
             reached.insert(Current().name());
-            ASSERT_TRUE(TabTo("cmdAction"));
+            ASSERT_TRUE(TabTo(Current().Find("cmdAction") != nullptr ? "cmdAction" : "Close"));
             Press(Qt::Key_Space);
             QApplication::sendEvent(QApplication::focusWidget(), &released);
             ASSERT_TRUE(Current().type().isHub);

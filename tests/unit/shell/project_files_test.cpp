@@ -102,7 +102,7 @@ TEST_F(ProjectFilesTest, NoFileStaysBesideAProjectOrTheWorkCopy) {
     ASSERT_TRUE(Run().SaveAs(File("plan.kvr")));
     EXPECT_THAT(NamesIn(folder_.path()), ElementsAre("plan.kvr"));
     EXPECT_THAT(NamesIn(program_.home.path()),
-                ElementsAre("DataBase", "Projects", "kvor.ini", "kvrwork.lck", "kvrwork.tmp", "kvrwork.tpl"))
+                ElementsAre("DataBase", "Projects", "Reports", "kvor.ini", "kvrwork.lck", "kvrwork.tmp", "kvrwork.tpl"))
         << "and the folder for projects, which Save As makes";
     EXPECT_THAT(NamesIn(program_.home / "DataBase"), ElementsAre("Kelvor.mdb", "custom.tpl"));
 }
@@ -348,7 +348,7 @@ TEST_F(ProjectFilesTest, NothingThatAnEarlierRunLeftBesideTheWorkCopyReachesAPro
         EXPECT_EQ(next.state().dbWork.GetVar("SN"), 0.0);
         EXPECT_EQ(ReadFile(home / "kvrwork.tmp"), open ? saved : ReadFile(home / "kvrwork.tpl"));
         EXPECT_THAT(NamesIn(home.path()),
-                    ElementsAre("DataBase", "kvor.ini", "kvrwork.lck", "kvrwork.tmp", "kvrwork.tpl"));
+                    ElementsAre("DataBase", "Reports", "kvor.ini", "kvrwork.lck", "kvrwork.tmp", "kvrwork.tpl"));
     }
 }
 
