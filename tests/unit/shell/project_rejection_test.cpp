@@ -228,7 +228,7 @@ TEST_F(ProjectRejectionTest, AProgramThatEndsAfterARefusalLeavesTheFormerFileAnd
         EXPECT_EQ(ReadFile(File("good.kvr")), good_);
         std::vector<std::string> names = NamesIn(home.path());
         std::erase(names, "kvrwork.tmp");  // not there if the file could not even be read
-        EXPECT_THAT(names, ElementsAre("DataBase", "kvor.ini", "kvrwork.tpl"));
+        EXPECT_THAT(names, ElementsAre("DataBase", "Reports", "kvor.ini", "kvrwork.tpl"));
     }
 }
 
