@@ -97,7 +97,8 @@ TEST_F(StartUpTest, WithoutACommandLineAFreshProjectIsOpen) {
     EXPECT_FALSE(start.waiting);
     EXPECT_FALSE(start.reportsUnavailable);
     EXPECT_EQ(ReadFile(home_ / "kvrwork.tmp"), ReadFile(home_ / "kvrwork.tpl"));
-    EXPECT_THAT(NamesIn(home_.path()), ElementsAre("DataBase", "Reports", "kvor.ini", "kvrwork.tmp", "kvrwork.tpl"));
+    EXPECT_THAT(NamesIn(home_.path()),
+                ElementsAre("DataBase", "Reports", "kvor.ini", "kvrwork.tmp", "kvrwork.tpl"));
 }
 
 TEST_F(StartUpTest, BlanksAreNoCommandLine) {
@@ -528,7 +529,8 @@ TEST_F(StartUpTest, AProgramThatWasKilledLocksNobodyOut) {
     EXPECT_EQ(start.result, StartResult::Running);
     EXPECT_THAT(start.messages, IsEmpty());
     EXPECT_EQ(ReadFile(home_ / "kvrwork.tmp"), ReadFile(home_ / "kvrwork.tpl"));
-    EXPECT_THAT(NamesIn(home_.path()), ElementsAre("DataBase", "Reports", "kvor.ini", "kvrwork.tmp", "kvrwork.tpl"));
+    EXPECT_THAT(NamesIn(home_.path()),
+                ElementsAre("DataBase", "Reports", "kvor.ini", "kvrwork.tmp", "kvrwork.tpl"));
 }
 
 TEST_F(StartUpTest, ProgramsWithTheirOwnWorkFoldersRunSideBySide) {
