@@ -93,7 +93,7 @@ class SectionPainter {
                 widest = std::max(widest, TextWidth(line, kTextSize));
             }
         }
-        return std::min(widest, scene_.width * kMostOfLabels);
+        return std::min(widest + kThinLine, scene_.width * kMostOfLabels);
     }
 
     void PlaceBands() {
