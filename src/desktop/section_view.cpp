@@ -11,7 +11,7 @@ namespace kelvor {
 
 namespace {
 
-constexpr int kLinesHigh = 23;
+constexpr int kLinesHigh = 28;
 constexpr double kUsualLetters = 84.0;
 
 /// What a screen reader tells: the layers from the top down.

@@ -13,8 +13,8 @@ namespace {
 
 constexpr const char* kBothDesigns = "DeS";
 constexpr const char* kDiagramButton = "cmdbDiagram";
-constexpr double kChartLetters = 84.0;
-constexpr double kPairLetters = 56.0;  // of each of two charts side by side
+constexpr double kChartLetters = 100.0;
+constexpr double kPairLetters = 68.0;  // of each of two charts side by side
 
 void DrawSection(ScreenEvent& event) {
     const SectionMember* member = FindSectionMember(ScreenDrawnBy(event.form.name()));

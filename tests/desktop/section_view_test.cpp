@@ -89,7 +89,7 @@ TEST_F(SectionViewTest, BandsAreAsHighAsTheirLayersAreThick) {
     // 12 in of gravel lie between them.
     const int asphaltEnd = LowestOf(chart, kAsphalt);
     const int subgradeEnd = LowestOf(chart, kSubgrade);
-    EXPECT_NEAR(subgradeEnd - asphaltEnd, asphalt * 15.0 / 4.0, 5.0);
+    EXPECT_NEAR(asphalt, (subgradeEnd - asphaltEnd) * 4.0 / 15.0, 3.0);
 }
 
 TEST_F(SectionViewTest, TwoPavementsStandOnOneSubgradeAtOneScale) {
@@ -156,7 +156,8 @@ TEST_F(SectionViewTest, ItIsSavedAsAPictureToo) {
     SaveDrawing(state().host.files, view.shown(), file);
     const QImage picture(QString::fromStdString(file.string()));
     EXPECT_EQ(picture.width(), 1280);  // 480 points at 192 dots an inch
-    EXPECT_THROW(SaveDrawing(state().host.files, view.shown(), home.home().folder / "section.gif"), FileError);
+    EXPECT_THROW(SaveDrawing(state().host.files, view.shown(), home.home().folder / "section.gif"),
+                 FileError);
 }
 
 TEST_F(SectionViewTest, CtrlCCopiesIt) {
