@@ -3,6 +3,8 @@
 #include <optional>
 
 #include "console/script/command_line.h"
+#include "drawing/chart_scene.h"
+#include "drawing/picture_file.h"
 #include "platform/number_text.h"
 #include "platform/text.h"
 #include "shell/overview.h"
@@ -16,10 +18,11 @@ const char* const kNoNewProject = "no new project can be made";
 /// The longest text that a cell takes; a project with a longer one could not be saved.
 constexpr std::size_t kLongestText = 1024UL * 1024UL;
 
-/// What is chosen: whether an option is, which tab shows, or a text.
+/// What is chosen: whether an option is, which tab shows, how high a box of a stack is, or a text.
 PropertyValue ValueOf(const Form& form, const Control& control) {
     if (control.IsChoice()) return control.value;
     if (control.kind == ControlKind::TabStrip) return form.page();
+    if (control.IsBox() && control.stacked) return control.stacked->height;
     return control.text;
 }
 
@@ -247,6 +250,16 @@ ChartData ModelDriver::Chart(const std::string& control) {
     const Control& c = FindControl(control);
     if (!c.chart) throw ScriptError(control + " is no chart");
     return *c.chart;
+}
+
+void ModelDriver::SavePicture(const std::string& control, const std::string& file) {
+    const Control& c = FindControl(control);
+    if (!c.chart) throw ScriptError(control + " is no chart");
+    try {
+        WritePicture(program_.state().host.files, file, MakeChartScene(*c.chart));
+    } catch (const FileError& failure) {
+        throw ScriptError("cannot write " + file + ": " + failure.what());
+    }
 }
 
 std::optional<std::string> ModelDriver::FocusName() {

@@ -53,6 +53,7 @@ class ModelDriver : public Driver {
     PropertyValue Read(const std::string& control, const std::string& property) override;
     std::vector<ControlReport> Controls() override;
     ChartData Chart(const std::string& control) override;
+    void SavePicture(const std::string& control, const std::string& file) override;
     std::optional<std::string> FocusName() override;
     void MakeReports() override;
     void ExportReports() override;

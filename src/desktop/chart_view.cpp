@@ -8,6 +8,7 @@
 
 #include "desktop/chart_drawing.h"
 #include "desktop/qt_text.h"
+#include "desktop/section_view.h"
 
 namespace kelvor {
 
@@ -110,6 +111,9 @@ class ChartView : public QChartView {
 }  // namespace
 
 QWidget* MakeChart(const Control& control, QWidget* parent) {
+    if (control.chart->kind == ChartKind::Section) {
+        return new SectionView(*control.chart, control.letters, parent);
+    }
     auto* view = new ChartView(*control.chart, parent);
     view->setRenderHint(QPainter::Antialiasing);
     view->setFocusPolicy(Qt::NoFocus);
@@ -120,13 +124,23 @@ QWidget* MakeChart(const Control& control, QWidget* parent) {
 }
 
 void MirrorChart(const Control& control, QWidget& widget) {
+    if (auto* section = dynamic_cast<SectionView*>(&widget)) {
+        if (section->shown() != *control.chart) section->Show(*control.chart);
+        return;
+    }
     auto& view = dynamic_cast<ChartView&>(widget);
     if (view.shown() != *control.chart) view.Show(*control.chart);
 }
 
 ChartData DrawnChart(const QWidget& widget) {
+    if (const auto* section = dynamic_cast<const SectionView*>(&widget)) return section->shown();
     const auto& view = dynamic_cast<const ChartView&>(widget);
     return ReadChart(view.shown(), *view.chart());
+}
+
+const ChartData& ShownChart(const QWidget& widget) {
+    if (const auto* section = dynamic_cast<const SectionView*>(&widget)) return section->shown();
+    return dynamic_cast<const ChartView&>(widget).shown();
 }
 
 }  // namespace kelvor

@@ -15,4 +15,7 @@ void MirrorChart(const Control& control, QWidget& widget);
 /// The data sheet of a chart as it is drawn, for tests.
 ChartData DrawnChart(const QWidget& widget);
 
+/// The data sheet that a chart shows, with all that its control had.
+const ChartData& ShownChart(const QWidget& widget);
+
 }  // namespace kelvor

@@ -13,6 +13,7 @@
 
 #include "desktop/control_widgets.h"
 #include "desktop/qt_text.h"
+#include "desktop/stack_view.h"
 
 namespace kelvor {
 
@@ -23,7 +24,7 @@ constexpr int kUnitLetters = 6;
 constexpr int kGridRows = 8;  // of a built screen, for its grid
 constexpr int kParagraphLetters = 84;
 constexpr double kStatementLetters = 36.0;  // about as wide as an indicator
-constexpr int kFigureSpacing = 2;  // between the rows of a matrix of figures
+constexpr int kFigureSpacing = 2;           // between the rows of a matrix of figures
 constexpr double kHeadingScale = 2.4;
 
 /// The columns of a group of fields.
@@ -301,6 +302,10 @@ class LayoutMaker {
     void Add(QBoxLayout& to, const layout::Chart& chart) { to.addWidget(find_(chart.name), 1); }
 
     void Add(QBoxLayout& to, const layout::ReportView& pages) { to.addWidget(find_(pages.name), 1); }
+
+    void Add(QBoxLayout& to, const layout::Stack& stack) {
+        to.addWidget(new StackView(model_, stack, find_, &form_));
+    }
 
     void Add(QBoxLayout& to, const layout::Table& table) {
         auto* grid = new QGridLayout;

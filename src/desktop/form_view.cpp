@@ -170,6 +170,8 @@ bool FormView::Filter(const Control& control, QEvent& event) {
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
             return door_.wasRefused() || (control.IsBox() && !RequestFocus(control));
+        case QEvent::ContextMenu:
+            return ShowMenuOf(control, static_cast<QContextMenuEvent&>(event));
         case QEvent::FocusIn:
             OnFocusIn(control, static_cast<QFocusEvent&>(event).reason());
             return false;

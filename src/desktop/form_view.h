@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QContextMenuEvent>
 #include <QHash>
 #include <QKeyEvent>
 #include <QTabWidget>
 #include <QWidget>
 #include <string>
+#include <vector>
 
 #include "desktop/event_door.h"
 #include "forms/form.h"
@@ -60,6 +62,11 @@ class FormView : public QWidget {
     void OnFocusIn(const Control& control, Qt::FocusReason reason);
     void OnEdited(const Control& control, const QString& text);
     bool FilterTabBar(QEvent& event);
+
+    /// The charts of the form that are seen.
+    [[nodiscard]] std::vector<ChartData> Drawings() const;
+    bool ShowMenuOf(const Control& control, const QContextMenuEvent& event);
+    bool HandleCopyKey(const QKeyEvent& key);
 
     /// Handles a key that is the model's; false if it is the widget's own.
     bool HandleKey(const QKeyEvent& key);

@@ -131,7 +131,7 @@ void FormView::NoteKeyRelease(const QKeyEvent& key) {
 
 bool FormView::HandleKey(const QKeyEvent& key) {
     if (door_.spaceHeld && key.key() == Qt::Key_Space && key.isAutoRepeat()) return true;
-    if (HandleTabKey(key)) return true;
+    if (HandleTabKey(key) || HandleCopyKey(key)) return true;
     if (IsAccessKey(key)) {
         if (!key.isAutoRepeat()) {
             Raise(UserEvent::Kind::Key, std::string("Alt+") + static_cast<char>(key.key()));

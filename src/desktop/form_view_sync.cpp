@@ -8,6 +8,7 @@
 #include "desktop/grid_view.h"
 #include "desktop/preview/report_pages_view.h"
 #include "desktop/qt_text.h"
+#include "desktop/stack_view.h"
 
 namespace kelvor {
 
@@ -17,6 +18,8 @@ void FormView::Sync() {
     for (const auto& control : form_->controls()) {
         QWidget* widget = widgets_.value(control.get());
         if (auto* grid = dynamic_cast<GridView*>(widget)) grid->Show();
+        if (control->stacked && !control->IsBox())
+            dynamic_cast<StackView&>(*widget->parentWidget()).Arrange();
         if (control->chart) MirrorChart(*control, *widget);
         if (auto* pages = dynamic_cast<ReportPagesView*>(widget))
             pages->Show(control->document, control->text);

@@ -111,7 +111,8 @@ std::optional<std::string> QtDialogs::AskText(const InputRequest& request) {
 std::optional<Path> QtDialogs::AskFile(const FileRequest& request) {
     const BoxPointer pointer;
     const bool opens = request.kind == FileRequest::Kind::Open;
-    QFileDialog dialog(parent_, opens ? QStringLiteral("Open Project") : QStringLiteral("Save Project As"),
+    const QString title = opens ? QStringLiteral("Open Project") : QStringLiteral("Save Project As");
+    QFileDialog dialog(parent_, request.title.empty() ? title : ToQt(request.title),
                        ToQt(request.folder.string()), QtFilter(request.filter));
     dialog.setAcceptMode(opens ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(ToQt(request.suffix));

@@ -43,10 +43,9 @@ class Marks {
 
     /// Dots, and among them the outlines of coarse aggregate.
     void DrawAggregate() {
-        int count = 0;
         OverCells(7.0, [&](Point at) {
-            if (++count % 6 == 0) return DrawStone(at, 2.4 * scale_, 3);
-            const double radius = (count % 2 == 0 ? 0.45 : 0.7) * scale_;
+            if (chance_.Next() < 0.16) return DrawStone(at, 2.4 * scale_, 3);
+            const double radius = chance_.Between(0.4, 0.75) * scale_;
             Put(shape::Ellipse{at, radius, radius, stroke_.colour}, at, radius);
         });
     }

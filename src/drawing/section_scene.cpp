@@ -28,8 +28,9 @@ constexpr double kThinLine = 0.6;
 constexpr double kOutline = 0.9;
 constexpr double kSwatchWidth = 16.0;
 constexpr double kSwatchHeight = 9.0;
-constexpr double kMostOfLabels = 0.45;  // of the width
+constexpr double kMostOfLabels = 0.5;  // of the width
 constexpr double kLeastStack = 40.0;
+constexpr const char* kSeparator = "#FFFFFF";  // seen between black layers, on whatever paper
 // The same in every drawing, so that two of one size have one scale.
 constexpr double kTitleLines = 2.0;
 constexpr double kLegendLines = 2.0;
@@ -93,7 +94,7 @@ class SectionPainter {
                 widest = std::max(widest, TextWidth(line, kTextSize));
             }
         }
-        return std::min(widest, scene_.width * kMostOfLabels);
+        return std::min(widest + kThinLine, scene_.width * kMostOfLabels);
     }
 
     void PlaceBands() {
@@ -143,7 +144,7 @@ class SectionPainter {
         if (bands_.empty()) return;
         // Two layers of the same kind stay apart, also black ones.
         for (std::size_t i = 1; i < bands_.size(); ++i) {
-            AddLine({{left_, bands_[i].bottom}, {right_, bands_[i].bottom}}, kOutline, ink_.paper);
+            AddLine({{left_, bands_[i].bottom}, {right_, bands_[i].bottom}}, kOutline, kSeparator);
         }
         // The earth goes on below.
         AddLine({{left_, bands_.front().bottom},

@@ -103,6 +103,15 @@ struct CoarsePlace {
     double height = 1.0;  // 0: down to the foot of the form
 };
 
+/// Where a box stands in a stack of boxes, in twips (1/1440 inch) from the top of the stack. A view may
+/// enlarge all of a stack, so that its letters can be read.
+struct StackPlace {
+    int top = 0;
+    int height = 0;
+
+    bool operator==(const StackPlace&) const = default;
+};
+
 /// One element of a form, as the model holds it. A front end mirrors it and decides nothing.
 struct Control {
     ControlKind kind = ControlKind::Label;
@@ -111,10 +120,11 @@ struct Control {
     std::string text;     // of a box; the caption of a label, button or frame, and of the tab that shows
     std::string picture;  // the number picture of a field; sizes its box
     std::string toolTip;
-    std::vector<std::string> items;                 // of a list; the captions of a tab strip
-    std::optional<GridData> grid;                   // of a grid
-    std::optional<ChartData> chart;                 // of a chart
-    std::optional<CoarsePlace> place;               // on a built screen
+    std::vector<std::string> items;     // of a list; the captions of a tab strip
+    std::optional<GridData> grid;       // of a grid
+    std::optional<ChartData> chart;     // of a chart
+    std::optional<CoarsePlace> place;   // on a built screen
+    std::optional<StackPlace> stacked;  // of a box in a stack, and of the label below the lowest one
     std::shared_ptr<const Document> document = {};  // of report pages; null: the text says why there are none
     bool enabled = true;
     bool visible = true;

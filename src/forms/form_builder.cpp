@@ -18,6 +18,8 @@ constexpr std::array<std::string_view, 6> kNoUnits = {"No Units", "18 kip ESAL's
 /// The caption of a small button beside a field.
 constexpr const char* kEllipsis = "\u2026";
 
+constexpr double kStackedLetters = 40.0;  // of a box in a stack: a thickness and a name
+
 /// A hidden box in which the common routines keep something on a form.
 struct StateBox {
     std::string_view name;
@@ -150,7 +152,26 @@ class Builder {
         }
     }
 
-    void Make(const layout::Chart& chart) { Add(ControlKind::Chart, chart.name).chart = chart.data; }
+    void Make(const layout::Chart& declared) {
+        Control& chart = Add(ControlKind::Chart, declared.name);
+        chart.chart = declared.data;
+        chart.letters = declared.letters;
+    }
+
+    void Make(const layout::Stack& stack) {
+        for (const layout::StackedBox& declared : stack.boxes) {
+            Control& label = AddLabelled(ControlKind::Label, declared.label, declared.text);
+            label.labelOf = declared.box;
+            label.visible = false;
+            Control& box = Add(ControlKind::TextBox, declared.box);
+            box.backColor = colours::kWindow;
+            box.Lock();
+            box.visible = false;
+            box.letters = kStackedLetters;
+            box.stacked = StackPlace{};
+        }
+        AddLabelled(ControlKind::Label, stack.ground, stack.groundText).stacked = StackPlace{};
+    }
 
     void Make(const layout::ReportView& pages) { Add(ControlKind::ReportPages, pages.name); }
 

@@ -67,7 +67,7 @@ Form* FormEvents::Open(const OpenRequest& request) {
         if (!Close(*form)) return nullptr;
         form = nullptr;
     }
-    const bool begins = form == nullptr || (request.dim2 && form->dim2() != request.dim2);
+    const bool begins = form == nullptr || type->beginsAnew || (request.dim2 && form->dim2() != request.dim2);
     if (form == nullptr) form = &context_.forms.Add(*type, context_.catalogue);
     if (request.call) NoteCall(*form, *request.call);
     if (request.dim2) form->SetText("Dim2", std::to_string(*request.dim2));

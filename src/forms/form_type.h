@@ -102,9 +102,11 @@ struct FormType {
     StatusLine (*governs)(const ScreenContext& context) =
         nullptr;  // what decides its result, from the stored cells: shown on the label GOVERNS
     std::string rowName = "row";  // what a row of its grid holds, in the singular: "test"
+    std::string helpPage = {};    // of the help, if it is not called like the form
     bool modal = false;           // while it is open, the user works in it alone
     bool isHelp = false;          // helps with one field of another form; Esc closes it
     bool needsProject = true;     // it shows values of the project, and works on nothing else
+    bool beginsAnew = false;      // opened again while it is open, it starts as if it had not been
     bool isHub = false;           // the form with the tabs: always open, and Enter selects its options
 };
 

@@ -102,8 +102,12 @@ std::string TableCellName(const std::string& table, std::size_t row, std::size_t
     return table + std::to_string(row) + "_" + std::to_string(column);
 }
 
-LayoutElement Chart(std::string name, ChartData data) {
-    return {layout::Chart{std::move(name), std::move(data)}};
+LayoutElement Chart(std::string name, ChartData data, double letters) {
+    return {layout::Chart{std::move(name), std::move(data), letters}};
+}
+
+LayoutElement Stack(std::vector<layout::StackedBox> boxes, std::string ground, std::string groundText) {
+    return {layout::Stack{std::move(boxes), std::move(ground), std::move(groundText)}};
 }
 
 LayoutElement ReportView(std::string name) { return {layout::ReportView{std::move(name)}}; }

@@ -182,6 +182,22 @@ struct Table {
 struct Chart {
     std::string name;
     ChartData data;
+    double letters = 0.0;  // its width; 0: as most charts have it
+};
+
+/// A box in a stack, and the label beside it.
+struct StackedBox {
+    std::string box;
+    std::string label;
+    std::string text;  // of the label
+};
+
+/// Boxes on each other like the layers of a pavement, and a label below them. Where each stands is told by
+/// Control::stacked; at first none is seen.
+struct Stack {
+    std::vector<StackedBox> boxes;
+    std::string ground;  // the label below
+    std::string groundText;
 };
 
 /// The pages of a report.
@@ -210,7 +226,7 @@ struct LayoutElement {
                  layout::BareBox, layout::DetachedLabel, layout::Options, layout::Checks, layout::Buttons,
                  layout::Choice, layout::Heading, layout::Text, layout::Caption, layout::Verdict,
                  layout::Statement, layout::Picture, layout::Grid, layout::Table, layout::Chart,
-                 layout::ReportView, layout::Indicator, layout::CoarseGrid, layout::Hidden>
+                 layout::Stack, layout::ReportView, layout::Indicator, layout::CoarseGrid, layout::Hidden>
         kind;
 };
 
@@ -271,7 +287,8 @@ LayoutElement GridOfRows(std::string name, std::vector<FieldItem> columns, int r
 LayoutElement Table(std::string name, std::vector<std::vector<std::string>> rows);
 std::string TableCellName(const std::string& table, std::size_t row, std::size_t column);
 
-LayoutElement Chart(std::string name, ChartData data);
+LayoutElement Chart(std::string name, ChartData data, double letters = 0.0);
+LayoutElement Stack(std::vector<layout::StackedBox> boxes, std::string ground, std::string groundText);
 LayoutElement ReportView(std::string name);
 LayoutElement CoarseGrid();
 LayoutElement Hidden(std::vector<std::string> names);

@@ -35,6 +35,7 @@ struct FileRequest {
     Path folder;
     std::string filter;
     std::string suffix = {};  // which a name to save under gets that has none, before it is looked for
+    std::string title = {};   // empty: that of opening or saving a project
 };
 
 struct HelpRequest {

@@ -17,6 +17,7 @@
 #include "rehab/screens/existing_forms.h"
 #include "rehab/screens/overlay_screens.h"
 #include "reports/run/preview_form.h"
+#include "sections/section_forms.h"
 #include "shell/about_form.h"
 #include "shell/event_scope.h"
 #include "shell/hub/hub.h"
@@ -44,6 +45,7 @@ Program::Program(Host host, Home home) : state_(host, std::move(home)) {
     state_.formRegistry.Declare(WithHubTold(OverlayForms()));
     state_.formRegistry.Declare(WithHubTold(DeflectionForms()));
     state_.formRegistry.Declare(CostForms());
+    state_.formRegistry.Declare(SectionForms());
 }
 
 StartResult Program::Start(const std::string& commandLine) {

@@ -70,6 +70,7 @@ bool Program::HasFieldHelp(const Form& form) {
 
 /// The page of the help file that tells of a form: each tab of the hub has its own.
 std::string Program::HelpPageOf(const Form& form) {
+    if (!form.type().helpPage.empty()) return form.type().helpPage;
     return form.type().isHub ? form.name() + std::to_string(form.page()) : form.name();
 }
 

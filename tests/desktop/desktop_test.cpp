@@ -199,13 +199,13 @@ TEST_F(WindowTest, EnterHeldDownGoesRoundAndChangesNothing) {
     OpenFlexibleDesign();
     TypeFlexibleInputs();
     const auto before = Shown("FLEXE18");
-    for (int i = 0; i < 334; ++i) {  // thirty rounds of eleven stops, and four
+    for (int i = 0; i < 365; ++i) {  // thirty rounds of twelve stops, and five
         QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, kNone, "\r", true);
         QApplication::sendEvent(QApplication::focusWidget(), &held);
     }
     EXPECT_THAT(Messages(), IsEmpty());
     EXPECT_EQ(Shown("FLEXE18"), before);
-    EXPECT_EQ(FocusName(), "FLEXE18");  // from Solve For over Layer Determ., OK and Help
+    EXPECT_EQ(FocusName(), "FLEXE18");  // from Solve For over Layer Determ., Cross Section, OK and Help
     EXPECT_NE(window().FindView("DeF"), nullptr);
 }
 

@@ -15,8 +15,10 @@
 
 #include "desktop/control_widgets.h"
 #include "desktop/picture_view.h"
-#include "desktop/qt_text.h"
 #include "desktop/preview/report_pages_view.h"
+#include "desktop/qt_text.h"
+#include "desktop/section_view.h"
+#include "desktop/stack_view.h"
 #include "desktop/theme.h"
 
 namespace kelvor::test {
@@ -56,6 +58,7 @@ std::string ColourName(const QWidget& widget, QPalette::ColorRole role, Colour u
 
 ControlKind KindOf(const QWidget& widget) {
     if (qobject_cast<const QGraphicsView*>(&widget) != nullptr) return ControlKind::Chart;
+    if (dynamic_cast<const SectionView*>(&widget) != nullptr) return ControlKind::Chart;
     if (qobject_cast<const QTableView*>(&widget) != nullptr) return ControlKind::Grid;
     if (qobject_cast<const QLineEdit*>(&widget) != nullptr) return ControlKind::TextBox;
     if (qobject_cast<const QComboBox*>(&widget) != nullptr) return ControlKind::ComboBox;
@@ -89,6 +92,8 @@ PropertyValue ValueOf(const QWidget& widget) {
     if (const auto* tabs = qobject_cast<const QTabWidget*>(&widget)) return tabs->currentIndex();
     const auto* choice = qobject_cast<const QAbstractButton*>(&widget);
     if (choice != nullptr && KindOf(widget) != ControlKind::CommandButton) return choice->isChecked();
+    if (const QVariant height = widget.property(kStackHeightProperty); height.isValid())
+        return height.toInt();
     return TextOf(widget);
 }
 

@@ -21,6 +21,7 @@
 
 #include "console/script/command_line.h"
 #include "desktop/chart_view.h"
+#include "desktop/drawing_menu.h"
 #include "desktop/qt_text.h"
 #include "desktop/widget_reading.h"
 
@@ -328,6 +329,15 @@ std::vector<ControlReport> WindowDriver::Controls() {
 ChartData WindowDriver::Chart(const std::string& control) {
     if (!FindControl(control).chart) throw ScriptError(control + " is no chart");
     return DrawnChart(Widget(control));
+}
+
+void WindowDriver::SavePicture(const std::string& control, const std::string& file) {
+    if (!FindControl(control).chart) throw ScriptError(control + " is no chart");
+    try {
+        SaveDrawing(desktop_.program().state().host.files, ShownChart(Widget(control)), file);
+    } catch (const FileError& failure) {
+        throw ScriptError("cannot write " + file + ": " + failure.what());
+    }
 }
 
 std::optional<std::string> WindowDriver::FocusName() {

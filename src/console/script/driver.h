@@ -47,7 +47,7 @@ struct PreviewReport {
     std::string caption;
 };
 
-/// A property of a control: a truth value, the number of a tab, or a text.
+/// A property of a control: a truth value, the number of a tab or the height of a box, or a text.
 using PropertyValue = std::variant<bool, int, std::string>;
 
 /// What a script does to a program. One driver works on the program's model, another on its windows;
@@ -110,6 +110,9 @@ class Driver {
 
     /// The data sheet of a chart of the current screen.
     virtual ChartData Chart(const std::string& control) = 0;
+
+    /// Writes a chart of the current screen to a file, .svg or .png.
+    virtual void SavePicture(const std::string& control, const std::string& file) = 0;
 
     /// The control that has the focus; nothing if none has it.
     virtual std::optional<std::string> FocusName() = 0;

@@ -168,6 +168,7 @@ constexpr std::array kCommands = {
     Command{"grid", 0, 0, [](const Context& c) { c.output.Grid(c.driver.GridCells()); }},
     Command{"read", 1, 2, Read},
     Command{"chart", 1, 1, [](const Context& c) { c.output.Chart(c.driver.Chart(c.arguments[0])); }},
+    Command{"picture", 2, 2, [](const Context& c) { c.driver.SavePicture(c.arguments[0], c.arguments[1]); }},
     Command{"controls", 0, 0, [](const Context& c) { c.output.Controls(c.driver.Controls()); }},
     Command{"report", 0, 0, [](const Context& c) { c.driver.MakeReports(); }},
     Command{"export", 0, 0, [](const Context& c) { c.driver.ExportReports(); }},

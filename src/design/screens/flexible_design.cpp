@@ -2,6 +2,7 @@
 
 #include "design/screens/layered_design.h"
 #include "forms/form.h"
+#include "forms/section_button.h"
 #include "forms/work_out_help.h"
 
 namespace kelvor {
@@ -21,11 +22,11 @@ FormType FlexibleDesignForm() {
         Frame("Frame1", "Design Inputs",
               {Fields({{"FLEXE18"}, {"FLEXREL"}, {"FLEXDEV"}, {"RM"}, {"SN"}, {"FLEXPO"}, {"FLEXPT"}})}),
         Rows({SolveForFrame("Frame2", type.equations[0]),
-              Buttons({{"Command2", "&Layer Determ."},
-                       {.name = "cmdbCS", .caption = "&Cross Section", .comesLater = true}})}),
+              Buttons({{"Command2", "&Layer Determ."}, CrossSectionButton()})}),
     });
     type.handlers = {
         {FormEvent::Click, "Command2", HandlerOrder::Instead, LayersClick},
+        OpeningCrossSection(),
     };
     type.helpRoutes = {WorkOutSoilModulus("RM"), {"SN", "H_SN"}};
     return type;

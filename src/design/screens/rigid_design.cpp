@@ -1,6 +1,7 @@
 #include "design/screens/rigid_design.h"
 
 #include "forms/form.h"
+#include "forms/section_button.h"
 #include "forms/work_out_help.h"
 
 namespace kelvor {
@@ -25,10 +26,6 @@ LayoutElement FlexibleInputs() {
     return Fields({{"SN"}, {"FLEXE18"}, {"FLEXREL"}, {"FLEXDEV"}, {"RM"}, {"FLEXPO"}, {"FLEXPT"}});
 }
 
-LayoutElement CrossSectionButton() {
-    return Buttons({{.name = "cmdbCS", .caption = "&Cross Section", .comesLater = true}});
-}
-
 }  // namespace
 
 FormType RigidDesignForm() {
@@ -38,8 +35,9 @@ FormType RigidDesignForm() {
     type.equations = {{.flag = BalanceFlag::DeR}};
     type.layout = Columns({
         Frame("Frame1", "Design Inputs", {RigidInputs()}),
-        Rows({SolveForFrame("Frame2", type.equations[0]), CrossSectionButton()}),
+        Rows({SolveForFrame("Frame2", type.equations[0]), Buttons({CrossSectionButton()})}),
     });
+    type.handlers = {OpeningCrossSection()};
     type.helpRoutes = {WorkOutK("K")};
     return type;
 }
@@ -59,8 +57,9 @@ FormType BothDesignsForm() {
               SolveForFrame("Frame2", type.equations[0], FrameShape::Wide)}),
         Rows({Frame("Frame3", "Flexible Pavement Design", {FlexibleInputs()}),
               SolveForFrame("Frame4", type.equations[1], FrameShape::Wide, "Sol&ve For"),
-              CrossSectionButton()}),
+              Buttons({CrossSectionButton()})}),
     });
+    type.handlers = {OpeningCrossSection()};
     type.helpRoutes = {WorkOutK("K"), WorkOutSoilModulus("RM")};
     return type;
 }

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "forms/section_button.h"
 #include "rehab/screens/overlay_routines.h"
 
 namespace kelvor {
@@ -19,6 +20,8 @@ FormType MakeOverlay(OverlayScreen overlay) {
     type.layout = Columns({std::move(overlay.future), Rows(std::move(right))});
     type.handlers = OverlayHandlers(overlay.button);
     type.handlers.insert(type.handlers.end(), overlay.handlers.begin(), overlay.handlers.end());
+    type.handlers.push_back(OpeningCrossSection());
+    type.foot.insert(type.foot.begin(), CrossSectionButton());
     type.helpRoutes = std::move(overlay.helpRoutes);
     type.governs = overlay.governs;
     return type;

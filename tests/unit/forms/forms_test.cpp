@@ -191,12 +191,17 @@ TEST_F(FormsTest, WhatMakesNoSenseIsTold) {
 }
 
 TEST_F(FormsTest, ADisabledControlTakesNeitherFocusNorClick) {
-    Form& form = Open("DeF");
-    EXPECT_TRUE(Raise(Kind::Press, "cmdbCS"));
-    EXPECT_EQ(form.focus->name, "FLEXE18");
-    EXPECT_EQ(form.Find("cmdbCS")->toolTip, "comes later");
+    FormType type;
+    type.name = "Later";
+    type.layout =
+        Rows({Fields({{"RM"}}), Buttons({{.name = "Next", .caption = "&Next", .comesLater = true}})});
+    program_.program.state().formRegistry.Declare({type});
+    Form& form = Open("Later");
+    EXPECT_TRUE(Raise(Kind::Press, "Next"));
+    EXPECT_EQ(form.focus->name, "RM");
+    EXPECT_EQ(form.Find("Next")->toolTip, "comes later");
     Raise(Kind::Focus, "SolveForField");
-    EXPECT_EQ(form.focus->name, "FLEXE18") << "a hidden box";
+    EXPECT_EQ(form.focus->name, "RM") << "a hidden box";
 }
 
 TEST_F(FormsTest, LeavingAFieldThatWasNotTypedInStoresNothing) {

@@ -1,0 +1,244 @@
+#include "drawing/plot_scene.h"
+
+#include <algorithm>
+
+#include "drawing/plot_axis.h"
+#include "drawing/section_layers.h"
+#include "drawing/text_width.h"
+#include "platform/number_text.h"
+
+namespace kelvor {
+
+namespace {
+
+using shape::Anchor;
+
+// All in points.
+constexpr double kMargin = 8.0;
+constexpr double kTitleSize = 11.0;
+constexpr double kTextSize = 9.0;
+constexpr double kLinePitch = 13.0;
+constexpr double kGap = 5.0;
+constexpr double kThinLine = 0.5;
+constexpr double kThickLine = 1.5;
+constexpr double kPoint = 3.0;
+constexpr double kSwatch = 9.0;
+constexpr double kGroupWidth = 0.8;  // of the room that a group of bars has
+constexpr double kStackWidth = 0.6;
+
+class PlotPainter {
+  public:
+    PlotPainter(const ChartData& sheet, const DrawingSize& size, const Ink& ink)
+        : sheet_(sheet), ink_(ink), up_(AxisUp(sheet)), across_(AxisAcross(sheet)) {
+        scene_.width = size.width;
+        scene_.height = size.height;
+        scene_.paper = ink.paper;
+    }
+
+    Scene Paint() {
+        AddTitle();
+        PlaceArea();
+        AddAxisUp();
+        AddAxisAcross();
+        AddData();
+        AddLegend();
+        return std::move(scene_);
+    }
+
+  private:
+    [[nodiscard]] bool IsBars() const {
+        return sheet_.kind == ChartKind::GroupedBars || sheet_.kind == ChartKind::StackedBars;
+    }
+    [[nodiscard]] bool HasLegend() const {
+        return sheet_.series.size() > 1 && sheet_.kind != ChartKind::StackedBars;
+    }
+
+    // --- Where things stand -----------------------------------------------------------------------
+
+    void PlaceArea() {
+        double widest = 0.0;
+        for (const double number : up_.numbers) {
+            widest = std::max(widest, TextWidth(up_.TextOf(number), kTextSize));
+        }
+        left_ = kMargin + (sheet_.up.title.empty() ? 0.0 : kLinePitch) + widest + kGap;
+        right_ = scene_.width - 2.0 * kMargin;
+        bottom_ = scene_.height - kMargin - kLinePitch - (sheet_.across.title.empty() ? 0.0 : kLinePitch) -
+                  (HasLegend() ? kLinePitch : 0.0);
+    }
+
+    [[nodiscard]] double HeightOf(double value) const {
+        return bottom_ - up_.PartOf(value) * (bottom_ - top_);
+    }
+    [[nodiscard]] double PlaceAcross(double value) const {
+        return left_ + across_.PartOf(value) * (right_ - left_);
+    }
+
+    // --- What is drawn ------------------------------------------------------------------------------
+
+    void AddText(Point place, const std::string& text, Anchor anchor, double size = kTextSize,
+                 bool bold = false, bool upright = false) {
+        scene_.shapes.emplace_back(shape::Text{place, text, size, ink_.ink, anchor, bold, upright});
+    }
+
+    void AddLine(std::vector<Point> points, double width, const std::string& colour) {
+        scene_.shapes.emplace_back(shape::Line{std::move(points), {colour, width}});
+    }
+
+    void AddTitle() {
+        double y = kMargin + kTitleSize;
+        for (const std::string& line : LinesOf(sheet_.title)) {
+            const bool first = scene_.title.empty();
+            scene_.title += (first ? "" : ", ") + line;
+            AddText({scene_.width / 2.0, y}, line, Anchor::Middle, first ? kTitleSize : kTextSize, first);
+            y += kLinePitch;
+        }
+        top_ = y;
+    }
+
+    void AddAxisUp() {
+        for (const double number : up_.numbers) {
+            const double y = HeightOf(number);
+            AddLine({{left_, y}, {right_, y}}, kThinLine, ink_.faint);
+            AddText({left_ - kGap, y + kTextSize / 3.0}, up_.TextOf(number), Anchor::End);
+        }
+        AddLine({{left_, top_}, {left_, bottom_}}, kThinLine, ink_.ink);
+        if (sheet_.up.title.empty()) return;
+        AddText({kMargin + kTextSize, (top_ + bottom_) / 2.0}, sheet_.up.title, Anchor::Middle, kTextSize,
+                false, true);
+    }
+
+    void AddAxisAcross() {
+        AddLine({{left_, bottom_}, {right_, bottom_}}, kThinLine, ink_.ink);
+        const double y = bottom_ + kLinePitch;
+        if (!IsBars()) {
+            for (const double number : across_.numbers) {
+                AddText({PlaceAcross(number), y}, across_.TextOf(number), Anchor::Middle);
+            }
+        } else if (sheet_.kind == ChartKind::GroupedBars) {
+            AddGroupLabels(y);
+        }
+        if (sheet_.across.title.empty()) return;
+        AddText({(left_ + right_) / 2.0, y + kLinePitch}, sheet_.across.title, Anchor::Middle);
+    }
+
+    /// Where the labels do not all have room, every second, third ... one is left out.
+    void AddGroupLabels(double y) {
+        double widest = kGap;
+        for (const ChartRow& row : sheet_.rows) widest = std::max(widest, TextWidth(row.label, kTextSize));
+        const double room = RoomOfGroup();
+        const auto step = static_cast<std::size_t>(widest / room) + 1;
+        for (std::size_t i = 0; i < sheet_.rows.size(); i += step) {
+            AddText({left_ + (static_cast<double>(i) + 0.5) * room, y}, sheet_.rows[i].label, Anchor::Middle);
+        }
+    }
+
+    [[nodiscard]] double RoomOfGroup() const {
+        return (right_ - left_) / static_cast<double>(std::max<std::size_t>(sheet_.rows.size(), 1));
+    }
+
+    void AddData() {
+        if (sheet_.kind == ChartKind::StackedBars) return AddStackedBars();
+        for (std::size_t i = 0; i < sheet_.series.size(); ++i) {
+            if (sheet_.kind == ChartKind::GroupedBars) {
+                AddBars(i);
+            } else {
+                AddPoints(i);
+            }
+        }
+    }
+
+    void AddPoints(std::size_t series) {
+        std::vector<Point> points;
+        for (const ChartRow& row : sheet_.rows) {
+            if (series >= row.cells.size() || !row.cells[series]) continue;
+            points.push_back({PlaceAcross(ParseNumber(row.label)), HeightOf(*row.cells[series])});
+            if (sheet_.showsValues) {
+                AddText({points.back().x, points.back().y - kGap}, up_.TextOf(*row.cells[series]),
+                        Anchor::Middle);
+            }
+        }
+        const std::string& colour = sheet_.series[series].colour;
+        if (sheet_.kind == ChartKind::Line) return AddLine(std::move(points), kThickLine, colour);
+        for (const Point& point : points) {
+            scene_.shapes.emplace_back(shape::Ellipse{point, kPoint, kPoint, colour});
+        }
+    }
+
+    void AddBars(std::size_t series) {
+        const double width = RoomOfGroup() * kGroupWidth / static_cast<double>(sheet_.series.size());
+        const double gap = RoomOfGroup() * (1.0 - kGroupWidth) / 2.0;
+        for (std::size_t i = 0; i < sheet_.rows.size(); ++i) {
+            const ChartRow& row = sheet_.rows[i];
+            if (series >= row.cells.size() || !row.cells[series]) continue;
+            const double value = *row.cells[series];
+            const double x =
+                left_ + static_cast<double>(i) * RoomOfGroup() + gap + static_cast<double>(series) * width;
+            AddBar({x, HeightOf(std::max(value, 0.0))}, width, HeightOf(std::min(value, 0.0)),
+                   sheet_.series[series].colour, sheet_.series[series].name + " " + row.label);
+            if (!sheet_.showsValues) continue;
+            AddText({x + width / 2.0, HeightOf(std::max(value, 0.0)) - kGap / 2.0}, up_.TextOf(value),
+                    Anchor::Middle);
+        }
+    }
+
+    void AddStackedBars() {
+        std::vector<double> tops;
+        for (std::size_t layer = 0; layer < sheet_.rows.size(); ++layer) {
+            const ChartRow& row = sheet_.rows[layer];
+            tops.resize(std::max(tops.size(), row.cells.size()));
+            for (std::size_t bar = 0; bar < row.cells.size(); ++bar) {
+                const double base = tops[bar];
+                tops[bar] += row.cells[bar].value_or(0.0);
+                if (tops[bar] > base) AddStackedPart(layer, bar, base, tops[bar]);
+            }
+        }
+    }
+
+    void AddStackedPart(std::size_t layer, std::size_t bar, double base, double top) {
+        const double room = (right_ - left_) / static_cast<double>(sheet_.rows[layer].cells.size());
+        const double x = left_ + (static_cast<double>(bar) + 0.5 - kStackWidth / 2.0) * room;
+        const std::string colour = layer < sheet_.series.size() ? sheet_.series[layer].colour : ink_.paper;
+        const std::vector<std::string> lines = LinesOf(sheet_.rows[layer].label);
+        AddBar({x, HeightOf(top)}, room * kStackWidth, HeightOf(base), colour,
+               lines.empty() ? std::string() : lines.front());
+        double y = (HeightOf(base) + HeightOf(top)) / 2.0 + kTextSize / 3.0;
+        for (const std::string& line : lines) {
+            AddText({x + room * kStackWidth + kGap, y}, line, Anchor::Start);
+            y += kLinePitch;
+        }
+    }
+
+    void AddBar(Point corner, double width, double bottom, const std::string& colour, std::string name) {
+        scene_.shapes.emplace_back(shape::Rectangle{
+            corner, width, bottom - corner.y, colour, {ink_.ink, kThinLine}, std::move(name)});
+    }
+
+    void AddLegend() {
+        if (!HasLegend()) return;
+        Point at{left_, scene_.height - kMargin};
+        for (const ChartSeries& series : sheet_.series) {
+            scene_.shapes.emplace_back(
+                shape::Rectangle{{at.x, at.y - kSwatch}, kSwatch, kSwatch, series.colour});
+            AddText({at.x + kSwatch + kGap, at.y}, series.name, Anchor::Start);
+            at.x += kSwatch + 3.0 * kGap + TextWidth(series.name, kTextSize);
+        }
+    }
+
+    const ChartData& sheet_;
+    const Ink& ink_;
+    PlotAxis up_;
+    PlotAxis across_;
+    Scene scene_;
+    double left_ = 0.0;  // of the data
+    double right_ = 0.0;
+    double top_ = 0.0;
+    double bottom_ = 0.0;
+};
+
+}  // namespace
+
+Scene MakePlotScene(const ChartData& sheet, const DrawingSize& size, const Ink& ink) {
+    return PlotPainter(sheet, size, ink).Paint();
+}
+
+}  // namespace kelvor
