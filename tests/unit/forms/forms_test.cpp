@@ -130,12 +130,12 @@ TEST_F(FormsTest, AccessKeysAreUniqueOnEveryPageAndReachEveryControl) {
 TEST_F(FormsTest, TabGoesThroughEveryInputInReadingOrderAndRound) {
     Form& form = Open("DeF");
     std::vector<std::string> order;
-    for (int i = 0; i < 12; ++i) {
+    for (int i = 0; i < 13; ++i) {
         order.push_back(form.focus->name);
         Raise(Kind::Key, "Tab");
     }
     EXPECT_THAT(order, ElementsAre("FLEXE18", "FLEXREL", "FLEXDEV", "RM", "cmdbRM", "SN", "FLEXPO", "FLEXPT",
-                                   "Command1", "Command2", "cmdAction", "SSHelp"));
+                                   "Command1", "Command2", "cmdbCS", "cmdAction", "SSHelp"));
     EXPECT_EQ(form.focus->name, "FLEXE18");
     Raise(Kind::Key, "BackTab");
     EXPECT_EQ(form.focus->name, "SSHelp");
@@ -149,6 +149,8 @@ TEST_F(FormsTest, EnterOnAButtonMovesOn) {
     EXPECT_EQ(form.focus->name, "Command1") << "in the last field as in any";
     Raise(Kind::Key, "Enter");
     EXPECT_EQ(form.focus->name, "Command2");
+    Raise(Kind::Key, "Enter");
+    EXPECT_EQ(form.focus->name, "cmdbCS");
     Raise(Kind::Key, "Enter");
     EXPECT_EQ(form.focus->name, "cmdAction");
     Raise(Kind::Key, "Enter");

@@ -1,0 +1,85 @@
+#include "drawing/plot_scene.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "drawing/picture_file.h"
+#include "drawing/plot_axis.h"
+#include "support/test_home.h"
+
+namespace kelvor::test {
+namespace {
+
+using testing::ElementsAre;
+
+template <typename Kind>
+std::vector<Kind> ShapesOf(const Scene& scene) {
+    std::vector<Kind> shapes;
+    for (const Shape& shape : scene.shapes) {
+        if (const auto* kind = std::get_if<Kind>(&shape)) shapes.push_back(*kind);
+    }
+    return shapes;
+}
+
+ChartData Costs() {
+    ChartData sheet;
+    sheet.kind = ChartKind::GroupedBars;
+    sheet.title = "Costs";
+    sheet.series = {{"A", "#1F5FBF"}, {"B", "#BF5F1F"}};
+    sheet.rows = {{"0", {100.0, 50.0}}, {"1", {25.0, std::nullopt}}};
+    return sheet;
+}
+
+TEST(PlotSceneTest, BarsAreInTheRatioOfTheirValues) {
+    std::vector<double> heights;
+    for (const auto& bar : ShapesOf<shape::Rectangle>(MakePlotScene(Costs(), {}))) {
+        if (!bar.name.empty()) heights.push_back(bar.height);
+    }
+    ASSERT_EQ(heights.size(), 3U) << "an empty cell has no bar";
+    EXPECT_NEAR(heights[0] / heights[1], 4.0, 1e-9);
+    EXPECT_NEAR(heights[0] / heights[2], 2.0, 1e-9);
+}
+
+TEST(PlotSceneTest, LinesAndPointsStandAtTheirLabels) {
+    ChartData sheet = Costs();
+    sheet.kind = ChartKind::Points;
+    sheet.rows = {{"0", {12.0}}, {"20", {6.0}}, {"60", {3.0}}};
+    sheet.series.pop_back();
+    const auto points = ShapesOf<shape::Ellipse>(MakePlotScene(sheet, {}));
+    ASSERT_EQ(points.size(), 3U);
+    EXPECT_NEAR((points[2].centre.x - points[0].centre.x) / (points[1].centre.x - points[0].centre.x), 3.0,
+                1e-9);
+    EXPECT_NEAR((points[2].centre.y - points[0].centre.y) / (points[1].centre.y - points[0].centre.y),
+                9.0 / 6.0, 1e-9);
+}
+
+TEST(PlotAxisTest, AnAxisReachesAsFarAsTheDataInRoundNumbers) {
+    ChartData sheet = Costs();
+    sheet.rows[0].cells = {97.0};
+    EXPECT_THAT(AxisUp(sheet).numbers, ElementsAre(0.0, 20.0, 40.0, 60.0, 80.0, 100.0));
+    sheet.ceiling = 150.0;
+    EXPECT_EQ(AxisUp(sheet).greatest, 150.0);
+    sheet.rows.clear();
+    sheet.ceiling = 0.0;
+    EXPECT_EQ(AxisUp(sheet).greatest, 1.0) << "a chart without data";
+}
+
+TEST(PictureFileTest, APngFileIsAPictureOfTheSizeOfTheDrawing) {
+    const TestHome home;
+    NativeFileSystem files;
+    WritePicture(files, home / "costs.PNG", MakePlotScene(Costs(), {480.0, 330.0}));
+    const std::string png = ReadFile(home / "costs.PNG");
+    ASSERT_GT(png.size(), 24U);
+    EXPECT_EQ(png.substr(1, 3), "PNG");
+    const auto number = [&](std::size_t at) {  // its size stands in the first chunk, high byte first
+        return static_cast<unsigned char>(png[at]) * 256 + static_cast<unsigned char>(png[at + 1]);
+    };
+    EXPECT_EQ(number(18), 1280);  // 480 points at 192 dots an inch
+    EXPECT_EQ(number(22), 880);
+    EXPECT_THROW(WritePicture(files, home / "costs.gif", Scene{}), FileError);
+    EXPECT_FALSE(IsPictureFile("costs.gif"));
+    EXPECT_TRUE(IsPictureFile("costs.SVG"));
+}
+
+}  // namespace
+}  // namespace kelvor::test
