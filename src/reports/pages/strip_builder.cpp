@@ -53,7 +53,6 @@ class Builder {
     }
 
     void operator()(const blocks::Paragraph& paragraph) {
-        if (paragraph.text.empty()) return;
         Append(RowStrips({{setter_.Set(paragraph.text, styles::kText, width_), 0.0, width_}}),
                kParagraphSpace);
     }
