@@ -2,6 +2,7 @@
 
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPrinterInfo>
 #include <QProcess>
 
 #include "desktop/qt_text.h"
@@ -53,6 +54,7 @@ std::optional<std::string> CopyTo(const Path& target, const Path& file) {
 }  // namespace
 
 std::optional<std::string> PrintFile(QWidget* parent, const PrintRequest& request) {
+    if (QPrinterInfo::availablePrinters().isEmpty()) return "there is no printer here";
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(ToQt(request.title));
     QPrintDialog dialog(&printer, parent);

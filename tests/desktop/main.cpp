@@ -33,6 +33,8 @@ class WarningsFail : public testing::EmptyTestEventListener {
 /// Every test of the windows runs in one application, without a display unless one is asked for.
 int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    // No test prints on paper, whatever printers the machine has.
+    qputenv("CUPS_SERVER", "localhost:9");
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     testing::InitGoogleTest(&argc, argv);

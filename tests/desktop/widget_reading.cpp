@@ -78,6 +78,7 @@ std::string TextOf(const QWidget& widget) {
     if (const auto* list = qobject_cast<const QComboBox*>(&widget)) return FromQt(list->currentText());
     if (const auto* frame = qobject_cast<const QGroupBox*>(&widget)) return FromQt(frame->title());
     if (const auto* picture = dynamic_cast<const PictureView*>(&widget)) return picture->file();
+    if (const auto* pages = dynamic_cast<const ReportPagesView*>(&widget)) return FromQt(pages->shownText());
     if (const auto* tabs = qobject_cast<const QTabWidget*>(&widget)) {
         return FromQt(tabs->tabText(tabs->currentIndex()).replace("&&", "&"));
     }

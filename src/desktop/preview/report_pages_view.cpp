@@ -33,7 +33,6 @@ ReportPagesView::ReportPagesView(ReportPagesHooks hooks, QWidget* parent)
     rows->addWidget(tools_);
     rows->addWidget(browser_, 1);
     rows->addWidget(reason_, 1);
-    browser_->setAccessibleName(QStringLiteral("Pages of the report"));
     browser_->setMinimumSize(kLeastLetters * fontMetrics().averageCharWidth(),
                              kLeastLines * fontMetrics().lineSpacing());
     tools_->onSetup = [this] { AskSetup(); };
@@ -48,7 +47,12 @@ void ReportPagesView::Show(const std::shared_ptr<const Document>& document, cons
         ShowReason(ToQt(text));
         return;
     }
+    browser_->setAccessibleName(ToQt(text));
     if (std::exchange(document_, document) != document) BreakIntoPages();
+}
+
+QString ReportPagesView::shownText() const {
+    return reason_->isHidden() ? browser_->accessibleName() : reason_->text();
 }
 
 void ReportPagesView::BreakIntoPages() {

@@ -24,9 +24,11 @@ class ReportPagesView : public QWidget {
   public:
     ReportPagesView(ReportPagesHooks hooks, QWidget* parent);
 
-    /// Shows a document, unless it does already; null: the text says why there is none. The title is the name
-    /// to begin with when it is saved.
+    /// Shows a document, unless it does already, under its title; null: the text says why there is none.
     void Show(const std::shared_ptr<const Document>& document, const std::string& text);
+
+    /// The title of the pages as it is told to who hears the screen; or why there are none.
+    [[nodiscard]] QString shownText() const;
 
     [[nodiscard]] PageBrowser& browser() { return *browser_; }
     [[nodiscard]] PageTools& tools() { return *tools_; }

@@ -61,7 +61,8 @@ class Reader {
     }
 
     void ReadParagraph(pugi::xml_node element, const LayoutScope& scope) {
-        document_.blocks.emplace_back(blocks::Paragraph{source_.FilledText(element, scope)});
+        std::string text = source_.FilledText(element, scope);
+        if (!text.empty()) document_.blocks.emplace_back(blocks::Paragraph{std::move(text)});
     }
 
     void ReadValueList(pugi::xml_node element, const LayoutScope& scope) {

@@ -26,7 +26,7 @@ struct LayoutData {
 ///     title                  in the head: the title of the document
 ///     header, footer         one to three `p`: at the left, in the middle, at the right of each page's edge
 ///     h1 h2 h3               headings; h1 is the title of the report
-///     p                      a paragraph
+///     p                      a paragraph; left out if its text is empty
 ///     dl, of dt dd           labels and values; `dl class="number"` sets the values to the right, and
 ///                            `dd class="unit"` behind a value is its unit
 ///     table, of thead tbody  `th class="number"` heads a column that is set to the right

@@ -7,7 +7,7 @@
 namespace kelvor {
 
 /// The room that the head and the foot of a page take of its text, points each.
-inline constexpr double kEdgeRoom = 22.0;
+inline constexpr double kEdgeRoom = 17.0;
 
 /// Which page of how many, from 1.
 struct PageNumber {

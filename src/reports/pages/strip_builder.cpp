@@ -19,10 +19,10 @@ struct HeadingStyle {
     double below;
 };
 
-constexpr std::array<HeadingStyle, 3> kHeadings = {HeadingStyle{{15.0, true}, 6.0, 6.0},
-                                                   HeadingStyle{{11.0, true}, 11.0, 3.0},
+constexpr std::array<HeadingStyle, 3> kHeadings = {HeadingStyle{{15.0, true}, 6.0, 4.0},
+                                                   HeadingStyle{{11.0, true}, 10.0, 2.5},
                                                    HeadingStyle{{9.0, true}, 8.0, 2.0}};
-constexpr double kParagraphSpace = 5.0;
+constexpr double kParagraphSpace = 4.0;
 constexpr double kPictureSpace = 8.0;
 
 // Where the columns of a list begin and end, of the width of the text. Texts begin behind the widest label,
@@ -53,7 +53,6 @@ class Builder {
     }
 
     void operator()(const blocks::Paragraph& paragraph) {
-        if (paragraph.text.empty()) return;
         Append(RowStrips({{setter_.Set(paragraph.text, styles::kText, width_), 0.0, width_}}),
                kParagraphSpace);
     }

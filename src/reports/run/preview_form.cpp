@@ -30,9 +30,9 @@ FormType ReportsPreviewForm() {
     type.name = kPreviewForm;
     type.caption = "Preview Report";
     type.layout = Rows({ReportView(kPreviewPages), Buttons({{"PreviousRep", "<< P&revious "},
-                                                             {"NextRep", "&Next >>"},
-                                                             {"PrintRep", "&Print Report"},
-                                                             {"Close", "&Close All"}})});
+                                                            {"NextRep", "&Next >>"},
+                                                            {"PrintRep", "&Print Report"},
+                                                            {"Close", "&Close All"}})});
     type.foot = {};
     type.handlers = {
         {FormEvent::Load, "", HandlerOrder::Instead, Load},

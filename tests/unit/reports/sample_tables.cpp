@@ -167,8 +167,10 @@ ReportRequest RequestFor(const std::string& name, StagedTables tables) {
     request.name = name;
     request.title = "Report " + name;
     request.tables = std::move(tables);
-    request.texts = {
-        {"Check", "In balance: checked."}, {"Project", "route 7.kvr"}, {"DateTime", "2 May 2026, 10:15"}};
+    request.texts = {{"Check", "In balance: checked."},
+                     {"Governs", "The slab governs."},
+                     {"Project", "route 7.kvr"},
+                     {"DateTime", "2 May 2026, 10:15"}};
     return request;
 }
 

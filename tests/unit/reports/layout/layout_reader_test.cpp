@@ -57,6 +57,11 @@ TEST_F(LayoutReaderTest, HeadingsAndParagraphs) {
     EXPECT_EQ(std::get<blocks::Paragraph>(document.blocks[1]).text, "one\ntwo In balance.");
 }
 
+TEST_F(LayoutReaderTest, AParagraphWithoutATextIsLeftOut) {
+    texts_["Check"] = "";
+    EXPECT_EQ(Body("<p> {Check} </p>").blocks.size(), 0U);
+}
+
 TEST_F(LayoutReaderTest, LabelsValuesAndUnits) {
     const Document document = Body(
         "<dl class=\"number\" data-table=\"TrAx\"><dt>Load</dt><dd>{AxleWeight}</dd>"
