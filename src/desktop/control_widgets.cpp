@@ -110,7 +110,7 @@ QWidget* MakeButton(QWidget* parent) {
 
 /// A small button beside a field is as wide as its caption, and named by what it does.
 QWidget* MakeCommandButton(const Control& control, QWidget* parent) {
-    if (control.worksOut.empty()) return MakeButton<QPushButton>(parent);
+    if (!control.IsSmallButton()) return MakeButton<QPushButton>(parent);
     QWidget* button = MakeButton<QToolButton>(parent);
     button->setAccessibleName(ToQt(control.toolTip));
     return button;

@@ -23,11 +23,11 @@ constexpr int kUnitLetters = 6;
 constexpr int kGridRows = 8;  // of a built screen, for its grid
 constexpr int kParagraphLetters = 84;
 constexpr double kStatementLetters = 36.0;  // about as wide as an indicator
-constexpr int kFigureSpacing = 2;  // between the rows of a matrix of figures
+constexpr int kFigureSpacing = 2;           // between the rows of a matrix of figures
 constexpr double kHeadingScale = 2.4;
 
 /// The columns of a group of fields.
-enum FieldColumn { kLabelColumn, kBoxColumn, kUnitColumn, kButtonColumn };
+enum FieldColumn { kLabelColumn, kBoxColumn, kUnitColumn, kButtonColumn, kTakeOverColumn };
 
 class LayoutMaker {
   public:
@@ -191,7 +191,7 @@ class LayoutMaker {
         }
         grid->setColumnMinimumWidth(kUnitColumn,
                                     form_.fontMetrics().horizontalAdvance(QString(kUnitLetters, u'M')));
-        grid->setColumnStretch(grid->columnCount() > kButtonColumn ? kButtonColumn + 1 : kUnitColumn, 1);
+        grid->setColumnStretch(grid->columnCount() > kButtonColumn ? grid->columnCount() : kUnitColumn, 1);
         to.addLayout(grid);
     }
 
@@ -201,11 +201,17 @@ class LayoutMaker {
         grid.addWidget(find_(field.Box()), row, kBoxColumn);
         if (!field.choice.empty()) grid.addWidget(find_(field.choice), row, kBoxColumn);
         grid.addWidget(find_(field.Unit()), row, kUnitColumn);
-        const Control* button = model_.Find(WorkOutButtonName(field.variable));
-        if (button == nullptr || button->worksOut.empty()) return;
-        QWidget* widget = find_(button->name);
+        AddSmallButton(grid, row, kButtonColumn, WorkOutButtonName(field.variable), field);
+        AddSmallButton(grid, row, kTakeOverColumn, TakeOverButtonName(field.variable), field);
+    }
+
+    void AddSmallButton(QGridLayout& grid, int row, int column, const std::string& name,
+                        const FieldItem& field) {
+        const Control* button = model_.Find(name);
+        if (button == nullptr || !button->IsSmallButton()) return;
+        QWidget* widget = find_(name);
         widget->setFixedHeight(find_(field.Box())->sizeHint().height());
-        grid.addWidget(widget, row, kButtonColumn);
+        grid.addWidget(widget, row, column);
     }
 
     /// A line of text is as wide as its least width; a list may grow with its entries.

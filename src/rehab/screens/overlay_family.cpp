@@ -20,6 +20,7 @@ FormType MakeOverlay(OverlayScreen overlay) {
     type.handlers = OverlayHandlers(overlay.button);
     type.handlers.insert(type.handlers.end(), overlay.handlers.begin(), overlay.handlers.end());
     type.helpRoutes = std::move(overlay.helpRoutes);
+    type.takeOvers = std::move(overlay.takeOvers);
     type.governs = overlay.governs;
     return type;
 }
