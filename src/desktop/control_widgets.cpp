@@ -94,7 +94,8 @@ QWidget* MakeLabel(const Control& control, QWidget* parent) {
     label->setTextFormat(Qt::PlainText);
     int width = 0;
     for (const std::string& wording : control.wordings) {
-        width = std::max(width, label->fontMetrics().horizontalAdvance(PlainLabelText(wording)));
+        label->setText(PlainLabelText(wording));
+        width = std::max(width, label->sizeHint().width());
     }
     label->setMinimumWidth(width);
     return label;
