@@ -58,7 +58,7 @@ struct HelpRoute {
                                // it, which opens the screen too, is called ("Work out the ...")
 };
 
-/// A value from elsewhere in the project that a field may take. A small button behind the field shows it, and
+/// A value from elsewhere in the project that a field may take. A small button below the field shows it, and
 /// puts it in as if it were typed; it is hidden while there is no such value.
 struct TakeOver {
     std::string variable;                                                // of the field

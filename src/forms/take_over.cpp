@@ -8,7 +8,7 @@ namespace kelvor {
 
 namespace {
 
-constexpr const char* kArrow = "\u2190 ";  // the value goes to the field on the left
+constexpr const char* kArrow = "\u2191 ";  // the value goes to the field above
 
 std::string ShownText(const ScreenContext& context, const TakeOver& source) {
     const Variable* variable = context.catalogue.FindVariable(source.variable);
