@@ -93,7 +93,8 @@ QWidget* MakeLabel(const Control& control, QWidget* parent) {
     label->setTextFormat(Qt::PlainText);
     int width = 0;
     for (const std::string& wording : control.wordings) {
-        width = std::max(width, label->fontMetrics().horizontalAdvance(PlainLabelText(wording)));
+        label->setText(PlainLabelText(wording));
+        width = std::max(width, label->sizeHint().width());
     }
     label->setMinimumWidth(width);
     return label;
@@ -109,7 +110,7 @@ QWidget* MakeButton(QWidget* parent) {
 
 /// A small button beside a field is as wide as its caption, and named by what it does.
 QWidget* MakeCommandButton(const Control& control, QWidget* parent) {
-    if (control.worksOut.empty()) return MakeButton<QPushButton>(parent);
+    if (!control.IsSmallButton()) return MakeButton<QPushButton>(parent);
     QWidget* button = MakeButton<QToolButton>(parent);
     button->setAccessibleName(ToQt(control.toolTip));
     return button;

@@ -187,8 +187,10 @@ class LayoutMaker {
             QWidget* box = find_(field.Box());
             width = std::max({width, box->minimumWidth(), box->minimumSizeHint().width()});
         }
-        for (std::size_t i = 0; i < group.fields.size(); ++i) {
-            AddField(*grid, static_cast<int>(i), group.fields[i], width);
+        int row = 0;
+        for (const FieldItem& field : group.fields) {
+            AddField(*grid, row++, field, width);
+            if (AddTakeOverButton(*grid, row, field)) ++row;
         }
         grid->setColumnMinimumWidth(kUnitColumn,
                                     form_.fontMetrics().horizontalAdvance(QString(kUnitLetters, u'M')));
@@ -202,11 +204,25 @@ class LayoutMaker {
         grid.addWidget(find_(field.Box()), row, kBoxColumn);
         if (!field.choice.empty()) grid.addWidget(find_(field.choice), row, kBoxColumn);
         grid.addWidget(find_(field.Unit()), row, kUnitColumn);
-        const Control* button = model_.Find(WorkOutButtonName(field.variable));
-        if (button == nullptr || button->worksOut.empty()) return;
-        QWidget* widget = find_(button->name);
+        if (QWidget* button = FindSmallButton(WorkOutButtonName(field.variable), field)) {
+            grid.addWidget(button, row, kButtonColumn);
+        }
+    }
+
+    /// What a field may take over stands below it. False if there is never such a value.
+    bool AddTakeOverButton(QGridLayout& grid, int row, const FieldItem& field) {
+        QWidget* button = FindSmallButton(TakeOverButtonName(field.variable), field);
+        if (button != nullptr) grid.addWidget(button, row, kBoxColumn, 1, 2, Qt::AlignLeft);
+        return button != nullptr;
+    }
+
+    /// As high as the box that it belongs to; null if the field has none.
+    QWidget* FindSmallButton(const std::string& name, const FieldItem& field) {
+        const Control* button = model_.Find(name);
+        if (button == nullptr || !button->IsSmallButton()) return nullptr;
+        QWidget* widget = find_(name);
         widget->setFixedHeight(find_(field.Box())->sizeHint().height());
-        grid.addWidget(widget, row, kButtonColumn);
+        return widget;
     }
 
     /// A line of text is as wide as its least width; a list may grow with its entries.

@@ -142,6 +142,7 @@ struct Control {
     std::vector<std::string> wordings;  // of a label that names a unit: what it says in English and in
                                         // metric units; it has room for both
     std::string worksOut;               // of a small button beside a field: the variable whose help it opens
+    std::string takesOver;              // of such a button: the variable for which it takes a value over
     bool onlyItems = false;             // of a list: it takes nothing but its items
     bool coded = false;                 // of a list: what is stored is the place of the word, from 1
     std::vector<LetterWord> words;      // that a letter typed into a list stands for
@@ -160,6 +161,8 @@ struct Control {
 
     [[nodiscard]] bool IsBox() const { return kind == ControlKind::TextBox || kind == ControlKind::ComboBox; }
     [[nodiscard]] bool IsButton() const { return kind == ControlKind::CommandButton; }
+    /// A small button beside a field, which Enter passes over.
+    [[nodiscard]] bool IsSmallButton() const { return !worksOut.empty() || !takesOver.empty(); }
     [[nodiscard]] bool IsChoice() const {
         return kind == ControlKind::OptionButton || kind == ControlKind::CheckBox;
     }

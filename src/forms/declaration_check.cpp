@@ -49,6 +49,11 @@ void CheckRoutes(const FormType& type, Form& form) {
             Fail(type, route.variable, "has no room for its small button");
         }
     }
+    for (const TakeOver& source : type.takeOvers) {
+        if (form.Find(TakeOverButtonName(source.variable)) == nullptr) {
+            Fail(type, source.variable, "may take a value over and is no field");
+        }
+    }
 }
 
 }  // namespace

@@ -92,6 +92,7 @@ class Builder {
         for (const FieldItem& field : group.fields) {
             AddField(field);
             AddWorkOutButton(field);
+            AddTakeOverButton(field);
         }
     }
 
@@ -271,6 +272,17 @@ class Builder {
                 AddLabelled(ControlKind::CommandButton, WorkOutButtonName(item.variable), kEllipsis);
             button.toolTip = route.workOut;
             button.worksOut = item.variable;
+        }
+    }
+
+    /// The small button of a field that may take a value over; hidden until there is one.
+    void AddTakeOverButton(const FieldItem& item) {
+        for (const TakeOver& source : type_.takeOvers) {
+            if (!EqualNoCase(source.variable, item.variable)) continue;
+            Control& button = AddLabelled(ControlKind::CommandButton, TakeOverButtonName(item.variable), "");
+            button.toolTip = "Take over " + source.source;
+            button.takesOver = item.variable;
+            button.visible = false;
         }
     }
 

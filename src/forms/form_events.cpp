@@ -13,6 +13,7 @@
 #include "forms/indicator.h"
 #include "forms/recalculation.h"
 #include "forms/side_screen.h"
+#include "forms/take_over.h"
 #include "platform/real.h"
 #include "platform/text.h"
 
@@ -247,7 +248,7 @@ void FormEvents::NameClick(const Control& control) {
     const bool common = EqualNoCase(control.name, kOkButton) || EqualNoCase(control.name, kHelpButton);
     if (control.IsChoice()) {
         context_.act = "choice of " + PlainCaption(control.text);
-    } else if (context_.act.empty() && control.IsButton() && !common) {
+    } else if (context_.act.empty() && control.IsButton() && !common && control.takesOver.empty()) {
         context_.act = PlainCaption(control.text);
     }
 }
@@ -268,6 +269,7 @@ void FormEvents::Click(Form& form, Control& control) {
         if (EqualNoCase(control.name, kOkButton)) Close(form);
         if (EqualNoCase(control.name, kHelpButton)) OpenFieldHelp(context_, form);
         if (!control.worksOut.empty()) WorkOut(form, control.worksOut);
+        if (!control.takesOver.empty()) TakeValueOver(form, control.takesOver);
     });
 }
 
@@ -275,6 +277,15 @@ void FormEvents::Click(Form& form, Control& control) {
 void FormEvents::WorkOut(Form& form, const std::string& variable) {
     Control* field = form.FindField(variable);
     if (field != nullptr && MoveFocus(form, *field)) OpenFieldHelp(context_, form);
+}
+
+/// As if the value were typed: it is tested, stored and warned of.
+void FormEvents::TakeValueOver(Form& form, const std::string& variable) {
+    Control* field = form.FindField(variable);
+    const std::string text = TakeOverText(context_, form, variable);
+    if (field == nullptr || text.empty() || !MoveFocus(form, *field) || field->text == text) return;
+    Type(text);
+    LoseFocus(form, *field);
 }
 
 bool FormEvents::Choose(Form& form, Control& control, const std::string& item) {

@@ -115,6 +115,7 @@ class FormEvents {
     void NameClick(const Control& control);
     void Click(Form& form, Control& control);
     void WorkOut(Form& form, const std::string& variable);
+    void TakeValueOver(Form& form, const std::string& variable);
     void TypeCharacter(Form& form, const std::string& character);
     void DeleteCharacter(Form& form);
     static void MoveCaret(Form& form, int step);

@@ -7,11 +7,13 @@
 
 #include "forms/layout.h"
 #include "forms/status_line.h"
+#include "platform/real.h"
 
 namespace kelvor {
 
 class Form;
 struct Control;
+struct CalcContext;
 struct ScreenContext;
 
 enum class FormEvent {
@@ -54,6 +56,14 @@ struct HelpRoute {
     std::string form;
     std::string workOut = {};  // of a field whose value that screen works out: what the small button beside
                                // it, which opens the screen too, is called ("Work out the ...")
+};
+
+/// A value from elsewhere in the project that a field may take. A small button below the field shows it, and
+/// puts it in as if it were typed; it is hidden while there is no such value.
+struct TakeOver {
+    std::string variable;                                                // of the field
+    std::optional<Real> (*value)(const CalcContext& context) = nullptr;  // in the field's English unit
+    std::string source = {};                                             // "the average ... of the ..."
 };
 
 /// The equations whose balance is kept while their screens are closed.
@@ -99,6 +109,7 @@ struct FormType {
     std::vector<Handler> handlers;
     std::vector<FormEquation> equations;  // in the order of their terms
     std::vector<HelpRoute> helpRoutes;    // any other field has the general help
+    std::vector<TakeOver> takeOvers;      // of its fields
     StatusLine (*governs)(const ScreenContext& context) =
         nullptr;  // what decides its result, from the stored cells: shown on the label GOVERNS
     std::string rowName = "row";  // what a row of its grid holds, in the singular: "test"

@@ -136,5 +136,6 @@ std::string FieldItem::Unit() const { return unitName.empty() ? UnitLabelName(Bo
 std::string FieldLabelName(const std::string& variable) { return "Lab" + variable; }
 std::string UnitLabelName(const std::string& variable) { return "u" + variable; }
 std::string WorkOutButtonName(const std::string& variable) { return "cmdb" + variable; }
+std::string TakeOverButtonName(const std::string& variable) { return "cmdt" + variable; }
 
 }  // namespace kelvor

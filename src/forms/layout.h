@@ -308,4 +308,7 @@ std::string UnitLabelName(const std::string& variable);
 /// The name of the small button beside a field that works its value out.
 std::string WorkOutButtonName(const std::string& variable);
 
+/// The name of the small button beside a field that takes a value over.
+std::string TakeOverButtonName(const std::string& variable);
+
 }  // namespace kelvor

@@ -11,6 +11,7 @@
 #include "forms/grid_entry.h"
 #include "forms/screen_builder.h"
 #include "forms/side_screen.h"
+#include "forms/take_over.h"
 #include "lcc/screens/cost_forms.h"
 #include "lcc/screens/cost_page.h"
 #include "ndt/screens/ndt_forms.h"
@@ -120,7 +121,10 @@ void Program::EndOfEvent() {
     if (!state_.dbCatalogue || !state_.dbCustom) return;
     ScreenContext context = state_.MakeScreenContext();
     FormEvents(context).Settle();
-    for (Form* form : context.forms.InOpeningOrder()) ShowEquationLines(context, *form);
+    for (Form* form : context.forms.InOpeningOrder()) {
+        ShowEquationLines(context, *form);
+        ShowTakeOvers(context, *form);
+    }
 }
 
 bool Program::Raise(const UserEvent& event) {

@@ -1,6 +1,7 @@
 #include "rehab/screens/existing_flexible.h"
 
 #include "forms/work_out_help.h"
+#include "rehab/screens/deflection_averages.h"
 #include "rehab/screens/existing_layers_grid.h"
 
 namespace kelvor {
@@ -15,6 +16,7 @@ FormType ExistingFlexibleForm() {
         Fields({{"EXISTEFSNSUM"}}),
     });
     type.handlers = {{FormEvent::Activate, "", HandlerOrder::After, RecalcExistingLayers}};
+    type.takeOvers = {SoilModulusFromDeflections("EXISTRM")};
     type.helpRoutes = {WorkOutSoilModulus("EXISTRM")};
     return type;
 }

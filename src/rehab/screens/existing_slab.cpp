@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "forms/work_out_help.h"
+#include "rehab/screens/deflection_averages.h"
 
 namespace kelvor {
 
@@ -16,25 +17,29 @@ LayoutElement SupportFrame() {
     return Frame("Frame2", "Support and Drainage", {Fields({{"EXISTK"}, {"EXISTC"}})});
 }
 
-FormType SlabForm(const char* name, const char* caption, LayoutElement layout) {
+FormType SlabForm(const char* name, const char* caption, LayoutElement layout,
+                  std::vector<TakeOver> takeOvers) {
     FormType type;
     type.name = name;
     type.caption = caption;
     type.layout = std::move(layout);
     type.helpRoutes = {WorkOutK("EXISTK")};
+    type.takeOvers = std::move(takeOvers);
     return type;
 }
 
 }  // namespace
 
 FormType ExistingSlabForm() {
-    return SlabForm("ExR", "Existing Rigid Pavement Information", Rows({SlabFrame(), SupportFrame()}));
+    return SlabForm("ExR", "Existing Rigid Pavement Information", Rows({SlabFrame(), SupportFrame()}),
+                    SlabFromDeflections());
 }
 
 FormType ExistingCompositeForm() {
     return SlabForm(
         "ExC", "Existing Composite Pavement Information",
-        Rows({Frame("Frame3", "Existing Asphalt", {Fields({{"ACACPCACT"}})}), SlabFrame(), SupportFrame()}));
+        Rows({Frame("Frame3", "Existing Asphalt", {Fields({{"ACACPCACT"}})}), SlabFrame(), SupportFrame()}),
+        CompositeSlabFromDeflections());
 }
 
 }  // namespace kelvor

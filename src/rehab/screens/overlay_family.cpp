@@ -23,6 +23,7 @@ FormType MakeOverlay(OverlayScreen overlay) {
     type.handlers.push_back(OpeningCrossSection());
     type.foot.insert(type.foot.begin(), CrossSectionButton());
     type.helpRoutes = std::move(overlay.helpRoutes);
+    type.takeOvers = std::move(overlay.takeOvers);
     type.governs = overlay.governs;
     return type;
 }

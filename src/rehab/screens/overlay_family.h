@@ -23,6 +23,7 @@ struct OverlayScreen {
     Items thickness = {};  // empty where the solved term is the answer
     const char* button = "Command1";
     std::vector<HelpRoute> helpRoutes = {};
+    std::vector<TakeOver> takeOvers = {};
     std::vector<Handler> handlers = {};
 };
 

@@ -1,6 +1,7 @@
 #include "rehab/screens/overlay_screens.h"
 
 #include "forms/work_out_help.h"
+#include "rehab/screens/deflection_averages.h"
 #include "rehab/screens/overlay_family.h"
 #include "rehab/screens/overlay_governs.h"
 #include "rehab/screens/overlay_routines.h"
@@ -29,6 +30,7 @@ std::vector<FormType> OverlayForms() {
          .helpRoutes = {{"NDTEFFSN", "SNHelp", "Work out the effective SN from deflections"},
                         {"CONDEFFSN", "SNCHELP", "Work out the effective SN from the survey"},
                         {"ACACOLLC", "H_ACACOLLC"}},
+         .takeOvers = {SoilModulusFromDeflections("EXISTRM"), StructuralNumberFromDeflections("NDTEFFSN")},
          .handlers = {NotingOfField()}}));
     forms.push_back(MakeOverlay(
         {.name = "OvAFP",
@@ -61,6 +63,7 @@ std::vector<FormType> OverlayForms() {
                                                               {"ACPCEFFD", "Effective PCC Thickness"}})},
          .thickness = {{"ACPCOLT", "AC Overlay Thickness"}},
          .helpRoutes = {WorkOutJointFactor("ACPCFJC")},
+         .takeOvers = SlabFromDeflections(),
          .handlers = {ClearingOfSurvey()}}));
     forms.push_back(MakeOverlay(
         {.name = "OvAAP",
@@ -77,6 +80,7 @@ std::vector<FormType> OverlayForms() {
                                                               {"ACACPCEFFD", "Effective AC/PCC Thickness"}})},
          .thickness = {{"ACACPCOLT", "AC Overlay Thickness"}},
          .helpRoutes = {WorkOutK("EXISTK"), WorkOutJointFactor("ACACPCFJC")},
+         .takeOvers = CompositeSlabFromDeflections(),
          .handlers = {ClearingOfSurvey()}}));
     forms.push_back(MakeOverlay(
         {.name = "OvBP",
@@ -92,6 +96,7 @@ std::vector<FormType> OverlayForms() {
          .answer = "Bonded Overlay Thickness",
          .thickness = {{"BOLDEPTH", "Bonded Overlay Thickness"}},
          .helpRoutes = {WorkOutK("EXISTK"), WorkOutJointFactor("BOLFJC")},
+         .takeOvers = SlabFromDeflections(),
          .handlers = {ClearingOfSurvey()}}));
     forms.push_back(MakeOverlay(
         {.name = "OvUP",
@@ -106,6 +111,7 @@ std::vector<FormType> OverlayForms() {
          .thickness = {{"UBOLDEPTH", "Unbonded Overlay Thickness"}},
          .button = "CmdSolveFor",
          .helpRoutes = {WorkOutK("EXISTK"), WorkOutJointFactor("UBOLFJCU")},
+         .takeOvers = {SubgradeReactionFromDeflections()},
          .handlers = {ClearingOfSurvey()}}));
     forms.push_back(
         MakeOverlay({.name = "OvWT",
