@@ -37,11 +37,13 @@ void RefreshControl(const ScreenContext& context, const Form& form, Control& con
     }
 }
 
-/// A calculation that works on the current row sees the row that is recalculated.
-void RecalcColumn(ScreenContext& context, const Field& output, const Variable& variable, int row) {
+/// A calculation that works on the current row sees the row that is recalculated. A form that shows one slice
+/// leaves the others as they are.
+void RecalcColumn(ScreenContext& context, const Form& form, const Field& output, const Variable& variable,
+                  int row) {
     const int current = std::exchange(context.values.gridRow, row);
     for (int dim2 = 1; dim2 <= variable.dim2; ++dim2) {
-        if (output.dim2 && *output.dim2 != dim2) continue;
+        if (const auto slice = output.dim2 ? output.dim2 : form.dim2(); slice && *slice != dim2) continue;
         context.calculations.CalcCell(context.calc, output.name, row, dim2, output.equation);
     }
     context.values.gridRow = current;
@@ -54,7 +56,7 @@ void RecalcColumns(ScreenContext& context, const Form& form, Wanted isWanted) {
         const Variable* variable = context.catalogue.FindVariable(output->name);
         if (!output->IsColumn() || variable == nullptr) continue;
         for (int row = 1; row <= variable->dim1; ++row) {
-            if (isWanted(*output, row)) RecalcColumn(context, *output, *variable, row);
+            if (isWanted(*output, row)) RecalcColumn(context, form, *output, *variable, row);
         }
     }
 }
@@ -85,7 +87,7 @@ void RecalcOutputsOf(ScreenContext& context, const Form& form, std::string_view 
         if (output->IsGrid() || variable == nullptr) continue;
         if (output->IsColumn()) {
             for (const int row : rows) {
-                if (row >= 1 && row <= variable->dim1) RecalcColumn(context, *output, *variable, row);
+                if (row >= 1 && row <= variable->dim1) RecalcColumn(context, form, *output, *variable, row);
             }
         } else if (!EqualNoCase(output->name, changedName)) {
             context.calculations.CalcField(context.calc, output->name, output->equation);

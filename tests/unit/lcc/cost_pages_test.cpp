@@ -107,6 +107,13 @@ INSTANTIATE_TEST_SUITE_P(Pages, TwentySwitchesTest,
 
 // --- Pages ------------------------------------------------------------------------------------------------
 
+TEST_F(CostPagesTest, AnEntryLeavesTheOtherPavementAsItIs) {
+    Open("LcA1_2", 1);
+    EditCell(1, "InitialUnitCost", "2");
+    EXPECT_EQ(Cell("InitialItemCost", 1, 1), 0.0);
+    EXPECT_EQ(Cell("InitialItemCost", 1, 2), std::nullopt);
+}
+
 TEST_F(CostPagesTest, AQuantityMayBeTypedBeforeItsUnit) {
     program_.program.ChooseUnits(true);
     Open("LcA1_2", 1);
