@@ -51,6 +51,13 @@ class HubWindowTest : public DesktopTest {
         return false;
     }
 
+    std::string ClosingButton() {
+        for (const char* name : {"cmdAction", "Close", "cmdbClose"}) {
+            if (Current().Find(name) != nullptr) return name;
+        }
+        return {};
+    }
+
     std::string Save(const std::string& name) {
         const std::string path = (home / name).string();
         responder.AnswerFileDialogWith(path);
@@ -111,12 +118,13 @@ TEST_F(HubWindowTest, EveryScreenOfTheHubIsReachedByTheKeyboardAlone) {
             ASSERT_TRUE(TabTo(step.button)) << step.button;
             Press(Qt::Key_Space);
             QKeyEvent released(QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier, " ");
-            // Where the button had a message, the window is in front again once its box has gone.
+            // Where the button had a message, its box has gone: a window manager brings the window to the front.
+            window().activateWindow();
             ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; })) << step.button;
             QApplication::sendEvent(QApplication::focusWidget(), &released);
             if (Current().type().isHub) continue;
             reached.insert(Current().name());
-            ASSERT_TRUE(TabTo(Current().Find("cmdAction") != nullptr ? "cmdAction" : "Close"));
+            ASSERT_TRUE(TabTo(ClosingButton())) << Current().name();
             Press(Qt::Key_Space);
             QApplication::sendEvent(QApplication::focusWidget(), &released);
             ASSERT_TRUE(Current().type().isHub);
