@@ -23,7 +23,7 @@ class Walker {
   public:
     const std::set<std::string>& Walk() {
         waiting_.emplace_back();
-        for (const MenuEntry& entry : TestProgram().program.Menus()) {
+        for (const MenuEntry& entry : program_.program.Menus()) {
             if (entry.menu == "MenuHelp") Try({{UserEvent::Kind::Menu, entry.name, {}, 0}});
         }
         for (int tab = 0; tab < kHubTabs; ++tab) Try({{UserEvent::Kind::SwitchTab, {}, {}, tab}});
@@ -41,9 +41,8 @@ class Walker {
   private:
     /// Remembers where some acts lead, unless that was known.
     void Try(const Acts& acts) {
-        TestProgram program;
-        for (const UserEvent& act : acts) program.program.Raise(act);
-        const Form* form = program.program.state().formRegistry.CurrentForm;
+        Redo(acts);
+        const Form* form = program_.program.state().formRegistry.CurrentForm;
         const std::string place = form->name() + (form->type().isHub ? WhatHubOffers(*form) : "");
         if (places_.insert(place).second) waiting_.push_back(acts);
         reached_.insert(form->name());
@@ -112,26 +111,47 @@ class Walker {
 
     /// Each field, cell or option, followed by each button.
     void GoOn(const Acts& acts) {
-        TestProgram program;
-        for (const UserEvent& act : acts) program.program.Raise(act);
-        const Form& form = *program.program.state().formRegistry.CurrentForm;
-        for (const auto& button : form.controls()) {
-            if (!button->IsButton() || button->name == "cmdAction" || !form.CanFocus(*button)) continue;
+        Redo(acts);
+        const auto [ways, buttons] = WhatOffers(*program_.program.state().formRegistry.CurrentForm);
+        for (const UserEvent& button : buttons) {
             Acts plain = acts;
-            plain.push_back({UserEvent::Kind::Press, button->name, {}, 0});
+            plain.push_back(button);
             Try(plain);
-            for (const auto& other : form.controls()) {
-                if (other->IsButton() || !form.CanFocus(*other)) continue;
-                for (const UserEvent& first : WaysInto(*other)) {
-                    Acts longer = acts;
-                    longer.push_back(first);
-                    longer.push_back(plain.back());
-                    Try(longer);
-                }
+            for (const UserEvent& way : ways) {
+                Acts longer = acts;
+                longer.push_back(way);
+                longer.push_back(button);
+                Try(longer);
             }
         }
     }
 
+    /// The ways into a form's fields, and its buttons but the one that closes it.
+    static std::pair<Acts, Acts> WhatOffers(const Form& form) {
+        std::pair<Acts, Acts> offered;
+        for (const auto& control : form.controls()) {
+            if (!form.CanFocus(*control) || control->name == "cmdAction") continue;
+            if (control->IsButton()) {
+                offered.second.push_back({UserEvent::Kind::Press, control->name, {}, 0});
+            } else {
+                for (const UserEvent& way : WaysInto(*control)) offered.first.push_back(way);
+            }
+        }
+        return offered;
+    }
+
+    /// Does the acts on a fresh project, the hub on its first tab without the choices that it keeps over New.
+    void Redo(const Acts& acts) {
+        program_.program.NewProject();
+        Form& hub = *program_.program.state().formRegistry.CurrentForm;
+        for (const auto& control : hub.controls()) {
+            if (control->kind == ControlKind::OptionButton) control->value = false;
+        }
+        program_.program.Raise({UserEvent::Kind::SwitchTab, {}, {}, 0});
+        for (const UserEvent& act : acts) program_.program.Raise(act);
+    }
+
+    TestProgram program_;
     std::deque<Acts> waiting_;
     std::set<std::string> places_;
     std::set<std::string> reached_;
