@@ -4,11 +4,13 @@
 #include <QBarSeries>
 #include <QBarSet>
 #include <QLineSeries>
+#include <QLocale>
 #include <QScatterSeries>
 #include <QStackedBarSeries>
 #include <QTextDocumentFragment>
 #include <QValueAxis>
 #include <algorithm>
+#include <cmath>
 
 #include "desktop/qt_text.h"
 #include "platform/number_text.h"
@@ -21,7 +23,10 @@ constexpr qreal kLineWidth = 2.0;
 constexpr qreal kPointSize = 9.0;
 constexpr qreal kGroupWidth = 0.8;  // of the room that a group of bars has
 constexpr qreal kStackWidth = 0.6;
-constexpr int kMostLevelLabels = 12;  // more labels below bars stand upright
+constexpr std::size_t kMostLabels = 12;  // below bars, and of their values
+constexpr int kDigitsOfLabel = 9;
+constexpr double kHalf = 0.5;  // of the room of a bar
+constexpr double kStepsOfCeiling = 5.0;
 constexpr QChar kInvisible(0x200B);
 
 bool IsBars(const ChartData& data) {
@@ -85,11 +90,21 @@ void SetTitle(const std::string& title, QAbstractAxis& axis) {
     axis.setTitleFont(font);
 }
 
-void SetSteps(const ChartAxis& axis, bool found, QValueAxis& made) {
-    if (axis.step > 0.0) {
+/// The next lower of 1, 2 and 5 times a power of ten.
+double RoundStep(double step) {
+    const double power = std::pow(10.0, std::floor(std::log10(step)));
+    for (const double digit : {5.0, 2.0}) {
+        if (step >= digit * power) return digit * power;
+    }
+    return power;
+}
+
+/// Under a ceiling that is given, which is rarely a round number, the steps are round.
+void SetSteps(const ChartAxis& axis, bool found, double ceiling, QValueAxis& made) {
+    if (axis.step > 0.0 || ceiling > 0.0) {
         made.setTickType(QValueAxis::TicksDynamic);
         made.setTickAnchor(axis.least);
-        made.setTickInterval(axis.step);
+        made.setTickInterval(axis.step > 0.0 ? axis.step : RoundStep(ceiling / kStepsOfCeiling));
     } else if (found) {
         made.applyNiceNumbers();
     }
@@ -102,14 +117,15 @@ QValueAxis* MakeValueAxis(const ChartAxis& axis, const Reach& reach, double ceil
     const double greatest = std::max(found ? reach.greatest : axis.greatest, found ? axis.least : 0.0);
     const double least = found ? std::min(axis.least, reach.least) : axis.least;
     made->setRange(least, ceiling > 0.0 ? ceiling : greatest > least ? greatest : least + 1.0);
-    SetSteps(axis, found && ceiling <= 0.0, *made);
+    SetSteps(axis, found, ceiling, *made);
     const std::size_t point = axis.picture.find('.');
     const std::size_t places = point == std::string::npos ? 0 : axis.picture.size() - point - 1;
     if (!axis.picture.empty()) made->setLabelFormat(QStringLiteral("%.%1f").arg(places));
     return made;
 }
 
-/// The toolkit takes no category twice, so what can be read twice differs by what cannot be seen.
+/// The toolkit takes no category twice, so what can be read twice differs by what cannot be
+/// seen.
 QBarCategoryAxis* MakeCategoryAxis(const ChartData& data) {
     auto* made = new QBarCategoryAxis;
     SetTitle(data.across.title, *made);
@@ -121,15 +137,34 @@ QBarCategoryAxis* MakeCategoryAxis(const ChartData& data) {
         while (label.isEmpty() || made->categories().contains(label)) label += kInvisible;
         made->append(label);
     }
-    made->setLabelsVisible(!stacked);
-    if (count > kMostLevelLabels) made->setLabelsAngle(-90);
+    made->setLabelsVisible(!stacked && count <= kMostLabels);
+    made->setGridLineVisible(false);
+    return made;
+}
+
+/// The numbers below more bars than there is room for: every so many, from the first on.
+QValueAxis* MakeNumbersOfBars(const ChartData& data) {
+    auto* made = new QValueAxis;
+    SetTitle(data.across.title, *made);
+    const double first = ParseNumber(data.rows.front().label);
+    const double count = static_cast<double>(data.rows.size());
+    made->setRange(first - kHalf, first + count - kHalf);
+    made->setTickType(QValueAxis::TicksDynamic);
+    made->setTickAnchor(first);
+    made->setTickInterval(std::max(1.0, RoundStep(count / kStepsOfCeiling)));
+    made->setLabelFormat(QStringLiteral("%.0f"));
     made->setGridLineVisible(false);
     return made;
 }
 
 void AddAxes(const ChartData& data, QChart& chart) {
     if (IsBars(data)) {
-        chart.addAxis(MakeCategoryAxis(data), Qt::AlignBottom);
+        QBarCategoryAxis* categories = MakeCategoryAxis(data);
+        chart.addAxis(categories, Qt::AlignBottom);
+        if (data.kind == ChartKind::GroupedBars && data.rows.size() > kMostLabels) {
+            categories->setVisible(false);
+            chart.addAxis(MakeNumbersOfBars(data), Qt::AlignBottom);
+        }
     } else {
         chart.addAxis(MakeValueAxis(data.across, ReachAcross(data), 0.0), Qt::AlignBottom);
     }
@@ -140,7 +175,12 @@ void AddAxes(const ChartData& data, QChart& chart) {
 
 void AddSeries(QAbstractSeries* series, QChart& chart) {
     chart.addSeries(series);
-    for (QAbstractAxis* axis : chart.axes()) series->attachAxis(axis);
+    const bool bars = qobject_cast<QAbstractBarSeries*>(series) != nullptr;
+    for (QAbstractAxis* axis : chart.axes()) {
+        const bool numbersOfBars =
+            bars && axis->orientation() == Qt::Horizontal && qobject_cast<QBarCategoryAxis*>(axis) == nullptr;
+        if (!numbersOfBars) series->attachAxis(axis);
+    }
 }
 
 QXYSeries* MakeXYSeries(const ChartData& data, const QColor& colour) {
@@ -191,7 +231,8 @@ void AddBars(const ChartData& data, QChart& chart) {
         bars->append(set);
     }
     bars->setBarWidth(stacked ? kStackWidth : kGroupWidth);
-    bars->setLabelsVisible(data.showsValues);
+    bars->setLabelsVisible(data.showsValues && (stacked || data.rows.size() <= kMostLabels));
+    bars->setLabelsPrecision(kDigitsOfLabel);
     bars->setLabelsPosition(QAbstractBarSeries::LabelsOutsideEnd);
     AddSeries(bars, chart);
 }
@@ -246,6 +287,9 @@ void DrawChart(const ChartData& data, QChart& chart) {
         delete axis;
     }
     chart.setTitle(RichText(data.title));
+    chart.setLocale(
+        QLocale(QLocale::English, QLocale::UnitedStates));  // commas between thousands, as on the screens
+    chart.setLocalizeNumbers(true);
     chart.legend()->setVisible(data.series.size() > 1 && data.kind != ChartKind::StackedBars);
     AddAxes(data, chart);
     if (IsBars(data)) {

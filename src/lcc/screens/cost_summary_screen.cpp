@@ -94,7 +94,7 @@ void Loaded(ScreenEvent& event) {
 
 LayoutElement CostTable() {
     std::vector<MatrixCell> cells = {
-        At(0, 0, Heading("Label1", "Analysis Method")), At(0, 1, Caption("Label2", "Pavement A")),
+        At(0, 0, Caption("Label1", "Analysis Method")), At(0, 1, Caption("Label2", "Pavement A")),
         At(0, 2, Caption("Label3", "Pavement B")), At(0, 3, Caption("Label4", "Difference A- B"))};
     int row = 1;
     for (const CostLine& line : kLines) {
