@@ -164,9 +164,20 @@ class PlotPainter {
         }
     }
 
+    /// Values stand above the bars where none is wider than its bar.
+    [[nodiscard]] bool ValuesHaveRoom(double width) const {
+        for (const ChartRow& row : sheet_.rows) {
+            for (const auto& cell : row.cells) {
+                if (cell && TextWidth(up_.TextOf(*cell), kTextSize) > width) return false;
+            }
+        }
+        return true;
+    }
+
     void AddBars(std::size_t series) {
         const double width = RoomOfGroup() * kGroupWidth / static_cast<double>(sheet_.series.size());
         const double gap = RoomOfGroup() * (1.0 - kGroupWidth) / 2.0;
+        const bool valued = sheet_.showsValues && ValuesHaveRoom(width);
         for (std::size_t i = 0; i < sheet_.rows.size(); ++i) {
             const ChartRow& row = sheet_.rows[i];
             if (series >= row.cells.size() || !row.cells[series]) continue;
@@ -175,7 +186,7 @@ class PlotPainter {
                 left_ + static_cast<double>(i) * RoomOfGroup() + gap + static_cast<double>(series) * width;
             AddBar({x, HeightOf(std::max(value, 0.0))}, width, HeightOf(std::min(value, 0.0)),
                    sheet_.series[series].colour, sheet_.series[series].name + " " + row.label);
-            if (!sheet_.showsValues) continue;
+            if (!valued) continue;
             AddText({x + width / 2.0, HeightOf(std::max(value, 0.0)) - kGap / 2.0}, up_.TextOf(value),
                     Anchor::Middle);
         }

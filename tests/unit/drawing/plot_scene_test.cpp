@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "drawing/picture_file.h"
 #include "drawing/plot_axis.h"
 #include "support/test_home.h"
@@ -38,6 +40,18 @@ TEST(PlotSceneTest, BarsAreInTheRatioOfTheirValues) {
     ASSERT_EQ(heights.size(), 3U) << "an empty cell has no bar";
     EXPECT_NEAR(heights[0] / heights[1], 4.0, 1e-9);
     EXPECT_NEAR(heights[0] / heights[2], 2.0, 1e-9);
+}
+
+TEST(PlotSceneTest, ValuesStandAboveBarsThatAreWideEnoughForThem) {
+    ChartData sheet = Costs();
+    sheet.showsValues = true;
+    const auto hasValue = [&] {
+        const auto texts = ShapesOf<shape::Text>(MakePlotScene(sheet, {}));
+        return std::any_of(texts.begin(), texts.end(), [](const auto& text) { return text.text == "25"; });
+    };
+    EXPECT_TRUE(hasValue());
+    for (int year = 2; year <= 40; ++year) sheet.rows.push_back({std::to_string(year), {30.0, 40.0}});
+    EXPECT_FALSE(hasValue());
 }
 
 TEST(PlotSceneTest, LinesAndPointsStandAtTheirLabels) {
