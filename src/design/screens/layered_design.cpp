@@ -85,6 +85,7 @@ FormType LayeredDesignForm() {
     FormType type;
     type.name = kForm;
     type.caption = "Flexible Pavement Layer Thickness Determination";
+    type.rowName = "layer";
     type.layout = Rows({
         Grid("Grid", {{.variable = "LDLayerMat",
                        .list = true,

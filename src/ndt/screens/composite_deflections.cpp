@@ -53,6 +53,7 @@ FormType CompositeDeflectionsForm() {
     FormType type;
     type.name = "ReDfC";
     type.caption = "Composite Pavement Deflection Information";
+    type.rowName = "test";
     type.layout = Rows({
         Columns({InputsOfAllTests({{"NDTEAC"}, {"ACACPCACT"}, {"BOND"}}),
                  InputsOfAllTests({{"Radius"}, {"Poisson"}, {"EXISTDEPTH"}})}),

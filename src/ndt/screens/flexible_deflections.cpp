@@ -50,6 +50,7 @@ FormType FlexibleDeflectionsForm() {
     FormType type;
     type.name = "ReDfF";
     type.caption = "Flexible Pavement Deflection Information and Backcalculation";
+    type.rowName = "test";
     type.layout = Rows({
         Columns({InputsOfAllTests({{"NDTR"}, {"NDTRMC"}}),
                  InputsOfAllTests({{"Radius"}, {.variable = "NDTEFFD", .computed = true}})}),

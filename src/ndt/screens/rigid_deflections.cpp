@@ -51,6 +51,7 @@ FormType RigidDeflectionsForm() {
     FormType type;
     type.name = "ReDfR";
     type.caption = "Rigid Pavement Deflection Information";
+    type.rowName = "test";
     type.layout = Rows({
         Columns({InputsOfAllTests({{"Radius"}, {"Poisson"}}), Rows({InputsOfAllTests({{"EXISTDEPTH"}})})}),
         Tests(),

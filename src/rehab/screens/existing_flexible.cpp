@@ -10,6 +10,7 @@ FormType ExistingFlexibleForm() {
     FormType type;
     type.name = "ExF";
     type.caption = "Existing Flexible Pavement Information";
+    type.rowName = "layer";
     type.layout = Rows({
         Fields({{"EXISTRM"}, {"EXISTEP"}}),
         ExistingLayersGrid(),

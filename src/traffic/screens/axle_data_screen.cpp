@@ -27,6 +27,7 @@ FormType AxleDataForm() {
     FormType type;
     type.name = "TrAx";
     type.caption = "ESAL Conversion From Axle Data";
+    type.rowName = "axle";
     type.layout = Rows({
         TrafficInputCopies(),
         Grid("Grid",

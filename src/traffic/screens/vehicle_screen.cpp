@@ -158,6 +158,7 @@ FormType VehicleForm() {
     FormType type;
     type.name = "TrVe";
     type.caption = "ESAL Conversion From Vehicle Data";
+    type.rowName = "vehicle";
     type.layout = VehicleLayout();
     type.handlers = {
         {FormEvent::Activate, "", HandlerOrder::After, Activated},

@@ -108,9 +108,9 @@ TEST_F(UndoTest, ABlockIsOneStepAndSoIsARowThatGoes) {
     program_.host.dialogs.QueueAnswer("yes");
     Raise(Kind::DeleteRow, {}, {}, 1);
     EXPECT_NE(AllCells(), pasted);
-    EXPECT_THAT(Run().Undo(), Optional(std::string("deletion of row 1")));
+    EXPECT_THAT(Run().Undo(), Optional(std::string("deletion of layer 1")));
     EXPECT_EQ(AllCells(), pasted);
-    EXPECT_THAT(Run().Undo(), Optional(std::string("paste of 2 rows")));
+    EXPECT_THAT(Run().Undo(), Optional(std::string("paste of 2 layers")));
     EXPECT_EQ(AllCells(), before);
 }
 
