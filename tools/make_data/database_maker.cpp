@@ -126,6 +126,8 @@ void MakeLists(const Path& data, const Path& file) {
 
 void MakeTemplate(const Path& data, const Path& file) {
     MakeDatabase(file, [&](SQLite::Database& database) {
+        database.exec("PRAGMA user_version = " + std::to_string(kProjectVersion));
+        database.exec("PRAGMA application_id = " + std::to_string(kProjectApplicationId));
         FillProject(database, ReadVariables(data));
         FillDefaults(database, ReadTable(data / "template" / "defaults.tsv", kDefaultColumns));
     });
