@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "catalogue/schema.h"
+#include "home/shipped_parts.h"
 #include "make_data/catalogue_tables.h"
 #include "make_data/list_tables.h"
 #include "make_data/staging_tables.h"
@@ -137,6 +138,11 @@ void MakeDatabases(const Path& data, const Path& home) {
     MakeCatalogue(data, home / "DataBase" / "Kelvor.mdb");
     MakeLists(data, home / "DataBase" / "custom.tpl");
     MakeTemplate(data, home / "kvrwork.tpl");
+}
+
+void WriteShippedList(const Path& home) {
+    NativeFileSystem files;
+    files.Write(home / ShippedParts::kListName, ListShippedParts(files, home));
 }
 
 }  // namespace kelvor
