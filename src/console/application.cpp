@@ -18,13 +18,13 @@
 #include "platform/component_probe.h"
 #include "platform/executable_folder.h"
 #include "platform/file_system.h"
+#include "platform/version.h"
+#include "shell/home_choice.h"
 #include "shell/program.h"
 
 namespace kelvor {
 
 namespace {
-
-const char* const kVersion = "kelvor-cli " KELVOR_VERSION;
 
 constexpr int kStatusDone = 0;
 constexpr int kStatusStopped = 1;
@@ -72,7 +72,7 @@ std::optional<int> ReadOptions(int argc, char** argv, ConsoleOptions& options, s
         ->option_text("FILE");
     app.add_flag("--json", options.json, "Print one JSON object a line");
     app.add_option("project", options.project, "The project file to open")->option_text("PROJECT.kvr");
-    app.set_version_flag("--version", kVersion);
+    app.set_version_flag("--version", VersionText("kelvor-cli"));
     try {
         app.parse(argc, argv);
         return std::nullopt;
@@ -81,6 +81,21 @@ std::optional<int> ReadOptions(int argc, char** argv, ConsoleOptions& options, s
         app.exit(end, output, errors);
         return asked ? kStatusDone : kStatusNotUnderstood;
     }
+}
+
+/// The home that the options name, or else the one that the program finds; `scratch` is there if they do not
+/// name all.
+Home FindHome(const ConsoleOptions& options, const std::optional<TemporaryFolder>& scratch) {
+    NativeFileSystem files;
+    Home home;
+    if (options.home.empty()) {
+        HomeChoice choice(files, ExecutableFolder(), FindUserFolders(files, OwnEnvironment()));
+        home = choice.ForScript(scratch->path());
+    } else {
+        home.folder = std::filesystem::absolute(options.home);
+    }
+    home.work = options.work.empty() ? scratch->path() : std::filesystem::absolute(options.work);
+    return home;
 }
 
 int RunProgram(const ConsoleOptions& options, const Home& home, std::istream& input, std::ostream& output,
@@ -126,13 +141,9 @@ int RunConsole(int argc, char** argv, std::istream& input, std::ostream& output,
     }
     std::istream& commands = options.script.empty() ? input : script;
     try {
-        const Path folder =
-            options.home.empty() ? ExecutableFolder() : std::filesystem::absolute(options.home);
-        if (!options.work.empty())
-            return RunProgram(options, {folder, std::filesystem::absolute(options.work)}, commands, output,
-                              errors);
-        const TemporaryFolder work;
-        return RunProgram(options, {folder, work.path()}, commands, output, errors);
+        std::optional<TemporaryFolder> scratch;
+        if (options.home.empty() || options.work.empty()) scratch.emplace();
+        return RunProgram(options, FindHome(options, scratch), commands, output, errors);
     } catch (const std::exception& failure) {
         errors << "kelvor-cli: " << failure.what() << '\n';
         return kStatusStopped;

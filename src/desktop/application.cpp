@@ -2,12 +2,15 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QMessageBox>
 #include <cstdio>
 #include <filesystem>
+#include <optional>
 
 #include "desktop/qt_text.h"
+#include "desktop/version_option.h"
 #include "platform/executable_folder.h"
-#include "shell/home.h"
+#include "shell/home_choice.h"
 
 namespace kelvor {
 
@@ -20,6 +23,22 @@ int Stopped(const std::string& reason) {
     return kStatusStopped;
 }
 
+/// The home that an option names, or else the one that the program finds or makes. If none can be made that
+/// is told in a window: who starts programs by a click sees no terminal.
+std::optional<Home> FindHome(const QString& named) {
+    if (!named.isEmpty()) {
+        const Path folder = std::filesystem::absolute(Path(FromQt(named)));
+        return Home{folder, folder};
+    }
+    NativeFileSystem files;
+    try {
+        return HomeChoice(files, ExecutableFolder(), FindUserFolders(files, OwnEnvironment())).ForWindow();
+    } catch (const FileError& failure) {
+        QMessageBox::critical(nullptr, QStringLiteral("Kelvor"), ToQt(failure.what()));
+        return std::nullopt;
+    }
+}
+
 int RunProgram(const Home& home, const std::string& project) {
     DesktopProgram desktop(home);
     if (!desktop.Start(project)) return kStatusStopped;
@@ -30,7 +49,8 @@ int RunProgram(const Home& home, const std::string& project) {
 
 }  // namespace
 
-DesktopProgram::DesktopProgram(const Home& home) : program_({files_, clock_, dialogs_, components_}, home) {}
+DesktopProgram::DesktopProgram(const Home& home)
+    : program_({files_, clock_, dialogs_, components_, ToolkitLibraries()}, home) {}
 
 bool DesktopProgram::Start(const std::string& project) {
     if (program_.Start(project) == StartResult::Stopped) return false;
@@ -41,14 +61,18 @@ bool DesktopProgram::Start(const std::string& project) {
 }
 
 int RunDesktop(int argc, char** argv) {
+    if (argc > 0 && TellVersion(argc, argv)) return 0;
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Kelvor"));
-    QApplication::setApplicationVersion(QStringLiteral(KELVOR_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("kelvor"));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Pavement design by the 1993 AASHTO Guide"));
     parser.addHelpOption();
-    parser.addVersionOption();
+    const QCommandLineOption versionOption(
+        {QStringLiteral("v"), QStringLiteral("version")},
+        QStringLiteral("Tell version, commit and libraries, and do nothing else"));
+    parser.addOption(versionOption);
     const QCommandLineOption homeOption(
         QStringLiteral("home"),
         QStringLiteral("The program folder: where kvor.ini, DataBase and kvrwork.tpl lie"),
@@ -61,9 +85,9 @@ int RunDesktop(int argc, char** argv) {
     const QString home = parser.value(homeOption);
     const QStringList files = parser.positionalArguments();
     try {
-        const Path folder =
-            home.isEmpty() ? ExecutableFolder() : std::filesystem::absolute(Path(FromQt(home)));
-        return RunProgram({folder, folder}, files.isEmpty() ? std::string() : FromQt(files.constFirst()));
+        const auto folders = FindHome(home);
+        if (!folders) return kStatusStopped;
+        return RunProgram(*folders, files.isEmpty() ? std::string() : FromQt(files.constFirst()));
     } catch (const std::exception& failure) {
         return Stopped(failure.what());
     }

@@ -17,9 +17,8 @@ FileError LoadFailure(const std::string& reason) {
 
 /// The module, which stays loaded: the libraries that it uses do not bear to be unloaded.
 void* OpenModule() {
-    const Path folder = ExecutableFolder();
     std::string reason;
-    for (const Path& place : {folder / kModule, folder / "../lib/kelvor" / kModule}) {
+    for (const Path& place : ModulePlaces(kModule)) {
         if (void* module = ::dlopen(place.c_str(), RTLD_NOW | RTLD_LOCAL)) return module;
         reason = ::dlerror();
     }

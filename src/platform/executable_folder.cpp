@@ -10,4 +10,10 @@ Path ExecutableFolder() {
     return error ? std::filesystem::current_path() : executable.parent_path();
 }
 
+std::vector<Path> ModulePlaces(std::string_view module) {
+    const Path folder = ExecutableFolder();
+    return {folder / module, folder / "../lib/kelvor" / module,
+            folder / KELVOR_MODULES_FROM_PROGRAMS / module};
+}
+
 }  // namespace kelvor

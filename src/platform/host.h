@@ -1,9 +1,12 @@
 #pragma once
 
+#include <vector>
+
 #include "platform/clock.h"
 #include "platform/component_probe.h"
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
+#include "platform/version.h"
 
 namespace kelvor {
 
@@ -13,6 +16,7 @@ struct Host {
     Clock& clock;
     Dialogs& dialogs;
     ComponentProbe& components;
+    std::vector<Library> libraries = {};  // of the front end, for About
 };
 
 }  // namespace kelvor

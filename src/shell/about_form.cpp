@@ -5,17 +5,23 @@
 
 namespace kelvor {
 
-FormType AboutForm() {
+FormType AboutForm(const std::vector<Library>& ofFrontEnd) {
+    std::vector<Library> libraries = CoreLibraries();
+    libraries.insert(libraries.end(), ofFrontEnd.begin(), ofFrontEnd.end());
     FormType type;
     type.name = "About";
     type.caption = "About Kelvor";
     type.needsProject = false;
     type.layout = Rows({
         Heading("ProductLabel", "Kelvor"),
-        Text("VersionLabel", "Version " KELVOR_VERSION),
+        Text("VersionLabel",
+             "Version " + std::string(ProgramVersion()) + ", commit " + std::string(SourceCommit())),
         Text("PurposeLabel",
              "Design of new pavements and overlays, evaluation of deflection tests, traffic and "
              "life-cycle cost by the 1993 AASHTO Guide for Design of Pavement Structures."),
+        Text("LibrariesLabel", "With " + NamesOf(libraries) + "."),
+        Text("LicenceLabel",
+             "Free software under the GNU General Public License, version 3 or later; without any warranty."),
     });
     type.foot = {{"cmdAction", "&OK"}};
     type.handlers = {

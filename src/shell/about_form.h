@@ -1,10 +1,14 @@
 #pragma once
 
+#include <vector>
+
 #include "forms/form_type.h"
+#include "platform/version.h"
 
 namespace kelvor {
 
-/// `About`: which program this is, and which version of it.
-FormType AboutForm();
+/// `About`: which program this is, which version of it, and the libraries that it uses, those of the front
+/// end last.
+FormType AboutForm(const std::vector<Library>& ofFrontEnd);
 
 }  // namespace kelvor

@@ -6,19 +6,27 @@
 
 namespace kelvor {
 
-/// Where everything lies: below the program folder, but for the work copy, which may lie elsewhere.
+/// Where everything lies: below the program folder, but for the work copy, which may lie elsewhere. The home
+/// of a user of an installed program has its projects among his documents, and shares with other users what
+/// nobody changes.
 struct Home {
     Path folder;
     Path work;
+    Path projects = {};     // where the dialogs for projects start; empty for below the folder
+    Path shared = {};       // where help and samples lie; empty for below the folder
+    bool justMade = false;  // this start has made the home: its user is new
 
     [[nodiscard]] Path IniFile() const { return folder / "kvor.ini"; }
     [[nodiscard]] Path DatabaseFile(const std::string& name) const { return folder / ("DataBase/" + name); }
-    [[nodiscard]] Path ProjectsFolder() const { return folder / "Projects"; }
-    [[nodiscard]] Path HelpFile() const { return folder / "Help/Kelvor.hlp"; }
+    [[nodiscard]] Path ProjectsFolder() const { return projects.empty() ? folder / "Projects" : projects; }
+    [[nodiscard]] Path SamplesFolder() const { return SharedFolder() / "Samples"; }
+    [[nodiscard]] Path HelpFile() const { return SharedFolder() / "Help/Kelvor.hlp"; }
     [[nodiscard]] Path Template() const { return folder / kTemplateName; }
     [[nodiscard]] Path WorkCopyFile() const { return work / "kvrwork.tmp"; }
     [[nodiscard]] Path ReportTablesFile() const { return work / "kvrrport.tmp"; }
     [[nodiscard]] Path LockFile() const { return work / "kvrwork.lck"; }
+
+    [[nodiscard]] Path SharedFolder() const { return shared.empty() ? folder : shared; }
 
     static constexpr const char* kTemplateName = "kvrwork.tpl";
 };

@@ -37,7 +37,7 @@ constexpr const char* kTyping = "typing";  // what Undo drops before it takes a 
 }  // namespace
 
 Program::Program(Host host, Home home) : state_(host, std::move(home)) {
-    state_.formRegistry.Declare({HubForm(), AboutForm()});
+    state_.formRegistry.Declare({HubForm(), AboutForm(state_.host.libraries)});
     state_.formRegistry.Declare(HelpForms());
     state_.formRegistry.Declare({BlankForm(), ReportsPreviewForm()});
     state_.formRegistry.Declare(WithHubTold(DesignForms()));

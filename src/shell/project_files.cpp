@@ -241,7 +241,11 @@ void ProjectFiles::NameProject(const std::string& path) {
 void ProjectFiles::MakeProjectsFolder() {
     try {
         const Path folder = state_.home.ProjectsFolder();
-        if (state_.host.files.Kind(folder) == FileKind::Missing) state_.host.files.MakeDirectory(folder);
+        // A new user may lack the folder of documents, in which that of projects lies.
+        for (const Path& missing : {folder.parent_path(), folder}) {
+            if (state_.host.files.Kind(missing) == FileKind::Missing)
+                state_.host.files.MakeDirectory(missing);
+        }
     } catch (const FileError&) {  // NOLINT(bugprone-empty-catch): the dialog then starts elsewhere
     }
 }

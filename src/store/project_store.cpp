@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "platform/database_error.h"
+#include "store/project_version.h"
 #include "store/work_copy.h"
 
 namespace kelvor {
@@ -55,6 +56,7 @@ void ProjectStore::Open(const Path& workCopy, const std::vector<CellBounds>& bou
     ++openings_;
     workCopy_ = std::make_unique<WorkCopy>(workCopy, checkPages);
     try {
+        BringUpToDate(*workCopy_, bounds);
         if (checkPages || !LoadByBounds(bounds)) LoadByRows(bounds);
     } catch (...) {
         Abandon();

@@ -1,5 +1,6 @@
 #include "store/work_copy.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -29,7 +30,18 @@ void CheckProject(SQLite::Database& database, bool checkPages) {
     if (verdict != "ok") throw DatabaseError(verdict, false);
 }
 
-SQLite::Database OpenProject(const Path& path, bool checkPages) {
+std::string NewerVersion(int version, int newest) {
+    return "it was saved by a newer version of Kelvor (its files have version " + std::to_string(version) +
+           ", this program knows those up to " + std::to_string(newest) + ")";
+}
+
+int VersionOf(SQLite::Database& database, int newest) {
+    const int version = std::max(1, database.execAndGet("PRAGMA user_version").getInt());
+    if (version > newest) throw DatabaseError(NewerVersion(version, newest), false);
+    return version;
+}
+
+SQLite::Database OpenProject(const Path& path, bool checkPages, int newest) {
     SQLite::Database database = OpenDatabase(path, DatabaseAccess::ReadWrite);
     try {
         if (database.execAndGet("PRAGMA journal_mode").getString() == "wal") {
@@ -37,6 +49,10 @@ SQLite::Database OpenProject(const Path& path, bool checkPages) {
         }
         database.exec(
             "PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = DELETE; PRAGMA synchronous = OFF");
+        // What a newer version has made otherwise is no fault of the file.
+        if (database.execAndGet("PRAGMA application_id").getInt() == kProjectApplicationId) {
+            VersionOf(database, newest);
+        }
         CheckProject(database, checkPages);
     } catch (const SQLite::Exception& failure) {
         throw ToDatabaseError(failure);
@@ -67,12 +83,35 @@ void Run(const std::function<void()>& action) {
 
 }  // namespace
 
-WorkCopy::WorkCopy(const Path& path, bool checkPages)
-    : database_(std::make_unique<SQLite::Database>(OpenProject(path, checkPages))) {
-    Run([&] { update_ = std::make_unique<SQLite::Statement>(*database_, kUpdate); });
+WorkCopy::WorkCopy(const Path& path, bool checkPages, int newest)
+    : database_(std::make_unique<SQLite::Database>(OpenProject(path, checkPages, newest))) {
+    Run([&] {
+        version_ = VersionOf(*database_, newest);
+        update_ = std::make_unique<SQLite::Statement>(*database_, kUpdate);
+    });
 }
 
 WorkCopy::~WorkCopy() = default;
+
+void WorkCopy::AddMissingRows(const std::string& name, int dim1, int dim2) {
+    Run([&] {
+        SQLite::Statement insert(*database_, "INSERT OR IGNORE INTO Project VALUES (?, ?, ?, NULL, NULL)");
+        insert.bind(1, name);
+        for (int i = 1; i <= dim1; ++i) {
+            for (int j = 1; j <= dim2; ++j) {
+                insert.reset();
+                insert.bind(2, i);
+                insert.bind(3, j);
+                insert.exec();
+            }
+        }
+    });
+}
+
+void WorkCopy::SetVersion(int version) {
+    Run([&] { database_->exec("PRAGMA user_version = " + std::to_string(version)); });
+    version_ = version;
+}
 
 void WorkCopy::ReadRows(const std::function<void(const Row&)>& visit) { ReadRowsThat("", visit); }
 

@@ -20,14 +20,23 @@ namespace kelvor {
 /// case, then the subscripts.
 extern const char* const kProjectTable;
 
+/// The version of project files that this program writes: another one for each release whose projects have
+/// other cells. It stands in a file as SQLite's user_version; files from before the first release have 0,
+/// which is read as 1.
+inline constexpr int kProjectVersion = 1;
+
+/// SQLite's application_id of a project file, "KVRP" in its header: by it a desktop tells a project from
+/// other databases.
+inline constexpr int kProjectApplicationId = 0x4B565250;
+
 /// The database of the open project: table Project and nothing else. It is locked for this process,
 /// keeps a rollback journal, and is not flushed: it is a working copy, and saving copies it whole.
 /// Every operation throws DatabaseError.
 class WorkCopy {
   public:
     /// Opens the database and checks that it is a project. `checkPages` also reads every page for
-    /// damage, as is due for a file from outside.
-    WorkCopy(const Path& path, bool checkPages);
+    /// damage, as is due for a file from outside. One of a newer version than `newest` is refused.
+    WorkCopy(const Path& path, bool checkPages, int newest = kProjectVersion);
     WorkCopy(const WorkCopy&) = delete;
     WorkCopy& operator=(const WorkCopy&) = delete;
     ~WorkCopy();
@@ -48,6 +57,13 @@ class WorkCopy {
 
     [[nodiscard]] std::size_t CountRows();
 
+    /// The version of project files that it has, from 1.
+    [[nodiscard]] int version() const { return version_; }
+
+    /// Both are for projects of an earlier version; see BringUpToDate. Rows that are there stay as they are.
+    void AddMissingRows(const std::string& name, int dim1, int dim2);
+    void SetVersion(int version);
+
     void Update(std::string_view name, int dim1, int dim2, const CellValue& value);
 
     void Begin();
@@ -60,6 +76,7 @@ class WorkCopy {
     void ReadRowsThat(const std::string& condition, const std::function<void(const Row&)>& visit);
 
     std::unique_ptr<SQLite::Database> database_;
+    int version_ = kProjectVersion;
     std::unique_ptr<SQLite::Statement> update_;
 };
 

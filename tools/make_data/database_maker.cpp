@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "catalogue/schema.h"
+#include "home/shipped_parts.h"
 #include "make_data/catalogue_tables.h"
 #include "make_data/list_tables.h"
 #include "make_data/staging_tables.h"
@@ -126,6 +127,8 @@ void MakeLists(const Path& data, const Path& file) {
 
 void MakeTemplate(const Path& data, const Path& file) {
     MakeDatabase(file, [&](SQLite::Database& database) {
+        database.exec("PRAGMA user_version = " + std::to_string(kProjectVersion));
+        database.exec("PRAGMA application_id = " + std::to_string(kProjectApplicationId));
         FillProject(database, ReadVariables(data));
         FillDefaults(database, ReadTable(data / "template" / "defaults.tsv", kDefaultColumns));
     });
@@ -135,6 +138,11 @@ void MakeDatabases(const Path& data, const Path& home) {
     MakeCatalogue(data, home / "DataBase" / "Kelvor.mdb");
     MakeLists(data, home / "DataBase" / "custom.tpl");
     MakeTemplate(data, home / "kvrwork.tpl");
+}
+
+void WriteShippedList(const Path& home) {
+    NativeFileSystem files;
+    files.Write(home / ShippedParts::kListName, ListShippedParts(files, home));
 }
 
 }  // namespace kelvor

@@ -10,6 +10,10 @@ namespace kelvor {
 /// TextTableError, FileError or DatabaseError; what() tells the table and the fault.
 void MakeDatabases(const Path& data, const Path& home);
 
+/// Writes the list of what ships, `shipped.lst`, by which users' homes are made and renewed, to a finished
+/// home. Throws FileError.
+void WriteShippedList(const Path& home);
+
 /// The three of them, for tests that break one.
 void MakeCatalogue(const Path& data, const Path& file);
 void MakeLists(const Path& data, const Path& file);

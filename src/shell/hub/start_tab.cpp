@@ -1,10 +1,11 @@
+#include "platform/version.h"
 #include "shell/hub/tabs.h"
 
 namespace kelvor {
 
 HubPage StartTab() {
     return {Page("KVR", {Picture("Image1", "pavement.svg"), Heading("ProductLabel", "Kelvor"),
-                         Text("VersionLabel", "Version " KELVOR_VERSION),
+                         Text("VersionLabel", "Version " + std::string(ProgramVersion())),
                          Text("GuideLabel", "Pavement design by the 1993 AASHTO Guide")}),
             {}};
 }

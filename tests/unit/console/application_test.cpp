@@ -146,7 +146,9 @@ TEST_F(ConsoleTest, HelpAndVersionAreAllThereIsToDo) {
     }
     const ConsoleEnd version = RunInProcess({"--version"}, "frobnicate\n");
     EXPECT_EQ(version.status, 0);
-    EXPECT_THAT(version.output, MatchesRegex("kelvor-cli [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+    EXPECT_THAT(
+        version.output,
+        MatchesRegex("kelvor-cli [0-9]+\\.[0-9]+\\.[0-9]+\ncommit [0-9a-f]+\nwith SQLite [0-9.]+, .*\n"));
     EXPECT_EQ(version.errors, "");
 }
 
