@@ -63,6 +63,12 @@ class FormEvents {
     bool MoveToCell(Form& form, int row, const std::string& variable);
     bool DeleteRow(Form& form, int row);
 
+    /// Makes room for a row above another, or lets a row change places with the one `step` below; what the
+    /// rows decide is worked out anew. Does nothing in a grid that keeps rules about its rows, and at its
+    /// ends.
+    bool InsertRow(Form& form, int row);
+    bool MoveRow(Form& form, int row, int step);
+
     /// Puts a block of tab-separated lines into the cells from the cursor on, as one act. Cells that cannot
     /// be edited, and those to the right of the grid, are passed over. A row with a cell that is refused, or
     /// beyond the grid's end, is left out whole, and one message tells of all of them; then the rows that
@@ -105,6 +111,7 @@ class FormEvents {
     bool StoreCell(Form& form, Control& control, const std::string& typed);
     void WriteCells(Form& form, Control& control, const std::vector<CellEntry>& cells);
     void NoteRowsWritten(Form& form, Control& control, std::vector<int> rows);
+    bool MayShiftRows(Form& form, Control& control, int row);
     bool MoveGridCursor(Form& form, Control& control, int row, std::size_t column);
     void StepCell(Form& form, Control& control, const std::string& key);
     void Load(Form& form);

@@ -19,6 +19,12 @@ Control* FindGridWith(Form& form, int row, const std::string& variable) {
     return variable.empty() || control->grid->Find(variable) ? control : nullptr;
 }
 
+std::vector<int> RowsFromTo(int first, int last) {
+    std::vector<int> rows;
+    for (int row = first; row <= last; ++row) rows.push_back(row);
+    return rows;
+}
+
 }  // namespace
 
 // --- Cells --------------------------------------------------------------------------------------------
@@ -104,6 +110,38 @@ bool FormEvents::DeleteRow(Form& form, int row) {
         RecalcAllOutputs(context_, form);
         RecalcOutputs(context_, form, "", 0);
     });
+    return true;
+}
+
+/// With the cursor in the row. False in a grid of texts, or one with rules about which rows may go.
+bool FormEvents::MayShiftRows(Form& form, Control& control, int row) {
+    if (control.grid->texts || control.grid->routines.mayDelete != nullptr) return false;
+    return MoveFocus(form, control) && MoveGridCursor(form, control, row, control.grid->column) &&
+           CommitCell(form, control);
+}
+
+bool FormEvents::InsertRow(Form& form, int row) {
+    Control* control = FindGridWith(form, row, {});
+    if (control == nullptr || !MayShiftRows(form, *control, row)) return control != nullptr;
+    const int last = control->grid->rows;
+    if (!GridInsertRow(context_, form, row, last)) {
+        context_.calc.dialogs.ShowMessage(
+            {.text = "The last row of the table is filled. Delete a row first.", .title = "Insert Row"});
+        return true;
+    }
+    context_.act = "insertion of " + form.type().rowName + " " + std::to_string(row);
+    NoteRowsWritten(form, *control, RowsFromTo(row, last));
+    return true;
+}
+
+bool FormEvents::MoveRow(Form& form, int row, int step) {
+    Control* control = FindGridWith(form, row, {});
+    if (control == nullptr || FindGridWith(form, row + step, {}) == nullptr) return control != nullptr;
+    if (!MayShiftRows(form, *control, row)) return true;
+    GridSwapRows(context_, form, row, row + step);
+    context_.act = "move of " + form.type().rowName + " " + std::to_string(row);
+    NoteRowsWritten(form, *control, RowsFromTo(std::min(row, row + step), std::max(row, row + step)));
+    MoveGridCursor(form, *control, row + step, control->grid->column);
     return true;
 }
 

@@ -60,6 +60,28 @@ bool GridDeleteRow(ScreenContext& context, Form& form, int row) {
     return true;
 }
 
+bool GridInsertRow(ScreenContext& context, const Form& form, int row, int last) {
+    ProjectStore& store = context.calc.store;
+    const std::vector<ColumnCells> columns = ColumnsOf(context, form);
+    if (IsRowFilled(store, columns, last)) return false;
+    context.bProjectChanged = true;
+    for (int from = last - 1; from >= row; --from) MoveRow(store, columns, from, from + 1);
+    return true;
+}
+
+void GridSwapRows(ScreenContext& context, const Form& form, int row, int other) {
+    ProjectStore& store = context.calc.store;
+    context.bProjectChanged = true;
+    for (const ColumnCells& column : ColumnsOf(context, form)) {
+        const CellValue* cell = store.FindCell(column.variable, row, column.dim2);
+        const CellValue* otherCell = store.FindCell(column.variable, other, column.dim2);
+        if (cell == nullptr || otherCell == nullptr) continue;
+        const CellValue value = *cell;
+        store.SetCell(column.variable, row, column.dim2, CellValue(*otherCell));
+        store.SetCell(column.variable, other, column.dim2, value);
+    }
+}
+
 void CompactRows(ProjectStore& store, const std::vector<ColumnCells>& columns, int rows) {
     int next = 1;
     for (int row = 1; row <= rows; ++row) {

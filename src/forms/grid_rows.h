@@ -16,6 +16,13 @@ struct ColumnCells {
 /// Asks, then empties a row of a form's grid and closes the grid up. False if the answer was No.
 bool GridDeleteRow(ScreenContext& context, Form& form, int row);
 
+/// Moves the rows of a form's grid from one row to the last one down by one, so that the row is empty. False,
+/// and nothing is moved, if the last row is filled.
+bool GridInsertRow(ScreenContext& context, const Form& form, int row, int last);
+
+/// Lets two rows of a form's grid change places.
+void GridSwapRows(ScreenContext& context, const Form& form, int row, int other);
+
 /// Closes a grid up by whole rows: the rows in which a cell of any column is filled stand from row 1 on, in
 /// their order, all columns in step, so that what was measured or laid together stays together. A cell that
 /// a column does not have is passed over.

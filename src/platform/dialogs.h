@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "platform/file_system.h"
 
@@ -34,8 +35,10 @@ struct FileRequest {
     Kind kind = Kind::Open;
     Path folder;
     std::string filter;
-    std::string suffix = {};  // which a name to save under gets that has none, before it is looked for
-    std::string title = {};   // empty: that of opening or saving a project
+    std::string suffix = {};        // which a name to save under gets that has none, before it is looked for
+    std::string title = {};         // empty: that of opening or saving a project
+    Path suggested = {};            // the file to save to that is offered; empty: none
+    std::vector<Path> places = {};  // folders that a dialog may offer beside the one it starts in
 };
 
 struct HelpRequest {

@@ -24,6 +24,10 @@ struct Home {
     [[nodiscard]] Path Template() const { return folder / kTemplateName; }
     [[nodiscard]] Path WorkCopyFile() const { return work / "kvrwork.tmp"; }
     [[nodiscard]] Path ReportTablesFile() const { return work / "kvrrport.tmp"; }
+    /// How the windows were left: sizes, places, the unit system of new projects.
+    [[nodiscard]] Path WindowFile() const { return work / "kvrwindow.ini"; }
+    /// By which a second start hands its project to the first.
+    [[nodiscard]] Path HandOverFile() const { return work / "kvropen.txt"; }
     [[nodiscard]] Path LockFile() const { return work / "kvrwork.lck"; }
 
     [[nodiscard]] Path SharedFolder() const { return shared.empty() ? folder : shared; }

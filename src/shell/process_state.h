@@ -26,6 +26,7 @@ namespace kelvor {
 struct RecentMenuItem {
     int position = 0;  // on the menu, from 0
     std::string path;
+    std::string date;  // when it was opened or saved last, "2004-02-29 10:00:00.000"
 };
 
 /// Everything that lives as long as the process, in one place, so that a test makes as many as it
@@ -57,6 +58,7 @@ struct ProcessState {
     std::string sIniFile;
     std::unordered_map<std::string, int, NameHash, NameEqual>
         changes;               // by variable: the event that changed it last, counted
+    int saves = 0;             // counts the projects that were written to a file
     int projects = 0;          // counts them: each New and each Open is another one
     std::string sProjectFile;  // full path of the open project; empty for an unnamed one
     std::string caption;       // of the main window

@@ -223,6 +223,9 @@ bool Program::PerformOnCurrentForm(const UserEvent& event) {
     if (event.kind == UserEvent::Kind::PasteCells) return events.PasteCells(*form, event.text);
     if (event.kind == UserEvent::Kind::EmptyCells) return events.EmptyCells(*form, event.cells);
     if (event.kind == UserEvent::Kind::DeleteRow) return events.DeleteRow(*form, event.number);
+    if (event.kind == UserEvent::Kind::InsertRow) return events.InsertRow(*form, event.number);
+    if (event.kind == UserEvent::Kind::MoveRowUp) return events.MoveRow(*form, event.number, -1);
+    if (event.kind == UserEvent::Kind::MoveRowDown) return events.MoveRow(*form, event.number, 1);
     Control* control = form->Find(event.name);
     if (control == nullptr) return false;
     if (event.kind == UserEvent::Kind::Choose) return events.Choose(*form, *control, event.text);

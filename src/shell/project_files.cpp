@@ -119,6 +119,10 @@ bool ProjectFiles::NewProject() {
 
 bool ProjectFiles::OpenProject(const std::string& path) {
     const bool opened = LoadProject(path);
+    if (IsSample(path)) {
+        if (opened) Unname();
+        return opened;
+    }
     AddRecentFile(state_, FullPath(path));
     return opened;
 }
@@ -154,8 +158,9 @@ bool ProjectFiles::LoadProject(const std::string& path) {
 
 bool ProjectFiles::OpenProjectDialog() {
     MakeProjectsFolder();
-    const auto chosen =
-        state_.host.dialogs.AskFile({FileRequest::Kind::Open, state_.home.ProjectsFolder(), kOpenFilter});
+    FileRequest request{FileRequest::Kind::Open, state_.home.ProjectsFolder(), kOpenFilter};
+    request.places = {state_.home.ProjectsFolder(), state_.home.SamplesFolder()};
+    const auto chosen = state_.host.dialogs.AskFile(request);
     if (chosen) return OpenProject(chosen->string());
     if (state_.dbWork.IsOpen()) DiscardWorkCopy("");
     state_.sProjectFile.clear();
@@ -194,6 +199,7 @@ bool ProjectFiles::SaveProject(const std::string& path) {
         return false;
     }
     NameProject(path);
+    ++state_.saves;
     return true;
 }
 
@@ -213,8 +219,10 @@ bool ProjectFiles::Save() {
 
 bool ProjectFiles::SaveProjectAs() {
     MakeProjectsFolder();  // the dialog starts there
-    const auto chosen = state_.host.dialogs.AskFile({FileRequest::Kind::Save, state_.home.ProjectsFolder(),
-                                                     kSaveFilter, std::string(kExtension.substr(1))});
+    FileRequest request{FileRequest::Kind::Save, state_.home.ProjectsFolder(), kSaveFilter,
+                        std::string(kExtension.substr(1))};
+    request.suggested = state_.sProjectFile;
+    const auto chosen = state_.host.dialogs.AskFile(request);
     return chosen && SaveProjectAs(chosen->string());
 }
 
@@ -231,6 +239,17 @@ bool ProjectFiles::SaveProjectAs(const std::string& name) {
 bool ProjectFiles::IsWorkCopy(const std::string& path) const {
     const FileSystem& files = state_.host.files;
     return files.Resolve(path) == files.Resolve(state_.home.WorkCopyFile());
+}
+
+/// A sample stays as it is: what is opened is a copy without a name.
+bool ProjectFiles::IsSample(const std::string& path) const {
+    const FileSystem& files = state_.host.files;
+    return files.Resolve(Path(FullPath(path)).parent_path()) == files.Resolve(state_.home.SamplesFolder());
+}
+
+void ProjectFiles::Unname() {
+    state_.sProjectFile.clear();
+    state_.caption.clear();
 }
 
 void ProjectFiles::NameProject(const std::string& path) {

@@ -21,7 +21,8 @@ class ProjectFiles {
     bool NewWorkCopy();
 
     /// Makes a project file the open project. On failure, with its message, no project is open, and
-    /// name and caption of the former one stand. The path joins the recent files in any case.
+    /// name and caption of the former one stand. The path joins the recent files in any case, but that
+    /// of a sample, which is opened as a copy without a name.
     bool OpenProject(const std::string& path);
 
     /// The Open command: asks for a file. A cancelled dialog leaves a fresh, unnamed project.
@@ -48,7 +49,9 @@ class ProjectFiles {
     [[nodiscard]] std::string ReadProject(const std::string& path) const;
     bool LoadProject(const std::string& path);
     [[nodiscard]] bool IsWorkCopy(const std::string& path) const;
+    [[nodiscard]] bool IsSample(const std::string& path) const;
     void NameProject(const std::string& path);
+    void Unname();
     void MakeProjectsFolder();
     void Report(const std::string& text);
 

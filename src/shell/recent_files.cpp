@@ -88,7 +88,7 @@ void RebuildRecentMenu(ProcessState& state) {
     try {
         for (const RecentFile& row : state.dbCatalogue->RecentFiles()) {
             if (row.fileName && !row.fileName->empty()) {
-                state.recentMenu.push_back({row.sortOrder, *row.fileName});
+                state.recentMenu.push_back({row.sortOrder, *row.fileName, row.openDate});
             }
         }
     } catch (const std::exception&) {

@@ -19,6 +19,9 @@ struct UserEvent {
         EditCell,      // of the current form's grid; number: row; name: variable of the column; text
         MoveToCell,    // number: row; name: variable of the column, empty: the cursor stays in its column
         DeleteRow,     // number: row
+        InsertRow,     // number: row, which becomes empty
+        MoveRowUp,     // number: row, which changes places with the one above
+        MoveRowDown,   // number: row, which changes places with the one below
         PasteCells,    // text: tab-separated lines, for the cells from the cursor on
         EmptyCells,    // cells: the block to be emptied
         Choose,        // name: an option, a check box or a list; text: the item of a list
