@@ -120,6 +120,17 @@ void OpenFieldHelp(ScreenContext& context, Form& form) {
     }
 }
 
+void RecallField(const ScreenContext& context, Form& form, const std::vector<std::string>& served) {
+    if (!form.TextOf("FieldName").empty()) return;
+    const std::string kept = context.units.GetDisplayValue("FieldName");
+    const auto isKept = [&](const std::string& field) { return EqualNoCase(field, kept); };
+    if (!served.empty() && std::none_of(served.begin(), served.end(), isKept)) return;
+    form.SetText("FieldName", kept);
+    form.SetText("FormName", context.units.GetDisplayValue("FormName"));
+    if (form.Find("Column") == nullptr) return;
+    for (const char* name : {"Dim1", "Column"}) form.SetText(name, context.units.GetDisplayValue(name));
+}
+
 void ShowCalledField(ScreenContext& context, Form& form, const std::string& captionStart) {
     const Variable* variable = context.catalogue.FindVariable(form.TextOf("FieldName"));
     Control* box = form.Find("TextBox") != nullptr ? form.Find("TextBox") : form.Find("Text1");

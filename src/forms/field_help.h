@@ -12,6 +12,10 @@ namespace kelvor {
 /// if the form names one, else the general one. A message tells why none opens.
 void OpenFieldHelp(ScreenContext& context, Form& form);
 
+/// On the load of a help screen that is opened without a field: it takes the one that help was asked for
+/// last, as the project keeps it, if that is one of `served`. An empty list stands for every field.
+void RecallField(const ScreenContext& context, Form& form, const std::vector<std::string>& served = {});
+
 /// Shows, on the load of a help screen, the field that it was opened for: its head in the caption, behind
 /// `captionStart`, its explanation, and its value in a box like the field's own. The form has TextBox or
 /// Text1; it may have HelpHead, HelpText, Label, Units, and ComboBox, which serves a field that is chosen

@@ -13,16 +13,6 @@ constexpr const char* kCaptionStart = "Help Screen for the ";
 
 void CloseClick(ScreenEvent& event) { FormEvents(event.context).Close(event.form); }
 
-/// Opened without a field, a help shows the one that was asked for last.
-void RecallField(const ScreenContext& context, Form& form) {
-    if (!form.TextOf("FieldName").empty()) return;
-    for (const char* name : {"FieldName", "FormName"}) {
-        form.SetText(name, context.units.GetDisplayValue(name));
-    }
-    if (form.Find("Column") == nullptr) return;
-    for (const char* name : {"Dim1", "Column"}) form.SetText(name, context.units.GetDisplayValue(name));
-}
-
 void Load(ScreenEvent& event) {
     RecallField(event.context, event.form);
     ShowCalledField(event.context, event.form, kCaptionStart);

@@ -32,7 +32,11 @@ ChartData CoefficientChart() {
     return chart;
 }
 
-void Load(ScreenEvent& event) { ShowCalledField(event.context, event.form); }
+void Load(ScreenEvent& event) {
+    const bool ofGrid = event.form.Find("Column") != nullptr;
+    RecallField(event.context, event.form, {ofGrid ? "LDLayerCoef" : "ACACOLLC"});
+    ShowCalledField(event.context, event.form);
+}
 
 FormType CoefficientHelp(const char* name, const char* caption, std::vector<std::string> hidden) {
     FormType type;

@@ -9,6 +9,7 @@ namespace kelvor {
 namespace {
 
 void Load(ScreenEvent& event) {
+    RecallField(event.context, event.form);
     ShowCalledField(event.context, event.form, "Help Screen for ");
     Control& unit = event.form.Get("Units");
     unit.visible = !IsNoUnit(unit.text);

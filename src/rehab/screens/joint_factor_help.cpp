@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "forms/field_help.h"
 #include "forms/form.h"
 #include "forms/side_screen.h"
 #include "platform/number_picture.h"
@@ -17,6 +18,7 @@ constexpr std::array kCounts = {"APDETJTS", "APDETCRKS", "APDETPNCH", "APDETEXP"
 constexpr const char* kTotal = "APDETTOT";
 constexpr const char* kFactor = "APBOLFJC";
 constexpr const char* kUnbondedField = "UBOLFJCU";
+constexpr std::array kFields = {"ACACPCFJC", "ACPCFJC", "BOLFJC", kUnbondedField};
 constexpr const char* kLastFactor = "LastFactor";  // with all its digits
 
 const char* const kPurpose =
@@ -64,6 +66,8 @@ void ComputeFjc(const ScreenContext& context, Form& form) {
 
 void Show(ScreenEvent& event) { ComputeFjc(event.context, event.form); }
 
+void Load(ScreenEvent& event) { RecallField(event.context, event.form, {kFields.begin(), kFields.end()}); }
+
 void CountTyped(ScreenEvent& event) {
     if (IsCount(*event.control)) event.form.workedOut = true;
 }
@@ -78,18 +82,22 @@ bool IsWanted(const ScreenContext& context, const Form& form) {
     return form.workedOut || !CalledField(context, form).IsFilled();
 }
 
-/// Stores what follows from the counts, which are stored as they are left, and gives the factor to the field
-/// for which the screen was opened. True if that has another value now.
-bool HandOver(const ScreenContext& context, const Form& form) {
-    const CellValue before = CalledField(context, form);
+/// Stores what follows from the counts, which are stored as they are left.
+void StoreSurvey(const ScreenContext& context, const Form& form) {
     for (const char* name : {kTotal, kFactor}) context.units.SetDisplayValue(name, 1, 1, form.TextOf(name));
+}
+
+/// Gives the factor to the field for which the screen was opened. True if that has another value now.
+bool HandOver(const ScreenContext& context, const Form& form) {
     const std::string field = form.TextOf("FieldName");
     if (field.empty()) return false;
+    const CellValue before = CalledField(context, form);
     context.units.SetDisplayValue(field, 1, 1, form.TextOf(kFactor));
     return !IsSameValue(CalledField(context, form), before);
 }
 
 void Closing(ScreenEvent& event) {
+    StoreSurvey(event.context, event.form);
     const bool taken = IsWanted(event.context, event.form) && HandOver(event.context, event.form);
     ReturnFromSideScreen(event.context, event.form, taken);
 }
@@ -114,7 +122,8 @@ FormType JointFactorHelp() {
                 {.variable = kFactor, .computed = true}}),
         Hidden({kLastFactor}),
     });
-    type.handlers = {{FormEvent::Activate, "", HandlerOrder::After, Show},
+    type.handlers = {{FormEvent::Load, "", HandlerOrder::After, Load},
+                     {FormEvent::Activate, "", HandlerOrder::After, Show},
                      {FormEvent::Change, "", HandlerOrder::After, CountTyped},
                      {FormEvent::LostFocus, "", HandlerOrder::After, Show},
                      {FormEvent::Stored, "", HandlerOrder::After, CountStored},
