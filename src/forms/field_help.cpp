@@ -123,6 +123,7 @@ void OpenFieldHelp(ScreenContext& context, Form& form) {
 void ShowCalledField(ScreenContext& context, Form& form, const std::string& captionStart) {
     const Variable* variable = context.catalogue.FindVariable(form.TextOf("FieldName"));
     Control* box = form.Find("TextBox") != nullptr ? form.Find("TextBox") : form.Find("Text1");
+    form.SetText("HelpHead", "Help Item");
     if (variable == nullptr || box == nullptr) return;
     const std::string& head = variable->helpHead.empty() ? variable->desc : variable->helpHead;
     if (!captionStart.empty()) form.caption = captionStart + head;
