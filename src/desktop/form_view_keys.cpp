@@ -144,6 +144,7 @@ bool FormView::HandleKey(const QKeyEvent& key) {
     const Control* focus = form_->focus;
     const bool inBox = focus != nullptr && focus->IsBox();
     if (name == nullptr && !inBox) name = KeyNameOutsideBox(key.key());
+    if (name == nullptr && key.key() == Qt::Key_F2) name = "F2";
     const bool inList = inBox && focus->kind == ControlKind::ComboBox;
     if (name == nullptr && inList && (key.key() == Qt::Key_Up || key.key() == Qt::Key_Down)) {
         name = KeyNameOutsideBox(key.key());

@@ -134,6 +134,7 @@ void RecallField(const ScreenContext& context, Form& form, const std::vector<std
 void ShowCalledField(ScreenContext& context, Form& form, const std::string& captionStart) {
     const Variable* variable = context.catalogue.FindVariable(form.TextOf("FieldName"));
     Control* box = form.Find("TextBox") != nullptr ? form.Find("TextBox") : form.Find("Text1");
+    form.SetText("HelpHead", "Help Item");
     if (variable == nullptr || box == nullptr) return;
     const std::string& head = variable->helpHead.empty() ? variable->desc : variable->helpHead;
     if (!captionStart.empty()) form.caption = captionStart + head;

@@ -26,6 +26,17 @@ bool TakesTyping(const Form& form) {
     });
 }
 
+/// The small button beside the field in hand; null if there is none that can be pressed.
+Control* SmallButtonOfFocus(const Form& form) {
+    if (form.focus == nullptr || form.focus->tag.empty()) return nullptr;
+    for (const auto& control : form.controls()) {
+        const bool isOfField = EqualNoCase(control->worksOut, form.focus->tag) ||
+                               EqualNoCase(control->takesOver, form.focus->tag);
+        if (isOfField && form.CanFocus(*control)) return control.get();
+    }
+    return nullptr;
+}
+
 }  // namespace
 
 void FormEvents::Type(const std::string& text) {
@@ -102,9 +113,7 @@ bool FormEvents::NamedKey(Form& form, const std::string& key) {
     const bool onOption = form.focus != nullptr && form.focus->kind == ControlKind::OptionButton;
     if (key == "Enter" && form.type().isHub && onOption) {
         Click(form, *form.focus);
-    } else if (key == "Enter") {
-        Tab(form, TabStep::NextInput);
-    } else if (key == "Tab") {
+    } else if (key == "Enter" || key == "Tab") {
         Tab(form, TabStep::Next);
     } else if (key == "BackTab") {
         Tab(form, TabStep::Previous);
@@ -126,8 +135,10 @@ bool FormEvents::NamedKey(Form& form, const std::string& key) {
         Step(form, key, -1);
     } else if (key == "Down" || key == "Right") {
         Step(form, key, 1);
+    } else if (key == "F2") {
+        if (Control* button = SmallButtonOfFocus(form)) Press(form, *button);
     } else {
-        return key == "F2";
+        return false;
     }
     return true;
 }

@@ -7,6 +7,7 @@
 
 #include "platform/file_system.h"
 #include "reports/document/page_setup.h"
+#include "reports/document/report_drawing.h"
 #include "reports/staged_tables.h"
 
 namespace kelvor {
@@ -28,6 +29,9 @@ struct ReportRequest {
     /// `Governs`: what decides its result, in a sentence;
     /// `Project`: the name of the project file, without its folder; `DateTime`: when the run was made.
     std::map<std::string, std::string, std::less<>> texts;
+
+    /// The drawings that a layout may show. Always there, perhaps empty: `Section`, that of the pavement.
+    ReportDrawings drawings;
 };
 
 /// A report filled with its values, or the reason why it could not be.

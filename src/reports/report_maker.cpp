@@ -5,6 +5,7 @@
 
 #include "platform/replace_file.h"
 #include "reports/document/document.h"
+#include "reports/drawing_pictures.h"
 #include "reports/layout/layout_reader.h"
 #include "reports/writers/html_writer.h"
 #include "reports/writers/rtf_writer.h"
@@ -23,9 +24,11 @@ constexpr const char* kTitleText = "Title";
 Document FillFrom(FileSystem& files, const ReportRequest& request) {
     LayoutTexts texts = request.texts;
     texts.try_emplace(kTitleText, request.title);
-    const LayoutData data{request.tables, texts, [&](const std::string& name) {
+    const LayoutData data{request.tables, texts,
+                          [&](const std::string& name) {
                               return files.Read(request.layout.parent_path() / name, kLargestFile);
-                          }};
+                          },
+                          &request.drawings};
     const std::string layout = files.Read(request.layout, kLargestFile);
     return FillLayout(layout, request.layout.filename().string(), data);
 }
@@ -48,7 +51,7 @@ std::string ReportMaker::Content(const Report& report, ReportFormat format) cons
         case ReportFormat::Html:
             return WriteHtml(*report.document);
         case ReportFormat::Rtf:
-            return WriteRtf(*report.document, setup_);
+            return WriteRtf(WithPictures(*report.document), setup_);
         case ReportFormat::Text:
             return WriteText(*report.document);
         case ReportFormat::Pdf:

@@ -4,6 +4,8 @@
 #include <variant>
 #include <vector>
 
+#include "reports/document/report_drawing.h"
+
 namespace kelvor {
 
 // A filled report, before anybody knows whether it becomes pages, a page of the web, or plain text. All texts
@@ -52,10 +54,13 @@ struct Picture {
     double heightPoints = 0.0;
 };
 
+/// A drawing that stays as sharp as the paper allows.
+using Drawing = ReportDrawing;
+
 }  // namespace blocks
 
-using Block =
-    std::variant<blocks::Heading, blocks::Paragraph, blocks::ValueList, blocks::Table, blocks::Picture>;
+using Block = std::variant<blocks::Heading, blocks::Paragraph, blocks::ValueList, blocks::Table,
+                           blocks::Picture, blocks::Drawing>;
 
 /// The line at the head or at the foot of each page. On paper a page number stands at the right of the foot.
 struct PageEdge {

@@ -38,7 +38,7 @@ class Reader {
         std::string_view name;
         Routine read;
     };
-    static const std::array<Element, 11> kElements;
+    static const std::array<Element, 12> kElements;
 
     void ReadBlocks(pugi::xml_node parent, const LayoutScope& outer) {
         const LayoutScope scope = InnerScope(source_, parent, outer);
@@ -123,6 +123,26 @@ class Reader {
         document_.blocks.emplace_back(std::move(picture));
     }
 
+    void ReadDrawing(pugi::xml_node element, const LayoutScope& scope) {
+        const ReportDrawing& drawing = FindDrawing(element);
+        const pugi::xml_node caption = element.first_child();
+        if (!IsNamed(caption, "figcaption") || caption.next_sibling()) {
+            throw source_.Error(element, "a \"figure\" holds one \"figcaption\" and nothing else");
+        }
+        if (drawing.IsEmpty()) return;
+        document_.blocks.emplace_back(blocks::Heading{2, source_.FilledText(caption, scope)});
+        document_.blocks.emplace_back(drawing);
+    }
+
+    [[nodiscard]] const ReportDrawing& FindDrawing(pugi::xml_node element) const {
+        const std::string_view name = element.attribute("data-drawing").value();
+        if (data_.drawings != nullptr) {
+            const auto found = data_.drawings->find(name);
+            if (found != data_.drawings->end()) return found->second;
+        }
+        throw source_.Error(element, "there is no drawing \"" + std::string(name) + "\"");
+    }
+
     [[nodiscard]] std::string PictureFile(pugi::xml_node element, const std::string& name) const {
         try {
             return data_.pictures(name);
@@ -147,13 +167,14 @@ class Reader {
     Document document_;
 };
 
-const std::array<Reader::Element, 11> Reader::kElements = {{{"h1", &Reader::ReadHeading},
+const std::array<Reader::Element, 12> Reader::kElements = {{{"h1", &Reader::ReadHeading},
                                                             {"h2", &Reader::ReadHeading},
                                                             {"h3", &Reader::ReadHeading},
                                                             {"p", &Reader::ReadParagraph},
                                                             {"dl", &Reader::ReadValueList},
                                                             {"table", &Reader::ReadTableBlock},
                                                             {"img", &Reader::ReadPicture},
+                                                            {"figure", &Reader::ReadDrawing},
                                                             {"div", &Reader::ReadBlocks},
                                                             {"section", &Reader::ReadBlocks},
                                                             {"header", &Reader::ReadHead},

@@ -18,6 +18,7 @@ struct LayoutData {
     const StagedTables& tables;
     const LayoutTexts& texts;
     PictureReader pictures;
+    const ReportDrawings* drawings = nullptr;  // null: none
 };
 
 /// Fills a layout, a well-formed XHTML page with placeholders (placeholders.h), and makes a document of it.
@@ -30,8 +31,11 @@ struct LayoutData {
 ///     dl, of dt dd           labels and values; `dl class="number"` sets the values to the right, and
 ///                            `dd class="unit"` behind a value is its unit
 ///     table, of thead tbody  `th class="number"` heads a column that is set to the right
-///     img src alt width      a PNG file beside the layout, so many 1/96 in wide; 96 dots an inch without
-///     `width` div section            hold others br                     a line break in a text
+///     img src alt width      a PNG file beside the layout, so many 1/96 in wide; 96 dots an inch without it
+///     figure, of figcaption  `data-drawing="Section"`: a drawing below its heading; without one there is
+///                            neither
+///     div section            hold others
+///     br                     a line break in a text
 ///
 /// `data-table="Rigid"` on an element names the table whose first row its placeholders mean;
 /// `data-rows="TrAx"` on a `tr` repeats it for each row of the table. Comments are left out. `fileName` is

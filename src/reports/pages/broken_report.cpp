@@ -37,7 +37,7 @@ BrokenReport::BrokenReport(const TypeSetter& setter, const Document& document, c
     : setter_(setter),
       document_(document),
       setup_(setup),
-      strips_(BuildStrips(setter, document, setup)),
+      strips_(BuildStrips(setter, document_, setup)),
       pages_(BreakIntoPages(strips_, TextHeight(setup))) {}
 
 void BrokenReport::Show(cairo_t* painter, std::size_t page) const {

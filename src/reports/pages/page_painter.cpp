@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "drawing/paint/scene_canvas.h"
 #include "reports/pages/strip_builder.h"
 
 namespace kelvor {
@@ -40,8 +41,17 @@ void PaintPicture(cairo_t* painter, const PlacedPicture& picture, double left, d
     cairo_restore(painter);
 }
 
+void PaintDrawing(cairo_t* painter, const PlacedDrawing& drawing, double left, double top) {
+    cairo_save(painter);
+    cairo_translate(painter, left, top);
+    cairo_scale(painter, drawing.scale, drawing.scale);
+    PaintScene(painter, *drawing.scene);
+    cairo_restore(painter);
+}
+
 void PaintStrip(cairo_t* painter, const Strip& strip, double left, double top) {
     if (strip.picture.surface) PaintPicture(painter, strip.picture, left, top);
+    if (strip.drawing.scene != nullptr) PaintDrawing(painter, strip.drawing, left, top);
     for (const PlacedLine& placed : strip.lines) {
         PaintLine(painter, placed.line, left + placed.left, top + placed.baseline);
     }

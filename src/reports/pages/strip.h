@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include "drawing/scene.h"
 #include "reports/pages/type_setter.h"
 
 namespace kelvor {
@@ -29,13 +30,20 @@ struct PlacedPicture {
     double height = 0.0;
 };
 
-/// As much of a report as is never parted: a line of text across all columns, or a picture.
+/// A drawing in a strip, at its upper left corner. It belongs to the document.
+struct PlacedDrawing {
+    const Scene* scene = nullptr;
+    double scale = 1.0;
+};
+
+/// As much of a report as is never parted: a line of text across all columns, a picture or a drawing.
 struct Strip {
     double spaceBefore = 0.0;  // left out at the head of a page
     double height = 0.0;
     std::vector<PlacedLine> lines;
     std::vector<Rule> rules;
     PlacedPicture picture;
+    PlacedDrawing drawing;
 
     bool keepWithNext = false;  // on the same page
 

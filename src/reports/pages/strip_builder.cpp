@@ -80,6 +80,15 @@ class Builder {
         Append({std::move(strip)}, kPictureSpace);
     }
 
+    void operator()(const blocks::Drawing& drawing) {
+        const Scene& scene = drawing.scene;
+        const double scale = std::min({1.0, width_ / scene.width, height_ / 2.0 / scene.height});
+        Strip strip;
+        strip.height = scene.height * scale;
+        strip.drawing = {&scene, scale};
+        Append({std::move(strip)}, kPictureSpace);
+    }
+
     std::vector<Strip> Take() { return std::move(strips_); }
 
   private:

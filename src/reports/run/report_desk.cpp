@@ -6,6 +6,7 @@
 #include "forms/side_screen.h"
 #include "platform/database_error.h"
 #include "reports/run/preview_form.h"
+#include "reports/run/report_sections.h"
 #include "reports/run/report_texts.h"
 #include "reports/run/waiting.h"
 
@@ -153,7 +154,8 @@ Report ReportDesk::FillReport(const ScreenContext& context, const ListedReport& 
                                    .name = listed.report->name,
                                    .title = listed.report->title,
                                    .tables = tables,
-                                   .texts = ReportTexts(context, listed.screen, site_.sProjectFile)});
+                                   .texts = ReportTexts(context, listed.screen, site_.sProjectFile),
+                                   .drawings = DrawingsOfReport(context, listed.screen)});
     if (!report.IsFilled()) dialogs().ShowMessage({.text = report.error, .title = kTitle});
     return report;
 }

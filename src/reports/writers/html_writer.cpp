@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "drawing/svg.h"
 #include "reports/writers/base64.h"
 
 namespace kelvor {
@@ -21,6 +22,7 @@ p, dd, td { white-space: pre-line; }
 table { border-collapse: collapse; width: 100%; } tr { break-inside: avoid; }
 th, td { border-bottom: 1px solid #ccc; padding: 0.2em 0.5em; text-align: left; vertical-align: top; }
 th { border-bottom: 1px solid #333; vertical-align: bottom; } .number { text-align: right; }
+svg { height: auto; max-width: 100%; }
 )";
 
 /// A text between tags or in an attribute; a line break stays one.
@@ -99,6 +101,8 @@ struct BlockWriter {
                 Escaped(picture.words) + "\" width=\"" +
                 std::to_string(static_cast<int>(picture.widthPoints * kDotsPerPoint)) + "\"/></p>\n";
     }
+
+    void operator()(const blocks::Drawing& drawing) { page += "<p>" + ToInlineSvg(drawing.scene) + "</p>\n"; }
 
     static std::string_view ClassOf(const blocks::Table::Column& column) {
         return column.alignment == Alignment::Right ? " class=\"number\"" : "";

@@ -128,6 +128,9 @@ struct BlockWriter {
         rtf += std::string(kNormal) + "{\\pict\\pngblip\\picwgoal" + Twips(picture.widthPoints) +
                "\\pichgoal" + Twips(picture.heightPoints) + " " + Hexadecimal(picture.png) + "}\\par\n";
     }
+
+    /// The format knows no shapes.
+    void operator()(const blocks::Drawing& drawing) { (*this)(blocks::Paragraph{drawing.words}); }
 };
 
 }  // namespace

@@ -93,6 +93,8 @@ struct BlockWriter {
     void operator()(const blocks::Picture& picture) {
         text += "\n" + Joined("[" + picture.words + "]", kWidth);
     }
+
+    void operator()(const blocks::Drawing& drawing) { text += "\n" + Joined(drawing.words, kWidth); }
 };
 
 }  // namespace

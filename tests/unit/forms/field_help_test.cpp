@@ -415,10 +415,21 @@ TEST_F(FieldHelpTest, ASmallButtonMeansItsOwnFieldWhereverTheFocusWas) {
     EXPECT_EQ(Current().TextOf("FieldName"), "K");
     Raise(Kind::Key, "Esc");
     EXPECT_EQ(Current().focus->name, "K");
-    Raise(Kind::Key, "Tab");
-    ASSERT_EQ(Current().focus->name, "cmdbK");
+    Raise(Kind::Focus, "cmdbK");
     Raise(Kind::Key, "Space");
     EXPECT_EQ(Current().name(), "H_K");
+}
+
+TEST_F(FieldHelpTest, F2PressesTheSmallButtonOfTheField) {
+    Raise(Kind::OpenForm, "DeF");
+    Raise(Kind::Focus, "FLEXREL");
+    Raise(Kind::Key, "F2");
+    EXPECT_EQ(Current().name(), "DeF") << "this field has none";
+    Raise(Kind::Focus, "RM");
+    Raise(Kind::Type, {}, "6000");
+    Raise(Kind::Key, "F2");
+    EXPECT_EQ(Current().name(), "H_SRM");
+    EXPECT_EQ(program_.Get("RM"), 6000.0) << "the field was left first";
 }
 
 TEST_F(FieldHelpTest, ARefusedValueKeepsTheFocusFromASmallButton) {

@@ -52,6 +52,16 @@ TEST_P(EveryReportTest, TheWordProcessorsFileShowsEveryCell) {
     ExpectCells(test::OutputOf("unrtf --nopict --text '" + Write(ReportFormat::Rtf).string() + "' 2>&1"));
 }
 
+/// The reports of a pavement, which are those with a check of its equation, show its section.
+TEST_P(EveryReportTest, TheSectionStandsOnTheReportOfAPavement) {
+    const int count = GetParam().hasCheck ? 1 : 0;
+    const std::string text = test::Squeezed(test::ReadFile(Write(ReportFormat::Text)));
+    EXPECT_EQ(test::CountOf(text, "CrossSection"), count);
+    EXPECT_EQ(test::CountOf(text, "Aslab.Fromthetop:PCCThickness9.5in;Subgrade."), count);
+    EXPECT_EQ(test::CountOf(test::ReadFile(Write(ReportFormat::Html)), "<svg "), count);
+    EXPECT_EQ(test::CountOf(test::ReadFile(Write(ReportFormat::Rtf)), "\\pngblip"), count);
+}
+
 TEST_P(EveryReportTest, WhatBelongsToAnotherOverlayIsNotShown) {
     const std::string text = test::ReadFile(Write(ReportFormat::Text));
     for (const test::ShownTable& shown : GetParam().tables) {

@@ -161,6 +161,15 @@ std::vector<std::string> ShownCells(const StagedTables& tables, const SampleRepo
     return cells;
 }
 
+ReportDrawing SampleDrawing() {
+    ReportDrawing drawing;
+    drawing.scene = {.width = 480.0, .height = 260.0, .title = "A slab"};
+    drawing.scene.shapes = {shape::Rectangle{{20.0, 60.0}, 200.0, 90.0, "#C8CCD0", {"#000000", 0.5}},
+                            shape::Text{.place = {230.0, 105.0}, .text = "PCC Thickness 9.5 in"}};
+    drawing.words = "A slab. From the top: PCC Thickness 9.5 in; Subgrade.";
+    return drawing;
+}
+
 ReportRequest RequestFor(const std::string& name, StagedTables tables) {
     ReportRequest request;
     request.layout = Path(KELVOR_SOURCE_FOLDER) / "data/reports" / ("Rep_" + name + ".vsr");
@@ -171,7 +180,16 @@ ReportRequest RequestFor(const std::string& name, StagedTables tables) {
                      {"Governs", "The slab governs."},
                      {"Project", "route 7.kvr"},
                      {"DateTime", "2 May 2026, 10:15"}};
+    request.drawings = {{"Section", SampleDrawing()}};
     return request;
+}
+
+int CountOf(const std::string& text, const std::string& part) {
+    int count = 0;
+    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + part.size())) {
+        ++count;
+    }
+    return count;
 }
 
 std::string Squeezed(const std::string& text) {

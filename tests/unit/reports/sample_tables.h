@@ -29,8 +29,14 @@ const std::vector<SampleReport>& SampleReports();
 /// The cells of a report's tables as it has to show them.
 std::vector<std::string> ShownCells(const StagedTables& tables, const SampleReport& report);
 
+/// A slab: a rectangle of 200 by 90 points, and its label.
+ReportDrawing SampleDrawing();
+
 /// What a run asks for with the delivered layout of a report.
 ReportRequest RequestFor(const std::string& name, StagedTables tables);
+
+/// How often a text stands in another.
+int CountOf(const std::string& text, const std::string& part);
 
 /// A text without its blanks and line breaks.
 std::string Squeezed(const std::string& text);

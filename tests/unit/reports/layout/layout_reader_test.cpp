@@ -20,10 +20,13 @@ class LayoutReaderTest : public ::testing::Test {
     }
 
     [[nodiscard]] Document Page(const std::string& page) const {
-        return FillLayout(page, "Rep_Test.vsr", {tables_, texts_, [](const std::string& name) {
-                                                     if (name != "logo.png") throw FileError("No such file");
-                                                     return kPicture;
-                                                 }});
+        return FillLayout(page, "Rep_Test.vsr",
+                          {tables_, texts_,
+                           [](const std::string& name) {
+                               if (name != "logo.png") throw FileError("No such file");
+                               return kPicture;
+                           },
+                           &drawings_});
     }
 
     [[nodiscard]] Document Body(const std::string& body) const {
@@ -46,6 +49,9 @@ class LayoutReaderTest : public ::testing::Test {
 
     StagedTables tables_;
     LayoutTexts texts_ = {{"Check", "In balance."}};
+    ReportDrawings drawings_ = {
+        {"Section", {{.shapes = {shape::Line{{{0.0, 0.0}, {9.0, 9.0}}, {"#000000", 1.0}}}}, "A slab."}},
+        {"Nothing", {}}};
 };
 
 TEST_F(LayoutReaderTest, HeadingsAndParagraphs) {
@@ -101,6 +107,28 @@ TEST_F(LayoutReaderTest, APictureBesideTheLayout) {
     EXPECT_EQ(picture.png, kPicture);
     EXPECT_DOUBLE_EQ(picture.widthPoints, 144.0);  // 192 of 96 an inch are 2 inches
     EXPECT_DOUBLE_EQ(picture.heightPoints, 72.0);
+}
+
+TEST_F(LayoutReaderTest, ADrawingStandsBelowItsHeading) {
+    const Document document =
+        Body("<figure data-drawing=\"Section\"><figcaption>Cross Section</figcaption></figure>");
+    ASSERT_EQ(document.blocks.size(), 2U);
+    EXPECT_EQ(std::get<blocks::Heading>(document.blocks[0]).level, 2);
+    EXPECT_EQ(std::get<blocks::Heading>(document.blocks[0]).text, "Cross Section");
+    EXPECT_EQ(std::get<blocks::Drawing>(document.blocks[1]).words, "A slab.");
+    EXPECT_EQ(std::get<blocks::Drawing>(document.blocks[1]).scene, drawings_.at("Section").scene);
+}
+
+TEST_F(LayoutReaderTest, AnEmptyDrawingIsLeftOutWithItsHeading) {
+    EXPECT_TRUE(Body("<figure data-drawing=\"Nothing\"><figcaption>Cross Section</figcaption></figure>")
+                    .blocks.empty());
+}
+
+TEST_F(LayoutReaderTest, ADrawingThatIsNotThereIsTold) {
+    EXPECT_EQ(BodyError("<figure data-drawing=\"Chart\"><figcaption>A</figcaption></figure>"),
+              "Rep_Test.vsr, line 4: there is no drawing \"Chart\".");
+    EXPECT_EQ(BodyError("<figure data-drawing=\"Section\"><p>A</p></figure>"),
+              "Rep_Test.vsr, line 4: a \"figure\" holds one \"figcaption\" and nothing else.");
 }
 
 TEST_F(LayoutReaderTest, BrokenMarkupIsToldWithItsLine) {

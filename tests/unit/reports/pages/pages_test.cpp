@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <numeric>
 
 #include "extracted_text.h"
@@ -204,6 +205,37 @@ TEST_F(PagesTest, APictureThatCannotBeReadShowsItsWords) {
     Document document;
     document.blocks = {blocks::Picture{"no picture", "Our office", 72.0, 36.0}};
     EXPECT_THAT(TextOf(Break(document)->Pdf()), HasSubstr("Our office"));
+}
+
+TEST_F(PagesTest, ADrawingIsPaintedAsShapesNotAsDots) {
+    Document document;
+    document.blocks = {test::SampleDrawing()};
+    const auto pages = Break(document);
+    const std::string pdf = pages->Pdf();
+    EXPECT_THAT(TextOf(pdf), HasSubstr("PCC Thickness 9.5 in"));
+    EXPECT_EQ(test::CountOf(pdf, "/Image"), 0);
+    const PageImage image = pages->Paint(0, 1.0);
+    const auto dots = std::count(image.dots.begin(), image.dots.end(), 0xFFC8CCD0U);
+    EXPECT_NEAR(static_cast<double>(dots), 200.0 * 90.0, 600.0) << "the slab, less its edges";
+}
+
+TEST_F(PagesTest, AWideDrawingKeepsToThePage) {
+    ReportDrawing drawing = test::SampleDrawing();
+    drawing.scene.width *= 4.0;
+    drawing.scene.shapes = {
+        shape::Rectangle{{0.0, 0.0}, drawing.scene.width, drawing.scene.height, "#C8CCD0"}};
+    Document document;
+    document.blocks = {drawing};
+    const PageImage image = Break(document)->Paint(0, 1.0);
+    const auto paintedIn = [&](int column) {
+        int count = 0;
+        for (int y = 0; y < image.height; ++y) {
+            if (image.dots[static_cast<std::size_t>(y * image.width + column)] == 0xFFC8CCD0U) ++count;
+        }
+        return count;
+    };
+    EXPECT_GT(paintedIn(image.width - 56), 0);
+    EXPECT_EQ(paintedIn(image.width - 53), 0) << "a margin of 54 points";
 }
 
 TEST_F(PagesTest, AnEmptyReportIsOnePage) { EXPECT_EQ(Break(Document{})->Count(), 1U); }

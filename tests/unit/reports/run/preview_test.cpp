@@ -186,6 +186,27 @@ TEST_F(ReportRunTest, EachDesignAndOverlayReportHasTheLineOfItsCheck) {
     EXPECT_EQ(engine_->requests.back().texts.at("Check"), "");
 }
 
+TEST_F(ReportRunTest, TheSectionOfThePavementGoesWithItsReport) {
+    program_.Set("SBD", 6.0);
+    program_.Set("DEPTH", 9.5);
+    Report({"rbNDopR"});
+    const ReportDrawing& section = engine_->requests.back().drawings.at("Section");
+    EXPECT_EQ(section.words,
+              "Rigid Pavement Design Cross Section. Total Thickness 15.5 in. From the top: "
+              "PCC Thickness 9.5 in; Base Thickness 6.0 in; Subgrade.");
+    EXPECT_EQ(section.scene.title, "Rigid Pavement Design Cross Section, Total Thickness 15.5 in");
+    EXPECT_FALSE(section.IsEmpty());
+}
+
+TEST_F(ReportRunTest, WithoutALayerThereIsNoSection) {
+    Report({"rbNDopF"});
+    EXPECT_TRUE(engine_->requests.back().drawings.at("Section").IsEmpty());
+    Report({"rbTRopTrTr"});
+    EXPECT_TRUE(engine_->requests.back().drawings.at("Section").IsEmpty());
+    Report({"rbOVopUP"});
+    EXPECT_TRUE(engine_->requests.back().drawings.at("Section").IsEmpty()) << "an interlayer is no layer";
+}
+
 TEST_F(ReportRunTest, TheCheckIsTheLineOfTheScreen) {
     OpenScreen("DeF");
     const std::string line = State().formRegistry.Find("DeF")->TextOf("CHECK");
