@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QMessageBox>
+#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <optional>
@@ -17,6 +18,8 @@ namespace kelvor {
 namespace {
 
 constexpr int kStatusStopped = 1;
+
+constexpr std::chrono::seconds kTimeBetweenFlushes{30};
 
 int Stopped(const std::string& reason) {
     std::fprintf(stderr, "kelvor: the program stopped: %s\n", reason.c_str());
@@ -57,6 +60,8 @@ bool DesktopProgram::Start(const std::string& project) {
     window_ = std::make_unique<MainWindow>(program_);
     dialogs_.SetParent(window_.get());
     window_->show();
+    QObject::connect(&disk_, &QTimer::timeout, window_.get(), [this] { program_.BringToDisk(); });
+    disk_.start(kTimeBetweenFlushes);
     return true;
 }
 
@@ -85,8 +90,9 @@ int RunDesktop(int argc, char** argv) {
     const QString home = parser.value(homeOption);
     const QStringList files = parser.positionalArguments();
     try {
-        const auto folders = FindHome(home);
+        auto folders = FindHome(home);
         if (!folders) return kStatusStopped;
+        folders->attended = true;
         return RunProgram(*folders, files.isEmpty() ? std::string() : FromQt(files.constFirst()));
     } catch (const std::exception& failure) {
         return Stopped(failure.what());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTimer>
 #include <memory>
 #include <string>
 
@@ -35,6 +36,7 @@ class DesktopProgram {
     LinkedComponents components_;
     Program program_;
     std::unique_ptr<MainWindow> window_;
+    QTimer disk_;  // brings the work copy to the disk now and then, so that a power cut costs little
 };
 
 /// `kelvor [--home DIR] [PROJECT.kvr]`. Returns the exit status: 0 the user left, 1 the start failed or the

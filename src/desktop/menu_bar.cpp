@@ -40,6 +40,7 @@ QMenu* MenuBar::AddMenu(const MenuTitle& title) {
 
 QAction* MenuBar::AddEntry(QMenu& menu, const MenuEntry& entry) {
     if (entry.IsSeparator()) return menu.addSeparator();
+    if (entry.opensMenu) return AddSubmenu(menu, entry);
     QAction* action = menu.addAction(ToQt(entry.caption));
     action->setObjectName(ActionName(entry));
     action->setCheckable(entry.checkable);
@@ -49,6 +50,13 @@ QAction* MenuBar::AddEntry(QMenu& menu, const MenuEntry& entry) {
         Sync();
     });
     return action;
+}
+
+QAction* MenuBar::AddSubmenu(QMenu& menu, const MenuEntry& entry) {
+    QMenu* submenu = menu.addMenu(ToQt(entry.caption));
+    submenu->setObjectName(ToQt(entry.name));
+    submenu->setToolTipsVisible(true);
+    return submenu->menuAction();
 }
 
 void MenuBar::FillWindowMenu() {

@@ -27,6 +27,7 @@ class MenuBar : public QMenuBar {
   private:
     QMenu* AddMenu(const MenuTitle& title);
     QAction* AddEntry(QMenu& menu, const MenuEntry& entry);
+    static QAction* AddSubmenu(QMenu& menu, const MenuEntry& entry);
     void FillWindowMenu();
     void SyncEntry(QAction& action, const MenuEntry& entry);
     [[nodiscard]] QString CaptionOf(const MenuEntry& entry) const;

@@ -112,11 +112,14 @@ std::optional<Path> QtDialogs::AskFile(const FileRequest& request) {
     const BoxPointer pointer;
     const bool opens = request.kind == FileRequest::Kind::Open;
     const QString title = opens ? QStringLiteral("Open Project") : QStringLiteral("Save Project As");
-    QFileDialog dialog(parent_, request.title.empty() ? title : ToQt(request.title),
-                       ToQt(request.folder.string()), QtFilter(request.filter));
+    const bool proposesFile = !opens && !std::filesystem::is_directory(request.folder);
+    const Path folder = proposesFile ? request.folder.parent_path() : request.folder;
+    QFileDialog dialog(parent_, request.title.empty() ? title : ToQt(request.title), ToQt(folder.string()),
+                       QtFilter(request.filter));
     dialog.setAcceptMode(opens ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(ToQt(request.suffix));
     dialog.setFileMode(opens ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    if (proposesFile) dialog.selectFile(ToQt(request.folder.filename().string()));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     return Path(FromQt(dialog.selectedFiles().constFirst()));
 }

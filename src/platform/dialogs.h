@@ -33,7 +33,7 @@ struct InputRequest {
 struct FileRequest {
     enum class Kind { Open, Save };
     Kind kind = Kind::Open;
-    Path folder;
+    Path folder;  // in which it starts; for saving also a file, whose name is then proposed
     std::string filter;
     std::string suffix = {};        // which a name to save under gets that has none, before it is looked for
     std::string title = {};         // empty: that of opening or saving a project

@@ -16,6 +16,10 @@ struct Home {
     Path shared = {};       // where help and samples lie; empty for below the folder
     bool justMade = false;  // this start has made the home: its user is new
 
+    /// True of a program in whose windows a person works: a save keeps the former version of the file, and
+    /// asks before it replaces one that others have changed.
+    bool attended = false;
+
     [[nodiscard]] Path IniFile() const { return folder / "kvor.ini"; }
     [[nodiscard]] Path DatabaseFile(const std::string& name) const { return folder / ("DataBase/" + name); }
     [[nodiscard]] Path ProjectsFolder() const { return projects.empty() ? folder / "Projects" : projects; }
@@ -28,9 +32,16 @@ struct Home {
     [[nodiscard]] Path WindowFile() const { return work / "kvrwindow.ini"; }
     /// By which a second start hands its project to the first.
     [[nodiscard]] Path HandOverFile() const { return work / "kvropen.txt"; }
+    [[nodiscard]] Path UnsavedNoteFile() const { return work / "kvrwork.uns"; }
     [[nodiscard]] Path LockFile() const { return work / "kvrwork.lck"; }
 
     [[nodiscard]] Path SharedFolder() const { return shared.empty() ? folder : shared; }
+
+    /// True for a program that works in its home, as the window does: what it drops is kept aside there.
+    [[nodiscard]] bool KeepsDroppedWork() const {
+        return folder.lexically_normal() == work.lexically_normal();
+    }
+    [[nodiscard]] Path KeptFolder() const { return folder / "Kept"; }
 
     static constexpr const char* kTemplateName = "kvrwork.tpl";
 };

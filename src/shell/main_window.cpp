@@ -1,7 +1,10 @@
 #include "shell/main_window.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
+
+#include "shell/recovery.h"
 
 namespace kelvor {
 
@@ -38,6 +41,27 @@ MenuEntry RecentEntry(const ProcessState& state, int position) {
     return entry;
 }
 
+constexpr const char* kRecoverMenu = "MenuRecover";
+
+MenuEntry RecoverMenu(const ProcessState& state) {
+    MenuEntry entry{"MenuFile", kRecoverMenu, "&Recover"};
+    entry.opensMenu = true;
+    entry.enabled = !state.keptWork.empty();
+    entry.toolTip = "Work that was not saved";
+    return entry;
+}
+
+MenuEntry RecoverEntry(const ProcessState& state, std::size_t place) {
+    MenuEntry entry{kRecoverMenu, kRecoverEntry, "-"};
+    entry.index = static_cast<int>(place);
+    entry.visible = place < state.keptWork.size();
+    if (!entry.visible) return entry;
+    const KeptProject& kept = state.keptWork[place];
+    entry.caption = (place < 9 ? "&" : "") + std::to_string(place + 1) + " " + AsCaption(Describe(kept));
+    entry.toolTip = kept.formerPath;
+    return entry;
+}
+
 /// Undo, or Redo, with the name of what it would take back or do again.
 MenuEntry EditEntry(const char* name, const std::string& caption, const char* shortcut,
                     const std::string* act) {
@@ -66,9 +90,11 @@ std::vector<MenuEntry> MenuEntries(const ProcessState& state, const UndoNames& n
         {"MenuFile", "MenuFilePrint", "&Print", false, "Ctrl+P"},
         {"MenuFile", "MenuFileSave", "&Save Project...", false, "Ctrl+S"},
         {"MenuFile", "MenuFileSaveAs", "Save Project &As...", false, "Ctrl+Shift+S"},
+        RecoverMenu(state),
         Separator("BreakLine1", !state.recentMenu.empty()),
     };
     for (int i = 0; i < kRecentEntries; ++i) entries.push_back(RecentEntry(state, i));
+    for (std::size_t i = 0; i < KeptWork::kMost; ++i) entries.push_back(RecoverEntry(state, i));
     const std::vector<MenuEntry> others = {
         Separator("BreakLine2", true),
         {"MenuFile", "MenuFileExit", "E&xit", false, "Ctrl+Q"},

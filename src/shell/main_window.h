@@ -22,6 +22,7 @@ struct MenuEntry {
     bool visible = true;
     std::string toolTip = {};
     bool enabled = true;
+    bool opensMenu = false;  // it opens a menu of its own, which goes by its name
 
     [[nodiscard]] bool IsSeparator() const { return caption.empty(); }
 };
@@ -39,6 +40,10 @@ struct UndoNames {
     const std::string* undo = nullptr;
     const std::string* redo = nullptr;
 };
+
+/// The entry of a project that is kept aside, counted from 0 in the order of ProcessState::keptWork; they
+/// stand in a menu of the menu File.
+inline constexpr const char* kRecoverEntry = "MenuFileRecover";
 
 /// The entries of all menus, with the unit system that is active checked and the recent projects by their
 /// position; always the same entries in the same order, of which some are not visible.

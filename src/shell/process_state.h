@@ -17,6 +17,7 @@
 #include "platform/host.h"
 #include "reports/run/report_desk.h"
 #include "shell/home.h"
+#include "shell/kept_work.h"
 #include "store/project_store.h"
 #include "units/units.h"
 
@@ -57,14 +58,22 @@ struct ProcessState {
 
     std::string sIniFile;
     std::unordered_map<std::string, int, NameHash, NameEqual>
-        changes;               // by variable: the event that changed it last, counted
-    int saves = 0;             // counts the projects that were written to a file
-    int projects = 0;          // counts them: each New and each Open is another one
-    std::string sProjectFile;  // full path of the open project; empty for an unnamed one
-    std::string caption;       // of the main window
+        changes;                            // by variable: the event that changed it last, counted
+    int saves = 0;                          // counts the projects that were written to a file
+    int projects = 0;                       // counts them: each New and each Open is another one
+    std::string sProjectFile;               // full path of the open project; empty for an unnamed one
+    std::optional<std::size_t> fileDigest;  // of what that file held when it was opened or saved
+    std::string caption;                    // of the main window
     bool bProjectChanged = false;
+    bool crashedBefore =
+        false;  // the start found unsaved work of a crashed program, now the first of keptWork
+    bool unsavedNoted = false;  // a note beside the work copy says that it holds unsaved changes
+    std::string proposedPath;   // of a recovered project: the path that it had, for Save As
+    Path recoveredFrom;         // of a recovered project: where it is kept
     bool bReportsUnavailable = false;
     std::vector<RecentMenuItem> recentMenu;  // what the menu shows; the table is read when it changes
+
+    std::vector<KeptProject> keptWork;  // dropped work, newest first; read when it changes
 
     ReliabilityState reliability;
     FormValues formValues;

@@ -24,6 +24,7 @@
 #include "shell/hub/hub.h"
 #include "shell/project_files.h"
 #include "shell/recent_files.h"
+#include "shell/recovery.h"
 #include "traffic/screens/traffic_forms.h"
 
 namespace kelvor {
@@ -49,6 +50,10 @@ Program::Program(Host host, Home home) : state_(host, std::move(home)) {
     state_.formRegistry.Declare(SectionForms());
 }
 
+Program::~Program() {
+    if (!stopped_) Recovery(state_).DropNote();
+}
+
 StartResult Program::Start(const std::string& commandLine) {
     const StartResult result = Main(state_, commandLine);
     RebuildRecentMenu(state_);
@@ -59,6 +64,7 @@ StartResult Program::Start(const std::string& commandLine) {
 #endif
     InEvent([&] {
         ShowHub();
+        if (state_.crashedBefore) OfferCrashedWork(commandLine.empty());
         return true;
     });
     return result;
@@ -99,9 +105,11 @@ bool Program::InEvent(const std::function<bool()>& action) {
         EndOfEvent();
         const std::vector<CellChange> changes = state_.dbWork.EventChanges();
         if (!changes.empty()) state_.NoteChanges(changes);
+        Recovery(state_).NoteUnsavedWork();
         if (!std::exchange(travelled_, false)) history_.Record(state_, event, changes);
         return made;
     } catch (const ProgramStop&) {
+        stopped_ = true;
         throw;
     } catch (const std::exception& fault) {
         event.Undo();
@@ -248,6 +256,13 @@ bool Program::SwitchTab(int tab) {
         EnterHubTab(context, *hub, static_cast<HubTab>(tab));
     }
     return true;
+}
+
+void Program::BringToDisk() {
+    if (running_) return;
+    Recovery(state_).RenewNote();
+    state_.dbWork.BeginEvent();
+    state_.dbWork.EndEvent();
 }
 
 // --- Undo -----------------------------------------------------------------------------------------------

@@ -23,6 +23,12 @@ namespace kelvor {
 class Program {
   public:
     Program(Host host, Home home);
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    /// An end in good order, but after a ProgramStop: what was not saved can then be had back at the next
+    /// start.
+    ~Program();
 
     StartResult Start(const std::string& commandLine);
 
@@ -50,6 +56,13 @@ class Program {
     bool OpenProject(const std::string& path);
     bool Save();
     bool SaveAs(const std::string& name);
+
+    /// File > Recover: opens what is kept aside, by its place from 0.
+    bool Recover(int place);
+
+    /// Brings the work copy to the disk, which takes some milliseconds. For a front end in which a person
+    /// works, at least once a minute.
+    void BringToDisk();
 
     /// The Edit menu: drops what is being typed, or else takes the last step back; does it again. What that
     /// was, as in "change of Reliability"; nothing if there is nothing to undo or redo.
@@ -93,6 +106,8 @@ class Program {
     bool LeaveProject();
     bool MakeNewProject();
     void OpenProjectByDialog();
+    bool OpenKeptWork(int place);
+    void OfferCrashedWork(bool toOpen);
     void SaveByMenu(bool underNewName);
     bool OpenFile(const std::string& path);
     void OpenRecentFile(int position);
@@ -111,6 +126,7 @@ class Program {
     bool travelled_ = false;  // the event under way undoes or redoes: it is no step itself
     bool running_ = false;
     bool ended_ = false;
+    bool stopped_ = false;  // by a ProgramStop
 };
 
 }  // namespace kelvor

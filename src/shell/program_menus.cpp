@@ -12,6 +12,7 @@
 #include "shell/program.h"
 #include "shell/project_files.h"
 #include "shell/recent_files.h"
+#include "shell/recovery.h"
 
 namespace kelvor {
 
@@ -24,7 +25,7 @@ bool Program::ChooseMenu(const std::string& name, int index) {
     const std::vector<MenuEntry> entries = Menus();
     const auto entry = std::find_if(entries.begin(), entries.end(), [&](const MenuEntry& e) {
         return e.name == name && e.visible && !e.IsSeparator() &&
-               (e.index == index || name != "mnuRecentFile");
+               (e.index == index || (name != "mnuRecentFile" && name != kRecoverEntry));
     });
     if (entry == entries.end()) return false;
     if (entry->comesLater || !entry->enabled) return true;
@@ -34,6 +35,7 @@ bool Program::ChooseMenu(const std::string& name, int index) {
         {"MenuFilePrint", [&] { PrintReport(); }},
         {"MenuFileSave", [&] { SaveByMenu(false); }},
         {"MenuFileSaveAs", [&] { SaveByMenu(true); }},
+        {kRecoverEntry, [&] { OpenKeptWork(index); }},
         {"mnuRecentFile", [&] { OpenRecentFile(index); }},
         {kExit, [&] { Exit(); }},
         {"MenuEditUndo", [&] { UndoLast(); }},
@@ -144,6 +146,34 @@ void Program::OpenRecentFile(int position) {
     } else {
         OpenFile(path);
     }
+}
+
+bool Program::Recover(int place) {
+    return InEvent([&] { return OpenKeptWork(place); });
+}
+
+bool Program::OpenKeptWork(int place) {
+    if (!LeaveProject()) return false;
+    const bool opened = ProjectFiles(state_).RecoverProject(place);
+    ShowHub();
+    return opened;
+}
+
+/// Says that the program before this one crashed. Its work is opened if the user wants it, unless the start
+/// was to open another project.
+void Program::OfferCrashedWork(bool toOpen) {
+    const std::string said =
+        "Kelvor did not end properly the last time. What was not saved has been kept:\n\n" +
+        Describe(state_.keptWork.front());
+    if (!toOpen) {
+        state_.host.dialogs.ShowMessage({.text = said + "\n\nFile > Recover opens it."});
+        return;
+    }
+    const Answer answer = state_.host.dialogs.ShowMessage(
+        {.text = said + "\n\nDo you want to open it now? File > Recover opens it later.",
+         .style = MessageStyle::YesNo,
+         .icon = MessageIcon::Question});
+    if (answer == Answer::Yes) OpenKeptWork(0);
 }
 
 bool Program::Save() {

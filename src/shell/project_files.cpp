@@ -2,10 +2,14 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <functional>
+#include <optional>
 
 #include "platform/database_error.h"
+#include "platform/ini_file.h"
 #include "platform/replace_file.h"
 #include "shell/recent_files.h"
+#include "shell/recovery.h"
 
 namespace kelvor {
 
@@ -31,6 +35,8 @@ std::string FullPath(const std::string& path) {
     return (same && !error ? plain : full).string();
 }
 
+std::size_t DigestOf(const std::string& content) { return std::hash<std::string>{}(content); }
+
 }  // namespace
 
 // --- The work copy ---------------------------------------------------------------------------------
@@ -54,6 +60,9 @@ bool ProjectFiles::CloseWorkCopyQuietly() {
 
 void ProjectFiles::WriteWorkCopy(const std::string& content) {
     const Path file = state_.home.WorkCopyFile();
+    Recovery(state_).DropNote();
+    state_.proposedPath.clear();
+    state_.recoveredFrom.clear();
     // What an earlier run left behind goes first, or a link in its place; above all its journal, by which
     // SQLite would roll the new work copy back.
     for (const char* ending : {"-journal", "-wal", "-shm", ""}) {
@@ -88,32 +97,54 @@ bool ProjectFiles::NewWorkCopy() {
     return false;
 }
 
-void ProjectFiles::DiscardWorkCopy(const std::string& path) {
-    state_.dbWork.SetVar("MetricMode", state_.units->bMetric() ? kMetricMode : 0.0);
-    const bool whole = CloseWorkCopyQuietly();
-    const Path workCopy = state_.home.WorkCopyFile();
+/// Closes the work copy; what no file has is kept aside. False, with its message and the project open, if it
+/// cannot be.
+bool ProjectFiles::KeepAside() {
+    Recovery recovery(state_);
+    const std::optional<KeptProject> unsaved = recovery.UnsavedWork();
+    if (!unsaved) return CloseWorkCopyQuietly(), true;
     try {
-        // A work copy that lacks changes is no reason to put the former file away.
-        if (!path.empty() && whole) {
-            ReplaceFile(state_.host.files, path, state_.host.files.Read(workCopy, kLargestProject));
-        }
-    } catch (const FileError&) {  // NOLINT(bugprone-empty-catch): New asks and tells nothing
+        state_.dbWork.SetVar("MetricMode", state_.units->bMetric() ? kMetricMode : 0.0);
+        state_.dbWork.Close();
+        recovery.Keep(*unsaved);
+        return true;
+    } catch (const std::exception& failure) {
+        Report(std::string("What is open could not be kept aside: ") + failure.what() +
+               ".\n\nPlease save it first.");
     }
+    if (!state_.dbWork.IsOpen()) ReopenUnsaved();
+    return false;
+}
+
+/// Puts the project away over its file. False if that has not all of it now.
+bool ProjectFiles::StoreOver(const std::string& path) {
     try {
-        state_.host.files.Remove(workCopy);
+        if (!MayOverwrite(path)) return false;
+        state_.dbWork.SetVar("MetricMode", state_.units->bMetric() ? kMetricMode : 0.0);
+        state_.dbWork.Close();
+        Overwrite(path);
+        return true;
+    } catch (const std::exception&) {  // New asks and tells nothing
+        if (!state_.dbWork.IsOpen()) ReopenUnsaved();
+        return false;
+    }
+}
+
+bool ProjectFiles::DiscardWorkCopy(const std::string& path) {
+    if ((path.empty() || !StoreOver(path)) && !KeepAside()) return false;
+    try {
+        state_.host.files.Remove(state_.home.WorkCopyFile());
     } catch (const FileError&) {  // NOLINT(bugprone-empty-catch): the next one replaces it
     }
     state_.sProjectFile.clear();
+    return true;
 }
 
 // --- New and Open ----------------------------------------------------------------------------------
 
 bool ProjectFiles::NewProject() {
-    if (state_.dbWork.IsOpen()) {
-        DiscardWorkCopy(state_.sProjectFile);
-    } else {
-        state_.sProjectFile.clear();
-    }
+    if (state_.dbWork.IsOpen() && !DiscardWorkCopy(state_.sProjectFile)) return true;
+    state_.sProjectFile.clear();
     return NewWorkCopy();
 }
 
@@ -139,13 +170,15 @@ std::string ProjectFiles::ReadProject(const std::string& path) const {
 }
 
 bool ProjectFiles::LoadProject(const std::string& path) {
-    CloseWorkCopyQuietly();
+    if (!KeepAside()) return false;
     const std::string failed = "Error loading from " + path + ": ";
     try {
         if (IsWorkCopy(path)) throw FileError("it is the program's own work copy");
-        WriteWorkCopy(ReadProject(path));
+        const std::string content = ReadProject(path);
+        WriteWorkCopy(content);
         OpenWorkCopy(true);
         NameProject(path);
+        state_.fileDigest = DigestOf(content);
         RemoveLeftovers(state_.host.files, path);
         return true;
     } catch (const FileError& failure) {
@@ -162,9 +195,34 @@ bool ProjectFiles::OpenProjectDialog() {
     request.places = {state_.home.ProjectsFolder(), state_.home.SamplesFolder()};
     const auto chosen = state_.host.dialogs.AskFile(request);
     if (chosen) return OpenProject(chosen->string());
-    if (state_.dbWork.IsOpen()) DiscardWorkCopy("");
+    if (state_.dbWork.IsOpen() && !DiscardWorkCopy("")) return false;
     state_.sProjectFile.clear();
     return NewWorkCopy();
+}
+
+bool ProjectFiles::RecoverProject(int place) {
+    if (place < 0 || static_cast<std::size_t>(place) >= state_.keptWork.size()) return false;
+    const KeptProject kept = state_.keptWork[static_cast<std::size_t>(place)];
+    try {
+        // Read first: what is kept aside now may push it out.
+        const std::string content = state_.host.files.Read(kept.file, kLargestProject);
+        if (!KeepAside()) return false;
+        BecomeRecovered(kept, content);
+        return true;
+    } catch (const std::exception& failure) {
+        Report("Error loading from " + kept.file.string() + ": " + failure.what());
+        return false;
+    }
+}
+
+void ProjectFiles::BecomeRecovered(const KeptProject& kept, const std::string& content) {
+    WriteWorkCopy(content);
+    OpenWorkCopy(true);
+    state_.sProjectFile.clear();
+    state_.caption = "KVR - <unnamed project>";
+    state_.proposedPath = kept.formerPath;
+    state_.recoveredFrom = kept.file;
+    state_.bProjectChanged = true;  // no project file has it
 }
 
 // --- Save ------------------------------------------------------------------------------------------
@@ -175,6 +233,7 @@ bool ProjectFiles::SaveProject(const std::string& path) {
         Report(failed + "no project is open");
         return false;
     }
+    if (!MayOverwrite(path)) return false;
     state_.dbWork.SetVar("MetricMode", state_.units->bMetric() ? kMetricMode : 0.0);
     try {
         state_.dbWork.Close();
@@ -184,11 +243,10 @@ bool ProjectFiles::SaveProject(const std::string& path) {
     }
     try {
         if (IsWorkCopy(path)) throw FileError("it is the program's own work copy");
-        ReplaceFile(state_.host.files, path,
-                    state_.host.files.Read(state_.home.WorkCopyFile(), kLargestProject));
+        Overwrite(path);
     } catch (const std::exception& failure) {  // whatever it is: the work copy is opened again
         Report(failed + failure.what());
-        ReopenAfterFailedSave();
+        ReopenUnsaved();
         return false;
     }
     AddRecentFile(state_, FullPath(path));
@@ -203,7 +261,51 @@ bool ProjectFiles::SaveProject(const std::string& path) {
     return true;
 }
 
-void ProjectFiles::ReopenAfterFailedSave() {
+/// Asks before a file is replaced that another program has changed since it was opened or saved here.
+bool ProjectFiles::MayOverwrite(const std::string& path) {
+    if (!state_.home.attended || !state_.fileDigest || FullPath(path) != state_.sProjectFile) return true;
+    try {
+        if (DigestOf(state_.host.files.Read(path, kLargestProject)) == *state_.fileDigest) return true;
+    } catch (const FileTooLarge&) {  // NOLINT(bugprone-empty-catch): it was no such file before
+    } catch (const FileError&) {
+        return true;  // it is gone, or the save will tell why it cannot be replaced
+    }
+    const Answer answer = state_.host.dialogs.ShowMessage(
+        {.text = path + " was changed by another program since it was opened. Do you want to replace it?",
+         .style = MessageStyle::YesNo,
+         .icon = MessageIcon::Warning});
+    return answer == Answer::Yes;
+}
+
+/// The file as it was before a save, beside it, readable by those who could read it. A failure costs the
+/// former version alone.
+void ProjectFiles::KeepFormerVersion(const std::string& path, const std::string& content) {
+    FileSystem& files = state_.host.files;
+    if (!state_.home.attended || files.Kind(path) != FileKind::Regular) return;
+    if (ReadIni(files, "kvor", "KeepFormerVersion", state_.sIniFile) == "0") return;
+    try {
+        const std::string former = files.Read(path, kLargestProject);
+        if (former == content) return;
+        const Path backup = path + "~";
+        if (files.Kind(backup) == FileKind::Missing) {
+            (void)files.WriteNew(backup, {}, FileAccess::Private);
+            files.CopyPermissions(path, backup);
+        }
+        ReplaceFile(files, backup, former);
+    } catch (const FileError&) {  // NOLINT(bugprone-empty-catch): the save matters more
+    }
+}
+
+/// Puts the closed work copy in a file's place.
+void ProjectFiles::Overwrite(const std::string& path) {
+    const std::string content = state_.host.files.Read(state_.home.WorkCopyFile(), kLargestProject);
+    KeepFormerVersion(path, content);
+    ReplaceFile(state_.host.files, path, content);
+    state_.fileDigest = DigestOf(content);
+}
+
+/// The work copy again, as it was before it was closed to no effect.
+void ProjectFiles::ReopenUnsaved() {
     const bool changed = state_.bProjectChanged;
     try {
         OpenWorkCopy(false);
@@ -221,9 +323,17 @@ bool ProjectFiles::SaveProjectAs() {
     MakeProjectsFolder();  // the dialog starts there
     FileRequest request{FileRequest::Kind::Save, state_.home.ProjectsFolder(), kSaveFilter,
                         std::string(kExtension.substr(1))};
-    request.suggested = state_.sProjectFile;
+    request.suggested = SuggestedPath();
     const auto chosen = state_.host.dialogs.AskFile(request);
     return chosen && SaveProjectAs(chosen->string());
+}
+
+/// The file that is open, or of a recovered project its former one: by its name alone where its folder is gone.
+Path ProjectFiles::SuggestedPath() const {
+    const Path former = state_.proposedPath;
+    if (former.empty()) return state_.sProjectFile;
+    if (state_.host.files.Kind(former.parent_path()) == FileKind::Directory) return former;
+    return state_.home.ProjectsFolder() / former.filename();
 }
 
 bool ProjectFiles::SaveProjectAs(const std::string& name) {
@@ -254,6 +364,8 @@ void ProjectFiles::Unname() {
 
 void ProjectFiles::NameProject(const std::string& path) {
     state_.sProjectFile = FullPath(path);
+    state_.proposedPath.clear();
+    state_.recoveredFrom.clear();
     state_.caption = "KVR - " + state_.sProjectFile;
 }
 

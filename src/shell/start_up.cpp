@@ -8,6 +8,7 @@
 #include "platform/text.h"
 #include "shell/project_files.h"
 #include "shell/recent_files.h"
+#include "shell/recovery.h"
 
 namespace kelvor {
 
@@ -123,6 +124,21 @@ bool LockWorkCopy(ProcessState& state) {
     return false;
 }
 
+/// False, with its message, if what a crash has left would be lost by going on.
+bool KeepCrashedWork(ProcessState& state) {
+    Recovery recovery(state);
+    try {
+        recovery.ListKeptWork();
+        state.crashedBefore = recovery.KeepCrashedWork() && !state.keptWork.empty();
+        return true;
+    } catch (const FileError& failure) {
+        state.host.dialogs.ShowMessage(
+            {.text = "Kelvor did not end properly the last time, and what it left in " +
+                     state.home.WorkCopyFile().string() + " could not be kept aside: " + failure.what()});
+        return false;
+    }
+}
+
 StartResult OpenFirstProject(ProcessState& state, std::string command) {
     ProjectFiles files(state);
     if (command.empty()) return files.NewWorkCopy() ? StartResult::Running : StartResult::Stopped;
@@ -146,7 +162,7 @@ StartResult RunStart(ProcessState& state, const std::string& commandLine) {
                                     "        Press 'OK' to shut down the application.",
                             .title = "Problem"});
     }
-    if (!OpenDatabases(state) || !LockWorkCopy(state)) return StartResult::Stopped;
+    if (!OpenDatabases(state) || !LockWorkCopy(state) || !KeepCrashedWork(state)) return StartResult::Stopped;
     return OpenFirstProject(state, std::string(TrimBlanks(commandLine)));
 }
 

@@ -295,6 +295,7 @@ void ProjectStore::EndEvent() {
             MarkUnwritten();
         }
     }
+    if (IsOpen()) workCopy_->FlushIfDue();
     formers_.clear();
 }
 

@@ -16,6 +16,8 @@ const char* const kProjectTable =
 
 namespace {
 
+constexpr std::chrono::seconds kTimeBetweenFlushes{30};
+
 const char* const kUpdate =
     "UPDATE Project SET RValue = ?1, SValue = ?2 WHERE Name = ?3 AND Dim1 = ?4 AND Dim2 = ?5";
 
@@ -156,12 +158,30 @@ void WorkCopy::Update(std::string_view name, int dim1, int dim2, const CellValue
     });
 }
 
+void WorkCopy::FlushIfDue() noexcept {
+    if (flushed_) return;
+    const SteadyTime now = std::chrono::steady_clock::now();
+    if (now - flushTime_ < kTimeBetweenFlushes) return;
+    flushTime_ = now;
+    flushed_ = Flush();
+}
+
+bool WorkCopy::Flush() noexcept {
+    // By the database's own file: another one's closing would give up its lock.
+    sqlite3_file* file = nullptr;
+    sqlite3_file_control(database_->getHandle(), "main", SQLITE_FCNTL_FILE_POINTER,
+                         static_cast<void*>(&file));
+    if (file == nullptr || file->pMethods == nullptr) return false;
+    return file->pMethods->xSync(file, SQLITE_SYNC_NORMAL) == SQLITE_OK;
+}
+
 void WorkCopy::Begin() {
     Run([&] { database_->exec("BEGIN IMMEDIATE"); });
 }
 
 void WorkCopy::Commit() {
     Run([&] { database_->exec("COMMIT"); });
+    flushed_ = false;
 }
 
 bool WorkCopy::Rollback() noexcept {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <functional>
 #include <memory>
@@ -66,6 +67,11 @@ class WorkCopy {
 
     void Update(std::string_view name, int dim1, int dim2, const CellValue& value);
 
+    /// Waits until all that was committed is on the disk, if the last time was half a minute ago or more. Due
+    /// at the end of each event, and now and then without one: so a power cut costs a minute of work at most.
+    /// A failure is tried again the next time.
+    void FlushIfDue() noexcept;
+
     void Begin();
     void Commit();
 
@@ -73,11 +79,16 @@ class WorkCopy {
     bool Rollback() noexcept;
 
   private:
+    using SteadyTime = std::chrono::steady_clock::time_point;
+
+    [[nodiscard]] bool Flush() noexcept;
     void ReadRowsThat(const std::string& condition, const std::function<void(const Row&)>& visit);
 
     std::unique_ptr<SQLite::Database> database_;
     int version_ = kProjectVersion;
     std::unique_ptr<SQLite::Statement> update_;
+    bool flushed_ = true;  // what was committed last is on the disk
+    SteadyTime flushTime_ = std::chrono::steady_clock::now();
 };
 
 }  // namespace kelvor

@@ -135,7 +135,13 @@ std::optional<std::string> WindowDriver::ChooseStep(const std::string& name) {
 void WindowDriver::ClickEntry(QMenu& menu, QAction& entry) {
     QMenuBar* bar = desktop_.window().menuBar();
     if (!bar->isEnabled()) return;  // a form in front keeps it off
-    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(menu.menuAction()).center());
+    auto* outer = qobject_cast<QMenu*>(menu.parent());
+    QMenu& first = outer == nullptr ? menu : *outer;
+    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(first.menuAction()).center());
+    if (outer != nullptr) {
+        QTest::mouseClick(outer, Qt::LeftButton, {}, outer->actionGeometry(menu.menuAction()).center());
+        QApplication::processEvents();
+    }
     const bool enabled = entry.isEnabled();
     QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(&entry).center());
     if (!enabled) QTest::keyClick(&menu, Qt::Key_Escape);

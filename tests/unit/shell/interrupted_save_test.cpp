@@ -71,6 +71,7 @@ class InterruptedSaveTest : public testing::Test {
     void Restore() {
         for (const std::string& name : NamesIn(folder_.path())) std::filesystem::remove(folder_ / name);
         WriteFile(Project(), old_);
+        std::filesystem::remove_all(home_ / "Kept");  // each start then takes the same operations
     }
 
     /// Opens the project and enters the new value.
@@ -160,10 +161,14 @@ class InterruptedSaveTest : public testing::Test {
         TestHost host;
         Program program(host.host(), home_.home());
         EXPECT_EQ(program.Start(path), StartResult::Running);
-        EXPECT_THAT(host.record.TakeTexts(), IsEmpty());
+        // After a kill the work that was not saved has been kept, and that is said.
+        EXPECT_THAT(host.record.TakeTexts(), SizeIs(program.state().keptWork.empty() ? 0 : 1));
+        for (const KeptProject& kept : program.state().keptWork)
+            EXPECT_EQ(NumberInFile(kept.file, "SN"), 5.5);
         EXPECT_EQ(program.state().dbWork.GetVar("SN"), value);
     }
 
+    NativeFileSystem native_;
     SmallHome home_;
     TemporaryFolder folder_;
     std::string old_;
@@ -192,8 +197,9 @@ TEST_F(InterruptedSaveTest, AFailureAtAnyFileOperationLeavesTheOldOrTheNewFileWh
             for (const std::size_t bytes : {std::size_t{0}, std::size_t{1}, new_.size() / 2, new_.size()}) {
                 SCOPED_TRACE(testing::Message() << save.what << ", operation " << operation - range.first
                                                 << ", bytes written " << bytes);
-                // Behind the renaming the new file is in place.
-                FailAt(save, operation, bytes, operation == range.end - 1);
+                // Behind the renaming the new file is in place: the folder is flushed, and the note of
+                // unsaved work goes.
+                FailAt(save, operation, bytes, operation >= range.end - 2);
             }
         }
     }
@@ -324,6 +330,7 @@ TEST_F(InterruptedSaveTest, AFailureAtAnyFileOperationOfNewGivesAFreshProjectOrN
     {
         FaultyProgram program(home_, {});
         ASSERT_EQ(program->Start(""), StartResult::Running);
+        program->SetValue("SN", 1, 1, kNew);
         range.first = program.operations();
         ASSERT_TRUE(program->NewProject());
         range.end = program.operations();
@@ -331,6 +338,7 @@ TEST_F(InterruptedSaveTest, AFailureAtAnyFileOperationOfNewGivesAFreshProjectOrN
     int failures = 0;
     for (int operation = range.first; operation < range.end; ++operation) {
         SCOPED_TRACE(operation - range.first);
+        Restore();
         FaultyProgram program(home_, {operation, 5000, false});
         ASSERT_EQ(program->Start(""), StartResult::Running);
         program->SetValue("SN", 1, 1, kNew);
@@ -338,6 +346,9 @@ TEST_F(InterruptedSaveTest, AFailureAtAnyFileOperationOfNewGivesAFreshProjectOrN
         EXPECT_EQ(program->state().dbWork.IsOpen(), made);
         EXPECT_THAT(program.Messages(), SizeIs(made ? 0 : 1));
         EXPECT_EQ(program->state().sProjectFile, "");
+        const std::vector<KeptProject> kept = KeptWork(native_, home_ / "Kept").List();
+        ASSERT_THAT(kept, SizeIs(1)) << "what New dropped is lost";
+        EXPECT_EQ(NumberInFile(kept[0].file, "SN"), 5.5);
         failures += made ? 0 : 1;
         EXPECT_TRUE(program->NewProject());
         EXPECT_EQ(program->state().dbWork.GetVar("SN"), 0.0);

@@ -309,8 +309,14 @@ TEST_F(ProjectFilesTest, NewPutsNoWorkCopyThatLacksChangesOverAFile) {
     std::filesystem::create_directory(program_.home / "kvrwork.tmp-journal");
     Enter("SN", "4.5");
     EXPECT_TRUE(Run().NewProject());
-    EXPECT_THAT(Messages(), IsEmpty());
     EXPECT_EQ(ReadFile(File("plan.kvr")), saved);
+    // Neither the file nor the work copy has the change, so that it stays open.
+    EXPECT_THAT(Messages(), ElementsAre("What is open could not be kept aside: unable to open database "
+                                        "file.\n\nPlease save it first."));
+    EXPECT_EQ(Get("SN"), 4.5);
+    std::filesystem::remove(program_.home / "kvrwork.tmp-journal");
+    EXPECT_TRUE(Run().NewProject());
+    EXPECT_EQ(NumberInFile(File("plan.kvr"), "SN"), 4.5);
     EXPECT_EQ(Get("SN"), 0.0);
 }
 

@@ -228,7 +228,8 @@ TEST_F(ProjectRejectionTest, AProgramThatEndsAfterARefusalLeavesTheFormerFileAnd
         EXPECT_EQ(ReadFile(File("good.kvr")), good_);
         std::vector<std::string> names = NamesIn(home.path());
         std::erase(names, "kvrwork.tmp");  // not there if the file could not even be read
-        EXPECT_THAT(names, ElementsAre("DataBase", "Reports", "kvor.ini", "kvrwork.tpl"));
+        // What the opening dropped is kept aside.
+        EXPECT_THAT(names, ElementsAre("DataBase", "Kept", "Reports", "kvor.ini", "kvrwork.tpl"));
     }
 }
 

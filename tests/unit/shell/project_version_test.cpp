@@ -16,7 +16,7 @@ TEST_F(ProjectVersionOfFilesTest, AProjectOfANewerVersionIsRefusedAndStaysAsItIs
     ASSERT_TRUE(Run().SaveAs(file));
     RunSql(file, "PRAGMA user_version = 2");
     const std::string before = ReadFile(file);
-    Messages();
+    (void)Messages();
     EXPECT_FALSE(Run().OpenProject(file));
     EXPECT_THAT(Messages(), ElementsAre(StartsWith("Error loading from " + file +
                                                    ": it was saved by a newer version of Kelvor")));

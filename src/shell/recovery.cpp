@@ -1,0 +1,167 @@
+#include "shell/recovery.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "platform/database_error.h"
+#include "shell/overview.h"
+
+namespace kelvor {
+
+namespace {
+
+constexpr std::size_t kLargestProject = 64UL * 1024UL * 1024UL;
+constexpr std::size_t kLongestNote = 64UL * 1024UL;
+
+/// Once more if it failed: what goes wrong in a while, like a full disk, may not go wrong at once again.
+template <typename Action>
+void TryTwice(const Action& action) {
+    try {
+        action();
+    } catch (const FileError&) {
+        action();
+    }
+}
+
+std::string ResultText(const OverviewResult& result) {
+    return result.unit.empty() ? result.text : result.text + " " + result.unit;
+}
+
+std::string LineText(const OverviewLine& line) {
+    std::string results;
+    for (const OverviewResult& result : line.results) {
+        if (result.text.empty()) continue;
+        results += (results.empty() ? ": " : ", ") + ResultText(result);
+    }
+    return line.title + results;
+}
+
+}  // namespace
+
+std::string ContentsOf(ProcessState& state) {
+    std::string contents;
+    for (const OverviewLine& line : MakeOverview(state)) {
+        contents += (contents.empty() ? "" : "; ") + LineText(line);
+    }
+    std::replace(contents.begin(), contents.end(), '\n', ' ');
+    return contents.empty() ? "no design yet" : contents;
+}
+
+std::string Describe(const KeptProject& kept) {
+    const std::string name =
+        kept.formerPath.empty() ? "unnamed project" : Path(kept.formerPath).filename().string();
+    return LocalMinute(kept.date) + ", " + name + (kept.contents.empty() ? "" : ": " + kept.contents);
+}
+
+// --- The note ------------------------------------------------------------------------------------------
+
+std::string Recovery::FormerPath() const {
+    return state_.sProjectFile.empty() ? state_.proposedPath : state_.sProjectFile;
+}
+
+void Recovery::NoteUnsavedWork() {
+    const bool unsaved = state_.bProjectChanged && state_.dbWork.IsOpen();
+    if (unsaved == state_.unsavedNoted) return;
+    if (!unsaved) return DropNote();
+    if (!state_.home.KeepsDroppedWork() || state_.workLock == nullptr) return;
+    const Path note = state_.home.UnsavedNoteFile();
+    try {
+        state_.host.files.Remove(note);  // rather than write through a link in its place
+        state_.host.files.Write(note, state_.host.clock.Timestamp() + "\n" + FormerPath());
+        state_.unsavedNoted = true;
+    } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch): tried again
+    }
+}
+
+void Recovery::RenewNote() {
+    if (!state_.unsavedNoted || !state_.dbWork.IsOpen()) return;
+    state_.unsavedNoted = false;
+    NoteUnsavedWork();
+    try {
+        if (state_.unsavedNoted) state_.host.files.Flush(state_.home.UnsavedNoteFile());
+    } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch): tried again
+    }
+}
+
+void Recovery::DropNote() {
+    if (!state_.unsavedNoted) return;
+    try {
+        state_.host.files.Remove(state_.home.UnsavedNoteFile());
+        state_.unsavedNoted = false;
+    } catch (const FileError&) {  // NOLINT(bugprone-empty-catch): tried again
+    }
+}
+
+KeptProject Recovery::ReadNote() const {
+    std::string note;
+    try {
+        note = state_.host.files.Read(state_.home.UnsavedNoteFile(), kLongestNote);
+    } catch (const FileError&) {  // NOLINT(bugprone-empty-catch): the work copy is what counts
+    }
+    const std::size_t line = std::min(note.find('\n'), note.size());
+    KeptProject about{{}, note.substr(0, line), {}, {}};
+    if (line < note.size()) about.formerPath = note.substr(line + 1);
+    if (LocalMinute(about.date) == about.date) about.date = state_.host.clock.Timestamp();  // it is none
+    return about;
+}
+
+// --- Keeping -------------------------------------------------------------------------------------------
+
+std::optional<KeptProject> Recovery::UnsavedWork() {
+    if (!state_.home.KeepsDroppedWork() || !state_.dbWork.IsOpen() || !state_.bProjectChanged)
+        return std::nullopt;
+    return KeptProject{state_.recoveredFrom, state_.host.clock.Timestamp(), FormerPath(), ContentsOf(state_)};
+}
+
+/// True of work that was recovered and left as it was.
+bool Recovery::IsAlreadyKept(const KeptProject& about) const {
+    if (about.file.empty()) return false;
+    try {
+        const FileSystem& files = state_.host.files;
+        return files.Read(about.file, kLargestProject) ==
+               files.Read(state_.home.WorkCopyFile(), kLargestProject);
+    } catch (const FileError&) {
+        return false;
+    }
+}
+
+void Recovery::Keep(const KeptProject& about) {
+    if (IsAlreadyKept(about)) return;
+    TryTwice([&] {
+        KeptWork(state_.host.files, state_.home.KeptFolder()).Take(state_.home.WorkCopyFile(), about);
+    });
+    ListKeptWork();
+}
+
+std::string Recovery::ContentsOfCrashedWork() {
+    try {
+        state_.dbWork.Open(state_.home.WorkCopyFile(), state_.projectBounds, true);
+        const std::string contents = ContentsOf(state_);
+        state_.dbWork.Close();
+        return contents;
+    } catch (const DatabaseError& failure) {
+        state_.dbWork.Abandon();
+        return std::string("cannot be read: ") + failure.what();
+    }
+}
+
+bool Recovery::KeepCrashedWork() {
+    if (!state_.home.KeepsDroppedWork()) return false;
+    if (state_.host.files.Kind(state_.home.UnsavedNoteFile()) == FileKind::Missing) return false;
+    const bool left = state_.host.files.Kind(state_.home.WorkCopyFile()) != FileKind::Missing;
+    if (left) {
+        KeptProject about = ReadNote();
+        about.contents = ContentsOfCrashedWork();
+        Keep(about);
+    }
+    state_.unsavedNoted = true;  // from now on the note is this program's to take away
+    return left;
+}
+
+void Recovery::ListKeptWork() {
+    state_.keptWork.clear();
+    if (!state_.home.KeepsDroppedWork()) return;
+    state_.keptWork = KeptWork(state_.host.files, state_.home.KeptFolder()).List();
+}
+
+}  // namespace kelvor
