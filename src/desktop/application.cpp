@@ -75,7 +75,7 @@ int RunDesktop(int argc, char** argv) {
     parser.setApplicationDescription(QStringLiteral("Pavement design by the 1993 AASHTO Guide"));
     parser.addHelpOption();
     const QCommandLineOption versionOption(
-        {QStringLiteral("v"), QStringLiteral("version")},
+        {QString(u'v'), QStringLiteral("version")},
         QStringLiteral("Tell version, commit and libraries, and do nothing else"));
     parser.addOption(versionOption);
     const QCommandLineOption homeOption(
