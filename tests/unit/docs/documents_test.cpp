@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/version.h"
 #include "support/test_home.h"
 
 namespace kelvor::test {
@@ -53,6 +54,21 @@ void ExpectShown(const std::string& sample, const std::vector<std::string>& regi
 TEST(ContributingPageTest, ShowsTheSamplesThatAreCompiled) {
     ExpectShown("docs/samples/add_a_calculation.cpp", {"calculation", "test"});
     ExpectShown("docs/samples/add_a_screen.cpp", {"screen", "test"});
+}
+
+/// What stands between two texts, the first time; empty if it does not.
+std::string Between(const std::string& page, const std::string& before, const std::string& after) {
+    const std::size_t begin = page.find(before);
+    if (begin == std::string::npos) return {};
+    const std::size_t start = begin + before.size();
+    return page.substr(start, page.find(after, start) - start);
+}
+
+TEST(VersionTest, WhatIsWrittenForUsersAndForThePackageIsOfTheVersionThatIsBuilt) {
+    const std::string version(ProgramVersion());
+    EXPECT_EQ(Between(ReadFile(kRoot / "CMakeLists.txt"), "project(Kelvor VERSION ", " "), version);
+    EXPECT_EQ(Between(ReadFile(kRoot / "docs/changes.md"), "\n## ", "\n"), version);
+    EXPECT_EQ(Between(ReadFile(kRoot / "debian/changelog"), "kelvor (", ")"), version);
 }
 
 }  // namespace
