@@ -21,6 +21,7 @@ int Stopped(const std::string& reason) {
 }
 
 int RunProgram(const Home& home, const std::string& project) {
+    if (HandOver(home, project)) return 0;
     DesktopProgram desktop(home);
     if (!desktop.Start(project)) return kStatusStopped;
     const int status = QApplication::exec();
@@ -37,6 +38,9 @@ bool DesktopProgram::Start(const std::string& project) {
     window_ = std::make_unique<MainWindow>(program_);
     dialogs_.SetParent(window_.get());
     window_->show();
+    handOver_ =
+        std::make_unique<HandOverBox>(program_.state().home.HandOverFile(),
+                                      [this](const std::string& path) { window_->OpenHandedOver(path); });
     return true;
 }
 

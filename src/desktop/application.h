@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "desktop/hand_over.h"
 #include "desktop/main_window.h"
 #include "desktop/qt_dialogs.h"
 #include "platform/clock.h"
@@ -35,6 +36,7 @@ class DesktopProgram {
     LinkedComponents components_;
     Program program_;
     std::unique_ptr<MainWindow> window_;
+    std::unique_ptr<HandOverBox> handOver_;
 };
 
 /// `kelvor [--home DIR] [PROJECT.kvr]`. Returns the exit status: 0 the user left, 1 the start failed or the

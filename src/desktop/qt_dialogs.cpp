@@ -1,9 +1,12 @@
 #include "desktop/qt_dialogs.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QUrl>
 
 #include "desktop/print_file.h"
 #include "desktop/qt_text.h"
@@ -85,6 +88,13 @@ QString QtFilter(const std::string& filter) {
     return kinds.join(";;");
 }
 
+/// The folders at the side of a dialog: those that are asked for, and the user's own.
+QList<QUrl> PlacesOf(const FileRequest& request) {
+    QList<QUrl> places;
+    for (const Path& place : request.places) places << QUrl::fromLocalFile(ToQt(place.string()));
+    return places << QUrl::fromLocalFile(QDir::homePath());
+}
+
 }  // namespace
 
 Answer QtDialogs::ShowMessage(const Message& message) {
@@ -117,6 +127,12 @@ std::optional<Path> QtDialogs::AskFile(const FileRequest& request) {
     dialog.setAcceptMode(opens ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(ToQt(request.suffix));
     dialog.setFileMode(opens ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    // The name alone: the folder stays, and nothing in it is selected.
+    auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    if (name != nullptr && !request.suggested.empty()) {
+        name->setText(ToQt(request.suggested.filename().string()));
+    }
+    if (!request.places.empty()) dialog.setSidebarUrls(PlacesOf(request));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     return Path(FromQt(dialog.selectedFiles().constFirst()));
 }
