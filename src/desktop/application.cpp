@@ -43,6 +43,7 @@ std::optional<Home> FindHome(const QString& named) {
 }
 
 int RunProgram(const Home& home, const std::string& project) {
+    if (HandOver(home, project)) return 0;
     DesktopProgram desktop(home);
     if (!desktop.Start(project)) return kStatusStopped;
     const int status = QApplication::exec();
@@ -62,6 +63,9 @@ bool DesktopProgram::Start(const std::string& project) {
     window_->show();
     QObject::connect(&disk_, &QTimer::timeout, window_.get(), [this] { program_.BringToDisk(); });
     disk_.start(kTimeBetweenFlushes);
+    handOver_ =
+        std::make_unique<HandOverBox>(program_.state().home.HandOverFile(),
+                                      [this](const std::string& path) { window_->OpenHandedOver(path); });
     return true;
 }
 
@@ -75,7 +79,7 @@ int RunDesktop(int argc, char** argv) {
     parser.setApplicationDescription(QStringLiteral("Pavement design by the 1993 AASHTO Guide"));
     parser.addHelpOption();
     const QCommandLineOption versionOption(
-        {QStringLiteral("v"), QStringLiteral("version")},
+        {QString(u'v'), QStringLiteral("version")},
         QStringLiteral("Tell version, commit and libraries, and do nothing else"));
     parser.addOption(versionOption);
     const QCommandLineOption homeOption(

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "desktop/hand_over.h"
 #include "desktop/main_window.h"
 #include "desktop/qt_dialogs.h"
 #include "platform/clock.h"
@@ -37,6 +38,7 @@ class DesktopProgram {
     Program program_;
     std::unique_ptr<MainWindow> window_;
     QTimer disk_;  // brings the work copy to the disk now and then, so that a power cut costs little
+    std::unique_ptr<HandOverBox> handOver_;
 };
 
 /// `kelvor [--home DIR] [PROJECT.kvr]`. Returns the exit status: 0 the user left, 1 the start failed or the

@@ -126,7 +126,8 @@ QWidget* MakeOption(QWidget* parent) {
 QWidget* MakeTabStrip(QWidget* parent) {
     auto* tabs = new QTabWidget(parent);
     tabs->setFocusPolicy(Qt::NoFocus);
-    tabs->tabBar()->setFocusPolicy(Qt::NoFocus);
+    tabs->tabBar()->setFocusPolicy(Qt::TabFocus);
+    tabs->tabBar()->setAccessibleName(QStringLiteral("Tabs"));
     tabs->setUsesScrollButtons(false);
     tabs->setElideMode(Qt::ElideNone);
     return tabs;

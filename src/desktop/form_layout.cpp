@@ -43,7 +43,7 @@ class LayoutMaker {
         } else {
             AddElement(*root, layout);
         }
-        AddFoot(*root);
+        AddFoot(*root, Grows({layout}));
     }
 
     [[nodiscard]] QTabWidget* tabs() const { return tabs_; }
@@ -57,6 +57,23 @@ class LayoutMaker {
         for (const LayoutElement& element : elements) AddElement(to, element);
     }
 
+    /// True if a table, a drawing or pages are among elements: these take the room that a user gives a form.
+    static bool Grows(const std::vector<LayoutElement>& elements) {
+        return std::any_of(elements.begin(), elements.end(), [](const LayoutElement& element) {
+            return std::visit([](const auto& kind) { return Grows(kind); }, element.kind);
+        });
+    }
+    static bool Grows(const layout::Grid& /*grid*/) { return true; }
+    static bool Grows(const layout::Chart& /*chart*/) { return true; }
+    static bool Grows(const layout::ReportView& /*pages*/) { return true; }
+    static bool Grows(const layout::Columns& columns) { return Grows(columns.elements); }
+    static bool Grows(const layout::Rows& rows) { return Grows(rows.elements); }
+    static bool Grows(const layout::Frame& frame) { return Grows(frame.elements); }
+    template <typename Other>
+    static bool Grows(const Other& /*element*/) {
+        return false;
+    }
+
     // --- Elements with others inside them -----------------------------------------------------------
 
     void Add(QBoxLayout& to, const layout::Pages& strip) {
@@ -68,7 +85,7 @@ class LayoutMaker {
             onPage_ = true;
             AddElements(*rows, declared.elements);
             onPage_ = false;
-            rows->addStretch(1);
+            if (!Grows(declared.elements)) rows->addStretch(1);
             const int index = tabs_->addTab(page, ToQt(declared.title).replace("&", "&&"));
             tabs_->setTabToolTip(index, QStringLiteral("Ctrl+Page Up, Ctrl+Page Down: the tab beside"));
         }
@@ -83,14 +100,14 @@ class LayoutMaker {
     void Add(QBoxLayout& to, const layout::Columns& declared) {
         auto* columns = new QHBoxLayout;
         AddElements(*columns, declared.elements);
-        to.addLayout(columns);
+        to.addLayout(columns, Grows(declared.elements) ? 1 : 0);
     }
 
     void Add(QBoxLayout& to, const layout::Rows& declared) {
         auto* rows = new QVBoxLayout;
         AddElements(*rows, declared.elements);
-        rows->addStretch(1);
-        to.addLayout(rows);
+        if (!Grows(declared.elements)) rows->addStretch(1);
+        to.addLayout(rows, Grows(declared.elements) ? 1 : 0);
     }
 
     void Add(QBoxLayout& to, const layout::Frame& declared) {
@@ -99,8 +116,8 @@ class LayoutMaker {
         const bool outer = std::exchange(onPage_, false);
         AddElements(*rows, declared.elements);
         onPage_ = outer;
-        rows->addStretch(1);
-        to.addWidget(frame);
+        if (!Grows(declared.elements)) rows->addStretch(1);
+        to.addWidget(frame, Grows(declared.elements) ? 1 : 0);
     }
 
     /// Elements in rows and columns. What takes several rows stands at their top.
@@ -268,10 +285,10 @@ class LayoutMaker {
     }
 
     /// The form's own buttons stand at the right of its foot, all of one width.
-    void AddFoot(QBoxLayout& to) {
+    void AddFoot(QBoxLayout& to, bool grows) {
         const std::vector<ButtonItem>& foot = model_.type().foot;
         if (foot.empty()) return;
-        to.addStretch(1);
+        if (!grows) to.addStretch(1);
         auto* row = new QHBoxLayout;
         row->addStretch(1);
         int width = 0;

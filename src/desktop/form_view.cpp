@@ -84,6 +84,10 @@ QWidget* FormView::MakeGrid(const Control& control) {
     };
     hooks.type = [this](const std::string& text) { Raise(UserEvent::Kind::Type, {}, text); };
     hooks.paste = [this](const std::string& block) { Raise(UserEvent::Kind::PasteCells, {}, block); };
+    hooks.shiftRow = [this](UserEvent::Kind kind, int row) { Raise(kind, {}, {}, row); };
+    hooks.marked = [this] {
+        if (whenMarked) whenMarked();
+    };
     hooks.deleteRow = [this](int row) { Raise(UserEvent::Kind::DeleteRow, {}, {}, row); };
     hooks.editorOpened = [this, &control](QWidget& editor) {
         editor.installEventFilter(this);
@@ -145,7 +149,12 @@ void FormView::Raise(UserEvent::Kind kind, const std::string& name, const std::s
 
 bool FormView::eventFilter(QObject* watched, QEvent* event) {
     if (form_ == nullptr) return false;
-    if (tabs_ != nullptr && watched == tabs_->tabBar()) return FilterTabBar(*event);
+    if (tabs_ != nullptr && watched == tabs_->tabBar()) {
+        return FilterTabBar(*event) || FilterStop(*tabs_->tabBar(), *event);
+    }
+    if (std::find(stops_.begin(), stops_.end(), watched) != stops_.end()) {
+        return FilterStop(*qobject_cast<QWidget*>(watched), *event);
+    }
     const Control* control = controls_.value(watched);
     if (control == nullptr) return QWidget::eventFilter(watched, event);
     return Filter(*control, *event) || QWidget::eventFilter(watched, event);

@@ -3,8 +3,10 @@
 #include <QContextMenuEvent>
 #include <QHash>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QTabWidget>
 #include <QWidget>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -43,6 +45,16 @@ class FormView : public QWidget {
     /// The tab strip; null if the form has none.
     [[nodiscard]] QTabWidget* tabs() const { return tabs_; }
 
+    /// Puts what is no control of the form beside its tab strip, or beside one of its controls.
+    void PutBesideTabs(QWidget& side);
+    void PutBesideControl(const std::string& name, QWidget& side);
+
+    /// Tab goes to this widget too, behind the last control of the form and the stops that were added before.
+    void AddStop(QWidget& stop);
+
+    /// Called when other cells of a grid are marked than before.
+    std::function<void()> whenMarked;
+
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -63,8 +75,16 @@ class FormView : public QWidget {
     void OnEdited(const Control& control, const QString& text);
     bool FilterTabBar(QEvent& event);
 
+    [[nodiscard]] std::vector<QWidget*> VisibleStops() const;
+    bool LeaveForStops(const QKeyEvent& key);
+    void GoToStop(QWidget& stop, bool back);
+    void StepStop(const QWidget& stop, bool back);
+    bool HandleStripKey(const QKeyEvent& key);
+    bool FilterStop(QWidget& stop, QEvent& event);
+
     /// The charts of the form that are seen.
     [[nodiscard]] std::vector<ChartData> Drawings() const;
+    bool ShowFieldMenu(const Control& control, const QPoint& place);
     bool ShowMenuOf(const Control& control, const QContextMenuEvent& event);
     bool HandleCopyKey(const QKeyEvent& key);
 
@@ -88,6 +108,7 @@ class FormView : public QWidget {
     QHash<const Control*, QWidget*> widgets_;
     QHash<const QObject*, const Control*> controls_;
     QTabWidget* tabs_ = nullptr;
+    std::vector<QPointer<QWidget>> stops_;
     const Control* shownFocus_ = nullptr;  // the control that had the focus when it was shown last
     int shownSelections_ = 0;              // and how often a box had been selected as a whole by then
 };

@@ -17,6 +17,7 @@ std::vector<ChartData> FormView::Drawings() const {
 
 /// The menu of the drawing under the mouse; by its key, that of all drawings of the form.
 bool FormView::ShowMenuOf(const Control& control, const QContextMenuEvent& event) {
+    if (control.IsBox()) return ShowFieldMenu(control, event.globalPos());
     const bool byKey = event.reason() == QContextMenuEvent::Keyboard;
     if (!control.chart && (!byKey || control.IsBox() || control.grid)) return false;
     const auto drawings = control.chart ? std::vector{*control.chart} : Drawings();

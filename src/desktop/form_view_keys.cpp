@@ -6,6 +6,7 @@
 
 #include "desktop/form_view.h"
 #include "desktop/grid_view.h"
+#include "desktop/key_table.h"
 #include "desktop/qt_text.h"
 
 namespace kelvor {
@@ -80,12 +81,16 @@ bool FormView::IsAccessKey(const QKeyEvent& key) const {
     return form_->FindAccessKey(static_cast<char>(key.key())) != nullptr;
 }
 
+/// The keys of the tabs; those with a number lead back to the hub from any form.
 bool FormView::HandleTabKey(const QKeyEvent& key) {
-    if (tabs_ == nullptr || !key.modifiers().testFlag(Qt::ControlModifier)) return false;
-    if (key.key() != Qt::Key_PageUp && key.key() != Qt::Key_PageDown) return false;
+    if (const auto tab = PressedKeyOf(KeyAct::NumberedTab, key)) {
+        Raise(UserEvent::Kind::SwitchTab, {}, {}, *tab);
+        return true;
+    }
+    const bool next = IsKeyOf(KeyAct::NextTab, key);
+    if (tabs_ == nullptr || (!next && !IsKeyOf(KeyAct::PreviousTab, key))) return false;
     const int count = tabs_->count();
-    const int step = key.key() == Qt::Key_PageDown ? 1 : count - 1;
-    Raise(UserEvent::Kind::SwitchTab, {}, {}, (form_->page() + step) % count);
+    Raise(UserEvent::Kind::SwitchTab, {}, {}, (form_->page() + (next ? 1 : count - 1)) % count);
     return true;
 }
 
@@ -140,6 +145,7 @@ bool FormView::HandleKey(const QKeyEvent& key) {
     }
     if (IsLetterWithAlt(key)) return true;  // no access key of this form, and no text either
     if (!IsPlain(key)) return false;
+    if (LeaveForStops(key)) return true;
     const char* name = KeyName(key);
     const Control* focus = form_->focus;
     const bool inBox = focus != nullptr && focus->IsBox();

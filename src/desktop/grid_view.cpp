@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "desktop/cell_list.h"
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
 #include "forms/cell_block.h"
@@ -195,7 +196,7 @@ class GridView::Delegate : public QStyledItemDelegate {
     }
 
     QWidget* MakeList(const GridColumn& column, QWidget* parent) const {
-        auto* list = new QComboBox(parent);
+        auto* list = new CellList(parent);
         list->addItem(QString());
         for (const std::string& item : column.items) list->addItem(ToQt(item));
         connect(list, &QComboBox::textActivated, list,
@@ -309,46 +310,20 @@ void GridView::currentChanged(const QModelIndex& current, const QModelIndex& pre
         hooks_.moveTo(current.row() + 1, cells_.ColumnAt(current.column()));
 }
 
+void GridView::selectionChanged(const QItemSelection& now, const QItemSelection& before) {
+    QTableView::selectionChanged(now, before);
+    if (hooks_.marked) hooks_.marked();
+}
+
 void GridView::keyPressEvent(QKeyEvent* event) {
     if (model() == nullptr) return;
     if (event->matches(QKeySequence::Copy)) {
         Copy();
     } else if (event->matches(QKeySequence::Paste)) {
         Paste();
-    } else if (event->key() == Qt::Key_Delete && event->modifiers().testFlag(Qt::ControlModifier)) {
-        hooks_.deleteRow(currentIndex().row() + 1);
-    } else {
+    } else if (!HandleRowKey(*event)) {
         QTableView::keyPressEvent(event);
     }
 }
-
-void GridView::contextMenuEvent(QContextMenuEvent* event) {
-    QMenu menu(this);
-    const QAction* copy = menu.addAction(QStringLiteral("&Copy"));
-    const QAction* paste = menu.addAction(QStringLiteral("&Paste"));
-    menu.addSeparator();
-    const QAction* remove = menu.addAction(QStringLiteral("&Delete Row"));
-    const QAction* chosen = menu.exec(event->globalPos());
-    if (chosen == nullptr) return;
-    if (chosen == copy) Copy();
-    if (chosen == paste) Paste();
-    if (chosen == remove) hooks_.deleteRow(currentIndex().row() + 1);
-}
-
-void GridView::Copy() const {
-    QModelIndexList cells = selectedIndexes();
-    if (cells.isEmpty()) cells << currentIndex();
-    if (!cells.constFirst().isValid()) return;  // there are no rows
-    std::sort(cells.begin(), cells.end());
-    std::vector<std::vector<std::string>> rows;
-    int last = -1;
-    for (const QModelIndex& cell : cells) {
-        if (std::exchange(last, cell.row()) != cell.row()) rows.emplace_back();
-        rows.back().push_back(FromQt(cell.data(Qt::DisplayRole).toString()));
-    }
-    QApplication::clipboard()->setText(ToQt(JoinCells(rows)));
-}
-
-void GridView::Paste() { hooks_.paste(FromQt(QApplication::clipboard()->text())); }
 
 }  // namespace kelvor

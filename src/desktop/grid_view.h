@@ -11,6 +11,7 @@
 
 #include "forms/cell_block.h"
 #include "forms/control.h"
+#include "shell/user_event.h"
 
 namespace kelvor {
 
@@ -24,6 +25,8 @@ struct GridHooks {
     std::function<void(const std::string& text)> type;  // into the cell under the cursor
     std::function<void(const std::string& block)> paste;
     std::function<void(int row)> deleteRow;
+    std::function<void(UserEvent::Kind kind, int row)> shiftRow;  // to insert one or to move it
+    std::function<void()> marked;                                 // other cells are marked than before
     std::function<void(QWidget& editor)> editorOpened;
 };
 
@@ -84,12 +87,19 @@ class GridView : public QTableView {
     /// The block of cells that is marked; nothing unless it is more than one.
     [[nodiscard]] std::optional<CellRange> MarkedCells() const;
 
+    /// The sum and the mean of the numbers in the block that is marked, in words; empty without numbers.
+    [[nodiscard]] QString FiguresOfMarked() const;
+
+    /// Gives the cells below the first row of the block that is marked what the first row holds.
+    void FillDown();
+
     /// All cells are others than before.
     void reset() override;
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void selectionChanged(const QItemSelection& now, const QItemSelection& before) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 
@@ -98,6 +108,9 @@ class GridView : public QTableView {
 
     void Copy() const;
     void Paste();
+    bool HandleRowKey(const QKeyEvent& key);
+    void OpenCellList();
+    [[nodiscard]] bool RowsShift() const;
     void SizeColumns();
     void OpenEditor(QWidget& editor);
 

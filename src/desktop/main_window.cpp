@@ -1,16 +1,15 @@
 #include "desktop/main_window.h"
 
 #include <QCloseEvent>
-#include <QLabel>
 #include <QMimeData>
 #include <QScreen>
 #include <QScrollBar>
-#include <QStatusBar>
 #include <QUrl>
 #include <algorithm>
 #include <utility>
 
 #include "desktop/app_icon.h"
+#include "desktop/key_table.h"
 #include "desktop/preview/page_browser.h"
 #include "desktop/qt_text.h"
 
@@ -47,6 +46,26 @@ class FormWindow : public QMdiSubWindow {
     EventDoor& door_;
 };
 
+/// The area of the forms. On the hub Ctrl+Tab goes to the next tab; elsewhere it goes to the next form.
+class FormArea : public QMdiArea {
+  public:
+    explicit FormArea(QWidget* parent) : QMdiArea(parent) {}
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const QMdiSubWindow* front = activeSubWindow();
+        const bool hub = front != nullptr && front->windowFlags().testFlag(Qt::FramelessWindowHint);
+        return !(hub && IsTabKey(*event)) && QMdiArea::eventFilter(watched, event);
+    }
+
+  private:
+    static bool IsTabKey(const QEvent& event) {
+        if (event.type() != QEvent::KeyPress) return false;
+        const auto& key = static_cast<const QKeyEvent&>(event);
+        return IsKeyOf(KeyAct::NextTab, key) || IsKeyOf(KeyAct::PreviousTab, key);
+    }
+};
+
 /// Every form stays in front of the hub; one that did not would be lost behind it.
 void DropStayOnTop(QMdiSubWindow& frame) {
     for (QAction* action : frame.systemMenu()->actions()) {
@@ -62,26 +81,29 @@ MainWindow::MainWindow(Program& program)
     : program_(program),
       door_(
           program, [this] { Sync(); }, [this](const std::string& reason) { OnStop(reason); }),
-      area_(new QMdiArea(this)),
-      hint_(new QLabel(this)) {
+      area_(new FormArea(this)),
+      settings_(program.state().home.WindowFile()),
+      status_(new WindowStatus(this)),
+      metricForNew_(settings_.Metric()) {
     setCentralWidget(area_);
     setWindowIcon(AppIcon());
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     connect(area_, &QMdiArea::subWindowActivated, this, &MainWindow::OnSubWindowActivated);
     area_->viewport()->installEventFilter(this);
-    // A widget of its own: what a menu says in passing would wipe a message away.
-    hint_->setObjectName(QStringLiteral("Hint"));
-    hint_->setTextFormat(Qt::PlainText);
-    hint_->setContentsMargins(fontMetrics().averageCharWidth(), 0, 0, 0);
-    statusBar()->addWidget(hint_, 1);
+    setStatusBar(status_);
     menus_ = new MenuBar(door_, this);
     setMenuBar(menus_);
+    company_ = std::make_unique<HubCompany>(door_, *menus_);
+    actions_ = std::make_unique<WindowActions>(door_, *menus_, *company_, *this);
+    connect(menus_->FindAction("NewProj", 0), &QAction::triggered, this, &MainWindow::NewProjectMade);
     setAcceptDrops(true);
     // The frame needs some room of the screen too.
     const int frame = 2 * fontMetrics().lineSpacing();
     resize(StartSize().boundedTo(screen()->availableSize() - QSize(frame / 2, frame)));
+    RestoreLook();
     Sync();
+    if (program_.state().sProjectFile.empty()) NewProjectMade();
 }
 
 /// The child windows go first: they speak to the door as long as they live.
@@ -106,14 +128,21 @@ QAction* MainWindow::FindWindowAction(const std::string& form) const {
 // --- From the model to the windows -----------------------------------------------------------------------
 
 void MainWindow::Sync() {
-    const std::string& caption = program_.state().caption;
-    setWindowTitle(caption.empty() ? QStringLiteral("Kelvor") : ToQt(caption));
+    SyncTitle();
     menus_->Sync();
     SyncForms();
     SyncModality();
     SyncActiveWindow();
-    SyncStatus();
+    company_->Sync();
+    status_->Sync(program_, CurrentView());
     if (program_.ended()) close();
+}
+
+/// Beside the caption that the program gives the window, its name in a task bar says what it holds.
+void MainWindow::SyncTitle() {
+    const ProcessState& state = program_.state();
+    setWindowTitle(state.caption.empty() ? QStringLiteral("Kelvor") : ToQt(state.caption));
+    setWindowIconText(DocumentName(state) + (state.bProjectChanged ? "* - Kelvor" : " - Kelvor"));
 }
 
 void MainWindow::SyncForms() {
@@ -139,7 +168,11 @@ FormView& MainWindow::OpenView(Form& form) {
     DropStayOnTop(*frame);
     area_->addSubWindow(frame, form.type().isHub ? kHubFlags : kFormFlags);
     views_.insert(&form, view);
-    if (form.type().isHub) hubFrame_ = frame;
+    view->whenMarked = [this, view] { status_->ShowFigures(view); };
+    if (form.type().isHub) {
+        hubFrame_ = frame;
+        company_->Join(*view);
+    }
     Place(*frame);
     frame->show();
     return *view;
@@ -157,6 +190,7 @@ bool MainWindow::FillsWindow(const QMdiSubWindow& window) const {
 /// large as its content asks.
 void MainWindow::Place(QMdiSubWindow& window) {
     const QSize all = area_->viewport()->size();
+    if (&window == hubFrame_) company_->Arrange(all);
     if (FillsWindow(window)) {
         window.setGeometry({{0, 0}, all.expandedTo(window.minimumSizeHint())});
         return;
@@ -164,7 +198,10 @@ void MainWindow::Place(QMdiSubWindow& window) {
     const QFontMetrics metrics = window.fontMetrics();
     const int caption =
         metrics.horizontalAdvance(window.windowTitle()) + kCaptionMargin * metrics.averageCharWidth();
-    window.resize(window.sizeHint().expandedTo({caption, 0}));
+    const QSize asked = window.sizeHint().expandedTo({caption, 0});
+    const QSize kept = settings_.SizeOf(FromQt(window.widget()->objectName())).boundedTo(all);
+    window.resize(asked.expandedTo(kept));
+    window.setProperty(kPlacedSizeProperty, window.size());
     const QSize room = all - window.size();
     window.move(std::max(0, room.width() / 2), std::max(0, room.height() / 2));
 }
@@ -182,6 +219,7 @@ void MainWindow::CloseView(Form* form) {
     FormView* view = views_.take(form);
     view->Detach();
     QMdiSubWindow* frame = FrameOf(*view);
+    KeepSizeOf(*view, *frame);
     frame->hide();
     area_->removeSubWindow(frame);
     frame->deleteLater();
@@ -192,6 +230,7 @@ void MainWindow::SyncModality() {
     const Form* current = program_.state().formRegistry.CurrentForm;
     const bool modal = current != nullptr && current->modal;
     menuBar()->setEnabled(!modal);
+    actions_->SetEnabled(!modal);
     for (const FormView* view : std::as_const(views_)) {
         FrameOf(*view)->setEnabled(!modal || view->form() == current);
     }
@@ -221,18 +260,6 @@ void MainWindow::ScrollToFocus(const FormView& view) {
     scroll(*area_->verticalScrollBar(), place.top(), place.bottom(), room.height());
 }
 
-void MainWindow::SyncStatus() {
-    const Form* form = program_.state().formRegistry.CurrentForm;
-    const Control* focus = form == nullptr ? nullptr : form->focus;
-    QString hint;
-    if (focus != nullptr) hint = ToQt(focus->grid ? focus->grid->current().hint : focus->toolTip);
-    if (const std::string preview = program_.EntryPreview(); !preview.empty()) hint = ToQt(preview);
-    if (!program_.state().dbWork.IsOpen()) {
-        hint = QStringLiteral("No project is open: choose New Project or Open Project");
-    }
-    if (hint_->text() != hint) hint_->setText(hint);
-}
-
 FormView* MainWindow::FindView(const std::string& form) const {
     return views_.value(program_.state().formRegistry.Find(form));
 }
@@ -254,6 +281,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         door_.Raise({UserEvent::Kind::Menu, "MenuFileExit", {}, 0});
     }
     event->setAccepted(program_.ended() || !stopReason_.empty());
+    if (event->isAccepted()) KeepLook();
 }
 
 /// The one project file that is being dragged; empty if it is anything else.
@@ -277,6 +305,12 @@ void MainWindow::dropEvent(QDropEvent* event) {
             door_.Raise({UserEvent::Kind::OpenFile, {}, file, 0});
         },
         Qt::QueuedConnection);
+}
+
+void MainWindow::OpenHandedOver(const std::string& project) {
+    door_.Raise({UserEvent::Kind::OpenFile, {}, project, 0});
+    raise();
+    activateWindow();
 }
 
 void MainWindow::OnStop(const std::string& reason) {

@@ -3,17 +3,24 @@
 #include <string>
 
 #include <QHash>
-#include <QLabel>
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMimeData>
+#include <memory>
 
 #include "desktop/event_door.h"
 #include "desktop/form_view.h"
+#include "desktop/hub_company.h"
 #include "desktop/menu_bar.h"
+#include "desktop/window_actions.h"
+#include "desktop/window_settings.h"
+#include "desktop/window_status.h"
 
 namespace kelvor {
+
+/// The name of a property of a form's frame: the size that it was given when it was placed.
+inline constexpr const char* kPlacedSizeProperty = "kelvorPlacedSize";
 
 /// The main window: the menus, the open forms as child windows, and a line that says what the field in focus
 /// wants. All of it mirrors the model.
@@ -32,6 +39,9 @@ class MainWindow : public QMainWindow {
     /// Brings the windows in step with the model.
     void Sync();
 
+    /// Opens a project that a second start has handed over, and comes to the front.
+    void OpenHandedOver(const std::string& project);
+
     /// The window of an open form; null if it is not open.
     [[nodiscard]] FormView* FindView(const std::string& form) const;
 
@@ -43,6 +53,9 @@ class MainWindow : public QMainWindow {
 
     /// The entry of the Window menu for an open form; null if it is not open.
     [[nodiscard]] QAction* FindWindowAction(const std::string& form) const;
+
+    /// The overview and the start page that stand on the hub.
+    [[nodiscard]] HubCompany& company() { return *company_; }
 
     /// True once the program was stopped by its own rules, and why.
     [[nodiscard]] const std::string& stopReason() const { return stopReason_; }
@@ -57,7 +70,11 @@ class MainWindow : public QMainWindow {
     void SyncForms();
     void SyncModality();
     void SyncActiveWindow();
-    void SyncStatus();
+    void SyncTitle();
+    void NewProjectMade();
+    void RestoreLook();
+    void KeepLook();
+    void KeepSizeOf(const FormView& view, const QMdiSubWindow& frame);
     void ScrollToFocus(const FormView& view);
     FormView& OpenView(Form& form);
     void CloseView(Form* form);
@@ -70,8 +87,12 @@ class MainWindow : public QMainWindow {
     Program& program_;
     EventDoor door_;
     QMdiArea* area_;
-    QLabel* hint_;  // what the field in focus wants
+    WindowSettings settings_;
+    WindowStatus* status_;
     MenuBar* menus_ = nullptr;
+    std::unique_ptr<HubCompany> company_;
+    std::unique_ptr<WindowActions> actions_;
+    bool metricForNew_ = false;  // the unit system of new projects
     QMdiSubWindow* hubFrame_ = nullptr;
     QHash<Form*, FormView*> views_;
     std::string stopReason_;

@@ -31,6 +31,15 @@ MenuBar::MenuBar(EventDoor& door, QWidget* parent) : QMenuBar(parent), door_(doo
     connect(windowMenu_, &QMenu::aboutToShow, this, &MenuBar::FillWindowMenu);
 }
 
+QMenu* MenuBar::FindMenu(const char* name) const { return findChild<QMenu*>(QString::fromLatin1(name)); }
+
+QMenu* MenuBar::AddMenuBefore(const QString& caption, const char* name, const char* before) {
+    auto* menu = new QMenu(caption, this);
+    menu->setObjectName(QString::fromLatin1(name));
+    insertMenu(FindMenu(before)->menuAction(), menu);
+    return menu;
+}
+
 QMenu* MenuBar::AddMenu(const MenuTitle& title) {
     QMenu* menu = addMenu(ToQt(title.caption));
     menu->setObjectName(ToQt(title.name));

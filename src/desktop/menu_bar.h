@@ -24,6 +24,12 @@ class MenuBar : public QMenuBar {
     /// The entry of the Window menu for an open form; null if it is not open.
     [[nodiscard]] QAction* FindWindowAction(const std::string& form) const;
 
+    /// A menu of the program, by its name; null if there is none.
+    [[nodiscard]] QMenu* FindMenu(const char* name) const;
+
+    /// A menu of the windows' own, before another one.
+    QMenu* AddMenuBefore(const QString& caption, const char* name, const char* before);
+
   private:
     QMenu* AddMenu(const MenuTitle& title);
     QAction* AddEntry(QMenu& menu, const MenuEntry& entry);

@@ -1,9 +1,12 @@
 #include "desktop/qt_dialogs.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QUrl>
 
 #include "desktop/print_file.h"
 #include "desktop/qt_text.h"
@@ -85,6 +88,21 @@ QString QtFilter(const std::string& filter) {
     return kinds.join(";;");
 }
 
+/// The folders at the side of a dialog: those that are asked for, and the user's own.
+/// Offers a name in its folder; nothing in the folder is selected.
+void Suggest(const Path& file, QFileDialog& dialog) {
+    if (std::filesystem::is_directory(file.parent_path()))
+        dialog.setDirectory(ToQt(file.parent_path().string()));
+    auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    if (name != nullptr) name->setText(ToQt(file.filename().string()));
+}
+
+QList<QUrl> PlacesOf(const FileRequest& request) {
+    QList<QUrl> places;
+    for (const Path& place : request.places) places << QUrl::fromLocalFile(ToQt(place.string()));
+    return places << QUrl::fromLocalFile(QDir::homePath());
+}
+
 }  // namespace
 
 Answer QtDialogs::ShowMessage(const Message& message) {
@@ -120,6 +138,8 @@ std::optional<Path> QtDialogs::AskFile(const FileRequest& request) {
     dialog.setDefaultSuffix(ToQt(request.suffix));
     dialog.setFileMode(opens ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     if (proposesFile) dialog.selectFile(ToQt(request.folder.filename().string()));
+    if (!request.suggested.empty()) Suggest(request.suggested, dialog);
+    if (!request.places.empty()) dialog.setSidebarUrls(PlacesOf(request));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     return Path(FromQt(dialog.selectedFiles().constFirst()));
 }

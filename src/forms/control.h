@@ -161,7 +161,7 @@ struct Control {
 
     [[nodiscard]] bool IsBox() const { return kind == ControlKind::TextBox || kind == ControlKind::ComboBox; }
     [[nodiscard]] bool IsButton() const { return kind == ControlKind::CommandButton; }
-    /// A small button beside a field, which Enter passes over.
+    /// A small button beside a field, which Tab and Enter pass over; F2 in its field presses it.
     [[nodiscard]] bool IsSmallButton() const { return !worksOut.empty() || !takesOver.empty(); }
     [[nodiscard]] bool IsChoice() const {
         return kind == ControlKind::OptionButton || kind == ControlKind::CheckBox;

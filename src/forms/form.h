@@ -33,7 +33,7 @@ struct SideScreenReturn {
 };
 
 /// Where the focus moves in the tab order.
-enum class TabStep { Next, Previous, NextInput };  // NextInput: past the small buttons beside fields
+enum class TabStep { Next, Previous };
 
 /// What an open form is beside its controls and the page that shows.
 struct FormState {

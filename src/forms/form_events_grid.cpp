@@ -123,14 +123,14 @@ bool FormEvents::MayShiftRows(Form& form, Control& control, int row) {
 bool FormEvents::InsertRow(Form& form, int row) {
     Control* control = FindGridWith(form, row, {});
     if (control == nullptr || !MayShiftRows(form, *control, row)) return control != nullptr;
-    const int last = control->grid->rows;
-    if (!GridInsertRow(context_, form, row, last)) {
+    const auto last = GridInsertRow(context_, form, row, control->grid->rows);
+    if (!last) {
         context_.calc.dialogs.ShowMessage(
             {.text = "The last row of the table is filled. Delete a row first.", .title = "Insert Row"});
         return true;
     }
     context_.act = "insertion of " + form.type().rowName + " " + std::to_string(row);
-    NoteRowsWritten(form, *control, RowsFromTo(row, last));
+    NoteRowsWritten(form, *control, RowsFromTo(row, *last));
     return true;
 }
 

@@ -6,11 +6,11 @@ namespace kelvor {
 
 namespace {
 
-/// The columns of a form's grid, also those that it does not show.
-std::vector<ColumnCells> ColumnsOf(const ScreenContext& context, const Form& form) {
+/// The columns of a form's grid, also those that it does not show; with the computed ones or without.
+std::vector<ColumnCells> ColumnsOf(const ScreenContext& context, const Form& form, bool withOutputs = true) {
     std::vector<ColumnCells> columns;
     for (const Field* field : context.catalogue.FieldsOfScreen(form.tag)) {
-        if (field->IsColumn() && !field->name.empty()) {
+        if (field->IsColumn() && !field->name.empty() && (withOutputs || !field->IsOutput())) {
             columns.push_back({field->name, field->dim2.value_or(form.dim2().value_or(1))});
         }
     }
@@ -60,13 +60,16 @@ bool GridDeleteRow(ScreenContext& context, Form& form, int row) {
     return true;
 }
 
-bool GridInsertRow(ScreenContext& context, const Form& form, int row, int last) {
+std::optional<int> GridInsertRow(ScreenContext& context, const Form& form, int row, int rows) {
     ProjectStore& store = context.calc.store;
-    const std::vector<ColumnCells> columns = ColumnsOf(context, form);
-    if (IsRowFilled(store, columns, last)) return false;
+    const std::vector<ColumnCells> inputs = ColumnsOf(context, form, false);
+    int last = rows;
+    while (last >= row && !IsRowFilled(store, inputs, last)) --last;
+    if (last == rows) return std::nullopt;
     context.bProjectChanged = true;
-    for (int from = last - 1; from >= row; --from) MoveRow(store, columns, from, from + 1);
-    return true;
+    const std::vector<ColumnCells> columns = ColumnsOf(context, form);
+    for (int from = last; from >= row; --from) MoveRow(store, columns, from, from + 1);
+    return std::max(row, last + 1);
 }
 
 void GridSwapRows(ScreenContext& context, const Form& form, int row, int other) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,9 +17,9 @@ struct ColumnCells {
 /// Asks, then empties a row of a form's grid and closes the grid up. False if the answer was No.
 bool GridDeleteRow(ScreenContext& context, Form& form, int row);
 
-/// Moves the rows of a form's grid from one row to the last one down by one, so that the row is empty. False,
-/// and nothing is moved, if the last row is filled.
-bool GridInsertRow(ScreenContext& context, const Form& form, int row, int last);
+/// Moves the filled rows of a form's grid from a row on down by one, so that the row is empty. The last row
+/// that may have changed; nothing, and nothing is moved, if the last of the grid's rows is filled.
+std::optional<int> GridInsertRow(ScreenContext& context, const Form& form, int row, int rows);
 
 /// Lets two rows of a form's grid change places.
 void GridSwapRows(ScreenContext& context, const Form& form, int row, int other);

@@ -14,8 +14,8 @@ FormType AboutForm(const std::vector<Library>& ofFrontEnd) {
     type.needsProject = false;
     type.layout = Rows({
         Heading("ProductLabel", "Kelvor"),
-        Text("VersionLabel",
-             "Version " + std::string(ProgramVersion()) + ", commit " + std::string(SourceCommit())),
+        Text("VersionLabel", "Version " + std::string(ProgramVersion())),
+        Text("CommitLabel", "Commit " + std::string(SourceCommit())),
         Text("PurposeLabel",
              "Design of new pavements and overlays, evaluation of deflection tests, traffic and "
              "life-cycle cost by the 1993 AASHTO Guide for Design of Pavement Structures."),

@@ -47,14 +47,11 @@ void ProjectFiles::OpenWorkCopy(bool checkPages) {
     state_.units->SetMetric(state_.dbWork.GetVar("MetricMode") == kMetricMode);
 }
 
-/// False if changes were lost on the way.
-bool ProjectFiles::CloseWorkCopyQuietly() {
+void ProjectFiles::CloseWorkCopyQuietly() {
     try {
         state_.dbWork.Close();
-        return true;
     } catch (const DatabaseError&) {
         state_.dbWork.Abandon();
-        return false;
     }
 }
 
@@ -102,7 +99,10 @@ bool ProjectFiles::NewWorkCopy() {
 bool ProjectFiles::KeepAside() {
     Recovery recovery(state_);
     const std::optional<KeptProject> unsaved = recovery.UnsavedWork();
-    if (!unsaved) return CloseWorkCopyQuietly(), true;
+    if (!unsaved) {
+        CloseWorkCopyQuietly();
+        return true;
+    }
     try {
         state_.dbWork.SetVar("MetricMode", state_.units->bMetric() ? kMetricMode : 0.0);
         state_.dbWork.Close();

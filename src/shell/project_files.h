@@ -48,7 +48,7 @@ class ProjectFiles {
 
   private:
     void OpenWorkCopy(bool checkPages);
-    bool CloseWorkCopyQuietly();
+    void CloseWorkCopyQuietly();
     [[nodiscard]] bool MayOverwrite(const std::string& path);
     void KeepFormerVersion(const std::string& path, const std::string& content);
     void Overwrite(const std::string& path);

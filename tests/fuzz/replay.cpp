@@ -19,6 +19,12 @@ namespace {
 
 constexpr unsigned kMutantsOfEachKind = 200;
 
+/// KELVOR_MUTANTS makes a long run of it.
+unsigned MutantsOfEachKind() {
+    const char* given = std::getenv("KELVOR_MUTANTS");
+    return given == nullptr ? kMutantsOfEachKind : static_cast<unsigned>(std::strtoul(given, nullptr, 10));
+}
+
 void Run(const std::string& name, const std::string& input) {
     std::fprintf(stderr, "%s\n", name.c_str());
     LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(input.data()), input.size());
@@ -51,8 +57,9 @@ int Replay(int argc, char** argv) {
     if (corpus.empty()) throw std::invalid_argument("the corpus is empty");
     for (const Path& file : corpus) Run(file.filename().string(), ReadFile(file));
     for (std::size_t i = 0; i < seeds.size(); ++i) Run("good " + std::to_string(i), seeds[i]);
+    const unsigned most = MutantsOfEachKind();
     for (const Mutation mutation : kMutations) {
-        for (unsigned number = 0; number < kMutantsOfEachKind; ++number) RunMutant(seeds, mutation, number);
+        for (unsigned number = 0; number < most; ++number) RunMutant(seeds, mutation, number);
     }
     return 0;
 }

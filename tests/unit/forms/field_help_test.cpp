@@ -44,11 +44,12 @@ class FieldHelpTest : public testing::Test {
                                  {low + (known->high.value_or(low + 2.0) - low) / 3.0, std::nullopt});
     }
 
-    /// Every filled cell but those in which the help keeps what it was asked for, and the one that follows
-    /// the cursor of a grid.
+    /// Every filled cell but those in which the help keeps what it was asked for, the one that follows the
+    /// cursor of a grid, and the two that follow from a survey of which no count has changed.
     std::vector<std::string> Dump() {
         static const std::set<std::string> kKept = {"FieldName", "FormName", "FieldName2",   "FormName2",
-                                                    "Dim1",      "Column",   "FieldChanged", "LDAdditThick"};
+                                                    "Dim1",      "Column",   "FieldChanged", "LDAdditThick",
+                                                    "APDETTOT",  "APBOLFJC"};
         std::vector<std::string> cells;
         program_.store().ForEachFilled([&](const CellKey& key, const CellValue& value) {
             if (kKept.contains(key.name)) return;

@@ -80,5 +80,14 @@ TEST_F(SampleCostsTest, TheAsphaltRoad) {
     EXPECT_LT(PresentWorth(a, 0.0685), PresentWorth(b, 0.0685));
 }
 
+TEST_F(SampleCostsTest, TheProjectOfEveryReportHasItsCostsAddedUp) {
+    OpenSample("every_report");
+    const CostSummary& summary = program_.program.state().costSummary;
+    EXPECT_EQ(summary.pavements.at(0).initial, 70'400.0 * 42.0);
+    EXPECT_EQ(summary.pavements.at(1).initial, 70'400.0 * 34.0);
+    EXPECT_EQ(summary.pavements.at(0).rehabilitation, 50'000.0 * 1.5);
+    EXPECT_EQ(summary.pavements.at(1).rehabilitation, 70'400.0 * 11.0);
+}
+
 }  // namespace
 }  // namespace kelvor::test

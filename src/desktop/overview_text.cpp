@@ -1,0 +1,66 @@
+#include "desktop/overview_text.h"
+
+#include <QStringList>
+
+#include "desktop/qt_text.h"
+
+namespace kelvor {
+
+namespace {
+
+const QStringList kHead = {QStringLiteral("Screen"), QStringLiteral("Results"), QStringLiteral("Equation")};
+
+/// What the catalogue calls a result. The costs of the two pavements are no variables.
+QString NameOf(const OverviewResult& result, const Catalogue& catalogue) {
+    if (result.name == "EUACA") return QStringLiteral("EUAC, Pavement (A)");
+    if (result.name == "EUACB") return QStringLiteral("EUAC, Pavement (B)");
+    const Variable* variable = catalogue.FindVariable(result.name);
+    return ToQt(variable == nullptr || variable->desc.empty() ? result.name : variable->desc);
+}
+
+QString ResultText(const OverviewResult& result, const Catalogue& catalogue) {
+    const QString value = result.text.empty() ? QStringLiteral("none yet") : ToQt(result.text);
+    const QString unit = result.text.empty() || result.unit.empty() ? QString() : " " + ToQt(result.unit);
+    return NameOf(result, catalogue) + ": " + value + unit;
+}
+
+QString StateText(const OverviewLine& line) {
+    if (!line.balanced) return {};
+    return *line.balanced ? QStringLiteral("Balanced") : QStringLiteral("Not balanced");
+}
+
+QStringList PartsOf(const OverviewRow& row) {
+    return {row.title, QString(row.results).replace(u'\n', QStringLiteral("; ")), row.state};
+}
+
+QString HtmlRow(const QStringList& parts, const QString& tag) {
+    QString html = QStringLiteral("<tr>");
+    for (const QString& part : parts) html += "<" + tag + ">" + part.toHtmlEscaped() + "</" + tag + ">";
+    return html + QStringLiteral("</tr>");
+}
+
+}  // namespace
+
+std::vector<OverviewRow> RowsOf(const std::vector<OverviewLine>& lines, const Catalogue& catalogue) {
+    std::vector<OverviewRow> rows;
+    for (const OverviewLine& line : lines) {
+        QStringList results;
+        for (const OverviewResult& result : line.results) results << ResultText(result, catalogue);
+        rows.push_back({line.name, ToQt(line.title), results.join(u'\n'), StateText(line)});
+    }
+    return rows;
+}
+
+QString TextOf(const std::vector<OverviewRow>& rows) {
+    QString text = kHead.join(u'\t') + u'\n';
+    for (const OverviewRow& row : rows) text += PartsOf(row).join(u'\t') + u'\n';
+    return text;
+}
+
+QString HtmlOf(const std::vector<OverviewRow>& rows) {
+    QString html = QStringLiteral("<table>") + HtmlRow(kHead, QStringLiteral("th"));
+    for (const OverviewRow& row : rows) html += HtmlRow(PartsOf(row), QStringLiteral("td"));
+    return html + QStringLiteral("</table>");
+}
+
+}  // namespace kelvor

@@ -1,0 +1,154 @@
+#include "desktop/window_actions.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QKeyEvent>
+#include <span>
+#include <utility>
+
+#include "desktop/copy_result.h"
+#include "desktop/key_table.h"
+#include "desktop/start_page.h"
+
+namespace kelvor {
+
+namespace {
+
+/// What the widget with the focus does at Ctrl and a letter.
+void PressOnFocus(Qt::Key key) {
+    QWidget* focus = QApplication::focusWidget();
+    if (focus == nullptr) return;
+    QKeyEvent press(QEvent::KeyPress, key, Qt::ControlModifier);
+    QApplication::sendEvent(focus, &press);
+}
+
+/// An entry of the menus as the tool bar calls it.
+struct ToolEntry {
+    const char* name;     // empty: a gap
+    const char* caption;  // short, since it has no picture
+};
+
+constexpr ToolEntry kFileTools[] = {{"NewProj", "New"},
+                                    {"MenuFileOpen", "Open"},
+                                    {"MenuFileSave", "Save"},
+                                    {"", ""},
+                                    {"MenuEditUndo", "Undo"},
+                                    {"MenuEditRedo", "Redo"},
+                                    {"", ""}};
+constexpr ToolEntry kOtherTools[] = {{"", ""},
+                                     {"MenuFilePrint", "Print"},
+                                     {"", ""},
+                                     {"MenuUnitsEnglish", "English"},
+                                     {"MenuUnitsMetric", "Metric"},
+                                     {"", ""}};
+
+void AddTools(QToolBar& bar, MenuBar& menus, std::span<const ToolEntry> entries) {
+    for (const ToolEntry& entry : entries) {
+        QAction* action = menus.FindAction(entry.name, 0);
+        if (action == nullptr) {
+            bar.addSeparator();
+            continue;
+        }
+        action->setIconText(QString::fromLatin1(entry.caption));
+        bar.addAction(action);
+    }
+}
+
+}  // namespace
+
+WindowActions::WindowActions(EventDoor& door, MenuBar& menus, HubCompany& company, QMainWindow& window)
+    : door_(door), window_(window), bar_(new QToolBar(QStringLiteral("Tool Bar"), &window)) {
+    bar_->setObjectName(QStringLiteral("ToolBar"));
+    bar_->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    bar_->setMovable(false);
+    overview_ = new QAction(QStringLiteral("&Overview"), &window);
+    overview_->setObjectName(QStringLiteral("ViewOverview"));
+    overview_->setCheckable(true);
+    overview_->setChecked(true);
+    overview_->setShortcuts(KeysOf(KeyAct::ShowOverview));
+    QObject::connect(overview_, &QAction::toggled, &window,
+                     [&company](bool wanted) { company.ShowOverview(wanted); });
+    own_.push_back(overview_);
+    FillEditMenu(*menus.FindMenu("MenuEdit"));
+    FillViewMenu(*menus.AddMenuBefore(QStringLiteral("View"), "MenuView", "MenuWindow"));
+    FillSamples(*menus.FindMenu("MenuHelp"), company);
+    FillToolBar(menus);
+    window.addToolBar(bar_);
+    bar_->setContextMenuPolicy(Qt::PreventContextMenu);
+}
+
+QAction* WindowActions::AddKey(QMenu& menu, const QString& caption, Qt::Key key) {
+    // The key is shown and not bound: what has the focus takes it by itself.
+    const QString shown = QKeySequence(QKeyCombination(Qt::ControlModifier, key)).toString();
+    QAction* action = menu.addAction(caption + u'\t' + shown, &menu, [key] { PressOnFocus(key); });
+    own_.push_back(action);
+    return action;
+}
+
+void WindowActions::FillEditMenu(QMenu& menu) {
+    menu.addSeparator();
+    cut_ = AddKey(menu, QStringLiteral("Cu&t"), Qt::Key_X);
+    copy_ = AddKey(menu, QStringLiteral("&Copy"), Qt::Key_C);
+    paste_ = AddKey(menu, QStringLiteral("&Paste"), Qt::Key_V);
+    menu.addSeparator();
+    const std::pair<KeyAct, QString (*)(Program&, Form&)> results[] = {{KeyAct::CopyValue, ValueOfFocus},
+                                                                       {KeyAct::CopyScreen, TableOfScreen}};
+    const char* const captions[] = {"Copy &Value with Unit", "Copy &Screen as Table"};
+    const char* const names[] = {"EditCopyValue", "EditCopyScreen"};
+    for (int i = 0; i < 2; ++i) {
+        QAction* action = menu.addAction(QString::fromLatin1(captions[i]), &menu,
+                                         [this, text = results[i].second] { CopyOf(text); });
+        action->setObjectName(QString::fromLatin1(names[i]));
+        action->setShortcuts(KeysOf(results[i].first));
+        own_.push_back(action);
+    }
+}
+
+void WindowActions::CopyOf(QString (*text)(Program& program, Form& form)) {
+    Form* form = door_.program().state().formRegistry.CurrentForm;
+    if (form == nullptr || door_.busy()) return;
+    const QString copied = text(door_.program(), *form);
+    if (!copied.isEmpty()) QApplication::clipboard()->setText(copied);
+}
+
+void WindowActions::FillViewMenu(QMenu& menu) {
+    menu.addAction(overview_);
+    QAction* bar = bar_->toggleViewAction();
+    bar->setObjectName(QStringLiteral("ViewToolBar"));
+    bar->setText(QStringLiteral("&Tool Bar"));
+    menu.addAction(bar);
+}
+
+void WindowActions::FillSamples(QMenu& menu, HubCompany& company) {
+    QMenu* samples = menu.addMenu(QStringLiteral("&Samples"));
+    samples->setObjectName(QStringLiteral("MenuSamples"));
+    for (const std::string& path : company.Samples()) {
+        QAction* action =
+            samples->addAction(SampleTitle(path), samples, [&company, path] { company.OpenSample(path); });
+        own_.push_back(action);
+    }
+    samples->setEnabled(!samples->isEmpty());
+}
+
+void WindowActions::FillToolBar(MenuBar& menus) {
+    AddTools(*bar_, menus, kFileTools);
+    cut_->setIconText(QStringLiteral("Cut"));
+    copy_->setIconText(QStringLiteral("Copy"));
+    paste_->setIconText(QStringLiteral("Paste"));
+    bar_->addActions({cut_, copy_, paste_});
+    AddTools(*bar_, menus, kOtherTools);
+    bar_->addAction(overview_);
+    if (QAction* help = menus.FindAction("MenuTopics", 0)) {
+        help->setIconText(QStringLiteral("Help"));
+        bar_->addAction(help);
+    }
+    // A click on the bar leaves the focus in its field.
+    for (QWidget* button : bar_->findChildren<QWidget*>()) button->setFocusPolicy(Qt::NoFocus);
+}
+
+void WindowActions::SetEnabled(bool enabled) {
+    bar_->setEnabled(enabled);
+    for (QAction* action : own_) action->setEnabled(enabled);
+}
+
+}  // namespace kelvor
