@@ -88,15 +88,13 @@ QString QtFilter(const std::string& filter) {
     return kinds.join(";;");
 }
 
-/// The folders at the side of a dialog: those that are asked for, and the user's own.
-/// Offers a name in its folder; nothing in the folder is selected.
-void Suggest(const Path& file, QFileDialog& dialog) {
-    if (std::filesystem::is_directory(file.parent_path()))
-        dialog.setDirectory(ToQt(file.parent_path().string()));
+/// Offers a name: the folder stays, and nothing in it is selected.
+void OfferName(const FileRequest& request, QFileDialog& dialog) {
     auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    if (name != nullptr) name->setText(ToQt(file.filename().string()));
+    if (name != nullptr) name->setText(ToQt(request.suggested.string()));
 }
 
+/// The folders at the side of a dialog: those that are asked for, and the user's own.
 QList<QUrl> PlacesOf(const FileRequest& request) {
     QList<QUrl> places;
     for (const Path& place : request.places) places << QUrl::fromLocalFile(ToQt(place.string()));
@@ -138,7 +136,7 @@ std::optional<Path> QtDialogs::AskFile(const FileRequest& request) {
     dialog.setDefaultSuffix(ToQt(request.suffix));
     dialog.setFileMode(opens ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     if (proposesFile) dialog.selectFile(ToQt(request.folder.filename().string()));
-    if (!request.suggested.empty()) Suggest(request.suggested, dialog);
+    if (!request.suggested.empty()) OfferName(request, dialog);
     if (!request.places.empty()) dialog.setSidebarUrls(PlacesOf(request));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     return Path(FromQt(dialog.selectedFiles().constFirst()));

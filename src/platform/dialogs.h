@@ -37,7 +37,7 @@ struct FileRequest {
     std::string filter;
     std::string suffix = {};        // which a name to save under gets that has none, before it is looked for
     std::string title = {};         // empty: that of opening or saving a project
-    Path suggested = {};            // the file to save to that is offered; empty: none
+    Path suggested = {};            // the name or path to save to that is offered; empty: none
     std::vector<Path> places = {};  // folders that a dialog may offer beside the one it starts in
 };
 

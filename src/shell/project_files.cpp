@@ -328,12 +328,13 @@ bool ProjectFiles::SaveProjectAs() {
     return chosen && SaveProjectAs(chosen->string());
 }
 
-/// The file that is open, or of a recovered project its former one: by its name alone where its folder is gone.
+/// The name of the file that is open, or of a recovered project the path that it had: its name alone where
+/// the folder is gone.
 Path ProjectFiles::SuggestedPath() const {
+    if (!state_.sProjectFile.empty()) return Path(state_.sProjectFile).filename();
     const Path former = state_.proposedPath;
-    if (former.empty()) return state_.sProjectFile;
-    if (state_.host.files.Kind(former.parent_path()) == FileKind::Directory) return former;
-    return state_.home.ProjectsFolder() / former.filename();
+    const bool folderStands = state_.host.files.Kind(former.parent_path()) == FileKind::Directory;
+    return folderStands ? former : former.filename();
 }
 
 bool ProjectFiles::SaveProjectAs(const std::string& name) {

@@ -171,9 +171,9 @@ TEST_F(RecoveryTest, WhatIsRecoveredHasNoNameAndProposesItsFormerOne) {
     EXPECT_EQ(program_.host.record.files[0].suggested, File("plan.kvr"));
     EXPECT_EQ(NumberInFile(File("again.kvr"), "SN"), 6.0);
     EXPECT_EQ(NumberInFile(File("plan.kvr"), "SN"), 5.0);
-    // Once it has a file it proposes that.
+    // Once it has a file it proposes the name of that.
     Run().Raise({UserEvent::Kind::Menu, "MenuFileSaveAs"});
-    EXPECT_EQ(program_.host.record.files[1].suggested, File("again.kvr"));
+    EXPECT_EQ(program_.host.record.files[1].suggested, "again.kvr");
 }
 
 TEST_F(RecoveryTest, RecoveringKeepsWhatWasOpenAndNothingTwice) {
