@@ -18,7 +18,7 @@ namespace kelvor {
 namespace {
 
 /// The size of the window at start, in letters of the system's font.
-constexpr int kStartColumns = 150;
+constexpr int kStartColumns = 200;
 constexpr int kStartLines = 48;
 
 /// What stands on a form's frame beside its caption, in letters: the icon, the close box, and room.

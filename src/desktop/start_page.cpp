@@ -13,7 +13,7 @@ namespace kelvor {
 namespace {
 
 constexpr int kLeastLetters = 30;
-constexpr int kLeastLines = 2;
+constexpr int kLeastLines = 5;
 constexpr qsizetype kDateAndMinute = 16;  // "2004-02-29 10:00"
 
 QString RecentText(const RecentProject& project) {
