@@ -21,7 +21,7 @@ namespace {
 constexpr std::size_t kLargestSettings = 65536;
 constexpr mode_t kOwnerAlone = 0700;
 
-/// The specification has programs pass over what is no path from the root.
+/// What is no path from the root is passed over.
 Path Absolute(const std::string& text) {
     const Path path = text;
     return path.is_absolute() ? path : Path();

@@ -13,7 +13,7 @@ using Environment = std::function<std::string(const char* variable)>;
 /// The environment of this process.
 Environment OwnEnvironment();
 
-/// Where desktops keep what belongs to one user (XDG Base Directory Specification, and the folders of
+/// Where desktops keep what belongs to one user (XDG base directories, and the folders of
 /// xdg-user-dirs). All are empty for a user without a home folder.
 struct UserFolders {
     Path data;       // of programs: $XDG_DATA_HOME, or .local/share of the user's home

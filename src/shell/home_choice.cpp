@@ -11,7 +11,7 @@ namespace kelvor {
 
 namespace {
 
-/// The parts of an installed folder that a home has copies of.
+/// Copies what a home has of an installed folder.
 Path CopyParts(const FileSystem& files, const Path& installed, const Path& target) {
     constexpr std::size_t kLargestList = 65536;
     const ShippedParts shipped(files.Read(installed / ShippedParts::kListName, kLargestList));

@@ -7,7 +7,7 @@ namespace kelvor {
 namespace {
 
 // A file begins with its signature, the length and the name of the header, and the header's width and height
-// (Portable Network Graphics Specification, Sections 5.2 and 11.2.2).
+// (Portable Network Graphics, Sections 5.2 and 11.2.2).
 constexpr std::string_view kSignature("\x89PNG\r\n\x1A\n", 8);
 constexpr std::string_view kHeaderName = "IHDR";
 constexpr std::size_t kNameAt = 12;

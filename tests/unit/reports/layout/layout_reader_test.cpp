@@ -8,7 +8,7 @@ namespace kelvor {
 namespace {
 
 /// The head of a PNG file of 96 by 48 dots: its signature, and the width and the height of its header
-/// (Portable Network Graphics Specification, Section 11.2.2).
+/// (Portable Network Graphics, Section 11.2.2).
 const std::string kPicture("\x89PNG\r\n\x1A\n\0\0\0\x0DIHDR\0\0\0\x60\0\0\0\x30", 24);
 
 class LayoutReaderTest : public ::testing::Test {
