@@ -118,9 +118,11 @@ TEST_F(HubWindowTest, EveryScreenOfTheHubIsReachedByTheKeyboardAlone) {
             ASSERT_TRUE(TabTo(step.button)) << step.button;
             Press(Qt::Key_Space);
             QKeyEvent released(QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier, " ");
-            // Where the button had a message, its box has gone: a window manager brings the window to the front.
+            // Where the button had a message, its box has gone: a window manager brings the window to the
+            // front.
             window().activateWindow();
-            ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; })) << step.button;
+            ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; }))
+                << step.button;
             QApplication::sendEvent(QApplication::focusWidget(), &released);
             if (Current().type().isHub) continue;
             reached.insert(Current().name());
