@@ -27,6 +27,8 @@ if(KELVOR_SANITIZE)
   target_compile_options(
     kelvor_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
                              -fno-omit-frame-pointer
+                             # Dear to compile, and of what they find most is an address that the other one finds.
+                             -fno-sanitize=null,alignment,object-size,vptr
                              # What the sanitizers put in looks to GCC like a use before a value is there.
                              -Wno-maybe-uninitialized)
   target_link_options(kelvor_options INTERFACE -fsanitize=address,undefined)
