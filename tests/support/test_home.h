@@ -8,8 +8,8 @@
 
 namespace kelvor::test {
 
-/// A copy of the built home folder (configuration, databases, layouts, template) in a temporary folder, with the
-/// work copy in it.
+/// A copy of the built home folder (configuration, databases, layouts, template) in a temporary folder,
+/// with the work copy in it.
 class TestHome {
   public:
     TestHome();
