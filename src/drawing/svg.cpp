@@ -1,8 +1,11 @@
 #include "drawing/svg.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <string_view>
+
+#include "platform/markup.h"
 
 namespace kelvor {
 
@@ -23,26 +26,10 @@ std::string Number(double value) {
 
 /// A text as XML has it. What no XML may hold becomes a blank.
 std::string Escaped(std::string_view text) {
-    std::string escaped;
-    for (const char c : text) {
-        switch (c) {
-            case '&':
-                escaped += "&amp;";
-                break;
-            case '<':
-                escaped += "&lt;";
-                break;
-            case '>':
-                escaped += "&gt;";
-                break;
-            case '"':
-                escaped += "&quot;";
-                break;
-            default:
-                escaped += static_cast<unsigned char>(c) < ' ' ? ' ' : c;
-        }
-    }
-    return escaped;
+    std::string plain(text);
+    std::replace_if(
+        plain.begin(), plain.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
+    return EscapedMarkup(plain);
 }
 
 class SvgWriter {

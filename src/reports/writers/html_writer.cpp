@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "drawing/svg.h"
+#include "platform/markup.h"
 #include "reports/writers/base64.h"
 
 namespace kelvor {
@@ -25,34 +26,9 @@ th { border-bottom: 1px solid #333; vertical-align: bottom; } .number { text-ali
 svg { height: auto; max-width: 100%; }
 )";
 
-/// A text between tags or in an attribute; a line break stays one.
-std::string Escaped(std::string_view text) {
-    std::string escaped;
-    escaped.reserve(text.size());
-    for (const char letter : text) {
-        switch (letter) {
-            case '&':
-                escaped += "&amp;";
-                break;
-            case '<':
-                escaped += "&lt;";
-                break;
-            case '>':
-                escaped += "&gt;";
-                break;
-            case '"':
-                escaped += "&quot;";
-                break;
-            default:
-                escaped += letter;
-        }
-    }
-    return escaped;
-}
-
 std::string Tagged(std::string_view tag, std::string_view text, std::string_view attributes = {}) {
     const std::string name(tag);
-    return "<" + name + std::string(attributes) + ">" + Escaped(text) + "</" + name + ">";
+    return "<" + name + std::string(attributes) + ">" + EscapedMarkup(text) + "</" + name + ">";
 }
 
 std::string Edge(std::string_view tag, const PageEdge& edge) {
@@ -98,7 +74,7 @@ struct BlockWriter {
     void operator()(const blocks::Picture& picture) {
         constexpr double kDotsPerPoint = 96.0 / 72.0;
         page += "<p><img src=\"data:image/png;base64," + Base64(picture.png) + "\" alt=\"" +
-                Escaped(picture.words) + "\" width=\"" +
+                EscapedMarkup(picture.words) + "\" width=\"" +
                 std::to_string(static_cast<int>(picture.widthPoints * kDotsPerPoint)) + "\"/></p>\n";
     }
 
