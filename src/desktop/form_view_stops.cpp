@@ -28,6 +28,9 @@ void FormView::PutBesideControl(const std::string& name, QWidget& side) {
     auto* columns = new QHBoxLayout;
     rows->insertLayout(at, columns, 1);
     rows->removeWidget(control);
+    // The side takes the room that the page left free at its end.
+    const int last = rows->count() - 1;
+    if (rows->itemAt(last)->spacerItem() != nullptr) delete rows->takeAt(last);
     columns->addWidget(control, 0, Qt::AlignTop);
     columns->addSpacing(fontMetrics().lineSpacing());
     columns->addWidget(&side, 1);

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "shell/hub/hub.h"
 #include "shell/overview.h"
 
 namespace kelvor {
@@ -35,7 +36,7 @@ void HubCompany::Join(FormView& hub) {
 }
 
 StartPageHooks HubCompany::Hooks() {
-    return {.newProject = [this] { Trigger("NewProj", 0); },
+    return {.newProject = [this] { BeginProject(); },
             .open = [this] { Trigger("MenuFileOpen", 0); },
             .openRecent = [this](int position) { Trigger("mnuRecentFile", position); },
             .openSample = [this](const std::string& path) { OpenSample(path); },
@@ -44,6 +45,13 @@ StartPageHooks HubCompany::Hooks() {
                     const ProcessState& state = door_.program().state();
                     state.host.dialogs.ShowHelp({state.home.HelpFile(), page});
                 }};
+}
+
+void HubCompany::BeginProject() {
+    const auto before = door_.program().state().projects;
+    Trigger("NewProj", 0);
+    if (door_.program().state().projects == before) return;
+    door_.Raise({.kind = UserEvent::Kind::SwitchTab, .number = static_cast<int>(HubTab::ProjectId)});
 }
 
 void HubCompany::Trigger(const char* entry, int index) {

@@ -56,6 +56,7 @@ class HubCompany {
     [[nodiscard]] StartPageHooks Hooks();
     [[nodiscard]] std::vector<RecentProject> RecentProjects() const;
     void SyncOverview();
+    void BeginProject();
     void Trigger(const char* entry, int index);
 
     EventDoor& door_;

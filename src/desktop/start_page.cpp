@@ -48,7 +48,6 @@ StartPage::StartPage(StartPageHooks hooks, QWidget* parent) : QWidget(parent), h
                              QStringLiteral("Opens the help at a first design, step by step"));
     news_ = AddButton("StartNews", QStringLiteral("What Is New"),
                       QStringLiteral("Opens the help at what has been added"));
-    lines->addStretch(1);
     connect(new_, &QPushButton::clicked, this, [this] { hooks_.newProject(); });
     connect(open_, &QPushButton::clicked, this, [this] { hooks_.open(); });
     connect(firstDesign_, &QPushButton::clicked, this, [this] { hooks_.showHelp("FirstDesign"); });
@@ -81,7 +80,7 @@ QListWidget* StartPage::AddList(const char* name, const QString& heading, const 
     list->installEventFilter(this);
     connect(list, &QListWidget::itemDoubleClicked, this,
             [this, list](const QListWidgetItem* item) { Choose(*list, list->row(item)); });
-    layout()->addWidget(list);
+    static_cast<QVBoxLayout*>(layout())->addWidget(list, 1);
     return list;
 }
 

@@ -186,6 +186,13 @@ TEST_F(LargeWindowTest, OnATabWithFieldsTabGoesRoundOverTheStripAndTheOverview) 
     EXPECT_EQ(FocusName(), "OverviewTable");
 }
 
+TEST_F(LargeWindowTest, ANewProjectOfTheStartPageBeginsAtItsFirstTab) {
+    ASSERT_EQ(window().FindView("TabForm")->tabs()->currentIndex(), 7);
+    QTest::mouseClick(&Find<QPushButton>("StartNew"), Qt::LeftButton);
+    EXPECT_EQ(window().FindView("TabForm")->tabs()->currentIndex(), 0);
+    EXPECT_EQ(FocusName(), "Agency");
+}
+
 TEST_F(LargeWindowTest, RecentProjectsStandWithTheirDateAndMissingOnesSaySo) {
     SaveAs("road.kvr");
     std::filesystem::remove(SaveAs("gone.kvr"));
