@@ -51,4 +51,7 @@ std::string FillTheDisk(const Trial& trial);
 /// Opens and closes screens, saves and solves, and measures the memory and the open files.
 std::string HoldSteady(const Trial& trial);
 
+/// Makes every report of a whole project again and again, and measures the same.
+std::string ReportOverAndOver(const Trial& trial);
+
 }  // namespace kelvor::test

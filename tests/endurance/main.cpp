@@ -28,6 +28,7 @@ constexpr std::array kLines = {
     Line{"random acts on the model", ActAtRandom, 1000},
     Line{"full disk during work and save", FillTheDisk, 20},
     Line{"memory and open files", HoldSteady, 200},
+    Line{"memory and open files of reports", ReportOverAndOver, 20},
 };
 
 /// False if the line broke.
