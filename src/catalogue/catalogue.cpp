@@ -12,6 +12,10 @@ namespace kelvor {
 
 namespace {
 
+/// Room made at once for the rows of the large tables; a catalogue that has more grows.
+constexpr std::size_t kUsualVariables = 512;
+constexpr std::size_t kUsualFields = 512;
+
 SQLite::Database OpenCatalogue(const Path& path) {
     SQLite::Database database = OpenDatabase(path, DatabaseAccess::ReadWrite);
     std::vector<TableShape> shapes;
@@ -61,6 +65,8 @@ Catalogue::Catalogue(const Path& path) : database_(std::make_unique<SQLite::Data
 Catalogue::~Catalogue() = default;
 
 void Catalogue::ReadVariables() {
+    variables_.reserve(kUsualVariables);
+    variableByName_.reserve(kUsualVariables);
     VisitRows(*database_, "Variable",
               "Name, Format, Units, \"Desc\", Dim1, Dim2, High, Low, HighMetric, LowMetric, HelpHead",
               "rowid", [this](const RowView& row) {
@@ -82,6 +88,7 @@ void Catalogue::ReadVariables() {
 }
 
 void Catalogue::ReadFields() {
+    fields_.reserve(kUsualFields);
     VisitRows(*database_, "Field",
               "Screen, Name, Id, Seq, Class, Type, Equation, SolveFor, Dim2, x, y, Heading", "rowid",
               [this](const RowView& row) {

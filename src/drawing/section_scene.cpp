@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 
 #include "drawing/hatches.h"
 #include "drawing/label_column.h"
@@ -133,13 +134,13 @@ class SectionPainter {
         for (std::size_t i = 0; i < layers_.size(); ++i) {
             std::string name;
             for (const std::string& line : layers_[i].label) name += (name.empty() ? "" : " ") + line;
-            DrawHatched(scene_,
-                        {.corner = {left_, bands_[i].top},
-                         .width = right_ - left_,
-                         .height = bands_[i].height(),
-                         .fill = layers_[i].colour,
-                         .name = name},
-                        layers_[i].material);
+            shape::Rectangle band;
+            band.corner = {left_, bands_[i].top};
+            band.width = right_ - left_;
+            band.height = bands_[i].height();
+            band.fill = layers_[i].colour;
+            band.name = std::move(name);
+            DrawHatched(scene_, band, layers_[i].material);
         }
         if (bands_.empty()) return;
         // Two layers of the same kind stay apart, also black ones.

@@ -30,6 +30,6 @@ void CloseValueHelp(ScreenEvent& event);
 
 /// The general helps: `HelpForm` for a field, `HelpGrid` for a cell of a grid, and `Helpfrm`, which tells
 /// what the catalogue holds about a variable.
-std::vector<FormType> HelpForms();
+std::vector<FormDeclaration> HelpForms();
 
 }  // namespace kelvor

@@ -7,23 +7,56 @@
 
 namespace kelvor {
 
-void FormRegistry::Declare(std::vector<FormType> types) {
-    for (FormType& type : types) {
-        if (FindType(type.name) != nullptr) throw std::logic_error("form " + type.name + " stands twice");
-        if (type.tag.empty()) type.tag = type.name;
-        types_.push_back(std::make_unique<FormType>(std::move(type)));
+namespace {
+
+std::unique_ptr<FormType> Finished(FormType type) {
+    if (type.tag.empty()) type.tag = type.name;
+    return std::make_unique<FormType>(std::move(type));
+}
+
+}  // namespace
+
+void FormRegistry::Declare(std::vector<FormDeclaration> declarations, void (*finish)(FormType& type)) {
+    for (FormDeclaration& declaration : declarations) {
+        Add({std::move(declaration.name), std::move(declaration.make), finish, nullptr});
     }
 }
 
-const FormType* FormRegistry::FindType(std::string_view name) const {
+void FormRegistry::Declare(std::vector<FormType> types) {
+    for (FormType& type : types) {
+        const std::string name = type.name;
+        Add({name, nullptr, nullptr, Finished(std::move(type))});
+    }
+}
+
+void FormRegistry::Add(Entry entry) {
+    if (IsDeclared(entry.name)) throw std::logic_error("form " + entry.name + " stands twice");
+    types_.push_back(std::move(entry));
+}
+
+FormRegistry::Entry* FormRegistry::FindEntry(std::string_view name) const {
     const auto found = std::find_if(types_.begin(), types_.end(),
-                                    [&](const auto& type) { return EqualNoCase(type->name, name); });
-    return found == types_.end() ? nullptr : found->get();
+                                    [&](const Entry& entry) { return EqualNoCase(entry.name, name); });
+    return found == types_.end() ? nullptr : &*found;
+}
+
+const FormType* FormRegistry::FindType(std::string_view name) const {
+    Entry* entry = FindEntry(name);
+    if (entry == nullptr) return nullptr;
+    if (entry->type == nullptr) {
+        FormType type = entry->make();
+        if (type.name != entry->name) {
+            throw std::logic_error("form " + entry->name + " is declared as " + type.name);
+        }
+        if (entry->finish != nullptr) entry->finish(type);
+        entry->type = Finished(std::move(type));
+    }
+    return entry->type.get();
 }
 
 std::vector<std::string> FormRegistry::TypeNames() const {
     std::vector<std::string> names;
-    for (const auto& type : types_) names.push_back(type->name);
+    for (const Entry& entry : types_) names.push_back(entry.name);
     return names;
 }
 

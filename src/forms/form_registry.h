@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -15,10 +16,13 @@ namespace kelvor {
 /// All form types by name, and the open forms from the back to the front; at most one of each type.
 class FormRegistry {
   public:
-    /// Throws std::logic_error if a name stands twice.
+    /// Throws std::logic_error if a name stands twice. Each type passes through `finish` once it is made.
+    void Declare(std::vector<FormDeclaration> declarations, void (*finish)(FormType& type) = nullptr);
     void Declare(std::vector<FormType> types);
 
-    /// Null if there is no such type.
+    [[nodiscard]] bool IsDeclared(std::string_view name) const { return FindEntry(name) != nullptr; }
+
+    /// Null if there is no such type. Throws std::logic_error if its declaration makes one of another name.
     [[nodiscard]] const FormType* FindType(std::string_view name) const;
     [[nodiscard]] std::vector<std::string> TypeNames() const;
 
@@ -61,7 +65,17 @@ class FormRegistry {
     Form* CurrentForm = nullptr;
 
   private:
-    std::vector<std::unique_ptr<FormType>> types_;
+    struct Entry {
+        std::string name;
+        std::function<FormType()> make;
+        void (*finish)(FormType& type) = nullptr;
+        std::unique_ptr<FormType> type;  // null until it is asked for
+    };
+
+    [[nodiscard]] Entry* FindEntry(std::string_view name) const;
+    void Add(Entry entry);
+
+    mutable std::vector<Entry> types_;
     std::vector<std::unique_ptr<Form>> stack_;  // back to front
     std::vector<std::unique_ptr<Form>> removed_;
     std::vector<Form*> opened_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -119,6 +120,12 @@ struct FormType {
     bool needsProject = true;     // it shows values of the project, and works on nothing else
     bool beginsAnew = false;      // opened again while it is open, it starts as if it had not been
     bool isHub = false;           // the form with the tabs: always open, and Enter selects its options
+};
+
+/// A form type by its name, made when it is first asked for: most are never opened in a session.
+struct FormDeclaration {
+    std::string name;
+    std::function<FormType()> make;
 };
 
 }  // namespace kelvor

@@ -55,6 +55,10 @@ FormType ValueHelp(const std::string& name, const std::string& box, std::vector<
     return type;
 }
 
+FormType FieldHelp() { return ValueHelp("HelpForm", "TextBox", {}); }
+
+FormType CellHelp() { return ValueHelp("HelpGrid", "Text1", {"Column", "Dim1"}); }
+
 // --- What the catalogue holds about a variable ---------------------------------------------------------
 
 std::string LimitText(const std::optional<double>& limit, const std::string& picture) {
@@ -110,9 +114,8 @@ FormType FactsForm() {
 
 }  // namespace
 
-std::vector<FormType> HelpForms() {
-    return {ValueHelp("HelpForm", "TextBox", {}), ValueHelp("HelpGrid", "Text1", {"Column", "Dim1"}),
-            FactsForm()};
+std::vector<FormDeclaration> HelpForms() {
+    return {{"HelpForm", FieldHelp}, {"HelpGrid", CellHelp}, {"Helpfrm", FactsForm}};
 }
 
 }  // namespace kelvor

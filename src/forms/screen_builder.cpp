@@ -13,7 +13,6 @@ namespace kelvor {
 
 namespace {
 
-constexpr const char* kBlankForm = "Blank";
 
 // Where a row of the catalogue counts in letters and rows, these are its constants.
 constexpr double kRuleMargin = 5.0;        // a rule is as long as its x less this

@@ -7,6 +7,8 @@
 
 namespace kelvor {
 
+inline constexpr const char* kBlankForm = "Blank";
+
 /// `Blank`: a form with nothing on it but what every built screen may have.
 FormType BlankForm();
 

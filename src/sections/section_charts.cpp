@@ -34,10 +34,12 @@ void OpenDiagram(ScreenEvent& event) {
     FormEvents(event.context).Open({.form = hasTable ? "CSec2" : "CSec"});
 }
 
+std::string ChartName(std::string_view screen) { return std::string(screen) + kSectionSuffix; }
+
 FormType SectionChartForm(std::string_view screen, const char* caption, LayoutElement layout,
                           void (*draw)(ScreenEvent&)) {
     FormType type;
-    type.name = std::string(screen) + kSectionSuffix;
+    type.name = ChartName(screen);
     type.caption = caption;
     type.layout = std::move(layout);
     type.foot = {{kDiagramButton, "&Diagram"}, ClosingButton()};
@@ -56,6 +58,18 @@ ChartData EmptySection() {
     return sheet;
 }
 
+FormType MemberChartForm(const SectionMember& member) {
+    return SectionChartForm(member.screen, member.title, Chart("Chart1", EmptySection(), kChartLetters),
+                            DrawSection);
+}
+
+FormType PairChartForm() {
+    return SectionChartForm(kBothDesigns, "Flexible and Rigid Design Cross Sections",
+                            Columns({Chart("Chart1", EmptySection(), kPairLetters),
+                                     Chart("Chart2", EmptySection(), kPairLetters)}),
+                            DrawPair);
+}
+
 }  // namespace
 
 std::string ScreenDrawnBy(const std::string& form) {
@@ -65,16 +79,12 @@ std::string ScreenDrawnBy(const std::string& form) {
     return screen == kBothDesigns || FindSectionMember(screen) != nullptr ? screen : std::string();
 }
 
-std::vector<FormType> SectionChartForms() {
-    std::vector<FormType> forms;
+std::vector<FormDeclaration> SectionChartForms() {
+    std::vector<FormDeclaration> forms;
     for (const SectionMember& member : SectionMembers()) {
-        forms.push_back(SectionChartForm(member.screen, member.title,
-                                         Chart("Chart1", EmptySection(), kChartLetters), DrawSection));
+        forms.push_back({ChartName(member.screen), [&member] { return MemberChartForm(member); }});
     }
-    forms.push_back(SectionChartForm(kBothDesigns, "Flexible and Rigid Design Cross Sections",
-                                     Columns({Chart("Chart1", EmptySection(), kPairLetters),
-                                              Chart("Chart2", EmptySection(), kPairLetters)}),
-                                     DrawPair));
+    forms.push_back({ChartName(kBothDesigns), PairChartForm});
     return forms;
 }
 

@@ -5,10 +5,10 @@
 
 namespace kelvor {
 
-std::vector<FormType> SectionForms() {
-    std::vector<FormType> forms = SectionChartForms();
-    forms.push_back(LayerDiagramForm());
-    forms.push_back(LayerListForm());
+std::vector<FormDeclaration> SectionForms() {
+    std::vector<FormDeclaration> forms = SectionChartForms();
+    forms.push_back({"CSec", LayerDiagramForm});
+    forms.push_back({"CSec2", LayerListForm});
     return forms;
 }
 

@@ -8,6 +8,6 @@ namespace kelvor {
 
 /// The forms that draw the pavements of the design and overlay screens: `DeFCS` and its like to scale, `CSec`
 /// and `CSec2` as diagrams.
-std::vector<FormType> SectionForms();
+std::vector<FormDeclaration> SectionForms();
 
 }  // namespace kelvor

@@ -9,7 +9,7 @@ FormType AboutForm(const std::vector<Library>& ofFrontEnd) {
     std::vector<Library> libraries = CoreLibraries();
     libraries.insert(libraries.end(), ofFrontEnd.begin(), ofFrontEnd.end());
     FormType type;
-    type.name = "About";
+    type.name = kAboutForm;
     type.caption = "About Kelvor";
     type.needsProject = false;
     type.layout = Rows({

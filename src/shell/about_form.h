@@ -7,6 +7,8 @@
 
 namespace kelvor {
 
+inline constexpr const char* kAboutForm = "About";
+
 /// `About`: which program this is, which version of it, and the libraries that it uses, those of the front
 /// end last.
 FormType AboutForm(const std::vector<Library>& ofFrontEnd);

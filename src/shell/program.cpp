@@ -22,6 +22,7 @@
 #include "shell/about_form.h"
 #include "shell/event_scope.h"
 #include "shell/hub/hub.h"
+#include "shell/hub/hub_table.h"
 #include "shell/project_files.h"
 #include "shell/recent_files.h"
 #include "shell/recovery.h"
@@ -38,16 +39,17 @@ constexpr const char* kTyping = "typing";  // what Undo drops before it takes a 
 }  // namespace
 
 Program::Program(Host host, Home home) : state_(host, std::move(home)) {
-    state_.formRegistry.Declare({HubForm(), AboutForm(state_.host.libraries)});
-    state_.formRegistry.Declare(HelpForms());
-    state_.formRegistry.Declare({BlankForm(), ReportsPreviewForm()});
-    state_.formRegistry.Declare(WithHubTold(DesignForms()));
-    state_.formRegistry.Declare(WithHubTold(TrafficForms()));
-    state_.formRegistry.Declare(WithHubTold(ExistingPavementForms()));
-    state_.formRegistry.Declare(WithHubTold(OverlayForms()));
-    state_.formRegistry.Declare(WithHubTold(DeflectionForms()));
-    state_.formRegistry.Declare(CostForms());
-    state_.formRegistry.Declare(SectionForms());
+    FormRegistry& forms = state_.formRegistry;
+    forms.Declare({{kHubForm, HubForm}, {kAboutForm, [this] { return AboutForm(state_.host.libraries); }}});
+    forms.Declare(HelpForms());
+    forms.Declare({{kBlankForm, BlankForm}, {kPreviewForm, ReportsPreviewForm}});
+    forms.Declare(DesignForms(), LetTellHub);
+    forms.Declare(TrafficForms(), LetTellHub);
+    forms.Declare(ExistingPavementForms(), LetTellHub);
+    forms.Declare(OverlayForms(), LetTellHub);
+    forms.Declare(DeflectionForms(), LetTellHub);
+    forms.Declare(CostForms());
+    forms.Declare(SectionForms());
 }
 
 Program::~Program() {
@@ -61,6 +63,7 @@ StartResult Program::Start(const std::string& commandLine) {
 #ifndef NDEBUG
     // A name that is none ends every start of a build for work; what ships has passed its tests.
     CheckDeclarations(state_.formRegistry, *state_.dbCatalogue);
+    CheckHubTable(state_.formRegistry, *state_.dbCatalogue);
 #endif
     InEvent([&] {
         ShowHub();

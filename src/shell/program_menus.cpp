@@ -8,6 +8,7 @@
 #include "forms/screen_builder.h"
 #include "forms/side_screen.h"
 #include "platform/database_error.h"
+#include "shell/about_form.h"
 #include "shell/hub/hub.h"
 #include "shell/program.h"
 #include "shell/project_files.h"
@@ -53,7 +54,7 @@ bool Program::ChooseMenu(const std::string& name, int index) {
 
 void Program::ShowAbout() {
     ScreenContext context = state_.MakeScreenContext();
-    FormEvents(context).Open({.form = "About"});
+    FormEvents(context).Open({.form = kAboutForm});
 }
 
 /// The value being typed is committed first; a refused one stops it.

@@ -118,7 +118,8 @@ void WorkCopy::SetVersion(int version) {
 void WorkCopy::ReadRows(const std::function<void(const Row&)>& visit) { ReadRowsThat("", visit); }
 
 void WorkCopy::ReadFilledRows(const std::function<void(const Row&)>& visit) {
-    ReadRowsThat("RValue IS NOT NULL OR SValue IS NOT NULL", visit);
+    // The last column first: the way to it passes the other one, which is then at hand.
+    ReadRowsThat("SValue IS NOT NULL OR RValue IS NOT NULL", visit);
 }
 
 std::size_t WorkCopy::CountRows() {

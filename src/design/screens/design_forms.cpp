@@ -10,10 +10,17 @@
 
 namespace kelvor {
 
-std::vector<FormType> DesignForms() {
-    return {FlexibleDesignForm(),   RigidDesignForm(),        BothDesignsForm(), LayeredDesignForm(),
-            LayerCoefficientHelp(), OverlayCoefficientHelp(), CompositeKHelp(),  SubgradeModulusHelp(),
-            StructuralNumberHelp(), SoilModulusHelp()};
+std::vector<FormDeclaration> DesignForms() {
+    return {{"DeF", FlexibleDesignForm},
+            {"DeR", RigidDesignForm},
+            {"DeS", BothDesignsForm},
+            {"LayDet", LayeredDesignForm},
+            {"H_LDLayerCoef", LayerCoefficientHelp},
+            {"H_ACACOLLC", OverlayCoefficientHelp},
+            {"H_K", CompositeKHelp},
+            {"H_SRM", SubgradeModulusHelp},
+            {"H_SN", StructuralNumberHelp},
+            {"H_SRMII", SoilModulusHelp}};
 }
 
 }  // namespace kelvor

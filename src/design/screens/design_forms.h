@@ -7,6 +7,6 @@
 namespace kelvor {
 
 /// The screens of new pavement design.
-std::vector<FormType> DesignForms();
+std::vector<FormDeclaration> DesignForms();
 
 }  // namespace kelvor

@@ -11,9 +11,10 @@
 
 namespace kelvor {
 
-std::vector<FormType> CostForms() {
-    return {PavementPage(),    InitialCostsPage(), MaintenancePage(), RehabilitationPage(),
-            CostSummaryForm(), CostChartForm(),    HistogramForm(),   GraphsForm()};
+std::vector<FormDeclaration> CostForms() {
+    return {{"LcA1", PavementPage},         {"LcA1_2", InitialCostsPage}, {"LcA1_3", MaintenancePage},
+            {"LcA1_4", RehabilitationPage}, {"LcS", CostSummaryForm},     {"CostChart", CostChartForm},
+            {"Histogr", HistogramForm},     {"Graphs", GraphsForm}};
 }
 
 }  // namespace kelvor

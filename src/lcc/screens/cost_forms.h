@@ -7,6 +7,6 @@
 namespace kelvor {
 
 /// The screens of life-cycle costs: the four pages of a pavement, the summary, and the charts.
-std::vector<FormType> CostForms();
+std::vector<FormDeclaration> CostForms();
 
 }  // namespace kelvor

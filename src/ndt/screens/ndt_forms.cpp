@@ -6,8 +6,10 @@
 
 namespace kelvor {
 
-std::vector<FormType> DeflectionForms() {
-    return {FlexibleDeflectionsForm(), RigidDeflectionsForm(), CompositeDeflectionsForm()};
+std::vector<FormDeclaration> DeflectionForms() {
+    return {{"ReDfF", FlexibleDeflectionsForm},
+            {"ReDfR", RigidDeflectionsForm},
+            {"ReDfC", CompositeDeflectionsForm}};
 }
 
 }  // namespace kelvor

@@ -7,6 +7,6 @@
 namespace kelvor {
 
 /// The screens of deflection tests on flexible, rigid and composite pavements.
-std::vector<FormType> DeflectionForms();
+std::vector<FormDeclaration> DeflectionForms();
 
 }  // namespace kelvor

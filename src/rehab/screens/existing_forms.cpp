@@ -8,9 +8,9 @@
 
 namespace kelvor {
 
-std::vector<FormType> ExistingPavementForms() {
-    return {ExistingFlexibleForm(), ExistingSlabForm(), ExistingCompositeForm(),
-            DeflectionSNHelp(),     SurveySNHelp(),     JointFactorHelp()};
+std::vector<FormDeclaration> ExistingPavementForms() {
+    return {{"ExF", ExistingFlexibleForm}, {"ExR", ExistingSlabForm}, {"ExC", ExistingCompositeForm},
+            {"SNHelp", DeflectionSNHelp},  {"SNCHELP", SurveySNHelp}, {"FjcHelp", JointFactorHelp}};
 }
 
 }  // namespace kelvor

@@ -7,6 +7,6 @@
 namespace kelvor {
 
 /// The screens of existing pavements, and the helps that work out what is left of them.
-std::vector<FormType> ExistingPavementForms();
+std::vector<FormDeclaration> ExistingPavementForms();
 
 }  // namespace kelvor

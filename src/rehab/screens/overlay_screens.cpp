@@ -8,9 +8,10 @@
 
 namespace kelvor {
 
-std::vector<FormType> OverlayForms() {
-    std::vector<FormType> forms;
-    forms.push_back(MakeOverlay(
+namespace {
+
+FormType AsphaltOnAsphaltForm() {
+    return MakeOverlay(
         {.name = "OvAA",
          .caption = "AC Overlay of AC Pavement",
          .flag = BalanceFlag::OvAA,
@@ -31,8 +32,11 @@ std::vector<FormType> OverlayForms() {
                         {"CONDEFFSN", "SNCHELP", "Work out the effective SN from the survey"},
                         {"ACACOLLC", "H_ACACOLLC"}},
          .takeOvers = {SoilModulusFromDeflections("EXISTRM"), StructuralNumberFromDeflections("NDTEFFSN")},
-         .handlers = {NotingOfField()}}));
-    forms.push_back(MakeOverlay(
+         .handlers = {NotingOfField()}});
+}
+
+FormType AsphaltOnFracturedForm() {
+    return MakeOverlay(
         {.name = "OvAFP",
          .caption = "AC Overlay of Fractured PCC Pavement",
          .flag = BalanceFlag::OvAFP,
@@ -48,8 +52,11 @@ std::vector<FormType> OverlayForms() {
                          OfLayer("Frame6", "Subbase", "SUBLT", "SUBLC", "SUBDC")}),
          .effective = {Effective("Effective Structural Number",
                                  {{"ACCSEFFSN", "Effective Structural Number"}})},
-         .thickness = {{"ACCSOLLC", "AC Overlay Coefficient"}, {"ACCSTHICK", "AC Overlay Thickness"}}}));
-    forms.push_back(MakeOverlay(
+         .thickness = {{"ACCSOLLC", "AC Overlay Coefficient"}, {"ACCSTHICK", "AC Overlay Thickness"}}});
+}
+
+FormType AsphaltOnConcreteForm() {
+    return MakeOverlay(
         {.name = "OvAP",
          .caption = "AC Overlay of PCC Pavement",
          .flag = BalanceFlag::OvAP,
@@ -64,8 +71,11 @@ std::vector<FormType> OverlayForms() {
          .thickness = {{"ACPCOLT", "AC Overlay Thickness"}},
          .helpRoutes = {WorkOutJointFactor("ACPCFJC")},
          .takeOvers = SlabFromDeflections(),
-         .handlers = {ClearingOfSurvey()}}));
-    forms.push_back(MakeOverlay(
+         .handlers = {ClearingOfSurvey()}});
+}
+
+FormType AsphaltOnCompositeForm() {
+    return MakeOverlay(
         {.name = "OvAAP",
          .caption = "AC Overlay of AC/PCC Pavement",
          .flag = BalanceFlag::OvAAP,
@@ -81,8 +91,11 @@ std::vector<FormType> OverlayForms() {
          .thickness = {{"ACACPCOLT", "AC Overlay Thickness"}},
          .helpRoutes = {WorkOutK("EXISTK"), WorkOutJointFactor("ACACPCFJC")},
          .takeOvers = CompositeSlabFromDeflections(),
-         .handlers = {ClearingOfSurvey()}}));
-    forms.push_back(MakeOverlay(
+         .handlers = {ClearingOfSurvey()}});
+}
+
+FormType BondedForm() {
+    return MakeOverlay(
         {.name = "OvBP",
          .caption = "Bonded Overlay Design",
          .flag = BalanceFlag::OvBP,
@@ -97,8 +110,11 @@ std::vector<FormType> OverlayForms() {
          .thickness = {{"BOLDEPTH", "Bonded Overlay Thickness"}},
          .helpRoutes = {WorkOutK("EXISTK"), WorkOutJointFactor("BOLFJC")},
          .takeOvers = SlabFromDeflections(),
-         .handlers = {ClearingOfSurvey()}}));
-    forms.push_back(MakeOverlay(
+         .handlers = {ClearingOfSurvey()}});
+}
+
+FormType UnbondedForm() {
+    return MakeOverlay(
         {.name = "OvUP",
          .caption = "Unbonded PCC Overlay",
          .flag = BalanceFlag::OvUP,
@@ -112,16 +128,29 @@ std::vector<FormType> OverlayForms() {
          .button = "CmdSolveFor",
          .helpRoutes = {WorkOutK("EXISTK"), WorkOutJointFactor("UBOLFJCU")},
          .takeOvers = {SubgradeReactionFromDeflections()},
-         .handlers = {ClearingOfSurvey()}}));
-    forms.push_back(
-        MakeOverlay({.name = "OvWT",
-                     .caption = "Whitetopping Design",
-                     .flag = BalanceFlag::OvWT,
-                     .governs = WhitetoppingGoverns,
-                     .future = OfConcrete("WTDEPTH", "Whitetopping Thickness", "OLMR", "OLEC", "OLJ"),
-                     .answer = "Whitetopping Thickness",
-                     .helpRoutes = {WorkOutK("EXISTK")}}));
-    return forms;
+         .handlers = {ClearingOfSurvey()}});
+}
+
+FormType WhitetoppingForm() {
+    return MakeOverlay({.name = "OvWT",
+                        .caption = "Whitetopping Design",
+                        .flag = BalanceFlag::OvWT,
+                        .governs = WhitetoppingGoverns,
+                        .future = OfConcrete("WTDEPTH", "Whitetopping Thickness", "OLMR", "OLEC", "OLJ"),
+                        .answer = "Whitetopping Thickness",
+                        .helpRoutes = {WorkOutK("EXISTK")}});
+}
+
+}  // namespace
+
+std::vector<FormDeclaration> OverlayForms() {
+    return {{"OvAA", AsphaltOnAsphaltForm},
+            {"OvAFP", AsphaltOnFracturedForm},
+            {"OvAP", AsphaltOnConcreteForm},
+            {"OvAAP", AsphaltOnCompositeForm},
+            {"OvBP", BondedForm},
+            {"OvUP", UnbondedForm},
+            {"OvWT", WhitetoppingForm}};
 }
 
 }  // namespace kelvor

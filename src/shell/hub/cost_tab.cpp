@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <array>
 
 #include "shell/hub/screen_choice.h"
 #include "shell/hub/tabs.h"
@@ -8,12 +7,11 @@ namespace kelvor {
 
 namespace {
 
-constexpr std::array kGraphs = {"InitialCost", "MaintenanceCosts",    "RehabilitationCosts", "PW",
-                                "EUAC",        "ExpenditureHistogram"};
-
 void GraphsClick(ScreenEvent& event) {
-    const bool any = std::any_of(kGraphs.begin(), kGraphs.end(),
-                                 [&](const char* option) { return event.form.Get(option).value; });
+    const auto rows = HubTable();
+    const bool any = std::any_of(rows.begin(), rows.end(), [&](const HubRow& row) {
+        return row.group == HubGroup::Graphs && event.form.Get(row.option).value;
+    });
     if (any) {
         OpenChosenScreen(event);
     } else {
@@ -32,20 +30,13 @@ HubPage CostTab() {
                                                 {"AnalysisPeriodA"},
                                                 {"AnalysisPeriodB"}})}),
                                  Frame("FrameLc", "Costs",
-                                       {Options({{"oLcA1", "Pavement (A) Cost Information"},
-                                                 {"oLcA2", "Pavement (B) Cost Information"},
-                                                 {"oLcS", "Life-Cycle Cost Summary"}}),
-                                        Buttons({{"Command2", "&Costs"}})})}),
+                                       {HubOptions(HubGroup::Costs),
+                                        Buttons({{HubButton(HubGroup::Costs), "&Costs"}})})}),
                            Frame("GraphsOpt", "Graphs",
-                                 {Options({{"InitialCost", "Initial Cost"},
-                                           {"MaintenanceCosts", "Maintenance Cost"},
-                                           {"RehabilitationCosts", "Rehabilitation Cost"},
-                                           {"PW", "Present Worth"},
-                                           {"EUAC", "EUAC"},
-                                           {"ExpenditureHistogram", "Expenditure Histogram"}}),
-                                  Buttons({{"Command8", "Graphs"}})})})}),
-            {{FormEvent::Click, "Command2", HandlerOrder::Instead, OpenChosenScreen},
-             {FormEvent::Click, "Command8", HandlerOrder::Instead, GraphsClick}}};
+                                 {HubOptions(HubGroup::Graphs),
+                                  Buttons({{HubButton(HubGroup::Graphs), "Graphs"}})})})}),
+            {OpeningChosenScreen(HubGroup::Costs),
+             {FormEvent::Click, HubButton(HubGroup::Graphs), HandlerOrder::Instead, GraphsClick}}};
 }
 
 void LoadCostTab(Form& hub) { hub.Get("DiscountRate").tabStop = true; }

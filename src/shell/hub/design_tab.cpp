@@ -4,11 +4,9 @@
 namespace kelvor {
 
 HubPage DesignTab() {
-    return {Page("Design / Evaluation", {Options({{"oDeF", "Asphalt Pavement Design / Evaluation"},
-                                                  {"oDeR", "Rigid Pavement Design / Evaluation"},
-                                                  {"oDeS", "Both Rigid and Asphalt Design / Evaluation"}}),
-                                         Buttons({{"Command4", "&Design"}})}),
-            {{FormEvent::Click, "Command4", HandlerOrder::Instead, OpenChosenScreen}}};
+    constexpr HubGroup kGroup = HubGroup::Designs;
+    return {Page("Design / Evaluation", {HubOptions(kGroup), Buttons({{HubButton(kGroup), "&Design"}})}),
+            {OpeningChosenScreen(kGroup)}};
 }
 
 }  // namespace kelvor

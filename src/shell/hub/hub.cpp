@@ -1,6 +1,5 @@
 #include "shell/hub/hub.h"
 
-#include <algorithm>
 #include <array>
 #include <string_view>
 #include <utility>
@@ -26,7 +25,7 @@ static_assert(kTabs.size() == kHubTabs);
 
 void Load(ScreenEvent& event) {
     LoadCostTab(event.form);
-    LoadListsTab(event.context, event.form);
+    LoadListsTab(event.form);
     OfferProject(event.context, event.form);
 }
 
@@ -48,42 +47,31 @@ void UnitsSwitched(ScreenEvent& /*event*/) {}
 /// What a tab offers follows the project each time it is entered.
 void OfferOnTab(const ScreenContext& context, Form& hub, HubTab tab) {
     if (tab == HubTab::Traffic) {
-        OfferTrafficRoutes(context, hub);
-        OfferTrafficReports(context, hub);
+        OfferByNeeds(context, hub, HubGroup::Traffic);
+        OfferReportsOf(context, hub, report_category::kTraffic);
     }
     if (tab == HubTab::Overlays) {
-        UpdateOverlayReportOptions(context, hub);
-        OfferOverlayReports(context, hub);
+        OfferByNeeds(context, hub, HubGroup::Overlays);
+        OfferReportsOf(context, hub, report_category::kOverlays);
     }
     if (tab == HubTab::LifeCycleCosting) OfferCostReport(context, hub);
     if (tab == HubTab::Reports) OfferReports(context, hub);
 }
 
-void TrafficInputsClosed(const ScreenContext& context, Form& hub) {
-    OfferTrafficRoutes(context, hub);
-    OfferTrafficReportsByInputs(context, hub);
-}
-
-/// A screen whose values decide what the hub offers.
-struct DecidingScreen {
-    std::string_view name;
-    void (*closed)(const ScreenContext& context, Form& hub);
-};
-
-constexpr std::array kDecidingScreens = {
-    DecidingScreen{"TrFa", TrafficInputsClosed}, DecidingScreen{"DeR", UpdateOverlayReportOptions},
-    DecidingScreen{"ExF", UpdateOverlayReportOptions}, DecidingScreen{"ExR", UpdateOverlayReportOptions},
-    DecidingScreen{"ExC", UpdateOverlayReportOptions}};
-
-const DecidingScreen* FindDecidingScreen(std::string_view name) {
-    const auto* found = std::find_if(kDecidingScreens.begin(), kDecidingScreens.end(),
-                                     [&](const DecidingScreen& screen) { return screen.name == name; });
-    return found == kDecidingScreens.end() ? nullptr : found;
-}
-
 void ScreenClosed(ScreenEvent& event) {
-    if (Form* hub = event.context.forms.Find(kHubForm))
-        FindDecidingScreen(event.form.name())->closed(event.context, *hub);
+    Form* hub = event.context.forms.Find(kHubForm);
+    if (hub == nullptr) return;
+    switch (FindHubRow(event.form.name())->decidesOn) {
+        case DecidesOn::Nothing:
+            break;
+        case DecidesOn::TrafficRoutes:
+            OfferByNeeds(event.context, *hub, HubGroup::Traffic);
+            OfferReportsByInputs(event.context, *hub, report_category::kTraffic);
+            break;
+        case DecidesOn::Overlays:
+            OfferByNeeds(event.context, *hub, HubGroup::Overlays);
+            break;
+    }
 }
 
 }  // namespace
@@ -108,17 +96,15 @@ void EnterHubTab(ScreenContext& context, Form& hub, HubTab tab) {
 
 void OfferProject(const ScreenContext& context, Form& hub) {
     OfferDeclaredScreens(context, hub);
-    OfferTrafficRoutes(context, hub);
-    UpdateOverlayReportOptions(context, hub);
+    OfferByNeeds(context, hub, HubGroup::Traffic);
+    OfferByNeeds(context, hub, HubGroup::Overlays);
     OfferReports(context, hub);
 }
 
-std::vector<FormType> WithHubTold(std::vector<FormType> screens) {
-    for (FormType& type : screens) {
-        if (FindDecidingScreen(type.name) == nullptr) continue;
-        type.handlers.push_back({FormEvent::Unload, "", HandlerOrder::After, ScreenClosed});
-    }
-    return screens;
+void LetTellHub(FormType& screen) {
+    const HubRow* row = FindHubRow(screen.name);
+    if (row == nullptr || row->decidesOn == DecidesOn::Nothing) return;
+    screen.handlers.push_back({FormEvent::Unload, "", HandlerOrder::After, ScreenClosed});
 }
 
 FormType HubForm() {

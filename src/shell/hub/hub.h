@@ -27,8 +27,8 @@ FormType HubForm();
 /// What the hub offers follows the project that is open: after the start, New and Open.
 void OfferProject(const ScreenContext& context, Form& hub);
 
-/// The screens, of which those whose values decide what the hub offers tell it when they are closed.
-std::vector<FormType> WithHubTold(std::vector<FormType> screens);
+/// A screen whose values decide what the hub offers tells it when it is closed; any other stays as it is.
+void LetTellHub(FormType& screen);
 
 /// Brings a tab of the hub in front: its values are read again, what it offers follows the project, and the
 /// focus goes to its first control.

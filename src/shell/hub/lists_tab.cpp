@@ -135,7 +135,7 @@ HubPage ListsTab() {
              {FormEvent::Click, kSort, HandlerOrder::Instead, SortClick}}};
 }
 
-void LoadListsTab(ScreenContext& context, Form& hub) {
+void LoadListsTab(Form& hub) {
     GridData& grid = GridOf(hub);
     grid.columns[1].picture = "0";
     grid.columns[0].hint = "Name of the list, by which the screens know it";
@@ -144,7 +144,7 @@ void LoadListsTab(ScreenContext& context, Form& hub) {
     grid.texts.emplace();
     grid.rows = 0;
     hub.Get(kCombo).toolTip = "The list to work on";
-    EnterListsTab(context, hub);
+    OfferListButtons(hub);
 }
 
 void OfferListButtons(Form& hub) {

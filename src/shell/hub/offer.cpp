@@ -9,8 +9,4 @@ void Offer(Form& hub, std::string_view name, bool enabled, const std::string& wh
     if (!enabled) control.value = false;
 }
 
-bool IsDeclared(const ScreenContext& context, std::string_view screen) {
-    return context.forms.FindType(screen) != nullptr;
-}
-
 }  // namespace kelvor

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -7,6 +8,7 @@
 #include "forms/form_events.h"
 #include "reports/run/report_desk.h"
 #include "shell/hub/offer.h"
+#include "shell/hub/screen_choice.h"
 #include "shell/hub/screen_data.h"
 #include "shell/hub/tabs.h"
 
@@ -14,43 +16,15 @@ namespace kelvor {
 
 namespace {
 
-/// What a report's screen must hold before its box can be ticked.
-enum class Wants { Nothing, Data, Cells, AxleCells };
-
-struct ReportBox {
-    const char* box;
-    const char* category;
-    const char* screen;
-    Wants wants;
-    const char* caption;
-};
-
-constexpr const char* kDesign = "rbND";
-constexpr const char* kOverlays = "rbOV";
-constexpr const char* kTraffic = "rbTr";
-constexpr const char* kCost = "rbCost";
 constexpr const char* kReport = "Command10";
 constexpr const char* kExport = "cmdbExport";
-constexpr std::array kCategories = {kDesign, kOverlays, kTraffic, kCost};
+constexpr std::array kBoxedCategories = {report_category::kDesign, report_category::kOverlays,
+                                         report_category::kTraffic};
 
-constexpr std::array kBoxes = {
-    ReportBox{"rbNDopF", kDesign, "DeF", Wants::Nothing, "Flexible"},
-    ReportBox{"rbNDopR", kDesign, "DeR", Wants::Nothing, "Rigid"},
-    ReportBox{"rbOVopBP", kOverlays, "OvBP", Wants::Data, "Bonded Overlay"},
-    ReportBox{"rbOVopUP", kOverlays, "OvUP", Wants::Data, "Unbonded Overlay"},
-    ReportBox{"rbOVopWT", kOverlays, "OvWT", Wants::Data, "PCC Overlay of Asphalt (Whitetopping)"},
-    ReportBox{"rbOVopAFP", kOverlays, "OvAFP", Wants::Data, "AC Overlay of Fractured PCC Pavement"},
-    ReportBox{"rbOVopAA", kOverlays, "OvAA", Wants::Data, "AC Overlay of AC Pavement"},
-    ReportBox{"rbOVopAP", kOverlays, "OvAP", Wants::Data, "AC Overlay of PCC Pavement"},
-    ReportBox{"rbOVopAAP", kOverlays, "OvAAP", Wants::Data, "AC Overlay of AC/PCC Pavement"},
-    ReportBox{"rbTRopTrAx", kTraffic, "TrAx", Wants::Cells, "ESAL Determination by Axle Data"},
-    ReportBox{"rbTRopTrVe", kTraffic, "TrVe", Wants::AxleCells, "ESAL Determination by Vehicle Type"},
-    ReportBox{"rbTRopTrTr", kTraffic, "TrTr", Wants::Data, "ESAL Determination by Traffic Factors"},
-};
+/// The costs have no boxes: the category is the report.
+constexpr const char* kCost = report_category::kCost;
 
 constexpr const char* kCostScreen = "LcA1";
-constexpr std::array kCostScreens = {"LcA1", "LcA1_2", "LcA1_4", "LcA2", "LcA2_2", "LcA2_4"};
-
 constexpr const char* kNoData = "its screen holds no values yet";
 constexpr const char* kNoCosts = "no cost screen holds values yet";
 
@@ -71,10 +45,15 @@ void SyncReportOptions(Form& hub, const Control& option) {
     }
 }
 
+void ClearCategories(Form& hub) {
+    for (const char* name : kBoxedCategories) hub.Get(name).value = false;
+    hub.Get(kCost).value = false;
+}
+
 /// Selects a category. One that was not selected clears the boxes, as a click on it does.
 void SelectCategory(Form& hub, Control& category) {
     if (category.value) return;
-    for (const char* name : kCategories) hub.Get(name).value = false;
+    ClearCategories(hub);
     category.value = true;
     SyncReportOptions(hub, category);
 }
@@ -83,56 +62,62 @@ void CategoryClick(ScreenEvent& event) { SyncReportOptions(event.form, *event.co
 
 void BoxClick(ScreenEvent& event) {
     SyncReportOptions(event.form, *event.control);
-    const auto row = std::find_if(kBoxes.begin(), kBoxes.end(),
-                                  [&](const ReportBox& report) { return event.control->name == report.box; });
-    SelectCategory(event.form, event.form.Get(row->category));
+    const auto rows = HubTable();
+    const auto row = std::find_if(rows.begin(), rows.end(), [&](const HubRow& candidate) {
+        return event.control->name == candidate.report.box;
+    });
+    SelectCategory(event.form, event.form.Get(row->report.category));
 }
 
-/// The costs have no boxes: the category is the report.
 void CostClick(ScreenEvent& event) {
     SyncReportOptions(event.form, *event.control);
-    for (const char* name : kCategories) {
-        if (event.control->name != name) event.form.Get(name).value = false;
-    }
+    for (const char* name : kBoxedCategories) event.form.Get(name).value = false;
 }
 
-bool HoldsData(const ScreenContext& context, const ReportBox& report) {
-    switch (report.wants) {
-        case Wants::Nothing:
+bool HoldsData(const ScreenContext& context, const HubRow& row) {
+    switch (row.report.wants) {
+        case ReportWants::Nothing:
             return true;
-        case Wants::Data:
-            return ScreenHasData(context, report.screen);
-        case Wants::Cells:
-            return ScreenHasCells(context, report.screen);
-        case Wants::AxleCells:
+        case ReportWants::Data:
+            return ScreenHasData(context, row.screen);
+        case ReportWants::Cells:
+            return ScreenHasCells(context, row.screen);
+        case ReportWants::AxleCells:
             return ScreenHasAxleCells(context);
     }
     return false;
 }
 
-void OfferBox(const ScreenContext& context, Form& hub, const ReportBox& report) {
-    const bool declared = IsDeclared(context, report.screen);
-    Offer(hub, report.box, declared && HoldsData(context, report), declared ? kNoData : kComesLater);
+/// Why a report cannot be ticked; empty if it can.
+std::string WhyNot(const ScreenContext& context, const HubRow& row) {
+    if (!context.forms.IsDeclared(row.screen)) return kComesLater;
+    const std::string missing = row.report.needsInputs ? WhatIsMissing(context, row.needs) : "";
+    if (!missing.empty()) return missing;
+    return HoldsData(context, row) ? "" : kNoData;
 }
 
-template <typename Offering>
-void ForCategory(std::string_view category, Offering offer) {
-    for (const ReportBox& report : kBoxes) {
-        if (report.category == category) offer(report);
+/// The rows that have a box in a category, in the order of their boxes.
+std::vector<const HubRow*> BoxesOf(std::string_view category) {
+    std::vector<const HubRow*> boxes;
+    for (const HubRow& row : HubTable()) {
+        if (row.report.category == category) boxes.push_back(&row);
     }
+    std::sort(boxes.begin(), boxes.end(),
+              [](const HubRow* a, const HubRow* b) { return a->report.place < b->report.place; });
+    return boxes;
 }
 
 void OfferCategory(const ScreenContext& context, Form& hub, std::string_view category) {
-    const bool any = std::any_of(kBoxes.begin(), kBoxes.end(), [&](const ReportBox& report) {
-        return report.category == category && IsDeclared(context, report.screen);
-    });
+    const std::vector<const HubRow*> boxes = BoxesOf(category);
+    const bool any = std::any_of(boxes.begin(), boxes.end(),
+                                 [&](const HubRow* row) { return context.forms.IsDeclared(row->screen); });
     Offer(hub, category, any, kComesLater);
 }
 
 /// A category above its boxes.
 LayoutElement Category(const char* frame, const char* category, const char* caption) {
     std::vector<ButtonItem> boxes;
-    ForCategory(category, [&](const ReportBox& report) { boxes.push_back({report.box, report.caption}); });
+    for (const HubRow* row : BoxesOf(category)) boxes.push_back({row->report.box, row->report.caption});
     std::vector<LayoutElement> rows = {Options({ButtonItem{category, caption}})};
     if (!boxes.empty()) rows.push_back(Checks(std::move(boxes)));
     return Section(frame, "", std::move(rows));
@@ -146,11 +131,11 @@ std::vector<Handler> ReportHandlers() {
     std::vector<Handler> handlers = {{FormEvent::Click, kCost, HandlerOrder::Instead, CostClick},
                                      {FormEvent::Click, kReport, HandlerOrder::Instead, Report},
                                      {FormEvent::Click, kExport, HandlerOrder::Instead, Export}};
-    for (const char* category : {kDesign, kOverlays, kTraffic}) {
+    for (const char* category : kBoxedCategories) {
         handlers.push_back({FormEvent::Click, category, HandlerOrder::Instead, CategoryClick});
-    }
-    for (const ReportBox& report : kBoxes) {
-        handlers.push_back({FormEvent::Click, report.box, HandlerOrder::Instead, BoxClick});
+        for (const HubRow* row : BoxesOf(category)) {
+            handlers.push_back({FormEvent::Click, row->report.box, HandlerOrder::Instead, BoxClick});
+        }
     }
     return handlers;
 }
@@ -158,44 +143,42 @@ std::vector<Handler> ReportHandlers() {
 }  // namespace
 
 HubPage ReportsTab() {
-    const LayoutElement design = Category("FrameRepND", kDesign, " New Design");
-    const LayoutElement overlays = Category("FrameRepOV", kOverlays, "Overlays");
-    const LayoutElement traffic = Category("FrameRepTr", kTraffic, "Traffic");
+    const LayoutElement design = Category("FrameRepND", report_category::kDesign, " New Design");
+    const LayoutElement overlays = Category("FrameRepOV", report_category::kOverlays, "Overlays");
+    const LayoutElement traffic = Category("FrameRepTr", report_category::kTraffic, "Traffic");
     const LayoutElement costs = Category("FrameRepCost", kCost, "Cost");
     return {Page("Reports", {Columns({Rows({design, overlays}), Rows({traffic, costs})}),
                              Buttons({{kReport, "&Report"}, {kExport, "&Export"}})}),
             ReportHandlers()};
 }
 
-void OfferOverlayReports(const ScreenContext& context, Form& hub) {
-    ForCategory(kOverlays, [&](const ReportBox& report) { OfferBox(context, hub, report); });
+void OfferReportsOf(const ScreenContext& context, Form& hub, std::string_view category) {
+    for (const HubRow* row : BoxesOf(category)) {
+        const std::string whyNot = WhyNot(context, *row);
+        Offer(hub, row->report.box, whyNot.empty(), whyNot);
+    }
 }
 
-void OfferTrafficReports(const ScreenContext& context, Form& hub) {
-    const bool filled = TrafficInputsFilled(context);
-    ForCategory(kTraffic, [&](const ReportBox& report) {
-        Offer(hub, report.box, filled && HoldsData(context, report), filled ? kNoData : kInputsMissing);
-    });
-}
-
-void OfferTrafficReportsByInputs(const ScreenContext& context, Form& hub) {
-    const bool filled = TrafficInputsFilled(context);
-    ForCategory(kTraffic, [&](const ReportBox& report) { Offer(hub, report.box, filled, kInputsMissing); });
+void OfferReportsByInputs(const ScreenContext& context, Form& hub, std::string_view category) {
+    for (const HubRow* row : BoxesOf(category)) {
+        const std::string missing = WhatIsMissing(context, row->needs);
+        Offer(hub, row->report.box, missing.empty(), missing);
+    }
 }
 
 void OfferCostReport(const ScreenContext& context, Form& hub) {
-    const bool declared = IsDeclared(context, kCostScreen);
-    const bool any = std::any_of(kCostScreens.begin(), kCostScreens.end(),
+    const bool declared = context.forms.IsDeclared(kCostScreen);
+    const bool any = std::any_of(kCostPages.begin(), kCostPages.end(),
                                  [&](const char* screen) { return ScreenHasCells(context, screen); });
     Offer(hub, kCost, declared && any, declared ? kNoCosts : kComesLater);
 }
 
 void OfferReports(const ScreenContext& context, Form& hub) {
-    ForCategory(kDesign, [&](const ReportBox& report) { OfferBox(context, hub, report); });
-    OfferOverlayReports(context, hub);
-    OfferTrafficReports(context, hub);
+    for (const char* category : kBoxedCategories) {
+        OfferReportsOf(context, hub, category);
+        OfferCategory(context, hub, category);
+    }
     OfferCostReport(context, hub);
-    for (const char* category : {kDesign, kOverlays, kTraffic}) OfferCategory(context, hub, category);
 }
 
 }  // namespace kelvor

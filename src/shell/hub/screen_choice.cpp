@@ -1,59 +1,21 @@
 #include "shell/hub/screen_choice.h"
 
 #include <algorithm>
-#include <array>
-#include <optional>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 #include "forms/form_events.h"
 #include "forms/side_screen.h"
 #include "shell/hub/offer.h"
+#include "shell/hub/screen_data.h"
 
 namespace kelvor {
 
 namespace {
 
-struct ScreenChoice {
-    const char* button = "";
-    const char* option = "";
-    const char* screen = "";
-    std::optional<int> slice = {};  // of a screen that has several: the pavement, the category of cost
-};
-
-/// What the buttons open, in the order in which they look at their options.
-constexpr std::array kChoices = {
-    ScreenChoice{"Command1", "PavementTrafficFactors", "TrFa"},
-    ScreenChoice{"Command1", "AxleData", "TrAx"},
-    ScreenChoice{"Command1", "VehicleType", "TrVe"},
-    ScreenChoice{"Command1", "TrafficFactor", "TrTr"},
-    ScreenChoice{"Command4", "oDeR", "DeR"},
-    ScreenChoice{"Command4", "oDeF", "DeF"},
-    ScreenChoice{"Command4", "oDeS", "DeS"},
-    ScreenChoice{"Command7", "oOvBP", "OvBP"},
-    ScreenChoice{"Command7", "oOvUP", "OvUP"},
-    ScreenChoice{"Command7", "oOvWT", "OvWT"},
-    ScreenChoice{"Command7", "oOvAA", "OvAA"},
-    ScreenChoice{"Command7", "oOvAP", "OvAP"},
-    ScreenChoice{"Command7", "oOvAAP", "OvAAP"},
-    ScreenChoice{"Command7", "oOvAFP", "OvAFP"},
-    ScreenChoice{"Command7", "oExR", "ExR"},
-    ScreenChoice{"Command7", "oExF", "ExF"},
-    ScreenChoice{"Command7", "oExC", "ExC"},
-    ScreenChoice{"Command7", "RPNDTCalc", "ReDfR"},
-    ScreenChoice{"Command7", "FPNDTCalc", "ReDfF"},
-    ScreenChoice{"Command7", "CPNDTCalc", "ReDfC"},
-    ScreenChoice{"Command2", "oLcA1", "LcA1", 1},
-    ScreenChoice{"Command2", "oLcA2", "LcA1", 2},
-    ScreenChoice{"Command2", "oLcS", "LcS"},
-    ScreenChoice{"Command8", "InitialCost", "CostChart", 1},
-    ScreenChoice{"Command8", "MaintenanceCosts", "CostChart", 2},
-    ScreenChoice{"Command8", "RehabilitationCosts", "CostChart", 3},
-    ScreenChoice{"Command8", "PW", "CostChart", 4},
-    ScreenChoice{"Command8", "EUAC", "CostChart", 5},
-    ScreenChoice{"Command8", "ExpenditureHistogram", "Histogr"},
-};
-
-bool IsSelected(const Form& hub, const ScreenChoice& choice) {
-    const Control* option = hub.Find(choice.option);
+bool IsSelected(const Form& hub, const HubRow& row) {
+    const Control* option = hub.Find(row.option);
     return option != nullptr && option->value;
 }
 
@@ -63,33 +25,72 @@ bool HasClick(const FormType& type, const Control& button) {
     });
 }
 
+/// True for a button that opens screens if one of them is declared, and for any other button.
 bool OpensSomething(const ScreenContext& context, const Control& button) {
-    const auto isOf = [&](const ScreenChoice& choice) { return button.name == choice.button; };
-    if (std::none_of(kChoices.begin(), kChoices.end(), isOf)) return true;
-    return std::any_of(kChoices.begin(), kChoices.end(), [&](const ScreenChoice& choice) {
-        return isOf(choice) && IsDeclared(context, choice.screen);
-    });
+    const auto rows = HubTable();
+    const auto isOf = [&](const HubRow& row) { return button.name == HubButton(row.group); };
+    if (std::none_of(rows.begin(), rows.end(), isOf)) return true;
+    return std::any_of(rows.begin(), rows.end(),
+                       [&](const HubRow& row) { return isOf(row) && context.forms.IsDeclared(row.screen); });
+}
+
+/// The labels of the fields that are still empty, in the order in which they are given; empty if none is.
+std::string MissingFields(const ScreenContext& context, const HubNeeds& needs) {
+    std::string missing;
+    for (const char* field : needs.variables) {
+        if (IsFilled(context, field)) continue;
+        const Variable* variable = context.catalogue.FindVariable(field);
+        missing += (missing.empty() ? "" : "; ") + (variable == nullptr ? field : variable->desc);
+    }
+    return missing;
 }
 
 }  // namespace
 
+LayoutElement HubOptions(HubGroup group) {
+    std::vector<ButtonItem> options;
+    for (const HubRow& row : HubTable()) {
+        if (row.group == group) options.push_back({row.option, row.caption});
+    }
+    return Options(std::move(options));
+}
+
+Handler OpeningChosenScreen(HubGroup group) {
+    return {FormEvent::Click, HubButton(group), HandlerOrder::Instead, OpenChosenScreen};
+}
+
 void OpenChosenScreen(ScreenEvent& event) {
-    for (const ScreenChoice& choice : kChoices) {
-        if (event.control->name != choice.button || !IsSelected(event.form, choice)) continue;
-        FormEvents(event.context).Open({.form = choice.screen, .dim2 = choice.slice});
+    for (const HubRow& row : HubTable()) {
+        if (event.control->name != HubButton(row.group) || !IsSelected(event.form, row)) continue;
+        FormEvents(event.context).Open({.form = row.screen, .dim2 = row.slice});
         return;
     }
 }
 
 void OfferDeclaredScreens(const ScreenContext& context, Form& hub) {
-    for (const ScreenChoice& choice : kChoices) {
-        (void)hub.Get(choice.button);  // a table that names what is not there fails at start
-        Offer(hub, choice.option, IsDeclared(context, choice.screen), kComesLater);
+    for (const HubRow& row : HubTable()) {
+        Offer(hub, row.option, context.forms.IsDeclared(row.screen), kComesLater);
     }
     for (const auto& control : hub.controls()) {
         if (!control->IsButton()) continue;
         const bool works = HasClick(hub.type(), *control) && OpensSomething(context, *control);
         Offer(hub, control->name, works, kComesLater);
+    }
+}
+
+std::string WhatIsMissing(const ScreenContext& context, const HubNeeds& needs) {
+    const std::string missing = MissingFields(context, needs);
+    const std::string_view whyNot = needs.whyNot;
+    if (missing.empty()) return {};
+    return whyNot.empty() ? "needs " + missing : std::string(whyNot);
+}
+
+void OfferByNeeds(const ScreenContext& context, Form& hub, HubGroup group) {
+    for (const HubRow& row : HubTable()) {
+        if (row.group != group || row.needs.variables.empty()) continue;
+        if (!context.forms.IsDeclared(row.screen)) continue;
+        const std::string whyNot = WhatIsMissing(context, row.needs);
+        Offer(hub, row.option, whyNot.empty(), whyNot);
     }
 }
 

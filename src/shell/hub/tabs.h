@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string_view>
 #include <vector>
 
 #include "forms/form.h"
@@ -23,32 +24,20 @@ HubPage ReportsTab();
 HubPage ListsTab();
 HubPage StartTab();
 
-/// Why an option is off that needs the inputs that all routes to the ESALs share.
-inline constexpr const char* kInputsMissing = "needs the values of Pavement & Traffic Inputs";
-
-/// True if these inputs are filled.
-bool TrafficInputsFilled(const ScreenContext& context);
-
-/// The routes to the ESALs need the inputs that all of them share.
-void OfferTrafficRoutes(const ScreenContext& context, Form& hub);
-
-/// Which overlays can be designed follows from what is known of the existing pavement.
-void UpdateOverlayReportOptions(const ScreenContext& context, Form& hub);
-
-/// Reports can be ticked whose screens hold data: those of a category, or of all of them.
-void OfferOverlayReports(const ScreenContext& context, Form& hub);
-void OfferTrafficReports(const ScreenContext& context, Form& hub);
+/// Reports can be ticked whose screens hold data: those of a category that has boxes, that of the costs, or
+/// all of them.
+void OfferReportsOf(const ScreenContext& context, Form& hub, std::string_view category);
 void OfferCostReport(const ScreenContext& context, Form& hub);
 void OfferReports(const ScreenContext& context, Form& hub);
 
-/// When the inputs that all routes share are closed, the reports of traffic follow these alone.
-void OfferTrafficReportsByInputs(const ScreenContext& context, Form& hub);
+/// When the inputs that all screens of a category share are closed, its reports follow these alone.
+void OfferReportsByInputs(const ScreenContext& context, Form& hub, std::string_view category);
 
 /// The discount rate is computed, and the focus may rest on it.
 void LoadCostTab(Form& hub);
 
-/// The grid of the lists has rows of its own.
-void LoadListsTab(ScreenContext& context, Form& hub);
+/// The grid of the lists has rows of its own. They are read when the tab is entered.
+void LoadListsTab(Form& hub);
 
 /// The buttons of the lists need a list to work on.
 void OfferListButtons(Form& hub);

@@ -8,9 +8,10 @@
 
 namespace kelvor {
 
-std::vector<FormType> TrafficForms() {
-    return {TrafficInputsForm(), AxleDataForm(),       VehicleForm(),     TrafficFactorForm(),
-            TrafficInputHelp(),  TrafficFactorsHelp(), DistributionHelp()};
+std::vector<FormDeclaration> TrafficForms() {
+    return {{"TrFa", TrafficInputsForm},  {"TrAx", AxleDataForm},       {"TrVe", VehicleForm},
+            {"TrTr", TrafficFactorForm},  {"H_TrIn", TrafficInputHelp}, {"H_TrFa", TrafficFactorsHelp},
+            {"H_TrDLD", DistributionHelp}};
 }
 
 }  // namespace kelvor

@@ -7,6 +7,6 @@
 namespace kelvor {
 
 /// The screens that determine the design traffic, and the helps of their inputs.
-std::vector<FormType> TrafficForms();
+std::vector<FormDeclaration> TrafficForms();
 
 }  // namespace kelvor

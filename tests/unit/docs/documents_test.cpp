@@ -34,11 +34,11 @@ std::string SampleRegion(const std::string& source, const std::string& name) {
     return WithoutIndent(source.substr(begin + marker.size(), end - begin - marker.size()), begin - line);
 }
 
-/// The block of code that follows a page's mark of a sample's region.
-std::string CodeBlock(const std::string& page, const std::string& sample, const std::string& region) {
-    const std::string mark = "<!-- " + sample + ": " + region + " -->\n```cpp\n";
+/// The block of code that follows a page's mark of a sample.
+std::string CodeBlock(const std::string& page, const std::string& sample, const std::string& language) {
+    const std::string mark = "<!-- " + sample + " -->\n```" + language + "\n";
     const std::size_t begin = page.find(mark);
-    if (begin == std::string::npos) return "no block " + region;
+    if (begin == std::string::npos) return "no block " + sample;
     const std::size_t start = begin + mark.size();
     return page.substr(start, page.find("```", start) - start);
 }
@@ -47,13 +47,21 @@ void ExpectShown(const std::string& sample, const std::vector<std::string>& regi
     const std::string source = ReadFile(kRoot / sample);
     const std::string page = ReadFile(kRoot / "CONTRIBUTING.md");
     for (const std::string& region : regions) {
-        EXPECT_EQ(CodeBlock(page, sample, region), SampleRegion(source, region));
+        EXPECT_EQ(CodeBlock(page, sample + ": " + region, "cpp"), SampleRegion(source, region));
     }
+}
+
+void ExpectShownWhole(const std::string& sample, const std::string& language) {
+    EXPECT_EQ(CodeBlock(ReadFile(kRoot / "CONTRIBUTING.md"), sample, language), ReadFile(kRoot / sample));
 }
 
 TEST(ContributingPageTest, ShowsTheSamplesThatAreCompiled) {
     ExpectShown("docs/samples/add_a_calculation.cpp", {"calculation", "test"});
     ExpectShown("docs/samples/add_a_screen.cpp", {"screen", "test"});
+    ExpectShown("docs/samples/add_an_equation_screen.cpp", {"equation", "screen", "row", "test"});
+    ExpectShownWhole("docs/samples/shoulder/Screen.tsv", "text");
+    ExpectShownWhole("docs/samples/shoulder/shoulder.tsv", "text");
+    ExpectShownWhole("docs/samples/shoulder/Shoul.html", "html");
 }
 
 /// What stands between two texts, the first time; empty if it does not.

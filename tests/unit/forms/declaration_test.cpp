@@ -56,6 +56,33 @@ TEST_F(DeclarationTest, TheKeyOfTheCatalogueIsTheNameUnlessItIsSaid) {
     EXPECT_EQ(registry.FindType("Other")->tag, "DeF");
 }
 
+TEST_F(DeclarationTest, AFormIsMadeWhenItIsFirstAskedForAndOnce) {
+    int made = 0;
+    FormRegistry registry;
+    registry.Declare({{"Trial", [&] { return ++made, Trial(); }}},
+                     [](FormType& type) { type.caption += "!"; });
+    EXPECT_TRUE(registry.IsDeclared("trial"));
+    EXPECT_FALSE(registry.IsDeclared("Other"));
+    EXPECT_EQ(made, 0);
+    const std::string caption = Trial().caption + "!";
+    EXPECT_EQ(registry.FindType("Trial")->caption, caption);
+    EXPECT_EQ(registry.FindType("TRIAL")->caption, caption);
+    EXPECT_EQ(registry.FindType("Trial")->tag, "Trial");
+    EXPECT_EQ(made, 1);
+}
+
+TEST_F(DeclarationTest, ANameThatIsNotTheFormsOrStandsTwiceIsRefused) {
+    FormRegistry registry;
+    registry.Declare({{"Tiral", Trial}});
+    EXPECT_THAT([&] { (void)registry.FindType("Tiral"); },
+                testing::ThrowsMessage<std::logic_error>("form Tiral is declared as Trial"));
+    EXPECT_THAT(
+        [&] {
+            registry.Declare({{"tiral", Trial}});
+        },
+        testing::ThrowsMessage<std::logic_error>("form tiral stands twice"));
+}
+
 TEST_F(DeclarationTest, AFormHasTheUsualButtonsAtItsFootOrItsOwn) {
     const Form usual(Trial(), catalogue());
     EXPECT_EQ(usual.Get("cmdAction").text, "&OK");

@@ -9,6 +9,7 @@
 
 #include "forms/layout.h"
 #include "shell/hub/hub.h"
+#include "shell/hub/hub_table.h"
 #include "shell/hub/offer.h"
 #include "support/project_fixture.h"
 
@@ -96,6 +97,41 @@ const std::map<std::string, std::string> kScreenOf = {
     {"oLcA2", "LcA1"},
     {"oLcS", "LcS"},
 };
+
+// --- The table -------------------------------------------------------------------------------------------
+
+TEST_F(HubTest, EveryNameOfTheTableIsOne) {
+    EXPECT_NO_THROW(CheckHubTable(State().formRegistry, *State().dbCatalogue));
+    std::map<std::string, std::string> screens;
+    for (const HubRow& row : HubTable()) {
+        if (row.group != HubGroup::Graphs) screens[row.option] = row.screen;
+    }
+    EXPECT_EQ(screens, kScreenOf);
+}
+
+TEST_F(HubTest, ASlipInARowOfTheTableIsFound) {
+    const HubRow right = *FindHubRow("TrAx");
+    const auto check = [&](const HubRow& row) {
+        CheckHubRow(row, State().formRegistry, *State().dbCatalogue);
+    };
+    const auto fails = [](const std::string& slip) {
+        return testing::ThrowsMessage<std::logic_error>("option AxleData of the hub: " + slip);
+    };
+    EXPECT_NO_THROW(check(right));
+    HubRow row = right;
+    row.screen = "TrXa";
+    EXPECT_THAT([&] { check(row); }, fails("TrXa is no screen"));
+    row = right;
+    constexpr std::array kNeeds = {"TrPer", "TrPre"};
+    row.needs.variables = kNeeds;
+    EXPECT_THAT([&] { check(row); }, fails("TrPre is no variable"));
+    row = right;
+    row.report.category = "rbTR";
+    EXPECT_THAT([&] { check(row); }, fails("rbTR is no category of reports"));
+    row = right;
+    row.report.box = "rbTRopTrVe";  // that of another screen
+    EXPECT_THAT([&] { check(row); }, fails("rbTRopTrVe is a box without a report"));
+}
 
 TEST_F(HubTest, AnOptionWhoseScreenIsNotThereIsOffAndSaysSo) {
     SwitchTo(1);
