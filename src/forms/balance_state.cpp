@@ -46,9 +46,9 @@ bool LosesServiceability(ScreenContext& context, Form& form, const SolveKey& equ
     return false;
 }
 
-/// What an indicator shows, to be put back.
+/// What an indicator shows and for which field, to be put back.
 struct IndicatorLook {
-    SolveState state = SolveState::Resting;
+    EquationState state;
     Control control;
 };
 
@@ -56,12 +56,12 @@ struct IndicatorLook {
 void SolveForField(ScreenContext& context, Form& form, const Field& field) {
     const std::size_t equation = EquationOf(context, form, field);
     Control& indicator = *IndicatorLabel(form, equation);
-    const IndicatorLook before{form.equations[equation].state, indicator};
+    const IndicatorLook before{form.equations[equation], indicator};
     form.SetText("SolveForSide", std::to_string(equation + 1));
     const int result = context.calculations.SolveForVariable(context.calc, form.tag, field.seq.value_or(0));
     RefreshScreen(context, form);
     if (result != 0) {
-        form.equations[equation].state = before.state;
+        form.equations[equation] = before.state;
         indicator = before.control;
         return;
     }

@@ -1,6 +1,5 @@
 #include "design/screens/subgrade_modulus_help.h"
 
-#include <algorithm>
 #include <array>
 #include <optional>
 #include <utility>
@@ -19,8 +18,6 @@ namespace {
 
 constexpr const char* kForm = "H_SRM";
 constexpr double kMpaPerPsi = 0.006894757;
-
-constexpr std::array kBoxes = {"CBR", "RVAL", "OCBR", "ORVAL", "V"};
 
 const char* const kAboutTests =
     "Empirical relationships have been developed between the CBR (California Bearing Ratio) value (using "
@@ -66,14 +63,9 @@ void StoreEstimate(ScreenContext& context, Form& form) {
     }
 }
 
-/// Without a test now or before there is nothing to work out.
-bool HasTests(const Form& form) {
-    return std::any_of(kBoxes.begin(), kBoxes.end(),
-                       [&](const char* box) { return !form.TextOf(box).empty(); });
-}
-
+/// An empty test counts as 0, so that both left empty give 0 all over.
 void TestLeft(ScreenEvent& event) {
-    if ((event.control->name == "CBR" || event.control->name == "RVAL") && HasTests(event.form))
+    if (event.control->name == "CBR" || event.control->name == "RVAL")
         StoreEstimate(event.context, event.form);
 }
 
