@@ -120,11 +120,11 @@ void ModelDriver::OpenForm(const std::string& name, int dim2) {
 }
 
 void ModelDriver::ActivateForm(const std::string& name) {
-    Raise({UserEvent::Kind::ActivateForm, name, {}, 0}, name + " is not open");
+    Raise({UserEvent::Kind::ActivateForm, OpenFormName(name), {}, 0}, name + " is not open");
 }
 
 void ModelDriver::CloseForm(const std::optional<std::string>& name) {
-    const std::string form = name ? *name : CurrentForm().name();
+    const std::string form = name ? OpenFormName(*name) : CurrentForm().name();
     Raise({UserEvent::Kind::CloseForm, form, {}, 0}, form + " is not open");
 }
 
@@ -224,8 +224,27 @@ bool ModelDriver::IsCurrentForm(const std::string& name) {
     return EqualNoCase(form.name(), name) && form.Find(name) == nullptr;
 }
 
+std::optional<std::string> ModelDriver::TitleInCatalogue(const std::string& name) {
+    const Form& form = CurrentForm();
+    if (!EqualNoCase(form.tag, name) || form.Find(name) != nullptr) return std::nullopt;
+    const Screen* screen = program_.state().dbCatalogue->FindScreen(name);
+    return screen != nullptr ? std::optional(screen->title) : std::nullopt;
+}
+
+std::string ModelDriver::OpenFormName(const std::string& name) {
+    const FormRegistry& registry = program_.state().formRegistry;
+    if (registry.Find(name) != nullptr) return name;
+    for (const Form* form : registry.InOpeningOrder()) {
+        if (EqualNoCase(form->tag, name)) return form->name();
+    }
+    return name;
+}
+
 PropertyValue ModelDriver::Read(const std::string& control, const std::string& property) {
-    if (property == "text" && IsCurrentForm(control)) return CurrentForm().caption;
+    if (property == "text") {
+        if (IsCurrentForm(control)) return CurrentForm().caption;
+        if (const auto title = TitleInCatalogue(control)) return *title;
+    }
     const Control& c = FindControl(control);
     if (property == "text") return c.text;
     if (property == "enabled") return c.enabled;

@@ -74,6 +74,14 @@ class ModelDriver : public Driver {
     /// True for the name of the current form itself, unless one of its controls has it too.
     bool IsCurrentForm(const std::string& name);
 
+    /// The title of the current form under the name that the catalogue has for what it shows, as a page of
+    /// pavement B or a tab; missing if the name is another, or a control of the form has it too.
+    std::optional<std::string> TitleInCatalogue(const std::string& name);
+
+    /// The name of the open form that goes by a name, or that shows what the catalogue calls so; the name
+    /// itself if there is none.
+    std::string OpenFormName(const std::string& name);
+
     /// Throws ScriptError for a menu entry that does nothing yet.
     void CheckMenu(const std::string& name);
 

@@ -61,9 +61,11 @@ void RecalcColumns(ScreenContext& context, const Form& form, Wanted isWanted) {
     }
 }
 
-/// The cell of a column in a row; null if there is none.
-const CellValue* FindColumnCell(const ScreenContext& context, const Field& column, int row) {
-    return context.calc.store.FindCell(column.name, row, column.dim2.value_or(1));
+/// The cell of a column in a row, of the slice that the form shows; null if there is none.
+const CellValue* FindColumnCell(const ScreenContext& context, const Form& form, const Field& column,
+                                int row) {
+    const int dim2 = column.dim2.value_or(form.dim2().value_or(1));
+    return context.calc.store.FindCell(column.name, row, dim2);
 }
 
 /// The rows of a screen's grid in which a cell is filled.
@@ -73,7 +75,7 @@ std::set<int> FilledRows(const ScreenContext& context, const Form& form) {
         const Variable* variable = context.catalogue.FindVariable(field->name);
         if (!field->IsColumn() || variable == nullptr) continue;
         for (int row = 1; row <= variable->dim1; ++row) {
-            const CellValue* cell = FindColumnCell(context, *field, row);
+            const CellValue* cell = FindColumnCell(context, form, *field, row);
             if (cell != nullptr && cell->IsFilled()) rows.insert(row);
         }
     }
@@ -115,7 +117,7 @@ void RecalcRows(ScreenContext& context, Form& form, std::span<const int> rows) {
 
 void RecalcAllOutputs(ScreenContext& context, Form& form) {
     RecalcColumns(context, form, [&](const Field& output, int row) {
-        const CellValue* cell = FindColumnCell(context, output, row);
+        const CellValue* cell = FindColumnCell(context, form, output, row);
         return cell != nullptr && cell->number.has_value();
     });
     RefreshScreen(context, form);

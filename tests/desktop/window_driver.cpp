@@ -176,7 +176,7 @@ QWidget& WindowDriver::Widget(const std::string& control) {
 }
 
 void WindowDriver::ActivateForm(const std::string& name) {
-    FormView* view = desktop_.window().FindView(name);
+    FormView* view = desktop_.window().FindView(OpenFormName(name));
     if (view == nullptr) throw ScriptError(name + " is not open");
     auto* menu = desktop_.window().findChild<QMenu*>(QStringLiteral("MenuWindow"));
     QMenuBar* bar = desktop_.window().menuBar();
@@ -189,7 +189,7 @@ void WindowDriver::ActivateForm(const std::string& name) {
 }
 
 void WindowDriver::CloseForm(const std::optional<std::string>& name) {
-    FormView* view = name ? desktop_.window().FindView(*name) : &View();
+    FormView* view = name ? desktop_.window().FindView(OpenFormName(*name)) : &View();
     if (view == nullptr) throw ScriptError(*name + " is not open");
     view->parentWidget()->close();
     QApplication::processEvents();
@@ -310,7 +310,10 @@ void WindowDriver::Choose(const std::string& control, const std::string& item) {
 // --- Reading -----------------------------------------------------------------------------------------
 
 PropertyValue WindowDriver::Read(const std::string& control, const std::string& property) {
-    if (property == "text" && IsCurrentForm(control)) return FromQt(View().parentWidget()->windowTitle());
+    if (property == "text") {
+        if (IsCurrentForm(control)) return FromQt(View().parentWidget()->windowTitle());
+        if (const auto title = TitleInCatalogue(control)) return *title;
+    }
     const QWidget& widget = Widget(control);
     if (property == "text") return TextOf(widget);
     if (property == "enabled") return IsEnabled(widget);
