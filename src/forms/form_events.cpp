@@ -113,7 +113,7 @@ void FormEvents::TakeReturn(Form& form, const SideScreenReturn& returned) {
         Handle(FormEvent::CellChanged, form, grid, [] {});
         NoteRowsWritten(form, *grid, {returned.row});
     }
-    RecalcOutputs(context_, form, "", 0);
+    RecalcOnReturn(context_, form);
     FocusFirstField(form);
     Control* caller = grid != nullptr ? grid : form.FindField(returned.field);
     if (caller == nullptr) caller = form.Find(returned.field);  // an option
