@@ -295,7 +295,7 @@ bool FormEvents::Choose(Form& form, Control& control, const std::string& item) {
     }
     if (control.kind != ControlKind::ComboBox) return false;
     if (std::find(control.items.begin(), control.items.end(), item) == control.items.end()) return false;
-    if (MoveFocus(form, control) && control.text != item) Type(item);
+    if (MoveFocus(form, control)) Type(item);  // an entry may be picked once more
     return true;
 }
 
