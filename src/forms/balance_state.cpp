@@ -112,6 +112,14 @@ void LoadScreen(ScreenContext& context, Form& form) {
     for (std::size_t i = 0; i < before.size(); ++i) LoadBalance(context, form, i, before[i].state);
 }
 
+void RecalcOnReturn(ScreenContext& context, Form& form) {
+    const std::vector<EquationState> loaded = form.equations;
+    RecalcOutputs(context, form, "", 0);
+    for (std::size_t i = 0; i < loaded.size(); ++i) {
+        if (loaded[i].state == SolveState::Resting) SetSolveForState(form, SolveState::Resting, i);
+    }
+}
+
 bool ConfirmScreenClose(ScreenContext& context, Form& form) {
     bool warned = false;
     for (const FormEquation& equation : form.type().equations) {

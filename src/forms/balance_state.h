@@ -17,6 +17,10 @@ void InitScreen(ScreenContext& context, Form& form);
 /// What a form does when it becomes the current one.
 void LoadScreen(ScreenContext& context, Form& form);
 
+/// Works out anew what follows from the values of a form to which a side screen has just returned. What
+/// `LoadScreen` made its indicators say stands: looking at a side screen has not solved the equation.
+void RecalcOnReturn(ScreenContext& context, Form& form);
+
 /// Asks whether a form whose values are not balanced shall close, and keeps the warning for the next
 /// opening. False if it shall stay.
 bool ConfirmScreenClose(ScreenContext& context, Form& form);

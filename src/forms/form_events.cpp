@@ -113,7 +113,7 @@ void FormEvents::TakeReturn(Form& form, const SideScreenReturn& returned) {
         Handle(FormEvent::CellChanged, form, grid, [] {});
         NoteRowsWritten(form, *grid, {returned.row});
     }
-    RecalcOutputs(context_, form, "", 0);
+    RecalcOnReturn(context_, form);
     FocusFirstField(form);
     Control* caller = grid != nullptr ? grid : form.FindField(returned.field);
     if (caller == nullptr) caller = form.Find(returned.field);  // an option
@@ -295,7 +295,7 @@ bool FormEvents::Choose(Form& form, Control& control, const std::string& item) {
     }
     if (control.kind != ControlKind::ComboBox) return false;
     if (std::find(control.items.begin(), control.items.end(), item) == control.items.end()) return false;
-    if (MoveFocus(form, control) && control.text != item) Type(item);
+    if (MoveFocus(form, control)) Type(item);  // an entry may be picked once more
     return true;
 }
 
