@@ -183,24 +183,26 @@ void AddSeries(QAbstractSeries* series, QChart& chart) {
     }
 }
 
-QXYSeries* MakeXYSeries(const ChartData& data, const QColor& colour) {
-    if (data.kind == ChartKind::Line) {
+QXYSeries* MakeXYSeries(ChartKind kind, const ChartSeries& declared) {
+    const QColor colour(ToQt(declared.colour));
+    if (kind == ChartKind::Line && !declared.hollowPoints) {
         auto* line = new QLineSeries;
         line->setPen(QPen(colour, kLineWidth));
         return line;
     }
     auto* points = new QScatterSeries;
     points->setMarkerSize(kPointSize);
-    points->setBorderColor(colour);
+    points->setPen(QPen(colour, kLineWidth));
+    QColor fill = colour;
+    if (declared.hollowPoints) fill.setAlpha(0);
+    points->setColor(fill);
     return points;
 }
 
 void AddXYSeries(const ChartData& data, QChart& chart) {
     for (std::size_t i = 0; i < data.series.size(); ++i) {
-        const QColor colour(ToQt(data.series[i].colour));
-        QXYSeries* series = MakeXYSeries(data, colour);
+        QXYSeries* series = MakeXYSeries(data.kind, data.series[i]);
         series->setName(ToQt(data.series[i].name));
-        series->setColor(colour);
         for (const ChartRow& row : data.rows) {
             if (i < row.cells.size() && row.cells[i]) series->append(ParseNumber(row.label), *row.cells[i]);
         }
@@ -247,7 +249,9 @@ std::optional<double> DrawnPoint(const QXYSeries& series, double across) {
 }
 
 void ReadXYSeries(const QXYSeries& series, ChartData& data) {
-    data.series.push_back({FromQt(series.name()), FromQt(series.color().name().toUpper())});
+    data.series.push_back({.name = FromQt(series.name()),
+                           .colour = FromQt(series.color().name().toUpper()),
+                           .hollowPoints = series.color().alpha() == 0});
     for (ChartRow& row : data.rows) row.cells.push_back(DrawnPoint(series, ParseNumber(row.label)));
 }
 

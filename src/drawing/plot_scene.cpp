@@ -157,11 +157,20 @@ class PlotPainter {
                         Anchor::Middle);
             }
         }
-        const std::string& colour = sheet_.series[series].colour;
-        if (sheet_.kind == ChartKind::Line) return AddLine(std::move(points), kThickLine, colour);
-        for (const Point& point : points) {
-            scene_.shapes.emplace_back(shape::Ellipse{point, kPoint, kPoint, colour});
+        const ChartSeries& drawn = sheet_.series[series];
+        if (sheet_.kind == ChartKind::Line && !drawn.hollowPoints) {
+            return AddLine(std::move(points), kThickLine, drawn.colour);
         }
+        for (const Point& point : points) AddPoint(point, drawn);
+    }
+
+    void AddPoint(Point centre, const ChartSeries& series) {
+        shape::Ellipse point{centre, kPoint, kPoint, series.colour};
+        if (series.hollowPoints) {
+            point.fill = ink_.paper;
+            point.stroke = {series.colour, kThickLine};
+        }
+        scene_.shapes.emplace_back(std::move(point));
     }
 
     /// Values stand above the bars where none is wider than its bar.
@@ -228,11 +237,16 @@ class PlotPainter {
         if (!HasLegend()) return;
         Point at{left_, scene_.height - kMargin};
         for (const ChartSeries& series : sheet_.series) {
-            scene_.shapes.emplace_back(
-                shape::Rectangle{{at.x, at.y - kSwatch}, kSwatch, kSwatch, series.colour});
+            AddSwatch(at, series);
             AddText({at.x + kSwatch + kGap, at.y}, series.name, Anchor::Start);
             at.x += kSwatch + 3.0 * kGap + TextWidth(series.name, kTextSize);
         }
+    }
+
+    /// Above and to the right of a place: a point where the series is drawn as hollow ones.
+    void AddSwatch(Point at, const ChartSeries& series) {
+        if (series.hollowPoints) return AddPoint({at.x + kSwatch / 2.0, at.y - kSwatch / 2.0}, series);
+        scene_.shapes.emplace_back(shape::Rectangle{{at.x, at.y - kSwatch}, kSwatch, kSwatch, series.colour});
     }
 
     const ChartData& sheet_;

@@ -24,6 +24,7 @@ struct ChartSeries {
     std::string name;
     std::string colour;                   // "#RRGGBB"
     Material material = Material::Other;  // of a section
+    bool hollowPoints = false;  // of lines or points: drawn as single hollow points, whatever the kind
 
     bool operator==(const ChartSeries&) const = default;
 };

@@ -218,8 +218,7 @@ bool ProjectFiles::RecoverProject(int place) {
 void ProjectFiles::BecomeRecovered(const KeptProject& kept, const std::string& content) {
     WriteWorkCopy(content);
     OpenWorkCopy(true);
-    state_.sProjectFile.clear();
-    state_.caption = "KVR - <unnamed project>";
+    Unname();
     state_.proposedPath = kept.formerPath;
     state_.recoveredFrom = kept.file;
     state_.bProjectChanged = true;  // no project file has it

@@ -5,6 +5,8 @@
 #include <QBarSeries>
 #include <QChart>
 #include <QChartView>
+#include <QLegendMarker>
+#include <QScatterSeries>
 #include <QStackedBarSeries>
 #include <QTest>
 #include <QValueAxis>
@@ -141,6 +143,24 @@ TEST_F(ChartTest, PointsAndLinesHaveTheirLabelsAcross) {
         const auto* across = qobject_cast<const QValueAxis*>(Drawn().axes(Qt::Horizontal).value(0));
         ASSERT_NE(across, nullptr);
         EXPECT_GE(across->max(), 60.0);
+    }
+}
+
+TEST_F(ChartTest, ASeriesOfHollowPointsStandsBesideLinesAndPoints) {
+    ChartData tests;
+    tests.title = "Static k";
+    tests.series = {{"Test", "#2F7FD6"}, {.name = "Left out", .colour = "#808080", .hollowPoints = true}};
+    tests.rows = {{"1", {200.0, std::nullopt}}, {"2", {std::nullopt, 90.0}}, {"3", {180.0, std::nullopt}}};
+    for (const ChartKind kind : {ChartKind::Line, ChartKind::Points}) {
+        tests.kind = kind;
+        ExpectSame(Show(tests), tests);
+        const auto* leftOut = qobject_cast<const QScatterSeries*>(Drawn().series().value(1));
+        ASSERT_NE(leftOut, nullptr) << "no line joins what is left out";
+        EXPECT_EQ(leftOut->pen().color(), QColor("#808080"));
+        EXPECT_EQ(leftOut->brush().color().alpha(), 0);
+        const auto markers = Drawn().legend()->markers(Drawn().series().value(1));
+        ASSERT_EQ(markers.size(), 1);
+        EXPECT_EQ(markers.first()->label(), "Left out");
     }
 }
 

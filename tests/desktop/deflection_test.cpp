@@ -8,8 +8,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
+#include <cmath>
 
 #include "desktop/desktop_fixture.h"
+#include "forms/form.h"
+#include "platform/number_text.h"
 
 namespace kelvor::test {
 namespace {
@@ -81,6 +84,35 @@ TEST_F(DeflectionWindowTest, FromTheStartToTheAveragesOfRigidTestsByKeysAlone) {
     EXPECT_EQ(Shown("ReDfR", "AVGBACKL"), "25.2");
     EXPECT_EQ(Shown("ReDfR", "BACKLCount"), "2");
     EXPECT_EQ(Shown("ReDfR", "BACKLDeviation"), "0.0");
+}
+
+/// AREA and l of a test on 4 inches of asphalt of 500,000 psi that is bonded to its slab, by the formulas of
+/// the 1993 AASHTO Guide, Part III, Section 5.7.
+double RadiusOfComposite(double d0, double d12, double d24, double d36) {
+    const double compression = 121'500.6 * std::pow(4.0 / 500'000.0, 1.0798) - 0.0328;
+    const double area = 6.0 * (1.0 + (2.0 * d12 + 2.0 * d24 + d36) / (d0 - compression));
+    return std::pow(std::log((36.0 - area) / 1812.2791333) / -2.55934, 4.387009);
+}
+
+TEST_F(DeflectionWindowTest, FromTheStartToTheAveragesOfCompositeTestsByKeysAlone) {
+    Press(Qt::Key_N, Qt::ControlModifier);
+    Press(Qt::Key_4, Qt::ControlModifier);
+    OpenFromTheEnd(1);
+    // Asphalt, bond, plate; Poisson's ratio has its usual value; slab.
+    for (const char* text : {"500,000", "4", "1", "5.9", "", "9"}) TypeAndEnter(text);
+    Paste(QStringLiteral("9,000\t4.5\t3.4\t2.7\t2\r\n9,000\t4.5\t3.4\t\t2\r\n"));
+    const double pasted = RadiusOfComposite(4.5, 3.4, 2.7, 2.0);
+    EXPECT_NEAR(ParseNumber(Shown("ReDfC", "AVGBACKLC")), pasted, 0.051);
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Down);
+    for (const char* text : {"9,000", "5", "4.1", "3.2", "2.4"}) TypeAndEnter(text);
+    EXPECT_THAT(Messages(), IsEmpty());
+    const double typed = RadiusOfComposite(5.0, 4.1, 3.2, 2.4);
+    EXPECT_NEAR(ParseNumber(Shown("ReDfC", "AVGBACKLC")), (pasted + typed) / 2.0, 0.051);
+    EXPECT_EQ(Shown("ReDfC", "BACKLCCount"), "2") << "the test without d24 does not count";
+    EXPECT_NE(Shown("ReDfC", "AVGNDTEC"), "");
+    Press(Qt::Key_O, Qt::AltModifier);
+    EXPECT_TRUE(state().formRegistry.CurrentForm->type().isHub);
 }
 
 TEST_F(DeflectionWindowTest, ATestIsLeftOutOfTheSpreadByItsKeyAndTakenIn) {

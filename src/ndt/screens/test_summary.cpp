@@ -19,6 +19,7 @@ namespace {
 
 constexpr const char* kTestColour = "#2F7FD6";
 constexpr const char* kAverageColour = "#C2571A";
+constexpr const char* kLeftOutColour = "#808080";
 constexpr const char* kPerCent = "0.0";
 constexpr double kChartLetters = 30.0;
 constexpr double kValueLetters = 9.0;
@@ -111,18 +112,32 @@ void ShowSpread(Form& form, const ResultColumn& result, const ShownColumn& shown
     form.SetText(name + "Percentile85", shown.Text(spread.percentile85));
 }
 
-ChartData ChartOf(const ScreenContext& context, const ResultColumn& result, const ShownColumn& shown,
-                  const std::vector<std::optional<Real>>& results) {
+/// A test that is left out of the spread stands apart from the others, as a hollow point.
+ChartRow RowOf(std::size_t test, std::optional<double> value, double average, const std::set<int>& leftOut) {
+    ChartRow row{std::to_string(test), {value, average}};
+    if (leftOut.empty()) return row;
+    const bool isLeftOut = leftOut.contains(static_cast<int>(test));
+    row.cells.push_back(isLeftOut ? value : std::nullopt);
+    if (isLeftOut) row.cells.front().reset();
+    return row;
+}
+
+ChartData ChartOf(const ScreenContext& context, const Form& form, const ResultColumn& result,
+                  const ShownColumn& shown, const std::vector<std::optional<Real>>& results) {
     ChartData chart;
     chart.title = std::string(result.heading) + ", " + shown.unit;
     chart.across = {.title = {}, .picture = "0"};
     chart.up = {.title = {}, .picture = shown.factor == 1.0 ? "0" : ""};
     chart.series = {{"Test", kTestColour}, {"Average", kAverageColour}};
+    const std::set<int> leftOut = LeftOutTests(form);
+    if (!leftOut.empty()) {
+        chart.series.push_back({.name = "Left out", .colour = kLeftOutColour, .hollowPoints = true});
+    }
     const double average = context.calc.Get(result.average).value() * shown.factor;
     for (std::size_t i = 0; i < results.size(); ++i) {
         const auto value =
             results[i] ? std::optional(results[i]->value() * shown.factor) : std::optional<double>();
-        chart.rows.push_back({std::to_string(i + 1), {value, average}});
+        chart.rows.push_back(RowOf(i + 1, value, average, leftOut));
     }
     return chart;
 }
@@ -149,7 +164,7 @@ void ShowResults(ScreenContext& context, Form& form, const std::vector<ResultCol
         if (result.chart == nullptr) continue;
         Control& chart = form.Get(result.chart);
         chart.letters = kChartLetters;
-        chart.chart = ChartOf(context, result, shown, values);
+        chart.chart = ChartOf(context, form, result, shown, values);
     }
 }
 

@@ -23,7 +23,7 @@ struct Drawn {
 };
 
 // Not drawn: reliabilities from 75 to 80, between which the table of the normal distribution does not lead
-// back to where one came from.
+// back to where one came from, and thicknesses near the bounds to which a solved one is held, 4 and 20 in.
 constexpr std::array<Drawn, kFlexibleTerms> kFlexible = {
     {{4.5, 6.5}, {0, 0}, {81, 98}, {0.35, 0.5}, {5000, 12000}, {4.2, 4.5}, {2.2, 2.8}}};
 constexpr std::array<Drawn, kRigidTerms> kRigid = {{{9.5, 12},

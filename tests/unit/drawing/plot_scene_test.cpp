@@ -67,6 +67,27 @@ TEST(PlotSceneTest, LinesAndPointsStandAtTheirLabels) {
                 9.0 / 6.0, 1e-9);
 }
 
+TEST(PlotSceneTest, ASeriesOfHollowPointsIsNeverJoinedAndSaysSoInTheLegend) {
+    ChartData sheet = Costs();
+    sheet.series = {{"Test", "#2F7FD6"}, {.name = "Left out", .colour = "#808080", .hollowPoints = true}};
+    sheet.rows = {{"1", {200.0, std::nullopt}},
+                  {"2", {std::nullopt, 90.0}},
+                  {"3", {std::nullopt, 80.0}},
+                  {"4", {180.0, std::nullopt}}};
+    sheet.kind = ChartKind::Line;
+    const Scene scene = MakePlotScene(sheet, {});
+    std::vector<shape::Ellipse> points = ShapesOf<shape::Ellipse>(scene);
+    ASSERT_EQ(points.size(), 3U) << "two tests and their sign in the legend";
+    for (const shape::Ellipse& point : points) {
+        EXPECT_EQ(point.fill, scene.paper);
+        EXPECT_EQ(point.stroke.colour, "#808080");
+    }
+    EXPECT_GT(points[2].centre.y, points[1].centre.y) << "the legend stands below";
+    const auto texts = ShapesOf<shape::Text>(scene);
+    EXPECT_TRUE(
+        std::any_of(texts.begin(), texts.end(), [](const auto& text) { return text.text == "Left out"; }));
+}
+
 TEST(PlotAxisTest, AnAxisReachesAsFarAsTheDataInRoundNumbers) {
     ChartData sheet = Costs();
     sheet.rows[0].cells = {97.0};
