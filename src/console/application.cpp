@@ -3,6 +3,7 @@
 #include <stdlib.h>  // NOLINT(modernize-deprecated-headers): mkdtemp
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <istream>
@@ -11,6 +12,7 @@
 #include <ostream>
 #include <string>
 #include <system_error>
+#include <vector>
 
 #include "console/model_driver.h"
 #include "console/script/runner.h"
@@ -20,6 +22,7 @@
 #include "platform/file_system.h"
 #include "platform/version.h"
 #include "shell/home_choice.h"
+#include "shell/language_choice.h"
 #include "shell/program.h"
 
 namespace kelvor {
@@ -35,6 +38,7 @@ struct ConsoleOptions {
     std::string work;
     std::string script;
     std::string project;
+    std::string language;  // of messages and menus; empty: English
     bool json = false;
 };
 
@@ -70,6 +74,8 @@ std::optional<int> ReadOptions(int argc, char** argv, ConsoleOptions& options, s
         ->option_text("DIR");
     app.add_option("--script", options.script, "Read commands from FILE (default: standard input)")
         ->option_text("FILE");
+    app.add_option("--language", options.language, "Say what is Kelvor's own in a language, such as es")
+        ->option_text("CODE");
     app.add_flag("--json", options.json, "Print one JSON object a line");
     app.add_option("project", options.project, "The project file to open")->option_text("PROJECT.kvr");
     app.set_version_flag("--version", VersionText("kelvor-cli"));
@@ -98,6 +104,16 @@ Home FindHome(const ConsoleOptions& options, const std::optional<TemporaryFolder
     return home;
 }
 
+/// English unless another language is named, whatever the environment says: scripts print the same
+/// everywhere. False for a language that is not there.
+bool SpeakAsAsked(const std::string& language, const FileSystem& files, const Home& home) {
+    const bool named = !language.empty() && language != "en";
+    const std::vector<std::string> spoken = named ? SpokenLanguages(files, home) : std::vector<std::string>();
+    if (named && std::find(spoken.begin(), spoken.end(), language) == spoken.end()) return false;
+    SpeakFirstOf(named ? std::vector{language} : std::vector<std::string>(), files, home);
+    return true;
+}
+
 int RunProgram(const ConsoleOptions& options, const Home& home, std::istream& input, std::ostream& output,
                std::ostream& errors) {
     std::unique_ptr<Output> printer;
@@ -109,6 +125,10 @@ int RunProgram(const ConsoleOptions& options, const Home& home, std::istream& in
     NativeFileSystem files;
     SystemClock clock;
     LinkedComponents components;
+    if (!SpeakAsAsked(options.language, files, home)) {
+        errors << "kelvor-cli: no language " << options.language << " is there\n";
+        return kStatusNotUnderstood;
+    }
     ScriptedDialogs dialogs(printer.get());
     Program program({files, clock, dialogs, components}, home);
     try {

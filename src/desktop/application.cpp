@@ -10,6 +10,7 @@
 
 #include "desktop/qt_text.h"
 #include "desktop/version_option.h"
+#include "desktop/window_style.h"
 #include "platform/executable_folder.h"
 #include "shell/home_choice.h"
 
@@ -54,10 +55,11 @@ int RunProgram(const Home& home, const std::string& project) {
 }  // namespace
 
 DesktopProgram::DesktopProgram(const Home& home)
-    : program_({files_, clock_, dialogs_, components_, ToolkitLibraries()}, home) {}
+    : language_(files_, home), program_({files_, clock_, dialogs_, components_, ToolkitLibraries()}, home) {}
 
 bool DesktopProgram::Start(const std::string& project) {
     if (program_.Start(project) == StartResult::Stopped) return false;
+    WindowStyle::Use();
     window_ = std::make_unique<MainWindow>(program_);
     dialogs_.SetParent(window_.get());
     window_->show();

@@ -7,6 +7,7 @@
 #include "desktop/hand_over.h"
 #include "desktop/main_window.h"
 #include "desktop/qt_dialogs.h"
+#include "desktop/window_language.h"
 #include "platform/clock.h"
 #include "platform/component_probe.h"
 #include "platform/file_system.h"
@@ -32,6 +33,7 @@ class DesktopProgram {
 
   private:
     NativeFileSystem files_;
+    WindowLanguage language_;  // before anything is said
     SystemClock clock_;
     QtDialogs dialogs_;
     LinkedComponents components_;

@@ -12,6 +12,7 @@
 
 #include "desktop/qt_text.h"
 #include "desktop/scene_painting.h"
+#include "desktop/translated_text.h"
 #include "drawing/chart_scene.h"
 #include "drawing/picture_file.h"
 #include "drawing/section_layers.h"
@@ -37,11 +38,12 @@ std::string PngOf(const Scene& scene) {
 void AskAndSave(Program& program, const ChartData& sheet, const std::string& suffix) {
     ProcessState& state = program.state();
     const std::string pattern = "*." + suffix;
-    const auto file = state.host.dialogs.AskFile({.kind = FileRequest::Kind::Save,
-                                                  .folder = state.home.ProjectsFolder(),
-                                                  .filter = "Pictures (" + pattern + ")|" + pattern,
-                                                  .suffix = suffix,
-                                                  .title = "Save Picture"});
+    const auto file =
+        state.host.dialogs.AskFile({.kind = FileRequest::Kind::Save,
+                                    .folder = state.home.ProjectsFolder(),
+                                    .filter = Translated("Pictures") + " (" + pattern + ")|" + pattern,
+                                    .suffix = suffix,
+                                    .title = Translated("Save Picture")});
     if (!file) return;
     try {
         SaveDrawing(state.host.files, sheet, *file);
@@ -66,15 +68,15 @@ void Print(const Scene& scene) {
 }
 
 void FillMenu(QMenu& menu, Program& program, const ChartData& sheet) {
-    menu.addAction(QStringLiteral("Save as &SVG..."), [&] { AskAndSave(program, sheet, "svg"); });
-    menu.addAction(QStringLiteral("Save as P&NG..."), [&] { AskAndSave(program, sheet, "png"); });
-    menu.addAction(QStringLiteral("&Copy"), [&] { CopyDrawing(sheet); })->setShortcut(QKeySequence::Copy);
-    menu.addAction(QStringLiteral("&Print..."), [&] { Print(MakeChartScene(sheet)); });
+    menu.addAction(TranslatedText("Save as &SVG..."), [&] { AskAndSave(program, sheet, "svg"); });
+    menu.addAction(TranslatedText("Save as P&NG..."), [&] { AskAndSave(program, sheet, "png"); });
+    menu.addAction(TranslatedText("&Copy"), [&] { CopyDrawing(sheet); })->setShortcut(QKeySequence::Copy);
+    menu.addAction(TranslatedText("&Print..."), [&] { Print(MakeChartScene(sheet)); });
 }
 
 QString TitleOf(const ChartData& sheet) {
     const std::vector<std::string> lines = LinesOf(sheet.title);
-    return lines.empty() ? QStringLiteral("Chart") : ToQt(lines.front()).replace("&", "&&");
+    return lines.empty() ? TranslatedText("Chart") : ToQt(lines.front()).replace("&", "&&");
 }
 
 }  // namespace

@@ -14,6 +14,7 @@
 #include "desktop/control_widgets.h"
 #include "desktop/qt_text.h"
 #include "desktop/stack_view.h"
+#include "desktop/translated_text.h"
 
 namespace kelvor {
 
@@ -87,7 +88,7 @@ class LayoutMaker {
             onPage_ = false;
             if (!Grows(declared.elements)) rows->addStretch(1);
             const int index = tabs_->addTab(page, ToQt(declared.title).replace("&", "&&"));
-            tabs_->setTabToolTip(index, QStringLiteral("Ctrl+Page Up, Ctrl+Page Down: the tab beside"));
+            tabs_->setTabToolTip(index, TranslatedText("Ctrl+Page Up, Ctrl+Page Down: the tab beside"));
         }
         to.addWidget(tabs_);
     }

@@ -10,6 +10,8 @@
 #include "desktop/copy_result.h"
 #include "desktop/form_view.h"
 #include "desktop/key_table.h"
+#include "desktop/qt_text.h"
+#include "desktop/translated_text.h"
 
 namespace kelvor {
 
@@ -22,9 +24,9 @@ bool FormView::ShowFieldMenu(const Control& control, const QPoint& place) {
     const std::unique_ptr<QMenu> menu(box->createStandardContextMenu());
     menu->setObjectName(QStringLiteral("FieldMenu"));
     menu->addSeparator();
-    menu->addAction(QStringLiteral("Copy &Value with Unit\t") + ShownKeyOf(KeyAct::CopyValue), this,
+    menu->addAction(TranslatedText("Copy &Value with Unit") + u'\t' + ShownKeyOf(KeyAct::CopyValue), this,
                     [this] { QApplication::clipboard()->setText(ValueOfFocus(door_.program(), *form_)); });
-    menu->addAction(QStringLiteral("&Help on This Field\tF1"), this,
+    menu->addAction(TranslatedText("&Help on This Field") + QStringLiteral("\tF1"), this,
                     [this] { Raise(UserEvent::Kind::Key, "F1"); });
     menu->exec(place);
     return true;

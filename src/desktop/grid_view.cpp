@@ -16,6 +16,7 @@
 #include "desktop/cell_list.h"
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
+#include "desktop/translated_text.h"
 #include "forms/cell_block.h"
 #include "platform/number_picture.h"
 
@@ -216,7 +217,7 @@ GridView::GridView(const Control& control, GridHooks hooks, QWidget* parent)
     setTabKeyNavigation(false);
     setSelectionMode(QAbstractItemView::ContiguousSelection);
     setAlternatingRowColors(false);
-    setAccessibleName(QStringLiteral("Table"));
+    setAccessibleName(TranslatedText("Table"));
     horizontalHeader()->setDefaultAlignment(Qt::AlignCenter | Qt::Alignment(Qt::TextWordWrap));
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);

@@ -11,6 +11,7 @@
 #include "desktop/grid_view.h"
 #include "desktop/key_table.h"
 #include "desktop/qt_text.h"
+#include "desktop/translated_text.h"
 #include "platform/number_text.h"
 
 namespace kelvor {
@@ -23,9 +24,10 @@ QString FigureText(double number) { return QString::number(number, 'g', kDigitsO
 
 }  // namespace
 
-/// The rows of a grid with rules of its own about them stay where they are.
+/// The rows of a grid that decides by rows alone which of them may go stay where they are.
 bool GridView::RowsShift() const {
-    return control_ != nullptr && !control_->grid->texts && control_->grid->routines.mayDelete == nullptr;
+    if (control_ == nullptr || control_->grid->texts) return false;
+    return control_->grid->routines.mayDelete == nullptr || control_->grid->routines.mayEdit != nullptr;
 }
 
 bool GridView::HandleRowKey(const QKeyEvent& key) {
@@ -45,23 +47,24 @@ void GridView::contextMenuEvent(QContextMenuEvent* event) {
     QMenu menu(this);
     menu.setObjectName(QStringLiteral("GridMenu"));
     const auto add = [&](const char* caption, const QString& keys, const std::function<void()>& act) {
-        return menu.addAction(QString::fromLatin1(caption) + u'\t' + keys, act);
+        return menu.addAction(TranslatedText(caption) + u'\t' + keys, act);
     };
     const auto shift = [&](UserEvent::Kind kind) {
         return [this, kind, row] { hooks_.shiftRow(kind, row); };
     };
-    add("&Copy", QKeySequence(QKeySequence::Copy).toString(), [this] { Copy(); });
-    add("&Paste", QKeySequence(QKeySequence::Paste).toString(), [this] { Paste(); });
-    add("&Fill Down", ShownKeyOf(KeyAct::FillDown), [this] {
+    add(ToTranslate("&Copy"), QKeySequence(QKeySequence::Copy).toString(), [this] { Copy(); });
+    add(ToTranslate("&Paste"), QKeySequence(QKeySequence::Paste).toString(), [this] { Paste(); });
+    add(ToTranslate("&Fill Down"), ShownKeyOf(KeyAct::FillDown), [this] {
         FillDown();
     })->setEnabled(MarkedCells().has_value());
     menu.addSeparator();
     QAction* const rows[] = {
-        add("&Insert Row", ShownKeyOf(KeyAct::InsertRow), shift(UserEvent::Kind::InsertRow)),
-        add("Move Row &Up", ShownKeyOf(KeyAct::MoveRowUp), shift(UserEvent::Kind::MoveRowUp)),
-        add("Move Row Do&wn", ShownKeyOf(KeyAct::MoveRowDown), shift(UserEvent::Kind::MoveRowDown))};
+        add(ToTranslate("&Insert Row"), ShownKeyOf(KeyAct::InsertRow), shift(UserEvent::Kind::InsertRow)),
+        add(ToTranslate("Move Row &Up"), ShownKeyOf(KeyAct::MoveRowUp), shift(UserEvent::Kind::MoveRowUp)),
+        add(ToTranslate("Move Row Do&wn"), ShownKeyOf(KeyAct::MoveRowDown),
+            shift(UserEvent::Kind::MoveRowDown))};
     for (QAction* action : rows) action->setEnabled(row > 0 && RowsShift());
-    add("&Delete Row", ShownKeyOf(KeyAct::DeleteRow), [this, row] { hooks_.deleteRow(row); });
+    add(ToTranslate("&Delete Row"), ShownKeyOf(KeyAct::DeleteRow), [this, row] { hooks_.deleteRow(row); });
     menu.exec(event->globalPos());
 }
 
@@ -81,7 +84,7 @@ QString GridView::FiguresOfMarked() const {
         sum += ParseNumber(text);
     }
     if (count == 0) return {};
-    return QStringLiteral("Sum %1, mean %2 of %3 cells")
+    return TranslatedText("Sum %1, mean %2 of %3 cells")
         .arg(FigureText(sum), FigureText(sum / count))
         .arg(count);
 }

@@ -16,6 +16,7 @@
 #include "desktop/app_icon.h"
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
+#include "desktop/translated_text.h"
 
 namespace kelvor {
 
@@ -64,11 +65,11 @@ HelpWindow::HelpWindow()
       tabs_(new QTabWidget(this)),
       text_(new HelpBrowser(engine_, this)) {
     engine_.setReadOnly(false);
-    setWindowTitle(QStringLiteral("Kelvor Help"));
+    setWindowTitle(TranslatedText("Kelvor Help"));
     setWindowIcon(AppIcon());
     setAttribute(Qt::WA_QuitOnClose, false);  // the program ends with its main window
     text_->document()->setDocumentMargin(fontMetrics().lineSpacing());
-    text_->setAccessibleName(QStringLiteral("Page"));
+    text_->setAccessibleName(TranslatedText("Page"));
     auto* sides = new QSplitter(this);
     sides->addWidget(tabs_);
     sides->addWidget(text_);
@@ -95,7 +96,7 @@ bool HelpWindow::Load(const Path& file) {
 }
 
 void HelpWindow::MakeTabs() {
-    tabs_->addTab(engine_.contentWidget(), QStringLiteral("&Contents"));
+    tabs_->addTab(engine_.contentWidget(), TranslatedText("&Contents"));
     MakeIndex();
     connect(engine_.contentWidget(), &QHelpContentWidget::linkActivated, text_,
             [this](const QUrl& page) { text_->setSource(page); });
@@ -104,8 +105,8 @@ void HelpWindow::MakeTabs() {
     connect(engine_.indexWidget(), &QHelpIndexWidget::documentActivated, text_,
             [this](const QHelpLink& link) { text_->setSource(link.url); });
     MakeSearch();
-    QAction* back = AddTool(QStringLiteral("&Back"), QKeySequence::Back, &QTextBrowser::backward);
-    QAction* forward = AddTool(QStringLiteral("&Forward"), QKeySequence::Forward, &QTextBrowser::forward);
+    QAction* back = AddTool(TranslatedText("&Back"), QKeySequence::Back, &QTextBrowser::backward);
+    QAction* forward = AddTool(TranslatedText("&Forward"), QKeySequence::Forward, &QTextBrowser::forward);
     connect(text_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
     connect(text_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
     // Whoever opens the index or the search wants to type a word.
@@ -121,14 +122,14 @@ void HelpWindow::MakeIndex() {
     auto* page = new QWidget(this);
     auto* rows = new QVBoxLayout(page);
     auto* word = new QLineEdit(page);
-    word->setPlaceholderText(QStringLiteral("Look up"));
-    word->setAccessibleName(QStringLiteral("Look up in the index"));
+    word->setPlaceholderText(TranslatedText("Look up"));
+    word->setAccessibleName(TranslatedText("Look up in the index"));
     rows->addWidget(word);
     rows->addWidget(index, 1);
     connect(word, &QLineEdit::textEdited, index,
             [index](const QString& text) { index->filterIndices(text); });
     connect(word, &QLineEdit::returnPressed, index, &QHelpIndexWidget::activateCurrentItem);
-    tabs_->addTab(page, QStringLiteral("&Index"));
+    tabs_->addTab(page, TranslatedText("&Index"));
 }
 
 void HelpWindow::MakeSearch() {
@@ -137,7 +138,7 @@ void HelpWindow::MakeSearch() {
     auto* rows = new QVBoxLayout(page);
     rows->addWidget(search->queryWidget());
     rows->addWidget(search->resultWidget(), 1);
-    tabs_->addTab(page, QStringLiteral("&Search"));
+    tabs_->addTab(page, TranslatedText("&Search"));
     connect(search->queryWidget(), &QHelpSearchQueryWidget::search, this,
             [search] { search->search(search->queryWidget()->searchInput()); });
     connect(search->resultWidget(), &QHelpSearchResultWidget::requestShowLink, text_,
@@ -148,7 +149,7 @@ void HelpWindow::MakeSearch() {
 
 QAction* HelpWindow::AddTool(const QString& caption, const QKeySequence& key, void (QTextBrowser::*act)()) {
     auto* bar = findChild<QToolBar*>();
-    if (bar == nullptr) bar = addToolBar(QStringLiteral("Pages"));
+    if (bar == nullptr) bar = addToolBar(TranslatedText("Pages"));
     bar->setMovable(false);
     QAction* action = bar->addAction(caption);
     action->setShortcut(key);

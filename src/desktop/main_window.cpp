@@ -10,6 +10,7 @@
 
 #include "desktop/app_icon.h"
 #include "desktop/key_table.h"
+#include "desktop/language_menu.h"
 #include "desktop/preview/page_browser.h"
 #include "desktop/qt_text.h"
 
@@ -96,8 +97,11 @@ MainWindow::MainWindow(Program& program)
     setMenuBar(menus_);
     company_ = std::make_unique<HubCompany>(door_, *menus_);
     actions_ = std::make_unique<WindowActions>(door_, *menus_, *company_, *this);
+    AddLanguageMenu(*menus_->FindMenu("MenuView"), settings_, program_.state());
     connect(menus_->FindAction("NewProj", 0), &QAction::triggered, this, &MainWindow::NewProjectMade);
     setAcceptDrops(true);
+    handOverTimer_.setSingleShot(true);
+    connect(&handOverTimer_, &QTimer::timeout, this, &MainWindow::OpenWhatWaits);
     // The frame needs some room of the screen too.
     const int frame = 2 * fontMetrics().lineSpacing();
     resize(StartSize().boundedTo(screen()->availableSize() - QSize(frame / 2, frame)));
@@ -305,12 +309,6 @@ void MainWindow::dropEvent(QDropEvent* event) {
             door_.Raise({UserEvent::Kind::OpenFile, {}, file, 0});
         },
         Qt::QueuedConnection);
-}
-
-void MainWindow::OpenHandedOver(const std::string& project) {
-    door_.Raise({UserEvent::Kind::OpenFile, {}, project, 0});
-    raise();
-    activateWindow();
 }
 
 void MainWindow::OnStop(const std::string& reason) {

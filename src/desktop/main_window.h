@@ -7,6 +7,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMimeData>
+#include <QTimer>
 #include <memory>
 
 #include "desktop/event_door.h"
@@ -39,7 +40,8 @@ class MainWindow : public QMainWindow {
     /// Brings the windows in step with the model.
     void Sync();
 
-    /// Opens a project that a second start has handed over, and comes to the front.
+    /// Opens a project that a second start has handed over, once no box or menu is up, and comes to the
+    /// front.
     void OpenHandedOver(const std::string& project);
 
     /// The window of an open form; null if it is not open.
@@ -72,6 +74,7 @@ class MainWindow : public QMainWindow {
     void SyncActiveWindow();
     void SyncTitle();
     void NewProjectMade();
+    void OpenWhatWaits();
     void RestoreLook();
     void KeepLook();
     void KeepSizeOf(const FormView& view, const QMdiSubWindow& frame);
@@ -95,6 +98,8 @@ class MainWindow : public QMainWindow {
     bool metricForNew_ = false;  // the unit system of new projects
     QMdiSubWindow* hubFrame_ = nullptr;
     QHash<Form*, FormView*> views_;
+    std::string handedOver_;  // a project that waits to be opened; empty: none
+    QTimer handOverTimer_;
     std::string stopReason_;
 };
 

@@ -9,6 +9,7 @@ namespace kelvor {
 
 void MainWindow::RestoreLook() {
     actions_->overview().setChecked(settings_.Overview());
+    if (ReportEngine* engine = program_.state().reports.engine()) engine->SetPages(settings_.Pages());
     if (const QByteArray geometry = settings_.Geometry(); !geometry.isEmpty()) restoreGeometry(geometry);
     if (const QByteArray state = settings_.State(); !state.isEmpty()) restoreState(state);
 }
@@ -16,6 +17,7 @@ void MainWindow::RestoreLook() {
 void MainWindow::KeepLook() {
     settings_.KeepGeometry(saveGeometry());
     settings_.KeepState(saveState());
+    if (const ReportEngine* engine = program_.state().reports.engine()) settings_.KeepPages(engine->Pages());
     settings_.KeepOverview(company_->overviewWanted());
     if (program_.state().units) settings_.KeepMetric(program_.state().units->bMetric());
 }

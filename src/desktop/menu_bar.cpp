@@ -1,6 +1,7 @@
 #include "desktop/menu_bar.h"
 
 #include "desktop/qt_text.h"
+#include "desktop/translated_text.h"
 #include "forms/layout.h"
 
 namespace kelvor {

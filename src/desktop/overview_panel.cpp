@@ -8,6 +8,8 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "desktop/translated_text.h"
+
 namespace kelvor {
 
 namespace {
@@ -19,11 +21,11 @@ constexpr int kPanelLetters = 40;
 QTableWidget* MakeTable(QWidget* parent) {
     auto* table = new QTableWidget(0, kColumns, parent);
     table->setObjectName(QStringLiteral("OverviewTable"));
-    table->setAccessibleName(QStringLiteral("Overview of the project"));
-    table->setAccessibleDescription(QStringLiteral("Enter opens the screen of a line"));
-    table->setToolTip(QStringLiteral("Enter or a double click opens the screen of a line"));
+    table->setAccessibleName(TranslatedText("Overview of the project"));
+    table->setAccessibleDescription(TranslatedText("Enter opens the screen of a line"));
+    table->setToolTip(TranslatedText("Enter or a double click opens the screen of a line"));
     table->setHorizontalHeaderLabels(
-        {QStringLiteral("Screen"), QStringLiteral("Results"), QStringLiteral("Equation")});
+        {TranslatedText("Screen"), TranslatedText("Results"), TranslatedText("Equation")});
     table->verticalHeader()->hide();
     table->horizontalHeader()->setSectionsClickable(false);
     table->horizontalHeader()->setHighlightSections(false);
@@ -47,9 +49,9 @@ OverviewPanel::OverviewPanel(std::function<void(const std::string& screen)> open
     : QWidget(parent),
       open_(std::move(open)),
       table_(MakeTable(this)),
-      nothing_(new QLabel(QStringLiteral("No screen of this project holds data yet."), this)) {
+      nothing_(new QLabel(TranslatedText("No screen of this project holds data yet."), this)) {
     setObjectName(QStringLiteral("Overview"));
-    auto* heading = new QLabel(QStringLiteral("Overview"), this);
+    auto* heading = new QLabel(TranslatedText("Overview"), this);
     heading->setObjectName(QStringLiteral("OverviewHeading"));
     QFont bold = heading->font();
     bold.setBold(true);
@@ -108,8 +110,8 @@ void OverviewPanel::Copy() const {
 
 void OverviewPanel::ShowMenu(const QPoint& place) {
     QMenu menu;
-    const QAction* open = menu.addAction(QStringLiteral("&Open"));
-    const QAction* copy = menu.addAction(QStringLiteral("&Copy Overview"));
+    const QAction* open = menu.addAction(TranslatedText("&Open"));
+    const QAction* copy = menu.addAction(TranslatedText("&Copy Overview"));
     const QAction* chosen = menu.exec(place);
     if (chosen != nullptr && chosen == open) OpenRow(table_->currentRow());
     if (chosen != nullptr && chosen == copy) Copy();

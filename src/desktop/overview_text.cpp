@@ -3,30 +3,33 @@
 #include <QStringList>
 
 #include "desktop/qt_text.h"
+#include "desktop/translated_text.h"
 
 namespace kelvor {
 
 namespace {
 
-const QStringList kHead = {QStringLiteral("Screen"), QStringLiteral("Results"), QStringLiteral("Equation")};
+QStringList Head() {
+    return {TranslatedText("Screen"), TranslatedText("Results"), TranslatedText("Equation")};
+}
 
 /// What the catalogue calls a result. The costs of the two pavements are no variables.
 QString NameOf(const OverviewResult& result, const Catalogue& catalogue) {
-    if (result.name == "EUACA") return QStringLiteral("EUAC, Pavement (A)");
-    if (result.name == "EUACB") return QStringLiteral("EUAC, Pavement (B)");
+    if (result.name == "EUACA") return TranslatedText("EUAC, Pavement (A)");
+    if (result.name == "EUACB") return TranslatedText("EUAC, Pavement (B)");
     const Variable* variable = catalogue.FindVariable(result.name);
     return ToQt(variable == nullptr || variable->desc.empty() ? result.name : variable->desc);
 }
 
 QString ResultText(const OverviewResult& result, const Catalogue& catalogue) {
-    const QString value = result.text.empty() ? QStringLiteral("none yet") : ToQt(result.text);
+    const QString value = result.text.empty() ? TranslatedText("none yet") : ToQt(result.text);
     const QString unit = result.text.empty() || result.unit.empty() ? QString() : " " + ToQt(result.unit);
     return NameOf(result, catalogue) + ": " + value + unit;
 }
 
 QString StateText(const OverviewLine& line) {
     if (!line.balanced) return {};
-    return *line.balanced ? QStringLiteral("Balanced") : QStringLiteral("Not balanced");
+    return *line.balanced ? TranslatedText("Balanced") : TranslatedText("Not balanced");
 }
 
 QStringList PartsOf(const OverviewRow& row) {
@@ -52,13 +55,13 @@ std::vector<OverviewRow> RowsOf(const std::vector<OverviewLine>& lines, const Ca
 }
 
 QString TextOf(const std::vector<OverviewRow>& rows) {
-    QString text = kHead.join(u'\t') + u'\n';
+    QString text = Head().join(u'\t') + u'\n';
     for (const OverviewRow& row : rows) text += PartsOf(row).join(u'\t') + u'\n';
     return text;
 }
 
 QString HtmlOf(const std::vector<OverviewRow>& rows) {
-    QString html = QStringLiteral("<table>") + HtmlRow(kHead, QStringLiteral("th"));
+    QString html = QStringLiteral("<table>") + HtmlRow(Head(), QStringLiteral("th"));
     for (const OverviewRow& row : rows) html += HtmlRow(PartsOf(row), QStringLiteral("td"));
     return html + QStringLiteral("</table>");
 }

@@ -10,6 +10,7 @@
 
 #include "desktop/print_file.h"
 #include "desktop/qt_text.h"
+#include "desktop/translated_text.h"
 
 namespace kelvor {
 
@@ -127,7 +128,7 @@ std::optional<std::string> QtDialogs::AskText(const InputRequest& request) {
 std::optional<Path> QtDialogs::AskFile(const FileRequest& request) {
     const BoxPointer pointer;
     const bool opens = request.kind == FileRequest::Kind::Open;
-    const QString title = opens ? QStringLiteral("Open Project") : QStringLiteral("Save Project As");
+    const QString title = opens ? TranslatedText("Open Project") : TranslatedText("Save Project As");
     const bool proposesFile = !opens && !std::filesystem::is_directory(request.folder);
     const Path folder = proposesFile ? request.folder.parent_path() : request.folder;
     QFileDialog dialog(parent_, request.title.empty() ? title : ToQt(request.title), ToQt(folder.string()),
@@ -151,7 +152,8 @@ void QtDialogs::HideWait() { wait_.reset(); }
 
 std::optional<std::string> QtDialogs::Print(const PrintRequest& request) {
     const BoxPointer pointer;
-    return PrintFile(parent_, request);
+    LpPrintSystem printers;
+    return PrintFile(parent_, request, printers);
 }
 
 void QtDialogs::ShowHelp(const HelpRequest& request) {

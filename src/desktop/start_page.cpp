@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "desktop/qt_text.h"
+#include "desktop/translated_text.h"
 
 namespace kelvor {
 
@@ -18,7 +19,7 @@ constexpr qsizetype kDateAndMinute = 16;  // "2004-02-29 10:00"
 
 QString RecentText(const RecentProject& project) {
     const QString name = QFileInfo(ToQt(project.path)).completeBaseName();
-    const QString missing = project.missing ? QStringLiteral(", missing") : QString();
+    const QString missing = project.missing ? TranslatedText(", missing") : QString();
     return name + " (" + ToQt(project.date).left(kDateAndMinute) + missing + ")";
 }
 
@@ -38,16 +39,16 @@ StartPage::StartPage(StartPageHooks hooks, QWidget* parent) : QWidget(parent), h
     setMinimumWidth(kLeastLetters * fontMetrics().averageCharWidth());
     auto* lines = new QVBoxLayout(this);
     lines->setContentsMargins({});
-    new_ = AddButton("StartNew", QStringLiteral("New Project"), QStringLiteral("Begins an empty project"));
-    open_ = AddButton("StartOpen", QStringLiteral("Open Project..."), QStringLiteral("Opens a project file"));
-    recent_ = AddList("StartRecent", QStringLiteral("Recent projects"),
-                      QStringLiteral("Enter opens the project of a line"));
-    samples_ = AddList("StartSamples", QStringLiteral("Samples"),
-                       QStringLiteral("Enter opens a copy of the sample, without a name"));
-    firstDesign_ = AddButton("StartFirstDesign", QStringLiteral("First Design in Five Minutes"),
-                             QStringLiteral("Opens the help at a first design, step by step"));
-    news_ = AddButton("StartNews", QStringLiteral("What Is New"),
-                      QStringLiteral("Opens the help at what has been added"));
+    new_ = AddButton("StartNew", TranslatedText("New Project"), TranslatedText("Begins an empty project"));
+    open_ = AddButton("StartOpen", TranslatedText("Open Project..."), TranslatedText("Opens a project file"));
+    recent_ = AddList("StartRecent", TranslatedText("Recent projects"),
+                      TranslatedText("Enter opens the project of a line"));
+    samples_ = AddList("StartSamples", TranslatedText("Samples"),
+                       TranslatedText("Enter opens a copy of the sample, without a name"));
+    firstDesign_ = AddButton("StartFirstDesign", TranslatedText("First Design in Five Minutes"),
+                             TranslatedText("Opens the help at a first design, step by step"));
+    news_ = AddButton("StartNews", TranslatedText("What Is New"),
+                      TranslatedText("Opens the help at what has been added"));
     connect(new_, &QPushButton::clicked, this, [this] { hooks_.newProject(); });
     connect(open_, &QPushButton::clicked, this, [this] { hooks_.open(); });
     connect(firstDesign_, &QPushButton::clicked, this, [this] { hooks_.showHelp("FirstDesign"); });

@@ -8,7 +8,9 @@
 
 #include "desktop/copy_result.h"
 #include "desktop/key_table.h"
+#include "desktop/qt_text.h"
 #include "desktop/start_page.h"
+#include "desktop/translated_text.h"
 
 namespace kelvor {
 
@@ -28,18 +30,18 @@ struct ToolEntry {
     const char* caption;  // short, since it has no picture
 };
 
-constexpr ToolEntry kFileTools[] = {{"NewProj", "New"},
-                                    {"MenuFileOpen", "Open"},
-                                    {"MenuFileSave", "Save"},
+constexpr ToolEntry kFileTools[] = {{"NewProj", ToTranslate("New")},
+                                    {"MenuFileOpen", ToTranslate("Open")},
+                                    {"MenuFileSave", ToTranslate("Save")},
                                     {"", ""},
-                                    {"MenuEditUndo", "Undo"},
-                                    {"MenuEditRedo", "Redo"},
+                                    {"MenuEditUndo", ToTranslate("Undo")},
+                                    {"MenuEditRedo", ToTranslate("Redo")},
                                     {"", ""}};
 constexpr ToolEntry kOtherTools[] = {{"", ""},
-                                     {"MenuFilePrint", "Print"},
+                                     {"MenuFilePrint", ToTranslate("Print")},
                                      {"", ""},
-                                     {"MenuUnitsEnglish", "English"},
-                                     {"MenuUnitsMetric", "Metric"},
+                                     {"MenuUnitsEnglish", ToTranslate("English")},
+                                     {"MenuUnitsMetric", ToTranslate("Metric")},
                                      {"", ""}};
 
 void AddTools(QToolBar& bar, MenuBar& menus, std::span<const ToolEntry> entries) {
@@ -49,7 +51,7 @@ void AddTools(QToolBar& bar, MenuBar& menus, std::span<const ToolEntry> entries)
             bar.addSeparator();
             continue;
         }
-        action->setIconText(QString::fromLatin1(entry.caption));
+        action->setIconText(TranslatedText(entry.caption));
         bar.addAction(action);
     }
 }
@@ -57,11 +59,11 @@ void AddTools(QToolBar& bar, MenuBar& menus, std::span<const ToolEntry> entries)
 }  // namespace
 
 WindowActions::WindowActions(EventDoor& door, MenuBar& menus, HubCompany& company, QMainWindow& window)
-    : door_(door), window_(window), bar_(new QToolBar(QStringLiteral("Tool Bar"), &window)) {
+    : door_(door), window_(window), bar_(new QToolBar(TranslatedText("Tool Bar"), &window)) {
     bar_->setObjectName(QStringLiteral("ToolBar"));
     bar_->setToolButtonStyle(Qt::ToolButtonTextOnly);
     bar_->setMovable(false);
-    overview_ = new QAction(QStringLiteral("&Overview"), &window);
+    overview_ = new QAction(TranslatedText("&Overview"), &window);
     overview_->setObjectName(QStringLiteral("ViewOverview"));
     overview_->setCheckable(true);
     overview_->setChecked(true);
@@ -70,7 +72,7 @@ WindowActions::WindowActions(EventDoor& door, MenuBar& menus, HubCompany& compan
                      [&company](bool wanted) { company.ShowOverview(wanted); });
     own_.push_back(overview_);
     FillEditMenu(*menus.FindMenu("MenuEdit"));
-    FillViewMenu(*menus.AddMenuBefore(QStringLiteral("View"), "MenuView", "MenuWindow"));
+    FillViewMenu(*menus.AddMenuBefore(TranslatedText("&View"), "MenuView", "MenuWindow"));
     FillSamples(*menus.FindMenu("MenuHelp"), company);
     FillToolBar(menus);
     window.addToolBar(bar_);
@@ -87,16 +89,17 @@ QAction* WindowActions::AddKey(QMenu& menu, const QString& caption, Qt::Key key)
 
 void WindowActions::FillEditMenu(QMenu& menu) {
     menu.addSeparator();
-    cut_ = AddKey(menu, QStringLiteral("Cu&t"), Qt::Key_X);
-    copy_ = AddKey(menu, QStringLiteral("&Copy"), Qt::Key_C);
-    paste_ = AddKey(menu, QStringLiteral("&Paste"), Qt::Key_V);
+    cut_ = AddKey(menu, TranslatedText("Cu&t"), Qt::Key_X);
+    copy_ = AddKey(menu, TranslatedText("&Copy"), Qt::Key_C);
+    paste_ = AddKey(menu, TranslatedText("&Paste"), Qt::Key_V);
     menu.addSeparator();
     const std::pair<KeyAct, QString (*)(Program&, Form&)> results[] = {{KeyAct::CopyValue, ValueOfFocus},
                                                                        {KeyAct::CopyScreen, TableOfScreen}};
-    const char* const captions[] = {"Copy &Value with Unit", "Copy &Screen as Table"};
+    const char* const captions[] = {ToTranslate("Copy &Value with Unit"),
+                                    ToTranslate("Copy &Screen as Table")};
     const char* const names[] = {"EditCopyValue", "EditCopyScreen"};
     for (int i = 0; i < 2; ++i) {
-        QAction* action = menu.addAction(QString::fromLatin1(captions[i]), &menu,
+        QAction* action = menu.addAction(TranslatedText(captions[i]), &menu,
                                          [this, text = results[i].second] { CopyOf(text); });
         action->setObjectName(QString::fromLatin1(names[i]));
         action->setShortcuts(KeysOf(results[i].first));
@@ -115,12 +118,12 @@ void WindowActions::FillViewMenu(QMenu& menu) {
     menu.addAction(overview_);
     QAction* bar = bar_->toggleViewAction();
     bar->setObjectName(QStringLiteral("ViewToolBar"));
-    bar->setText(QStringLiteral("&Tool Bar"));
+    bar->setText(TranslatedText("&Tool Bar"));
     menu.addAction(bar);
 }
 
 void WindowActions::FillSamples(QMenu& menu, HubCompany& company) {
-    QMenu* samples = menu.addMenu(QStringLiteral("&Samples"));
+    QMenu* samples = menu.addMenu(TranslatedText("&Samples"));
     samples->setObjectName(QStringLiteral("MenuSamples"));
     for (const std::string& path : company.Samples()) {
         QAction* action =
@@ -132,14 +135,14 @@ void WindowActions::FillSamples(QMenu& menu, HubCompany& company) {
 
 void WindowActions::FillToolBar(MenuBar& menus) {
     AddTools(*bar_, menus, kFileTools);
-    cut_->setIconText(QStringLiteral("Cut"));
-    copy_->setIconText(QStringLiteral("Copy"));
-    paste_->setIconText(QStringLiteral("Paste"));
+    cut_->setIconText(TranslatedText("Cut"));
+    copy_->setIconText(TranslatedText("Copy"));
+    paste_->setIconText(TranslatedText("Paste"));
     bar_->addActions({cut_, copy_, paste_});
     AddTools(*bar_, menus, kOtherTools);
     bar_->addAction(overview_);
     if (QAction* help = menus.FindAction("MenuTopics", 0)) {
-        help->setIconText(QStringLiteral("Help"));
+        help->setIconText(TranslatedText("Help"));
         bar_->addAction(help);
     }
     // A click on the bar leaves the focus in its field.

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/file_system.h"
+#include "reports/document/page_setup.h"
 
 namespace kelvor {
 
@@ -26,6 +27,14 @@ class WindowSettings {
     /// Whether new projects begin in metric units.
     [[nodiscard]] bool Metric() const;
     void KeepMetric(bool metric);
+
+    /// The code of the language that the user has chosen; empty: that of his system.
+    [[nodiscard]] std::string Language() const;
+    void KeepLanguage(const std::string& code);
+
+    /// The sheet of the reports.
+    [[nodiscard]] PageSetup Pages() const;
+    void KeepPages(const PageSetup& setup);
 
     [[nodiscard]] bool Overview() const;
     void KeepOverview(bool wanted);

@@ -4,6 +4,7 @@
 
 #include "desktop/grid_view.h"
 #include "desktop/qt_text.h"
+#include "desktop/translated_text.h"
 
 namespace kelvor {
 
@@ -25,7 +26,7 @@ void SetText(QLabel& label, const QString& text) {
 }  // namespace
 
 QString DocumentName(const ProcessState& state) {
-    if (state.sProjectFile.empty()) return QStringLiteral("Unnamed project");
+    if (state.sProjectFile.empty()) return TranslatedText("Unnamed project");
     return QFileInfo(ToQt(state.sProjectFile)).completeBaseName();
 }
 
@@ -39,8 +40,8 @@ WindowStatus::WindowStatus(QWidget* parent)
     addWidget(hint_, 1);
     addPermanentWidget(figures_);
     addPermanentWidget(document_);
-    figures_->setAccessibleName(QStringLiteral("Figures of the marked cells"));
-    document_->setAccessibleName(QStringLiteral("Project"));
+    figures_->setAccessibleName(TranslatedText("Figures of the marked cells"));
+    document_->setAccessibleName(TranslatedText("Project"));
 }
 
 void WindowStatus::Sync(Program& program, const FormView* view) {
@@ -56,7 +57,7 @@ void WindowStatus::ShowHint(Program& program) {
     if (focus != nullptr) hint = ToQt(focus->grid ? focus->grid->current().hint : focus->toolTip);
     if (const std::string preview = program.EntryPreview(); !preview.empty()) hint = ToQt(preview);
     if (!program.state().dbWork.IsOpen()) {
-        hint = QStringLiteral("No project is open: choose New Project or Open Project");
+        hint = TranslatedText("No project is open: choose New Project or Open Project");
     }
     SetText(*hint_, hint);
 }
@@ -78,7 +79,7 @@ void WindowStatus::ShowDocument(const ProcessState& state) {
     if (state.bProjectChanged) {
         text += u'*';
     } else if (projects_ == state.projects) {
-        text = QStringLiteral("Saved ") + text;
+        text = TranslatedText("Saved %1").arg(text);
     }
     if (!state.dbWork.IsOpen()) text.clear();
     SetText(*document_, text);

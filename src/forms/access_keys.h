@@ -10,7 +10,7 @@
 namespace kelvor {
 
 /// The access keys of the main window's menus: no form is given one of these.
-inline constexpr std::string_view kMenuAccessKeys = "FIUWH";
+inline constexpr std::string_view kMenuAccessKeys = "FIUVWH";
 
 /// The access key that a caption marks with `&`; none if it marks none. `&&` is a plain ampersand.
 char MarkedKey(const std::string& caption);

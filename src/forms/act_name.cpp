@@ -1,13 +1,15 @@
 #include "forms/act_name.h"
 
+#include "platform/translation.h"
+
 namespace kelvor {
 
 std::string ChangeOf(const ScreenContext& context, std::string_view variable, int row) {
     const Variable* known = context.catalogue.FindVariable(variable);
     const bool named = known != nullptr && !known->desc.empty();
-    std::string act = "change of " + (named ? known->desc : std::string(variable));
-    if (row > 0) act += ", row " + std::to_string(row);
-    return act;
+    const std::string name = named ? known->desc : std::string(variable);
+    if (row == 0) return Filled(Translated("change of %1"), {name});
+    return Filled(Translated("change of %1, row %2"), {name, std::to_string(row)});
 }
 
 std::string CountOf(std::string_view act, std::size_t count, std::string_view thing) {

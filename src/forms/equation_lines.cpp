@@ -7,6 +7,7 @@
 
 #include "forms/indicator.h"
 #include "platform/number_picture.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -47,20 +48,25 @@ std::vector<std::string> MissingTerms(const ScreenContext& context, const Form& 
 
 StatusLine MissingLine(const std::vector<std::string>& missing) {
     const std::size_t named = missing.size() > kMostNamed ? kMostNamed - 1 : missing.size();
-    std::string text = "Missing: " + missing.front();
-    for (std::size_t i = 1; i < named; ++i) text += ", " + missing[i];
-    if (named < missing.size()) text += " and " + std::to_string(missing.size() - named) + " more";
-    return {text, false};
+    std::string names = missing.front();
+    for (std::size_t i = 1; i < named; ++i) names += ", " + missing[i];
+    if (named == missing.size()) return {Filled(Translated("Missing: %1"), {names}), false};
+    const std::string others = std::to_string(missing.size() - named);
+    return {Filled(Translated("Missing: %1 and %2 more"), {names, others}), false};
 }
 
 /// Sets the traffic that the equation gives, in whole ESALs that the pavement carries, beside the stored one.
 StatusLine CompareLine(Real given, Real stored) {
     const double difference = std::fabs((given - stored).value()) / std::fabs(stored.value());
-    const std::string both = "the equation gives " +
-                             FormatNumber(std::floor(given.value()), kTrafficPicture) + " ESALs for " +
-                             FormatNumber(stored.value(), kTrafficPicture);
-    if (difference > kBalanceTolerance) return {"Not in balance: " + both + ".", true};
-    return {"In balance: " + both + " (" + FormatNumber(difference * 100.0, kPercentPicture) + " %).", false};
+    const std::string gives = FormatNumber(std::floor(given.value()), kTrafficPicture);
+    const std::string wanted = FormatNumber(stored.value(), kTrafficPicture);
+    if (difference > kBalanceTolerance) {
+        return {Filled(Translated("Not in balance: the equation gives %1 ESALs for %2."), {gives, wanted}),
+                true};
+    }
+    return {Filled(Translated("In balance: the equation gives %1 ESALs for %2 (%3 %)."),
+                   {gives, wanted, FormatNumber(difference * 100.0, kPercentPicture)}),
+            false};
 }
 
 /// What the equation says of terms that are all entered.
@@ -68,9 +74,9 @@ StatusLine AnswerLine(const ScreenContext& context, const SolveKey& equation) {
     try {
         const EquationAnswer answer = equation.answer(context.calc, equation.terms);
         if (answer.traffic) return CompareLine(*answer.traffic, context.calc.Get(equation.Traffic()));
-        return {"Not in balance: the equation has no value: " + answer.whyNot + ".", true};
+        return {Filled(Translated("Not in balance: the equation has no value: %1."), {answer.whyNot}), true};
     } catch (const ArithmeticFault&) {
-        return {"Not in balance: the equation has no value.", true};
+        return {Translated("Not in balance: the equation has no value."), true};
     }
 }
 
@@ -93,7 +99,7 @@ StatusLine GovernsLine(const ScreenContext& context, const FormType& type) {
     try {
         return type.governs(context);
     } catch (const ArithmeticFault&) {
-        return {"The thickness has no value.", true};
+        return {Translated("The thickness has no value."), true};
     }
 }
 

@@ -5,6 +5,7 @@
 #include "forms/form_builder.h"
 #include "platform/number_picture.h"
 #include "platform/number_text.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -24,15 +25,15 @@ std::string LimitText(double limit, const std::string& picture) {
 
 std::string RangeText(const Range& range, const std::string& picture) {
     const auto text = [&](double limit) { return LimitText(limit, picture); };
-    if (range.low && range.high) return text(*range.low) + " to " + text(*range.high);
-    if (range.low) return text(*range.low) + " or more";
-    return "at most " + text(*range.high);
+    if (range.low && range.high) return Filled(Translated("%1 to %2"), {text(*range.low), text(*range.high)});
+    if (range.low) return Filled(Translated("%1 or more"), {text(*range.low)});
+    return Filled(Translated("at most %1"), {text(*range.high)});
 }
 
 std::string HintOf(const ScreenContext& context, const std::string& name, bool computed) {
     const Variable* variable = context.catalogue.FindVariable(name);
     if (variable == nullptr) return {};
-    if (computed) return variable->desc + ": computed";
+    if (computed) return variable->desc + ": " + Translated("computed");
     const Range range = context.units.VariableRange(name);
     if (!range.low && !range.high) return variable->desc;
     const std::string unit = context.units.UnitLabel(name);
@@ -52,7 +53,7 @@ std::string FieldHint(const ScreenContext& context, const Control& field) {
 
 std::string ColumnHint(const ScreenContext& context, const GridColumn& column) {
     std::string hint = HintOf(context, column.variable, column.locked);
-    if (!column.list.empty()) hint += ", from the list";
+    if (!column.list.empty()) hint += ", " + Translated("from the list");
     return column.alsoSets.empty() ? hint : hint + "; " + column.alsoSets;
 }
 

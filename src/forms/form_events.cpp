@@ -16,6 +16,7 @@
 #include "forms/take_over.h"
 #include "platform/real.h"
 #include "platform/text.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -247,7 +248,7 @@ void FormEvents::Press(Form& form, Control& button) {
 void FormEvents::NameClick(const Control& control) {
     const bool common = EqualNoCase(control.name, kOkButton) || EqualNoCase(control.name, kHelpButton);
     if (control.IsChoice()) {
-        context_.act = "choice of " + PlainCaption(control.text);
+        context_.act = Filled(Translated("choice of %1"), {PlainCaption(control.text)});
     } else if (context_.act.empty() && control.IsButton() && !common && control.takesOver.empty()) {
         context_.act = PlainCaption(control.text);
     }

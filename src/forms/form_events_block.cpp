@@ -9,6 +9,7 @@
 #include "forms/form_events.h"
 #include "forms/grid_entry.h"
 #include "forms/recalculation.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -51,7 +52,8 @@ class PastePlanner {
             const bool empty =
                 std::all_of(line.begin(), line.end(), [](const auto& cell) { return cell.empty(); });
             if (!empty)
-                plan_.LeaveOut({row, grid_.current().caption, {.text = "The table has no such row."}});
+                plan_.LeaveOut(
+                    {row, grid_.current().caption, {.text = Translated("The table has no such row.")}});
             return;
         }
         std::vector<CellEntry> cells;
@@ -85,11 +87,12 @@ class PastePlanner {
 Message LeftOutMessage(const BlockPlan& plan) {
     const Refusal& first = *plan.first;
     const std::string where =
-        "row " + std::to_string(first.row) + ", " + first.column + ": " + first.reason.text;
+        Filled(Translated("row %1, %2: %3"), {std::to_string(first.row), first.column, first.reason.text});
     const std::string count = std::to_string(plan.rowsLeftOut);
-    return {.text = plan.rowsLeftOut == 1 ? "1 row was left out: " + where
-                                          : count + " rows were left out. The first is " + where,
-            .title = "Paste"};
+    return {.text = plan.rowsLeftOut == 1
+                        ? Filled(Translated("1 row was left out: %1"), {where})
+                        : Filled(Translated("%1 rows were left out. The first is %2"), {count, where}),
+            .title = Translated("Paste")};
 }
 
 std::vector<int> RowsOf(const std::vector<CellEntry>& cells) {

@@ -7,6 +7,7 @@
 #include "forms/grid_entry.h"
 #include "forms/grid_rows.h"
 #include "forms/recalculation.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -17,6 +18,16 @@ Control* FindGridWith(Form& form, int row, const std::string& variable) {
     Control* control = form.FindGrid();
     if (control == nullptr || row < 1 || row > control->grid->rows) return nullptr;
     return variable.empty() || control->grid->Find(variable) ? control : nullptr;
+}
+
+/// A row with a cell that cannot be edited, though its column can, stays where it is: it is what it is by its
+/// place. In a grid that decides by rows alone which of them may go, all stay.
+bool RowStays(const ScreenContext& context, const Form& form, const GridData& grid, int row) {
+    const GridRoutines& routines = grid.routines;
+    if (routines.mayEdit == nullptr) return routines.mayDelete != nullptr;
+    return std::any_of(grid.columns.begin(), grid.columns.end(), [&](const GridColumn& column) {
+        return !column.locked && !routines.mayEdit(context, form, row, column);
+    });
 }
 
 std::vector<int> RowsFromTo(int first, int last) {
@@ -105,7 +116,7 @@ bool FormEvents::DeleteRow(Form& form, int row) {
     } else {
         return true;
     }
-    context_.act = "deletion of " + form.type().rowName + " " + std::to_string(row);
+    context_.act = Filled(Translated("deletion of %1 %2"), {form.type().rowName, std::to_string(row)});
     Handle(FormEvent::RowDeleted, form, control, [&] {
         RecalcAllOutputs(context_, form);
         RecalcOutputs(context_, form, "", 0);
@@ -113,9 +124,9 @@ bool FormEvents::DeleteRow(Form& form, int row) {
     return true;
 }
 
-/// With the cursor in the row. False in a grid of texts, or one with rules about which rows may go.
+/// With the cursor in the row. False in a grid of texts, and for a row that stays where it is.
 bool FormEvents::MayShiftRows(Form& form, Control& control, int row) {
-    if (control.grid->texts || control.grid->routines.mayDelete != nullptr) return false;
+    if (control.grid->texts || RowStays(context_, form, *control.grid, row)) return false;
     return MoveFocus(form, control) && MoveGridCursor(form, control, row, control.grid->column) &&
            CommitCell(form, control);
 }
@@ -126,10 +137,11 @@ bool FormEvents::InsertRow(Form& form, int row) {
     const auto last = GridInsertRow(context_, form, row, control->grid->rows);
     if (!last) {
         context_.calc.dialogs.ShowMessage(
-            {.text = "The last row of the table is filled. Delete a row first.", .title = "Insert Row"});
+            {.text = Translated("The last row of the table is filled. Delete a row first."),
+             .title = Translated("Insert Row")});
         return true;
     }
-    context_.act = "insertion of " + form.type().rowName + " " + std::to_string(row);
+    context_.act = Filled(Translated("insertion of %1 %2"), {form.type().rowName, std::to_string(row)});
     NoteRowsWritten(form, *control, RowsFromTo(row, *last));
     return true;
 }
@@ -137,9 +149,10 @@ bool FormEvents::InsertRow(Form& form, int row) {
 bool FormEvents::MoveRow(Form& form, int row, int step) {
     Control* control = FindGridWith(form, row, {});
     if (control == nullptr || FindGridWith(form, row + step, {}) == nullptr) return control != nullptr;
-    if (!MayShiftRows(form, *control, row)) return true;
+    if (RowStays(context_, form, *control->grid, row + step) || !MayShiftRows(form, *control, row))
+        return true;
     GridSwapRows(context_, form, row, row + step);
-    context_.act = "move of " + form.type().rowName + " " + std::to_string(row);
+    context_.act = Filled(Translated("move of %1 %2"), {form.type().rowName, std::to_string(row)});
     NoteRowsWritten(form, *control, RowsFromTo(std::min(row, row + step), std::max(row, row + step)));
     MoveGridCursor(form, *control, row + step, control->grid->column);
     return true;

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <utility>
 
+#include "platform/translation.h"
 #include "shell/recovery.h"
 
 namespace kelvor {
@@ -44,10 +45,10 @@ MenuEntry RecentEntry(const ProcessState& state, int position) {
 constexpr const char* kRecoverMenu = "MenuRecover";
 
 MenuEntry RecoverMenu(const ProcessState& state) {
-    MenuEntry entry{"MenuFile", kRecoverMenu, "&Recover"};
+    MenuEntry entry{"MenuFile", kRecoverMenu, Translated("&Recover")};
     entry.opensMenu = true;
     entry.enabled = !state.keptWork.empty();
-    entry.toolTip = "Work that was not saved";
+    entry.toolTip = Translated("Work that was not saved");
     return entry;
 }
 
@@ -74,11 +75,11 @@ MenuEntry EditEntry(const char* name, const std::string& caption, const char* sh
 }  // namespace
 
 std::vector<MenuTitle> MenuTitles() {
-    return {{"MenuFile", "&File"},
-            {"MenuEdit", "Ed&it"},
+    return {{"MenuFile", Translated("&File")},
+            {"MenuEdit", Translated("Ed&it")},
             {"MenuUnits", "&Units"},
             {"MenuWindow", "&Window"},
-            {"MenuHelp", "&Help"}};
+            {"MenuHelp", Translated("&Help")}};
 }
 
 std::vector<MenuEntry> MenuEntries(const ProcessState& state, const UndoNames& names) {
@@ -98,8 +99,8 @@ std::vector<MenuEntry> MenuEntries(const ProcessState& state, const UndoNames& n
     const std::vector<MenuEntry> others = {
         Separator("BreakLine2", true),
         {"MenuFile", "MenuFileExit", "E&xit", false, "Ctrl+Q"},
-        EditEntry("MenuEditUndo", "&Undo", "Ctrl+Z", names.undo),
-        EditEntry("MenuEditRedo", "&Redo", "Ctrl+Shift+Z; Ctrl+Y", names.redo),
+        EditEntry("MenuEditUndo", Translated("&Undo"), "Ctrl+Z", names.undo),
+        EditEntry("MenuEditRedo", Translated("&Redo"), "Ctrl+Shift+Z; Ctrl+Y", names.redo),
         {"MenuUnits", "MenuUnitsEnglish", "&English", false, "", true, !metric},
         {"MenuUnits", "MenuUnitsMetric", "&Metric", false, "", true, metric},
         {"MenuHelp", "MenuAbout", "A&bout Kelvor"},

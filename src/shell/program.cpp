@@ -15,6 +15,7 @@
 #include "lcc/screens/cost_forms.h"
 #include "lcc/screens/cost_page.h"
 #include "ndt/screens/ndt_forms.h"
+#include "platform/translation.h"
 #include "rehab/screens/existing_forms.h"
 #include "rehab/screens/overlay_screens.h"
 #include "reports/run/preview_form.h"
@@ -125,7 +126,8 @@ bool Program::InEvent(const std::function<bool()>& action) {
 void Program::ShowFault(const std::string& reason) {
     state_.host.dialogs.SetWaitCursor(false);
     state_.host.dialogs.ShowMessage(
-        {.text = "The last step could not be carried out: " + reason, .title = "Error"});
+        {.text = Filled(Translated("The last step could not be carried out: %1"), {reason}),
+         .title = "Error"});
 }
 
 void Program::EndOfEvent() {
@@ -326,7 +328,7 @@ void Program::SwitchUnits(bool metric) {
     if (!events.Commit()) return;
     state_.host.dialogs.SetWaitCursor(true);
     state_.units->SetMetric(metric);
-    state_.act = "switch of units";
+    state_.act = Translated("switch of units");
     events.AfterUnitSwitch();
     state_.host.dialogs.SetWaitCursor(false);
 }
@@ -347,7 +349,7 @@ void Program::CalcField(std::string_view target, std::string_view key) {
     InEvent([&] {
         CalcContext context = state_.MakeCalcContext();
         state_.calculations.CalcField(context, target, key);
-        state_.act = "calculation of " + std::string(target);
+        state_.act = Filled(Translated("calculation of %1"), {target});
         return true;
     });
 }
@@ -356,7 +358,7 @@ void Program::CalcCell(std::string_view target, int dim1, int dim2, std::string_
     InEvent([&] {
         CalcContext context = state_.MakeCalcContext();
         state_.calculations.CalcCell(context, target, dim1, dim2, key);
-        state_.act = "calculation of " + std::string(target);
+        state_.act = Filled(Translated("calculation of %1"), {target});
         return true;
     });
 }

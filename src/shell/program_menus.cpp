@@ -8,6 +8,7 @@
 #include "forms/screen_builder.h"
 #include "forms/side_screen.h"
 #include "platform/database_error.h"
+#include "platform/translation.h"
 #include "shell/about_form.h"
 #include "shell/hub/hub.h"
 #include "shell/program.h"
@@ -163,15 +164,15 @@ bool Program::OpenKeptWork(int place) {
 /// Says that the program before this one crashed. Its work is opened if the user wants it, unless the start
 /// was to open another project.
 void Program::OfferCrashedWork(bool toOpen) {
-    const std::string said =
-        "Kelvor did not end properly the last time. What was not saved has been kept:\n\n" +
-        Describe(state_.keptWork.front());
+    const std::string said = Filled(
+        Translated("Kelvor did not end properly the last time. What was not saved has been kept:\n\n%1"),
+        {Describe(state_.keptWork.front())});
     if (!toOpen) {
-        state_.host.dialogs.ShowMessage({.text = said + "\n\nFile > Recover opens it."});
+        state_.host.dialogs.ShowMessage({.text = said + "\n\n" + Translated("File > Recover opens it.")});
         return;
     }
     const Answer answer = state_.host.dialogs.ShowMessage(
-        {.text = said + "\n\nDo you want to open it now? File > Recover opens it later.",
+        {.text = said + "\n\n" + Translated("Do you want to open it now? File > Recover opens it later."),
          .style = MessageStyle::YesNo,
          .icon = MessageIcon::Question});
     if (answer == Answer::Yes) OpenKeptWork(0);

@@ -8,6 +8,7 @@
 #include "platform/database_error.h"
 #include "platform/ini_file.h"
 #include "platform/replace_file.h"
+#include "platform/translation.h"
 #include "shell/recent_files.h"
 #include "shell/recovery.h"
 
@@ -109,8 +110,8 @@ bool ProjectFiles::KeepAside() {
         recovery.Keep(*unsaved);
         return true;
     } catch (const std::exception& failure) {
-        Report(std::string("What is open could not be kept aside: ") + failure.what() +
-               ".\n\nPlease save it first.");
+        Report(Filled(Translated("What is open could not be kept aside: %1.\n\nPlease save it first."),
+                      {failure.what()}));
     }
     if (!state_.dbWork.IsOpen()) ReopenUnsaved();
     return false;
@@ -173,7 +174,7 @@ bool ProjectFiles::LoadProject(const std::string& path) {
     if (!KeepAside()) return false;
     const std::string failed = "Error loading from " + path + ": ";
     try {
-        if (IsWorkCopy(path)) throw FileError("it is the program's own work copy");
+        if (IsWorkCopy(path)) throw FileError(Translated("it is the program's own work copy"));
         const std::string content = ReadProject(path);
         WriteWorkCopy(content);
         OpenWorkCopy(true);
@@ -229,7 +230,7 @@ void ProjectFiles::BecomeRecovered(const KeptProject& kept, const std::string& c
 bool ProjectFiles::SaveProject(const std::string& path) {
     const std::string failed = "Error saving to " + path + ": ";
     if (!state_.dbWork.IsOpen()) {
-        Report(failed + "no project is open");
+        Report(failed + Translated("no project is open"));
         return false;
     }
     if (!MayOverwrite(path)) return false;
@@ -241,7 +242,7 @@ bool ProjectFiles::SaveProject(const std::string& path) {
         return false;
     }
     try {
-        if (IsWorkCopy(path)) throw FileError("it is the program's own work copy");
+        if (IsWorkCopy(path)) throw FileError(Translated("it is the program's own work copy"));
         Overwrite(path);
     } catch (const std::exception& failure) {  // whatever it is: the work copy is opened again
         Report(failed + failure.what());
@@ -270,7 +271,9 @@ bool ProjectFiles::MayOverwrite(const std::string& path) {
         return true;  // it is gone, or the save will tell why it cannot be replaced
     }
     const Answer answer = state_.host.dialogs.ShowMessage(
-        {.text = path + " was changed by another program since it was opened. Do you want to replace it?",
+        {.text = Filled(
+             Translated("%1 was changed by another program since it was opened. Do you want to replace it?"),
+             {path}),
          .style = MessageStyle::YesNo,
          .icon = MessageIcon::Warning});
     return answer == Answer::Yes;

@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "platform/database_error.h"
+#include "platform/translation.h"
 #include "shell/overview.h"
 
 namespace kelvor {
@@ -44,12 +45,12 @@ std::string ContentsOf(ProcessState& state) {
         contents += (contents.empty() ? "" : "; ") + LineText(line);
     }
     std::replace(contents.begin(), contents.end(), '\n', ' ');
-    return contents.empty() ? "no design yet" : contents;
+    return contents.empty() ? Translated("no design yet") : contents;
 }
 
 std::string Describe(const KeptProject& kept) {
     const std::string name =
-        kept.formerPath.empty() ? "unnamed project" : Path(kept.formerPath).filename().string();
+        kept.formerPath.empty() ? Translated("unnamed project") : Path(kept.formerPath).filename().string();
     return LocalMinute(kept.date) + ", " + name + (kept.contents.empty() ? "" : ": " + kept.contents);
 }
 
@@ -141,7 +142,7 @@ std::string Recovery::ContentsOfCrashedWork() {
         return contents;
     } catch (const DatabaseError& failure) {
         state_.dbWork.Abandon();
-        return std::string("cannot be read: ") + failure.what();
+        return Filled(Translated("cannot be read: %1"), {failure.what()});
     }
 }
 

@@ -6,6 +6,7 @@
 #include "platform/database_error.h"
 #include "platform/ini_file.h"
 #include "platform/text.h"
+#include "platform/translation.h"
 #include "shell/project_files.h"
 #include "shell/recent_files.h"
 #include "shell/recovery.h"
@@ -114,8 +115,10 @@ bool LockWorkCopy(ProcessState& state) {
     try {
         state.workLock = std::make_unique<FileLock>(state.home.LockFile());
         if (state.workLock->holds()) return true;
-        state.host.dialogs.ShowMessage({.text = "Kelvor is already running on " + state.home.work.string() +
-                                                ".\n\nPlease use the program that is open."});
+        state.host.dialogs.ShowMessage(
+            {.text = Filled(
+                 Translated("Kelvor is already running on %1.\n\nPlease use the program that is open."),
+                 {state.home.work.string()})});
     } catch (const FileError& failure) {
         state.host.dialogs.ShowMessage(
             {.text = "Error loading from " + state.home.WorkCopyFile().string() + ": " + failure.what()});
@@ -133,8 +136,10 @@ bool KeepCrashedWork(ProcessState& state) {
         return true;
     } catch (const FileError& failure) {
         state.host.dialogs.ShowMessage(
-            {.text = "Kelvor did not end properly the last time, and what it left in " +
-                     state.home.WorkCopyFile().string() + " could not be kept aside: " + failure.what()});
+            {.text = Filled(
+                 Translated("Kelvor did not end properly the last time, and what it left in %1 could not be "
+                            "kept aside: %2"),
+                 {state.home.WorkCopyFile().string(), failure.what()})});
         return false;
     }
 }

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
+#include <QFont>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiSubWindow>
@@ -136,6 +137,99 @@ TEST_F(LayoutTest, EveryFormFitsIntoTheWindowAsItStarts) {
         EXPECT_LE(view.parentWidget()->width(), window().centralWidget()->width());
         EXPECT_LE(view.parentWidget()->height(), window().centralWidget()->height());
     });
+}
+
+// --- Screens and fonts of every size --------------------------------------------------------------------
+
+/// The font that systems offer at the most, of the whole application as long as it lives.
+class LargestFont {
+  public:
+    LargestFont() {
+        QFont large = before_;
+        large.setPointSize(kLargestPoints);
+        QApplication::setFont(large);
+    }
+    LargestFont(const LargestFont&) = delete;
+    LargestFont& operator=(const LargestFont&) = delete;
+    ~LargestFont() { QApplication::setFont(before_); }
+
+  private:
+    static constexpr int kLargestPoints = 20;
+    QFont before_ = QApplication::font();
+};
+
+class LargestFontTest : private LargestFont, public LayoutTest {};
+
+TEST_F(LargestFontTest, EveryFormIsWholeInHighContrast) {
+    QApplication::setPalette(HighContrastPalette());
+    OnEveryForm([&](const FormView& view) { Audit(view); });
+}
+
+/// Black boxes on black ground have edges, and captions of screens the height of their letters.
+TEST_F(LargestFontTest, EdgesAndCaptionsAreSeen) {
+    QApplication::setPalette(HighContrastPalette());
+    Raise(UserEvent::Kind::OpenForm, "DeF");
+    FormView& view = *window().FindView("DeF");
+    for (const char* name : {"FLEXREL", "Command1"}) {
+        const QImage box = view.FindWidget(name)->grab().toImage();
+        EXPECT_GT(box.pixelColor(box.width() / 2, 0).lightness(), 200) << name;
+    }
+    const int caption = view.mapTo(view.parentWidget(), QPoint(0, 0)).y();
+    EXPECT_GE(caption, view.fontMetrics().height());
+}
+
+class ScreenSizeTest : public LayoutTest {
+  protected:
+    void Resize(int width, int height) {
+        window().resize(width, height);
+        QApplication::processEvents();
+    }
+
+    /// A control that has the focus but does not lie in the window.
+    Complaints FindFocusOutOfSight(const FormView& view) {
+        Complaints complaints;
+        const QWidget& area = *window().centralWidget();
+        const std::string form = view.form()->name();
+        for (QWidget* stop : TabOrder(view)) {
+            Raise(UserEvent::Kind::Focus, stop->objectName().toStdString());
+            const QPoint corner = stop->mapTo(&area, QPoint(0, 0));
+            if (area.rect().contains(QRect(corner, stop->size().boundedTo({1, 1})))) continue;
+            complaints.push_back(stop->objectName().toStdString() + " of " + form + " is out of sight");
+        }
+        return complaints;
+    }
+};
+
+TEST_F(ScreenSizeTest, OnTheSmallestScreenTheFocusIsAlwaysInSight) {
+    Resize(800, 600);
+    EXPECT_EQ(window().size(), QSize(800, 600)) << "the window is no larger than the screen";
+    OnEveryForm([&](const FormView& view) {
+        if (!view.form()->type().isHub) {
+            EXPECT_THAT(FindFocusOutOfSight(view), IsEmpty());
+        }
+    });
+}
+
+TEST_F(ScreenSizeTest, TheHubIsWholeOnScreensOfEverySize) {
+    for (const QSize size : {QSize(800, 600), QSize(1280, 800), QSize(2560, 1440)}) {
+        Resize(size.width(), size.height());
+        const FormView& hub = *window().FindView("TabForm");
+        for (int page = 0; page < hub.tabs()->count(); ++page) {
+            Raise(UserEvent::Kind::SwitchTab, {}, page);
+            SCOPED_TRACE(std::to_string(size.width()) + ", page " + std::to_string(page));
+            EXPECT_THAT(FindCutWidgets(hub), IsEmpty());
+            EXPECT_THAT(FindOverlaps(hub), IsEmpty());
+        }
+    }
+}
+
+TEST_F(ScreenSizeTest, OnTheLargestScreenTheOverviewStandsBesideTheTabs) {
+    Resize(2560, 1440);
+    const auto* overview = window().findChild<QWidget*>(QStringLiteral("Overview"));
+    ASSERT_NE(overview, nullptr);
+    EXPECT_TRUE(overview->isVisible());
+    const FormView& hub = *window().FindView("TabForm");
+    EXPECT_GE(overview->mapTo(&hub, QPoint(0, 0)).x(), hub.tabs()->geometry().right());
 }
 
 // --- The audit itself --------------------------------------------------------------------------------

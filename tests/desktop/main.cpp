@@ -35,6 +35,8 @@ int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     // No test prints on paper, whatever printers the machine has.
     qputenv("CUPS_SERVER", "localhost:9");
+    // English, whatever language the machine speaks.
+    qputenv("LANGUAGE", "C");
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     testing::InitGoogleTest(&argc, argv);

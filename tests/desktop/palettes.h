@@ -8,4 +8,7 @@ namespace kelvor::test {
 QPalette LightPalette();
 QPalette DarkPalette();
 
+/// Bright letters on black, as desktops offer it to those who see little.
+QPalette HighContrastPalette();
+
 }  // namespace kelvor::test

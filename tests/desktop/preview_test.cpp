@@ -3,10 +3,23 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDoubleSpinBox>
+#include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QScrollBar>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
+#include <functional>
+#include <utility>
 
 #include "desktop/preview/report_pages_view.h"
 #include "platform/file_system.h"
@@ -37,7 +50,10 @@ class PreviewTest : public ::testing::Test {
         ReportPagesHooks hooks;
         hooks.setup = [this] { return setup_; };
         hooks.changeSetup = [this](const PageSetup& setup) { setup_ = setup; };
-        hooks.write = [](ReportFormat, const Path&) {};
+        hooks.write = [this](ReportFormat format, const Path& file) {
+            if (failure_) throw FileError("no space left");
+            written_ = {format, file};
+        };
         hooks.giveFocusBack = [this] { ++focusGivenBack_; };
         return hooks;
     }
@@ -59,8 +75,34 @@ class PreviewTest : public ::testing::Test {
         QTest::keyClick(focus == nullptr ? &view_ : focus, key, modifiers);
     }
 
+    /// Presses a tool that opens a dialog, and does something to that dialog once it is up.
+    template <typename Dialog>
+    void PressTool(const char* tool, const std::function<void(Dialog&)>& answer) {
+        bool came = false;
+        QTimer::singleShot(0, &view_, [&] {
+            auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr) return;
+            came = true;
+            answer(*dialog);
+        });
+        QTest::mouseClick(&Find<QToolButton>(tool), Qt::LeftButton);
+        EXPECT_TRUE(came) << tool;
+    }
+
+    /// Types a path into the dialog that asks where to save.
+    void SaveAs(const std::string& path) {
+        PressTool<QFileDialog>("SaveReport", [&](QFileDialog& dialog) {
+            auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+            name->setText(QString::fromStdString(path));
+            QTest::keyClick(name, Qt::Key_Return);
+            if (dialog.isVisible()) dialog.reject();
+        });
+    }
+
     PageSetup setup_;
     int focusGivenBack_ = 0;
+    bool failure_ = false;
+    std::pair<ReportFormat, Path> written_;
     ReportPagesView view_;
 };
 
@@ -183,6 +225,69 @@ TEST_F(PreviewTest, ThePageOnTheScreenHasInk) {
 TEST_F(PreviewTest, WhoHearsTheScreenGetsTheWords) {
     ShowLongReport();
     EXPECT_THAT(view_.browser().accessibleDescription().toStdString(), ::testing::HasSubstr("axle 150."));
+}
+
+// --- Dialogs ---------------------------------------------------------------------------------------------
+
+TEST_F(PreviewTest, ThePageSetupAsksForPaperAndMargins) {
+    ShowLongReport();
+    const auto before = view_.browser().Count();
+    PressTool<QDialog>("PageSetup", [](QDialog& dialog) {
+        EXPECT_EQ(dialog.objectName(), QStringLiteral("PageSetup"));
+        auto* papers = dialog.findChild<QComboBox*>();
+        auto* margin = dialog.findChild<QDoubleSpinBox*>();
+        EXPECT_EQ(papers->currentIndex(), 0);
+        EXPECT_EQ(margin->value(), 0.75);
+        papers->setCurrentIndex(1);
+        margin->setValue(2.0);
+        dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+    });
+    EXPECT_EQ(setup_.paper, Paper::A4);
+    EXPECT_EQ(setup_.marginPoints, 144.0);
+    EXPECT_GT(view_.browser().Count(), before) << "wider margins take more pages";
+}
+
+TEST_F(PreviewTest, APageSetupThatIsCancelledChangesNothing) {
+    ShowLongReport();
+    PressTool<QDialog>("PageSetup", [](QDialog& dialog) {
+        dialog.findChild<QDoubleSpinBox*>()->setValue(2.0);
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    EXPECT_EQ(setup_.marginPoints, 54.0);
+}
+
+TEST_F(PreviewTest, TheEndingOfANameChoosesTheKindOfFile) {
+    ShowLongReport();
+    const QTemporaryDir folder;
+    const Path path = folder.filePath(QStringLiteral("axles")).toStdString();
+    const std::pair<const char*, ReportFormat> kinds[] = {{".pdf", ReportFormat::Pdf},
+                                                          {".rtf", ReportFormat::Rtf},
+                                                          {".html", ReportFormat::Html},
+                                                          {".txt", ReportFormat::Text}};
+    for (const auto& [ending, format] : kinds) {
+        SaveAs(path.string() + ending);
+        EXPECT_EQ(written_, std::pair(format, Path(path.string() + ending)));
+    }
+    SaveAs(path.string());
+    EXPECT_EQ(written_, std::pair(ReportFormat::Pdf, Path(path.string() + ".pdf"))) << "unless one is named";
+}
+
+TEST_F(PreviewTest, AFileThatCannotBeWrittenIsTold) {
+    ShowLongReport();
+    failure_ = true;
+    std::string told;
+    QTimer waiting;
+    QObject::connect(&waiting, &QTimer::timeout, &view_, [&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box == nullptr) return;
+        told = box->text().toStdString();
+        box->accept();
+    });
+    waiting.start(0);
+    const QTemporaryDir folder;
+    const std::string path = folder.filePath(QStringLiteral("axles.pdf")).toStdString();
+    SaveAs(path);
+    EXPECT_EQ(told, path + " could not be written:\nno space left");
 }
 
 }  // namespace

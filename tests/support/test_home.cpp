@@ -15,6 +15,7 @@ void TestHome::Fill() {
     const Path built = KELVOR_HOME_FOLDER;
     std::filesystem::copy(built / "DataBase", folder_ / "DataBase", std::filesystem::copy_options::recursive);
     std::filesystem::copy(built / "Reports", folder_ / "Reports", std::filesystem::copy_options::recursive);
+    std::filesystem::copy(built / "Languages", folder_ / "Languages");
     std::filesystem::copy(built / "kvor.ini", folder_ / "kvor.ini");
     std::filesystem::copy(built / "kvrwork.tpl", folder_ / "kvrwork.tpl");
 }

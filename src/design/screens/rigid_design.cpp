@@ -56,7 +56,7 @@ FormType BothDesignsForm() {
         Rows({Frame("Frame1", "Rigid Pavement Design", {RigidInputs()}),
               SolveForFrame("Frame2", type.equations[0], FrameShape::Wide)}),
         Rows({Frame("Frame3", "Flexible Pavement Design", {FlexibleInputs()}),
-              SolveForFrame("Frame4", type.equations[1], FrameShape::Wide, "Sol&ve For"),
+              SolveForFrame("Frame4", type.equations[1], FrameShape::Wide, "So&lve For"),
               Buttons({CrossSectionButton()})}),
     });
     type.handlers = {OpeningCrossSection()};

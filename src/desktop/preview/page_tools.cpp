@@ -7,25 +7,37 @@
 #include <functional>
 
 #include "desktop/qt_text.h"
+#include "desktop/translated_text.h"
 
 namespace kelvor {
+
+namespace {
+
+const QString kWidestNumber = QStringLiteral("000");
+
+}  // namespace
 
 PageTools::PageTools(PageBrowser& browser, QWidget* parent) : QWidget(parent), browser_(browser) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    Add({"PageBack", "<", "Previous page", "Ctrl+PgUp"}, [this] { browser_.GoTo(browser_.page() - 1); });
-    page_ = AddLabel("PageNumber", QStringLiteral("Page 000 of 000"));
-    Add({"PageOn", ">", "Next page", "Ctrl+PgDown"}, [this] { browser_.GoTo(browser_.page() + 1); });
+    Add({"PageBack", "<", ToTranslate("Previous page"), "Ctrl+PgUp"},
+        [this] { browser_.GoTo(browser_.page() - 1); });
+    page_ = AddLabel("PageNumber", TranslatedText("Page %1 of %2").arg(kWidestNumber, kWidestNumber));
+    Add({"PageOn", ">", ToTranslate("Next page"), "Ctrl+PgDown"},
+        [this] { browser_.GoTo(browser_.page() + 1); });
     row->addStretch();
-    Add({"ZoomOut", "-", "Smaller", "Ctrl+-"}, [this] { browser_.StepZoom(-1); });
+    Add({"ZoomOut", "-", ToTranslate("Smaller"), "Ctrl+-"}, [this] { browser_.StepZoom(-1); });
     zoom_ = AddLabel("Zoom", QStringLiteral("000 %"));
-    Add({"ZoomIn", "+", "Larger", "Ctrl++"}, [this] { browser_.StepZoom(1); });
-    Add({"FitWidth", "Fit Width", "As wide as the window", "Ctrl+0"}, [this] { browser_.FitWidth(); });
+    Add({"ZoomIn", "+", ToTranslate("Larger"), "Ctrl++"}, [this] { browser_.StepZoom(1); });
+    Add({"FitWidth", ToTranslate("Fit Width"), ToTranslate("As wide as the window"), "Ctrl+0"},
+        [this] { browser_.FitWidth(); });
     row->addStretch();
     AddSearch();
     row->addStretch();
-    Add({"PageSetup", "Page Setup...", "Paper and margins", "Ctrl+Shift+P"}, [this] { onSetup(); });
-    Add({"SaveReport", "Save As...", "Save as PDF, RTF, HTML or text", "Ctrl+E"}, [this] { onSave(); });
+    Add({"PageSetup", ToTranslate("Page Setup..."), ToTranslate("Paper and margins"), "Ctrl+Shift+P"},
+        [this] { onSetup(); });
+    Add({"SaveReport", ToTranslate("Save As..."), ToTranslate("Save as PDF, RTF, HTML or text"), "Ctrl+E"},
+        [this] { onSave(); });
     AddScrollKeys();
     browser_.onMoved = [this] { ShowState(); };
     ShowState();
@@ -35,9 +47,9 @@ template <typename Act>
 void PageTools::Add(const Tool& tool, Act act) {
     auto* button = new QToolButton(this);
     button->setObjectName(QLatin1String(tool.name));
-    button->setText(QLatin1String(tool.caption));
-    button->setAccessibleName(QLatin1String(tool.meaning));
-    button->setToolTip(QStringLiteral("%1 (%2)").arg(QLatin1String(tool.meaning), QLatin1String(tool.keys)));
+    button->setText(TranslatedText(tool.caption));
+    button->setAccessibleName(TranslatedText(tool.meaning));
+    button->setToolTip(QStringLiteral("%1 (%2)").arg(TranslatedText(tool.meaning), QLatin1String(tool.keys)));
     // The model moves the focus; the keys of the tools work from everywhere.
     button->setFocusPolicy(Qt::NoFocus);
     connect(button, &QToolButton::clicked, this, act);
@@ -62,17 +74,17 @@ QLabel* PageTools::AddLabel(const char* name, const QString& widest) {
 void PageTools::AddSearch() {
     search_ = new SearchLine(this);
     search_->setObjectName(QStringLiteral("FindWords"));
-    search_->setToolTip(QStringLiteral("Find words on the pages (Ctrl+F)"));
+    search_->setToolTip(TranslatedText("Find words on the pages") + QStringLiteral(" (Ctrl+F)"));
     layout()->addWidget(search_);
-    Add({"FindBack", "Back", "Where the words stand before", "Shift+F3"}, [this] {
+    Add({"FindBack", ToTranslate("Back"), ToTranslate("Where the words stand before"), "Shift+F3"}, [this] {
         browser_.StepHit(-1);
         ShowState();
     });
-    Add({"FindOn", "Next", "Where the words stand next", "F3"}, [this] {
+    Add({"FindOn", ToTranslate("Next"), ToTranslate("Where the words stand next"), "F3"}, [this] {
         browser_.StepHit(1);
         ShowState();
     });
-    found_ = AddLabel("Found", QStringLiteral("000 of 000"));
+    found_ = AddLabel("Found", TranslatedText("%1 of %2").arg(kWidestNumber, kWidestNumber));
     AddKeys("Ctrl+F", [this] {
         search_->setFocus(Qt::ShortcutFocusReason);
         search_->selectAll();
@@ -107,11 +119,11 @@ void PageTools::Search() {
 }
 
 void PageTools::ShowState() {
-    page_->setText(QStringLiteral("Page %1 of %2").arg(browser_.page() + 1).arg(browser_.Count()));
+    page_->setText(TranslatedText("Page %1 of %2").arg(browser_.page() + 1).arg(browser_.Count()));
     zoom_->setText(QStringLiteral("%1 %").arg(browser_.zoom()));
     const bool isEmpty = search_ == nullptr || search_->text().isEmpty();
     if (found_ == nullptr) return;
-    found_->setText(isEmpty ? QString() : QStringLiteral("%1 of %2").arg(browser_.hit()).arg(hits_));
+    found_->setText(isEmpty ? QString() : TranslatedText("%1 of %2").arg(browser_.hit()).arg(hits_));
 }
 
 }  // namespace kelvor

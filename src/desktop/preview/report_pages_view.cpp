@@ -7,6 +7,7 @@
 #include "desktop/preview/page_setup_dialog.h"
 #include "desktop/preview/save_dialog.h"
 #include "desktop/qt_text.h"
+#include "desktop/translated_text.h"
 #include "reports/writers/text_writer.h"
 
 namespace kelvor {
@@ -91,8 +92,8 @@ void ReportPagesView::Save() {
     try {
         hooks_.write(choice->format, choice->file);
     } catch (const FileError& failure) {
-        QMessageBox::critical(this, QStringLiteral("Save Report As"),
-                              QStringLiteral("%1 could not be written:\n%2")
+        QMessageBox::critical(this, TranslatedText("Save Report As"),
+                              TranslatedText("%1 could not be written:\n%2")
                                   .arg(ToQt(choice->file.string()), QString::fromUtf8(failure.what())));
     }
 }

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include "desktop/qt_text.h"
+#include "desktop/translated_text.h"
 
 namespace kelvor {
 
@@ -15,10 +16,11 @@ struct FileKindName {
     const char* filter;
 };
 
-constexpr FileKindName kKinds[] = {{ReportFormat::Pdf, "pdf", "PDF (*.pdf)"},
-                                   {ReportFormat::Rtf, "rtf", "Rich Text, for word processors (*.rtf)"},
-                                   {ReportFormat::Html, "html", "Web page (*.html)"},
-                                   {ReportFormat::Text, "txt", "Plain text (*.txt)"}};
+constexpr FileKindName kKinds[] = {
+    {ReportFormat::Pdf, "pdf", ToTranslate("PDF (*.pdf)")},
+    {ReportFormat::Rtf, "rtf", ToTranslate("Rich Text, for word processors (*.rtf)")},
+    {ReportFormat::Html, "html", ToTranslate("Web page (*.html)")},
+    {ReportFormat::Text, "txt", ToTranslate("Plain text (*.txt)")}};
 
 const FileKindName* KindOfSuffix(const QString& suffix) {
     for (const FileKindName& kind : kKinds) {
@@ -29,7 +31,7 @@ const FileKindName* KindOfSuffix(const QString& suffix) {
 
 const FileKindName& KindOfFilter(const QString& filter) {
     for (const FileKindName& kind : kKinds) {
-        if (filter == QLatin1String(kind.filter)) return kind;
+        if (filter == TranslatedText(kind.filter)) return kind;
     }
     return kKinds[0];
 }
@@ -37,11 +39,11 @@ const FileKindName& KindOfFilter(const QString& filter) {
 }  // namespace
 
 std::optional<SaveChoice> AskWhereToSave(QWidget* parent, const QString& name) {
-    QFileDialog dialog(parent, QStringLiteral("Save Report As"));
+    QFileDialog dialog(parent, TranslatedText("Save Report As"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     QStringList filters;
-    for (const FileKindName& kind : kKinds) filters << QString::fromLatin1(kind.filter);
+    for (const FileKindName& kind : kKinds) filters << TranslatedText(kind.filter);
     dialog.setNameFilters(filters);
     dialog.setDefaultSuffix(QLatin1String(kKinds[0].suffix));
     QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString& filter) {

@@ -2,13 +2,16 @@
 
 #include <QKeyEvent>
 
+#include "desktop/qt_text.h"
+#include "desktop/translated_text.h"
+
 namespace kelvor {
 
 SearchLine::SearchLine(QWidget* parent) : QLineEdit(parent) {
     setFocusPolicy(Qt::ClickFocus);
     setClearButtonEnabled(true);
-    setPlaceholderText(QStringLiteral("Find"));
-    setAccessibleName(QStringLiteral("Find words on the pages"));
+    setPlaceholderText(TranslatedText("Find"));
+    setAccessibleName(TranslatedText("Find words on the pages"));
 }
 
 void SearchLine::keyPressEvent(QKeyEvent* event) {

@@ -6,6 +6,7 @@
 #include "forms/form_events.h"
 #include "platform/database_error.h"
 #include "platform/number_text.h"
+#include "platform/translation.h"
 #include "shell/hub/offer.h"
 #include "shell/hub/tabs.h"
 
@@ -19,7 +20,7 @@ constexpr const char* kAdd = "cmdbAddMaint";
 constexpr const char* kDelete = "cmdbDeleteMaint";
 constexpr const char* kRestore = "cmdbRestoreDefault";
 constexpr const char* kSort = "cmdbSort";
-constexpr const char* kNoList = "choose a list first";
+constexpr const char* kNoList = ToTranslate("choose a list first");
 constexpr const char* kValueColumn = "Value";
 
 /// What stands behind the columns of a row of the grid: which row of the table it is.
@@ -138,12 +139,12 @@ HubPage ListsTab() {
 void LoadListsTab(Form& hub) {
     GridData& grid = GridOf(hub);
     grid.columns[1].picture = "0";
-    grid.columns[0].hint = "Name of the list, by which the screens know it";
-    grid.columns[1].hint = "Place in the list; press Sort to see the new order";
-    grid.columns[2].hint = "What the list offers";
+    grid.columns[0].hint = Translated("Name of the list, by which the screens know it");
+    grid.columns[1].hint = Translated("Place in the list; press Sort to see the new order");
+    grid.columns[2].hint = Translated("What the list offers");
     grid.texts.emplace();
     grid.rows = 0;
-    hub.Get(kCombo).toolTip = "The list to work on";
+    hub.Get(kCombo).toolTip = Translated("The list to work on");
     OfferListButtons(hub);
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "forms/form_events.h"
+#include "platform/translation.h"
 #include "reports/run/report_desk.h"
 #include "shell/hub/offer.h"
 #include "shell/hub/screen_choice.h"
@@ -25,8 +26,8 @@ constexpr std::array kBoxedCategories = {report_category::kDesign, report_catego
 constexpr const char* kCost = report_category::kCost;
 
 constexpr const char* kCostScreen = "LcA1";
-constexpr const char* kNoData = "its screen holds no values yet";
-constexpr const char* kNoCosts = "no cost screen holds values yet";
+constexpr const char* kNoData = ToTranslate("its screen holds no values yet");
+constexpr const char* kNoCosts = ToTranslate("no cost screen holds values yet");
 
 /// So many letters of a name tell the category. Their case counts: the traffic boxes differ from the traffic
 /// category in one letter, so that a click on the category clears them with all others.

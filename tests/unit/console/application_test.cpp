@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "console/script/output.h"
+#include "platform/translation.h"
 #include "support/child_process.h"
 #include "support/project_fixture.h"
 
@@ -312,6 +313,27 @@ TEST_F(ConsoleTest, AWorkFolderThatCannotBeWrittenIsStatusOne) {
     EXPECT_EQ(Checksum(home_.path()), before);
     EXPECT_EQ(Obey("get SN\n", {"--work", File("nosuch")}).status, 1);
     EXPECT_FALSE(std::filesystem::exists(File("nosuch")));
+}
+
+/// What is Kelvor's own is told in the language; what every version says, and every number, as ever.
+TEST_F(ConsoleTest, AnotherLanguageIsSpokenOnlyWhereItIsNamed) {
+    const std::string script =
+        "set FLEXDEV 0.125\nset FLEXE18 5,000,000\nshow FLEXE18\nget FLEXDEV\nsolve DeF SN\nopen DeF\nstate "
+        "DeF\n";
+    ::setenv("LANGUAGE", "es", 1);
+    const ConsoleEnd english = Obey(script);
+    const ConsoleEnd spanish = Obey(script, {"--language", "es"});
+    const ConsoleEnd none = Obey(script, {"--language", "xx"});
+    ::unsetenv("LANGUAGE");
+    Speak({});
+    EXPECT_EQ(english.status, 0);
+    EXPECT_THAT(english.output, HasSubstr("Missing: "));
+    EXPECT_THAT(spanish.output, HasSubstr("Falta: "));
+    std::string asInEnglish = spanish.output;
+    asInEnglish.replace(asInEnglish.find("Falta: "), std::string("Falta: ").size(), "Missing: ");
+    EXPECT_EQ(asInEnglish, english.output);
+    EXPECT_EQ(none.status, 2);
+    EXPECT_THAT(none.errors, HasSubstr("no language xx"));
 }
 
 TEST_F(ConsoleTest, WithoutAFolderForTemporaryFilesItEndsWithStatusOne) {

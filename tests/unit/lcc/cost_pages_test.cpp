@@ -221,5 +221,50 @@ TEST_F(HistogramProgressTest, WithoutAPeriodThereIsNone) {
     EXPECT_TRUE(dialogs_.steps.empty());
 }
 
+// --- Whole rows -------------------------------------------------------------------------------------------
+
+class RehabilitationRowsTest : public CostPagesTest {
+  protected:
+    RehabilitationRowsTest() {
+        Open("LcA1_4", 1);
+        EditCell(1, "RehabQuantity", "2");
+        EditCell(1, "RehabUnitCost", "50");
+        Paste(2, "RehabItem", "Milling\t7\t12\teach\t100\nOverlay\t14\t3\teach\t900");
+    }
+
+    std::vector<std::string> Items() {
+        std::vector<std::string> items;
+        for (int row = 1; row <= 4; ++row) items.push_back(Text("RehabItem", row, 1).value_or(""));
+        return items;
+    }
+    void Shift(UserEvent::Kind kind, int row) { Raise({kind, {}, {}, row}); }
+};
+
+TEST_F(RehabilitationRowsTest, ARowIsInsertedBelowTheAnnualMaintenance) {
+    const std::string total = Page().TextOf("ItemTotal4");
+    Shift(UserEvent::Kind::InsertRow, 2);
+    EXPECT_EQ(Items(), (std::vector<std::string>{"Annual Maintenance", "", "Milling", "Overlay"}));
+    EXPECT_EQ(Cell("RehabItemCost", 3, 1), 1200.0);
+    EXPECT_EQ(Cell("RehabItemCost", 4, 1), 2700.0);
+    EXPECT_EQ(Page().TextOf("ItemTotal4"), total) << "an empty row costs nothing";
+}
+
+TEST_F(RehabilitationRowsTest, RowsChangePlacesWithAllTheyHold) {
+    Shift(UserEvent::Kind::MoveRowUp, 3);
+    EXPECT_EQ(Items(), (std::vector<std::string>{"Annual Maintenance", "Overlay", "Milling", ""}));
+    EXPECT_EQ(Cell("RehabYear", 2, 1), 14.0);
+    EXPECT_EQ(Cell("RehabItemCost", 2, 1), 2700.0);
+    EXPECT_EQ(Page().FindGrid()->grid->row, 2);
+}
+
+TEST_F(RehabilitationRowsTest, TheAnnualMaintenanceStaysInTheFirstRow) {
+    const std::vector<std::string> before = Items();
+    Shift(UserEvent::Kind::InsertRow, 1);
+    Shift(UserEvent::Kind::MoveRowDown, 1);
+    Shift(UserEvent::Kind::MoveRowUp, 2);
+    EXPECT_EQ(Items(), before);
+    EXPECT_EQ(Cell("RehabUnitCost", 1, 1), 50.0);
+}
+
 }  // namespace
 }  // namespace kelvor::test
