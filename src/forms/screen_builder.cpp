@@ -13,7 +13,6 @@ namespace kelvor {
 
 namespace {
 
-
 // Where a row of the catalogue counts in letters and rows, these are its constants.
 constexpr double kRuleMargin = 5.0;        // a rule is as long as its x less this
 constexpr double kBoxMargin = 1.2;         // a box is wider than its picture by this

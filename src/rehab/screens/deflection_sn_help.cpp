@@ -3,7 +3,6 @@
 #include "forms/form.h"
 #include "forms/side_screen.h"
 #include "platform/number_picture.h"
-#include "platform/number_text.h"
 #include "rehab/calc/effective_sn.h"
 
 namespace kelvor {
@@ -50,17 +49,13 @@ void InputStored(ScreenEvent& event) {
     Show(event);
 }
 
-/// Inputs that nobody changed here fill an empty field, but never replace a number.
-bool HandsOver(const Form& form, const CellValue& before) {
-    return form.workedOut || (!before.IsFilled() && ParseNumber(form.TextOf(kResult)) != 0.0);
-}
-
-/// The number, as it is shown, goes to the field for which the screen was opened.
+/// The number, as it is shown, goes to the field for which the screen was opened, unless it was only looked
+/// at.
 void Closing(ScreenEvent& event) {
     const std::string field = event.form.TextOf("FieldName");
     bool taken = false;
-    const CellValue before = field.empty() ? CellValue{} : CalledField(event.context, event.form);
-    if (!field.empty() && HandsOver(event.form, before)) {
+    if (event.form.workedOut && !field.empty()) {
+        const CellValue before = CalledField(event.context, event.form);
         event.context.units.SetDisplayValue(field, 1, 1, event.form.TextOf(kResult));
         taken = !IsSameValue(CalledField(event.context, event.form), before);
     }
