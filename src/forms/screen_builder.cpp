@@ -4,7 +4,6 @@
 #include <cmath>
 #include <utility>
 
-#include "forms/form_builder.h"
 #include "forms/form_events.h"
 #include "forms/indicator.h"
 #include "forms/side_screen.h"
@@ -12,7 +11,6 @@
 namespace kelvor {
 
 namespace {
-
 
 // Where a row of the catalogue counts in letters and rows, these are its constants.
 constexpr double kRuleMargin = 5.0;        // a rule is as long as its x less this
