@@ -17,7 +17,6 @@
 #include "desktop/picture_view.h"
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
-#include "forms/form_builder.h"
 #include "platform/number_picture.h"
 
 namespace kelvor {

@@ -6,7 +6,6 @@
 
 #include "forms/act_name.h"
 #include "forms/balance_state.h"
-#include "forms/coded_list.h"
 #include "forms/field_entry.h"
 #include "forms/field_help.h"
 #include "forms/grid_entry.h"

@@ -4,7 +4,6 @@
 #include <cmath>
 #include <utility>
 
-#include "forms/form_builder.h"
 #include "forms/form_events.h"
 #include "forms/indicator.h"
 #include "forms/side_screen.h"

@@ -1,7 +1,6 @@
 #include "shell/about_form.h"
 
 #include "forms/form.h"
-#include "forms/screen_context.h"
 
 namespace kelvor {
 

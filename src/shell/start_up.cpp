@@ -8,7 +8,6 @@
 #include "platform/text.h"
 #include "platform/translation.h"
 #include "shell/project_files.h"
-#include "shell/recent_files.h"
 #include "shell/recovery.h"
 
 namespace kelvor {

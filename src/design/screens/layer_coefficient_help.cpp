@@ -5,7 +5,6 @@
 #include "design/calc/layer_coefficient.h"
 #include "forms/field_help.h"
 #include "forms/form.h"
-#include "platform/number_text.h"
 
 namespace kelvor {
 

@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "forms/form.h"
-#include "forms/form_builder.h"
 #include "forms/screen_context.h"
 #include "ndt/calc/column_statistics.h"
 #include "ndt/screens/left_out_tests.h"

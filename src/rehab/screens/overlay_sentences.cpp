@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "platform/number_picture.h"
-#include "platform/number_text.h"
 
 namespace kelvor {
 

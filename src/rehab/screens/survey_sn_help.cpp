@@ -3,7 +3,6 @@
 #include "design/calc/material_coefficient.h"
 #include "forms/form.h"
 #include "forms/form_events.h"
-#include "forms/recalculation.h"
 #include "forms/side_screen.h"
 #include "rehab/screens/existing_layers_grid.h"
 

@@ -11,7 +11,6 @@
 
 #include "platform/number_picture.h"
 #include "platform/text.h"
-#include "shell/calculations.h"
 
 namespace kelvor::test {
 

@@ -8,7 +8,6 @@
 #include <string>
 #include <vector>
 
-#include "design/calc/design_equations.h"
 #include "reference_equations.h"
 #include "shell/calculations.h"
 #include "support/test_host.h"

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "shell/main_window.h"
-#include "shell/recent_files.h"
 #include "support/project_fixture.h"
 
 namespace kelvor::test {
