@@ -16,6 +16,9 @@ const char* const kProjectTable =
 
 namespace {
 
+/// Many times the cells of a project: a file with more is none, and would only take time and memory.
+constexpr std::int64_t kMostRows = 200'000;
+
 constexpr std::chrono::seconds kTimeBetweenFlushes{30};
 
 const char* const kUpdate =
@@ -28,6 +31,7 @@ void CheckProject(SQLite::Database& database, bool checkPages) {
         database.execAndGet("SELECT sql FROM sqlite_schema WHERE type = 'table'").getString();
     if (made != kProjectTable) throw DatabaseError("table Project is not made as a project's", false);
     if (!checkPages) return;
+    CheckRowCount(database, "Project", kMostRows);
     const std::string verdict = database.execAndGet("PRAGMA quick_check(1)").getString();
     if (verdict != "ok") throw DatabaseError(verdict, false);
 }
@@ -88,6 +92,7 @@ void Run(const std::function<void()>& action) {
 WorkCopy::WorkCopy(const Path& path, bool checkPages, int newest)
     : database_(std::make_unique<SQLite::Database>(OpenProject(path, checkPages, newest))) {
     Run([&] {
+        LiftStatementLimit(*database_);
         version_ = VersionOf(*database_, newest);
         update_ = std::make_unique<SQLite::Statement>(*database_, kUpdate);
     });
