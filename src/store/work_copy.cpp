@@ -53,6 +53,9 @@ SQLite::Database OpenProject(const Path& path, bool checkPages, int newest) {
         if (database.execAndGet("PRAGMA journal_mode").getString() == "wal") {
             throw DatabaseError("the newest values of a file in WAL mode may stand in another", false);
         }
+        // OFF spares each event some waits for the disk. If the process is killed nothing is lost by it: what
+        // was written is the system's, which brings it to the disk. Against a power cut stands FlushIfDue;
+        // of what came after the last flush the disk may then have a part.
         database.exec(
             "PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = DELETE; PRAGMA synchronous = OFF");
         // What a newer version has made otherwise is no fault of the file.
@@ -177,7 +180,15 @@ bool WorkCopy::Flush() noexcept {
     sqlite3_file_control(database_->getHandle(), "main", SQLITE_FCNTL_FILE_POINTER,
                          static_cast<void*>(&file));
     if (file == nullptr || file->pMethods == nullptr) return false;
-    return file->pMethods->xSync(file, SQLITE_SYNC_NORMAL) == SQLITE_OK;
+    if (file->pMethods->xSync(file, SQLITE_SYNC_NORMAL) != SQLITE_OK) return false;
+    try {
+        // That the last journal is gone is a matter of the folder. One that came back after a power cut would
+        // be played into the newer file.
+        NativeFileSystem().Flush(Path(sqlite3_db_filename(database_->getHandle(), "main")).parent_path());
+    } catch (const FileError&) {
+        return false;
+    }
+    return true;
 }
 
 void WorkCopy::Begin() {
