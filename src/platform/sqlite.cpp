@@ -43,6 +43,18 @@ void CheckKind(const Path& path) {
     if (!error && !serves) throw DatabaseError("Not a regular file", true);
 }
 
+/// A file that cannot be opened for writing at the moment is opened by SQLite for reading alone, and would
+/// stay so; then it is tried once more.
+SQLite::Database OpenFile(const Path& path, DatabaseAccess access) {
+    // No locks around each call, of which a row takes a dozen: no database is used by two threads.
+    const bool writes = access == DatabaseAccess::ReadWrite;
+    const int flags = (writes ? SQLite::OPEN_READWRITE : SQLite::OPEN_READONLY) | SQLite::OPEN_NOMUTEX;
+    SQLite::Database database(path.string(), flags, kBusyMilliseconds);
+    const bool readsAlone = sqlite3_db_readonly(database.getHandle(), "main") == 1;
+    if (!writes || !readsAlone || !NativeFileSystem().IsWritable(path)) return database;
+    return {path.string(), flags, kBusyMilliseconds};
+}
+
 /// A file whose last page is cut would read as if zeros stood there.
 void CheckLength(SQLite::Database& database, const Path& path) {
     std::error_code error;
@@ -140,10 +152,7 @@ DatabaseError ToDatabaseError(const SQLite::Exception& failure) {
 SQLite::Database OpenDatabase(const Path& path, DatabaseAccess access) {
     CheckKind(path);
     try {
-        // No locks around each call, of which a row takes a dozen: no database is used by two threads.
-        const int mode = access == DatabaseAccess::ReadOnly ? SQLite::OPEN_READONLY : SQLite::OPEN_READWRITE;
-        const int flags = mode | SQLite::OPEN_NOMUTEX;
-        SQLite::Database database(path.string(), flags, kBusyMilliseconds);
+        SQLite::Database database = OpenFile(path, access);
         Distrust(database);
         SQLite::Transaction reading(database);  // one, so that the file is not locked for each query
         // The first reading is what tells a database from any other file. An empty file reads as a

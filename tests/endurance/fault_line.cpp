@@ -115,6 +115,7 @@ struct Step {
     const char* what;
     void (*act)(Session&);
     bool (*done)(Session&);
+    bool shows = false;  // that it did not come about is to be seen, and not said
 };
 
 void EnterDesign(Session& session) {
@@ -128,6 +129,12 @@ void EnterDesign(Session& session) {
     driver.Focus("FLEXPT");
     driver.Type("2.5");
     driver.Key("Enter");
+}
+
+void Solve(Session& session) {
+    ModelDriver driver = session.Driver();
+    driver.Focus("SN");
+    driver.Press("Command1");
 }
 
 void AddToList(Session& session) {
@@ -169,10 +176,9 @@ constexpr std::array kSteps = {
          [](Session& s) { return s.IsOpen(0.0) && !s.state().dbCustom->Descriptions().empty(); }},
     Step{"new", [](Session& s) { s.program().NewProject(); }, [](Session& s) { return s.IsOpen(0.0); }},
     Step{"enter a design", EnterDesign, [](Session& s) { return s.state().dbWork.GetVar("FLEXPT") == 2.5; }},
-    Step{"solve", [](Session& s) { s.program().Solve("DeF", 1); },
-         [](Session& s) { return s.state().dbWork.GetVar("SN") > 5.0; }},
+    Step{"solve", Solve, [](Session& s) { return s.state().dbWork.GetVar("SN") > 5.0; }},
     Step{"mark", [](Session& s) { s.Enter(1.5); }, [](Session& s) { return s.IsOpen(1.5); }},
-    Step{"add to a list", AddToList, HasEntry},
+    Step{"add to a list", AddToList, HasEntry, true},
     Step{"save", [](Session& s) { s.program().SaveAs(s.Project().string()); },
          [](Session& s) { return s.IsSaved(); }},
     Step{"report", MakeReport,
@@ -218,7 +224,7 @@ void Run(Session& session, int failing) {
         std::string told;
         if (!Try(session, step, told)) {
             Hold(FileCalls::HasFailed(), at + "it comes about if nothing fails, but: " + told);
-            Hold(!told.empty(), at + "a step that fails says so");
+            Hold(step.shows || !told.empty(), at + "a step that fails says so");
             Hold(Try(session, step, told), at + "it comes about the second time, but: " + told);
         }
         const FileCalls::Pause pause;
@@ -245,9 +251,15 @@ std::string FailOnce(const Trial& trial) {
     const SessionHome home;
     const int calls = CallsOfSession(home, FileCalls::kNone);
     const int trials = std::min(trial.count, calls);
+    std::string broken;
     for (int i = 0; i < trials; ++i) {
-        CallsOfSession(home, static_cast<int>(static_cast<long>(calls) * i / trials));
+        try {
+            CallsOfSession(home, static_cast<int>(static_cast<long>(calls) * i / trials));
+        } catch (const Broken& failure) {
+            broken += std::string(broken.empty() ? "" : "; ") + failure.what();
+        }
     }
+    Hold(broken.empty(), broken);
     return std::to_string(trials) + " of the " + std::to_string(calls) + " calls of a session of " +
            std::to_string(kSteps.size()) + " steps";
 }

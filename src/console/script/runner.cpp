@@ -184,7 +184,7 @@ constexpr std::array kCommands = {
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 /// The longest line that a script may have: far above any use, and an end for a file that has none.
-constexpr std::size_t kLongestLine = 1'000'000;
+constexpr std::size_t kLongestLine = 4'000'000;
 
 /// The next line; false at the end of the script. Throws ScriptError if the line is too long.
 bool ReadLine(std::istream& script, std::string& line) {
