@@ -42,6 +42,10 @@ std::vector<Pair> RegisterDeflections(BenchProgram& program);
 /// The cost summary and the histogram opened, and a cell of a page of costs written.
 std::vector<Pair> RegisterCosts(BenchProgram& program);
 
+/// A step of the undo history recorded, beside the event that it is a step of; and a paste of 300 rows
+/// undone.
+std::vector<Pair> RegisterUndo(BenchProgram& program);
+
 /// How often one solve for the structural number reads the store, and what it does meanwhile.
 struct SolveCount {
     int byName = 0;

@@ -43,9 +43,9 @@ bool InitializeLibrary(std::vector<char*> arguments) {
 
 std::vector<Pair> RegisterAll(BenchProgram& program, const kelvor::Path& home) {
     std::vector<Pair> pairs;
-    for (const auto& some :
-         {RegisterReads(program), RegisterSolves(program), RegisterWrites(program, home),
-          RegisterSpectrum(program), RegisterDeflections(program), RegisterCosts(program)}) {
+    for (const auto& some : {RegisterReads(program), RegisterSolves(program), RegisterWrites(program, home),
+                             RegisterSpectrum(program), RegisterDeflections(program), RegisterCosts(program),
+                             RegisterUndo(program)}) {
         pairs.insert(pairs.end(), some.begin(), some.end());
     }
     return pairs;

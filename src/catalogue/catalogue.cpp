@@ -21,6 +21,7 @@ SQLite::Database OpenCatalogue(const Path& path) {
     std::vector<TableShape> shapes;
     for (const TableDefinition& table : CatalogueTables()) shapes.push_back(table.Shape());
     CheckShape(database, shapes, false);
+    CheckRowCounts(database, CatalogueTables());
     return database;
 }
 

@@ -13,6 +13,7 @@ SQLite::Database OpenLists(const Path& path) {
     std::vector<TableShape> shapes;
     for (const TableDefinition& table : ListTables()) shapes.push_back(table.Shape());
     CheckShape(database, shapes, false);
+    CheckRowCounts(database, ListTables());
     return database;
 }
 

@@ -98,6 +98,11 @@ const std::vector<TableDefinition>& ListTables() {
     return kTables;
 }
 
+void CheckRowCounts(SQLite::Database& database, const std::vector<TableDefinition>& tables) {
+    constexpr std::int64_t kMostRows = 100'000;
+    for (const TableDefinition& table : tables) CheckRowCount(database, table.name, kMostRows);
+}
+
 const TableDefinition& TableNamed(const std::vector<TableDefinition>& tables, std::string_view name) {
     const auto found = std::find_if(tables.begin(), tables.end(),
                                     [&](const TableDefinition& table) { return table.name == name; });

@@ -30,6 +30,9 @@ const std::vector<TableDefinition>& CatalogueTables();
 /// The tables of the list database.
 const std::vector<TableDefinition>& ListTables();
 
+/// Throws DatabaseError if a table has many times the rows of the databases that ship.
+void CheckRowCounts(SQLite::Database& database, const std::vector<TableDefinition>& tables);
+
 /// The definition of a table of either database.
 const TableDefinition& TableNamed(const std::vector<TableDefinition>& tables, std::string_view name);
 

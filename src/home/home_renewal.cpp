@@ -1,7 +1,10 @@
 #include "home/home_renewal.h"
 
+#include <chrono>
 #include <cstddef>
+#include <memory>
 #include <string>
+#include <thread>
 
 #include "home/home_databases.h"
 #include "home/shipped_parts.h"
@@ -21,6 +24,8 @@ const char* const kCatalogue = "DataBase/Kelvor.mdb";
 const char* const kLists = "DataBase/custom.tpl";
 const char* const kLock =
     "kvrwork.lck";  // that of the work copy: nothing is renewed under a program that runs
+const char* const kTurn = "kvrhome.lck";  // held by the start that makes or renews the home
+constexpr std::chrono::seconds kLongestRenewal{20};
 
 /// One renewal of one home.
 class Renewal {
@@ -125,6 +130,18 @@ class Renewal {
     ShippedParts former_;
 };
 
+/// The lock of whose turn it is. It does not hold if another start takes longer than any renewal does.
+std::unique_ptr<FileLock> AwaitTurn(const Path& path) {
+    constexpr std::chrono::milliseconds kPause{10};
+    const auto end = std::chrono::steady_clock::now() + kLongestRenewal;
+    auto turn = std::make_unique<FileLock>(path);
+    while (!turn->holds() && std::chrono::steady_clock::now() < end) {
+        std::this_thread::sleep_for(kPause);
+        turn = std::make_unique<FileLock>(path);
+    }
+    return turn;
+}
+
 }  // namespace
 
 bool IsHome(const FileSystem& files, const Path& folder) {
@@ -136,6 +153,10 @@ HomeState MakeOrRenewHome(FileSystem& files, const Path& installed, const Path& 
     try {
         if (!Renewal(files, installed, home).IsDue()) return HomeState::AsItWas;
         MakePrivateFolders(home);
+        // Of two starts at the same moment one makes the home; the other waits, and finds it whole.
+        const std::unique_ptr<FileLock> turn = AwaitTurn(home / kTurn);
+        if (!turn->holds() && !IsHome(files, home)) throw FileError("another start is still at it");
+        if (!turn->holds() || !Renewal(files, installed, home).IsDue()) return HomeState::AsItWas;
         const FileLock lock(home / kLock);
         if (!lock.holds()) return HomeState::AsItWas;
         Renewal(files, installed, home).Run();

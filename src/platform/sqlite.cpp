@@ -16,6 +16,12 @@ namespace {
 constexpr int kLongestValue = 4 * 1024 * 1024;
 constexpr int kBusyMilliseconds = 2000;
 
+/// The steps of SQLite's machine after which a statement is ended: a second or two. The longest statement of
+/// ours, the check of all pages and rows of a project, takes about a million.
+constexpr int kMostSteps = 50'000'000;
+
+int EndStatement(void* /*unused*/) { return 1; }
+
 void Distrust(SQLite::Database& database) {
     sqlite3* handle = database.getHandle();
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
@@ -23,7 +29,30 @@ void Distrust(SQLite::Database& database) {
     sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
     sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
     sqlite3_limit(handle, SQLITE_LIMIT_LENGTH, kLongestValue);
+    sqlite3_progress_handler(handle, kMostSteps, EndStatement, nullptr);
     database.exec("PRAGMA cell_size_check = ON; PRAGMA mmap_size = 0");
+}
+
+/// A pipe, or a device that never ends, is no database. What is missing or a folder SQLite tells itself.
+void CheckKind(const Path& path) {
+    std::error_code error;
+    const auto kind = std::filesystem::status(path, error).type();
+    const bool serves = kind == std::filesystem::file_type::regular ||
+                        kind == std::filesystem::file_type::directory ||
+                        kind == std::filesystem::file_type::not_found;
+    if (!error && !serves) throw DatabaseError("Not a regular file", true);
+}
+
+/// A file that cannot be opened for writing at the moment is opened by SQLite for reading alone, and would
+/// stay so; then it is tried once more.
+SQLite::Database OpenFile(const Path& path, DatabaseAccess access) {
+    // No locks around each call, of which a row takes a dozen: no database is used by two threads.
+    const bool writes = access == DatabaseAccess::ReadWrite;
+    const int flags = (writes ? SQLite::OPEN_READWRITE : SQLite::OPEN_READONLY) | SQLite::OPEN_NOMUTEX;
+    SQLite::Database database(path.string(), flags, kBusyMilliseconds);
+    const bool readsAlone = sqlite3_db_readonly(database.getHandle(), "main") == 1;
+    if (!writes || !readsAlone || !NativeFileSystem().IsWritable(path)) return database;
+    return {path.string(), flags, kBusyMilliseconds};
 }
 
 /// A file whose last page is cut would read as if zeros stood there.
@@ -48,6 +77,9 @@ void CheckTable(SQLite::Statement& query, const TableShape& shape) {
         const std::string column = query.getColumn(0);
         if (count >= shape.columns.size() || !EqualNoCase(column, shape.columns[count])) {
             throw DatabaseError("table " + name + " has other columns", false);
+        }
+        if (query.getColumn(1).getInt() != 0) {
+            throw DatabaseError("table " + name + " has computed columns", false);
         }
         ++count;
     }
@@ -113,15 +145,14 @@ void VisitRows(SQLite::Database& database, const std::string& table, const std::
 }
 
 DatabaseError ToDatabaseError(const SQLite::Exception& failure) {
+    if (failure.getErrorCode() == SQLITE_INTERRUPT) return {"it takes too long to read", false};
     return {failure.what(), failure.getErrorCode() == SQLITE_NOTADB};
 }
 
 SQLite::Database OpenDatabase(const Path& path, DatabaseAccess access) {
+    CheckKind(path);
     try {
-        // No locks around each call, of which a row takes a dozen: no database is used by two threads.
-        const int mode = access == DatabaseAccess::ReadOnly ? SQLite::OPEN_READONLY : SQLite::OPEN_READWRITE;
-        const int flags = mode | SQLite::OPEN_NOMUTEX;
-        SQLite::Database database(path.string(), flags, kBusyMilliseconds);
+        SQLite::Database database = OpenFile(path, access);
         Distrust(database);
         SQLite::Transaction reading(database);  // one, so that the file is not locked for each query
         // The first reading is what tells a database from any other file. An empty file reads as a
@@ -133,6 +164,26 @@ SQLite::Database OpenDatabase(const Path& path, DatabaseAccess access) {
         CheckLength(database, path);
         reading.commit();
         return database;
+    } catch (const SQLite::Exception& failure) {
+        throw ToDatabaseError(failure);
+    }
+}
+
+void LiftStatementLimit(SQLite::Database& database) {
+    sqlite3_progress_handler(database.getHandle(), 0, nullptr, nullptr);
+}
+
+void CheckRowCount(SQLite::Database& database, std::string_view table, std::int64_t most) {
+    const std::string name(table);
+    try {
+        // Of the table itself, as an index of a damaged one may have other rows.
+        SQLite::Statement count(database,
+                                "SELECT count(*) FROM (SELECT 1 FROM \"" + name + "\" NOT INDEXED LIMIT ?)");
+        count.bind(1, most + 1);
+        count.executeStep();
+        if (count.getColumn(0).getInt64() > most) {
+            throw DatabaseError("table " + name + " has too many rows", false);
+        }
     } catch (const SQLite::Exception& failure) {
         throw ToDatabaseError(failure);
     }
@@ -153,7 +204,7 @@ void CheckShape(SQLite::Database& database, const std::vector<TableShape>& table
             }
         }
         // The plain table_info keeps quiet about computed columns.
-        SQLite::Statement columns(database, "SELECT name FROM pragma_table_xinfo(?)");
+        SQLite::Statement columns(database, "SELECT name, hidden FROM pragma_table_xinfo(?)");
         for (const TableShape& table : tables) CheckTable(columns, table);
         reading.commit();
     } catch (const SQLite::Exception& failure) {

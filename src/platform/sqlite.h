@@ -25,9 +25,17 @@ struct TableShape {
 };
 
 /// Opens an existing database that may come from anywhere: no extension, trigger or view of it ever
-/// runs, its schema is not trusted, and a corrupt one gives an error at the reading instead of nonsense.
-/// To be used by one thread. Throws DatabaseError.
+/// runs, its schema is not trusted, and a corrupt one gives an error at the reading instead of nonsense. A
+/// statement that takes far longer than any of ours ends with an error, as pages can be laid so that
+/// they read as rows without end. To be used by one thread. Throws DatabaseError.
 SQLite::Database OpenDatabase(const Path& path, DatabaseAccess access);
+
+/// Lets statements of a database take any time. For one whose pages and rows were checked, before a statement is
+/// made that is used again and again: SQLite counts the steps of all its uses together.
+void LiftStatementLimit(SQLite::Database& database);
+
+/// Throws DatabaseError if a table has more rows than `most`; it counts no further.
+void CheckRowCount(SQLite::Database& database, std::string_view table, std::int64_t most);
 
 /// Checks that the tables are there with their columns. With `only`, nothing else may stand in the
 /// database; in any case it may hold no trigger and no view. Throws DatabaseError with the reason.

@@ -52,15 +52,13 @@ std::string DateOfName(const std::string& name) {
 
 }  // namespace
 
+/// A folder that is there but cannot be read is a failure: taken for empty, its work would be written over.
 std::vector<std::string> KeptWork::Names() const {
     std::vector<std::string> names;
-    try {
-        for (const std::string& name : files_.Names(folder_)) {
-            if (name.ends_with(kProjectEnding))
-                names.push_back(name.substr(0, name.size() - kProjectEnding.size()));
-        }
-    } catch (const FileError&) {
-        names.clear();  // nothing was ever kept
+    if (files_.Kind(folder_) == FileKind::Missing) return names;  // nothing was ever kept
+    for (const std::string& name : files_.Names(folder_)) {
+        if (name.ends_with(kProjectEnding))
+            names.push_back(name.substr(0, name.size() - kProjectEnding.size()));
     }
     std::sort(names.begin(), names.end(), std::greater<>());
     return names;
@@ -107,10 +105,10 @@ void KeptWork::Take(const Path& workCopy, const KeptProject& about) {
 }
 
 void KeptWork::DropOld() {
-    const std::vector<std::string> names = Names();
-    const std::set<std::string> kept(
-        names.begin(), names.begin() + static_cast<std::ptrdiff_t>(std::min(names.size(), kMost)));
     try {
+        const std::vector<std::string> names = Names();
+        const std::set<std::string> kept(
+            names.begin(), names.begin() + static_cast<std::ptrdiff_t>(std::min(names.size(), kMost)));
         for (const std::string& name : files_.Names(folder_)) {
             if (!kept.contains(Path(name).stem().string())) files_.Remove(folder_ / name);
         }

@@ -160,9 +160,11 @@ bool Recovery::KeepCrashedWork() {
 }
 
 void Recovery::ListKeptWork() {
-    state_.keptWork.clear();
     if (!state_.home.KeepsDroppedWork()) return;
-    state_.keptWork = KeptWork(state_.host.files, state_.home.KeptFolder()).List();
+    try {
+        TryTwice([&] { state_.keptWork = KeptWork(state_.host.files, state_.home.KeptFolder()).List(); });
+    } catch (const FileError&) {  // NOLINT(bugprone-empty-catch): the list stays as it was
+    }
 }
 
 }  // namespace kelvor

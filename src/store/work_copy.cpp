@@ -16,6 +16,9 @@ const char* const kProjectTable =
 
 namespace {
 
+/// Many times the cells of a project: a file with more is none, and would only take time and memory.
+constexpr std::int64_t kMostRows = 200'000;
+
 constexpr std::chrono::seconds kTimeBetweenFlushes{30};
 
 const char* const kUpdate =
@@ -28,6 +31,7 @@ void CheckProject(SQLite::Database& database, bool checkPages) {
         database.execAndGet("SELECT sql FROM sqlite_schema WHERE type = 'table'").getString();
     if (made != kProjectTable) throw DatabaseError("table Project is not made as a project's", false);
     if (!checkPages) return;
+    CheckRowCount(database, "Project", kMostRows);
     const std::string verdict = database.execAndGet("PRAGMA quick_check(1)").getString();
     if (verdict != "ok") throw DatabaseError(verdict, false);
 }
@@ -49,6 +53,9 @@ SQLite::Database OpenProject(const Path& path, bool checkPages, int newest) {
         if (database.execAndGet("PRAGMA journal_mode").getString() == "wal") {
             throw DatabaseError("the newest values of a file in WAL mode may stand in another", false);
         }
+        // OFF spares each event some waits for the disk. If the process is killed nothing is lost by it: what
+        // was written is the system's, which brings it to the disk. Against a power cut stands FlushIfDue;
+        // of what came after the last flush the disk may then have a part.
         database.exec(
             "PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = DELETE; PRAGMA synchronous = OFF");
         // What a newer version has made otherwise is no fault of the file.
@@ -88,6 +95,7 @@ void Run(const std::function<void()>& action) {
 WorkCopy::WorkCopy(const Path& path, bool checkPages, int newest)
     : database_(std::make_unique<SQLite::Database>(OpenProject(path, checkPages, newest))) {
     Run([&] {
+        LiftStatementLimit(*database_);
         version_ = VersionOf(*database_, newest);
         update_ = std::make_unique<SQLite::Statement>(*database_, kUpdate);
     });
@@ -173,7 +181,15 @@ bool WorkCopy::Flush() noexcept {
     sqlite3_file_control(database_->getHandle(), "main", SQLITE_FCNTL_FILE_POINTER,
                          static_cast<void*>(&file));
     if (file == nullptr || file->pMethods == nullptr) return false;
-    return file->pMethods->xSync(file, SQLITE_SYNC_NORMAL) == SQLITE_OK;
+    if (file->pMethods->xSync(file, SQLITE_SYNC_NORMAL) != SQLITE_OK) return false;
+    try {
+        // That the last journal is gone is a matter of the folder. One that came back after a power cut would
+        // be played into the newer file.
+        NativeFileSystem().Flush(Path(sqlite3_db_filename(database_->getHandle(), "main")).parent_path());
+    } catch (const FileError&) {
+        return false;
+    }
+    return true;
 }
 
 void WorkCopy::Begin() {

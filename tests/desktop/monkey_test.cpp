@@ -1,5 +1,6 @@
-// Random keys, clicks, menu choices and blocks of cells: nothing falls over, and the windows go on showing
-// what the model holds. KELVOR_SOAK_ACTS and KELVOR_SOAK_SEED make a long run of it.
+// Random keys, clicks, menu choices, designs and blocks of cells: nothing falls over, the windows go on
+// showing what the model holds, the line under an equation tells the truth, and the work copy has the work.
+// KELVOR_SOAK_ACTS and KELVOR_SOAK_SEED make a long run of it.
 
 #include <QApplication>
 #include <QClipboard>
@@ -12,13 +13,16 @@
 #include <QRadioButton>
 #include <QTest>
 #include <cstdio>
+#include <map>
 #include <random>
+#include <string>
 
 #ifdef __SANITIZE_ADDRESS__
 #include <sanitizer/common_interface_defs.h>
 #endif
 
 #include "desktop/desktop_fixture.h"
+#include "desktop/equation_truth.h"
 #include "desktop/grid_view.h"
 #include "desktop/layout_audit.h"
 #include "forms/form.h"
@@ -28,6 +32,7 @@ namespace {
 
 constexpr unsigned kSeed = 20260117;
 constexpr int kActs = 2000;
+constexpr int kActsToAComparison = 100;  // of the work copy
 
 /// A number from the environment, for long runs.
 unsigned FromEnvironment(const char* name, unsigned usual) {
@@ -61,6 +66,18 @@ constexpr const char* kAnswers[] = {"ok", "cancel", "yes", "no"};
 constexpr const char* kScreens[] = {"DeF", "DeR", "DeS", "LayDet", "TrAx", "TrVe", "TrTr", "TrFa"};
 constexpr const char* kScreensWithGrids[] = {"LayDet", "TrAx"};
 constexpr const char* kBlocks[] = {"5", "x", "1\t2\t3\n4\t5\t6\n", "s\t18\t9\nt\tmany\n\n\"", "\t\t\n", ""};
+
+/// The terms of a design, in the order of the screen, with a value each that is usual.
+struct Term {
+    const char* name;
+    const char* value;
+};
+constexpr Term kFlexible[] = {{"FLEXE18", "5000000"}, {"FLEXREL", "95"}, {"FLEXDEV", "0.45"},
+                              {"RM", "5000"},         {"FLEXPO", "4.2"}, {"FLEXPT", "2.5"}};
+constexpr Term kRigid[] = {{"RIGE18", "5000000"}, {"RIGREL", "95"}, {"RIGDEV", "0.29"}, {"MR", "650"},
+                           {"EC", "5000000"},     {"J", "3.2"},     {"K", "72"},        {"C", "1"},
+                           {"RIGPO", "4.2"},      {"RIGPT", "2.5"}};
+constexpr const char* kEntered[] = {"2", "2.2", "4.4", "0.5", "80", "97.5", "8000", "150", "3000000"};
 constexpr const char* kTyped[] = {"5", "0.4", "many", "1e308", "-1", "s", "5,000"};
 
 class MonkeyTest : public DesktopTest {
@@ -200,11 +217,31 @@ class MonkeyTest : public DesktopTest {
         if (Upto(2) == 0) window().door().Raise({UserEvent::Kind::OpenForm, Any(kScreens), {}, 0});
     }
 
+    /// Fills a design in, now and then with another value, and mostly solves it.
+    template <typename Terms>
+    void Design(const char* screen, const char* solvedFor, const Terms& terms) {
+        EventDoor& door = window().door();
+        door.Raise({UserEvent::Kind::OpenForm, screen, {}, 0});
+        for (const Term& term : terms) {
+            door.Raise({UserEvent::Kind::Focus, term.name, {}, 0});
+            door.Raise({UserEvent::Kind::Type, {}, Upto(9) == 0 ? Any(kEntered) : term.value, 0});
+            door.Raise({UserEvent::Kind::Key, "Enter", {}, 0});
+        }
+        if (Upto(4) == 0) return;
+        door.Raise({UserEvent::Kind::Focus, solvedFor, {}, 0});
+        door.Raise({UserEvent::Kind::Press, "Command1", {}, 0});
+    }
+
+    void DesignAnything() {
+        if (Upto(3) != 0) return;
+        Upto(1) == 0 ? Design("DeF", "SN", kFlexible) : Design("DeR", "DEPTH", kRigid);
+    }
+
     void DoAnything() {
         responder.QueueAnswer(Any(kAnswers));
         if (Upto(20) == 0) MeetNextDialog();
         if (Upto(20) == 0) QApplication::clipboard()->setText(Any(kBlocks));
-        switch (Upto(14)) {
+        switch (Upto(15)) {
             case 0:
             case 1:
                 ClickSomewhere();
@@ -234,6 +271,9 @@ class MonkeyTest : public DesktopTest {
             case 10:
                 Open();
                 break;
+            case 11:
+                DesignAnything();
+                break;
             default:
                 QTest::keyClick(&Target(), Any(kKeys));
         }
@@ -259,9 +299,37 @@ class MonkeyTest : public DesktopTest {
         ASSERT_EQ(window().CurrentView(), window().FindView(state().formRegistry.CurrentForm->name()));
     }
 
+    /// The line under each design equation says what the stored cells give, in red if they do not fit, and
+    /// the window shows it.
+    void ExpectTrueChecks() {
+        if (!state().dbWork.IsOpen()) return;
+        const auto number = [this](const char* name) { return state().dbWork.GetVar(name).value(); };
+        for (const char* screen : {"DeF", "DeR"}) {
+            const Form* form = state().formRegistry.Find(screen);
+            if (form == nullptr) continue;
+            const Control* line = form->Find("CHECK");
+            ASSERT_NE(line, nullptr);
+            const std::string truth = TruthOfCheck(screen, number);
+            ASSERT_EQ(line->text.substr(0, truth.size()), truth) << screen << ": " << line->text;
+            ASSERT_EQ(line->foreColor == colours::kRed, line->text.starts_with("Not in balance"))
+                << line->text;
+            const auto* label = qobject_cast<const QLabel*>(window().FindView(screen)->FindWidget("CHECK"));
+            ASSERT_NE(label, nullptr);
+            ASSERT_EQ(label->text().toStdString(), line->text);
+            ++checks_[truth];
+        }
+    }
+
+    void ExpectSameInWorkCopy() {
+        if (!state().dbWork.IsOpen()) return;
+        const std::vector<std::string> differences = state().dbWork.CompareWithWorkCopy();
+        ASSERT_TRUE(differences.empty()) << "the work copy has another " << differences.front();
+    }
+
     const unsigned seed_ = FromEnvironment("KELVOR_SOAK_SEED", kSeed);
     const int acts_ = static_cast<int>(FromEnvironment("KELVOR_SOAK_ACTS", kActs));
     std::mt19937 random_{seed_};
+    std::map<std::string, int> checks_;  // by what the line had to say
 };
 
 TEST_F(MonkeyTest, RandomActsDoNoHarm) {
@@ -278,6 +346,14 @@ TEST_F(MonkeyTest, RandomActsDoNoHarm) {
         ASSERT_TRUE(window().stopReason().empty()) << window().stopReason();
         ASSERT_TRUE(window().isVisible());
         ASSERT_NO_FATAL_FAILURE(ExpectMirrored());
+        ASSERT_NO_FATAL_FAILURE(ExpectTrueChecks());
+        if (actUnderWay % kActsToAComparison == 0) {
+            ASSERT_NO_FATAL_FAILURE(ExpectSameInWorkCopy());
+        }
+    }
+    for (const auto& [truth, count] : checks_) std::printf("\"%s\" held %d times\n", truth.c_str(), count);
+    for (const char* truth : {"In balance: ", "Not in balance: "}) {
+        EXPECT_GT(checks_[truth], 0) << "the acts never led to \"" << truth << '"';
     }
     EXPECT_FALSE(Messages().empty()) << "the acts are too tame to mean anything";
 }

@@ -37,6 +37,11 @@ inline void Forget(QuestionRecord& record) {
 /// all that was entered before the last event ended is there. What was reached, in words.
 std::string KillAndRecover(const Trial& trial);
 
+/// Lets each call by which a session of the program touches a file fail once: every step of it comes about or
+/// says why not, comes about the second time, and no work is lost. Of `count` calls, spread over the session;
+/// of all of them if it has no more.
+std::string FailOnce(const Trial& trial);
+
 /// Starts the program on mutants of the catalogue, the lists and the settings: it starts or says why not,
 /// within five seconds, and leaves a good project file as it was.
 std::string StartOnMutants(const Trial& trial);

@@ -183,6 +183,25 @@ constexpr std::array kCommands = {
 /// Some editors begin a UTF-8 text with it. It is no part of the first command.
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
+/// The longest line that a script may have: far above any use, and an end for a file that has none.
+constexpr std::size_t kLongestLine = 4'000'000;
+
+/// The next line; false at the end of the script. Throws ScriptError if the line is too long.
+bool ReadLine(std::istream& script, std::string& line) {
+    using Letters = std::istream::traits_type;
+    line.clear();
+    const std::istream::sentry ready(script,
+                                     true);  // what was printed goes out first, as a caller may wait for it
+    if (!ready) return false;
+    for (auto letter = script.rdbuf()->sbumpc(); letter != Letters::eof();
+         letter = script.rdbuf()->sbumpc()) {
+        if (Letters::to_char_type(letter) == '\n') return true;
+        if (line.size() == kLongestLine) throw ScriptError("the line is too long");
+        line += Letters::to_char_type(letter);
+    }
+    return !line.empty();
+}
+
 const Command& FindCommand(const std::string& name) {
     const auto command =
         std::find_if(kCommands.begin(), kCommands.end(), [&](const Command& c) { return c.name == name; });
@@ -210,9 +229,10 @@ void RunLine(const std::string& line, Driver& driver, Output& output) {
 
 ScriptEnd RunScript(std::istream& script, Driver& driver, Output& output, std::ostream& errors) {
     std::string line;
-    for (int number = 1; !driver.HasEnded() && std::getline(script, line); ++number) {
-        if (number == 1 && line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());
+    for (int number = 1; !driver.HasEnded(); ++number) {
         try {
+            if (!ReadLine(script, line)) break;
+            if (number == 1 && line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());
             RunLine(line, driver, output);
         } catch (const ScriptError& error) {
             errors << "line " << number << ": " << error.what() << '\n';

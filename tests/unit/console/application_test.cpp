@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -11,6 +12,7 @@
 #include <cstdio>
 #include <nlohmann/json.hpp>
 #include <sstream>
+#include <thread>
 #include <utility>
 
 #include "console/script/output.h"
@@ -202,6 +204,24 @@ TEST_F(ConsoleTest, AScriptFileIsObeyedInsteadOfTheInput) {
     const ConsoleEnd end = Obey("frobnicate\n", {"--script", File("script.kvs")});
     EXPECT_EQ(end.status, 0);
     EXPECT_EQ(end.errors, "");
+    EXPECT_EQ(end.output, R"({"cell":{"name":"SN","dim1":1,"dim2":1,"rvalue":4.5,"svalue":"4.5"}})"
+                          "\n");
+}
+
+TEST_F(ConsoleTest, AScriptThatIsALineWithoutEndIsStatusTwo) {
+    EXPECT_EQ(Report(Obey("", {"--script", "/dev/zero"})), "2\nline 1: the line is too long\n");
+    WriteFile(File("long.kvs"), "get SN\nset SN " + std::string(10'000'000, '5') + "\n");
+    const ConsoleEnd end = ObeyPlainly(ReadFile(File("long.kvs")));
+    EXPECT_EQ(end.status, 2);
+    EXPECT_EQ(end.errors, "line 2: the line is too long\n");
+}
+
+TEST_F(ConsoleTest, AScriptMayComeThroughAPipe) {
+    ASSERT_EQ(::mkfifo(File("pipe.kvs").c_str(), 0600), 0);
+    std::thread writer([&] { WriteFile(File("pipe.kvs"), "set SN 4.5\nget SN"); });
+    const ConsoleEnd end = Obey("", {"--script", File("pipe.kvs")});
+    writer.join();
+    EXPECT_EQ(end.status, 0);
     EXPECT_EQ(end.output, R"({"cell":{"name":"SN","dim1":1,"dim2":1,"rvalue":4.5,"svalue":"4.5"}})"
                           "\n");
 }

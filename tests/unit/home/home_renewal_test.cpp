@@ -3,6 +3,15 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <thread>
 
 #include "catalogue/list_database.h"
 #include "platform/file_lock.h"
@@ -55,6 +64,59 @@ class HomeRenewalTest : public testing::Test {
 TEST_F(HomeRenewalTest, TheFirstStartMakesTheHomeOfWhatIsInstalled) {
     EXPECT_EQ(Start(), HomeState::Made);
     EXPECT_EQ(Checksum(home()), Checksum(installed_.shipped()));
+}
+
+/// A start in a process of its own, which begins once the pipe is closed. It ends with 0 if it finds the home
+/// whole.
+pid_t StartAtTheGate(const std::array<int, 2>& gate, const std::function<bool()>& start) {
+    const pid_t process = ::fork();
+    if (process != 0) return process;
+    ::close(gate[1]);
+    char nothing = 0;
+    (void)!::read(gate[0], &nothing, 1);
+    bool whole = false;
+    try {
+        whole = start();
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "%s\n", failure.what());
+    }
+    ::_exit(whole ? 0 : 1);
+}
+
+/// Copies slowly, so that the second of two starts comes in the middle of the first.
+class SlowFiles : public NativeFileSystem {
+  public:
+    void Rename(const Path& from, const Path& to) override {
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        NativeFileSystem::Rename(from, to);
+    }
+};
+
+TEST_F(HomeRenewalTest, TwoFirstStartsAtTheSameMomentBothFindAWholeHome) {
+    const ShippedParts parts(ReadFile(Shipped(ShippedParts::kListName)));
+    ASSERT_FALSE(parts.parts().empty());
+    const auto start = [&] {
+        SlowFiles files;
+        (void)MakeOrRenewHome(files, installed_.shipped(), home());
+        return std::all_of(parts.parts().begin(), parts.parts().end(), [&](const ShippedPart& part) {
+            return ReadFile(Own(part.name)) == ReadFile(Shipped(part.name));
+        });
+    };
+    constexpr int kRounds = 5;
+    for (int round = 0; round < kRounds; ++round) {
+        std::filesystem::remove_all(home());
+        std::array<int, 2> gate{};
+        ASSERT_EQ(::pipe(gate.data()), 0);
+        const std::array starts = {StartAtTheGate(gate, start), StartAtTheGate(gate, start)};
+        ::close(gate[0]);
+        ::close(gate[1]);
+        for (const pid_t process : starts) {
+            int status = -1;
+            ::waitpid(process, &status, 0);
+            EXPECT_EQ(status, 0) << "a start saw a home that was half made";
+        }
+        EXPECT_EQ(Checksum(home()), Checksum(installed_.shipped())) << "nothing else is left there";
+    }
 }
 
 TEST_F(HomeRenewalTest, NobodyElseLooksIntoAHome) {

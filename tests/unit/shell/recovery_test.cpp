@@ -151,6 +151,42 @@ TEST_F(RecoveryTest, WorkThatCannotBeKeptAsideStaysOpen) {
     EXPECT_EQ(Get("SN"), 0.0);
 }
 
+/// One listing of a folder fails.
+class UnlistedOnce : public NativeFileSystem {
+  public:
+    [[nodiscard]] std::vector<std::string> Names(const Path& folder) const override {
+        if (listings++ == failing) throw FileError("Input/output error");
+        return NativeFileSystem::Names(folder);
+    }
+
+    mutable int listings = 0;
+    int failing = -1;
+};
+
+TEST_F(RecoveryTest, WhatIsKeptIsNotWrittenOverOrDroppedWhereTheFolderCannotBeListed) {
+    constexpr int kListings = 12;
+    for (int failing = 0; failing < kListings; ++failing) {
+        SCOPED_TRACE(failing);
+        const TestHome home;
+        TestHost host;
+        UnlistedOnce files;
+        host.fileSystem = &files;
+        Program program(host.host(), home.home());
+        ASSERT_EQ(program.Start(""), StartResult::Running);
+        files.failing = files.listings + failing;
+        for (const char* value : {"5", "6", "7"}) {  // all of one moment
+            program.SetValue("SN", 1, 1, value);
+            ASSERT_TRUE(program.NewProject());
+        }
+        ASSERT_THAT(program.state().keptWork, SizeIs(3));
+        for (int i = 0; i < 3; ++i) {
+            const Path& file = program.state().keptWork[static_cast<std::size_t>(i)].file;
+            EXPECT_EQ(NumberInFile(file, "SN"), 7.0 - i);
+        }
+        EXPECT_THAT(host.record.TakeTexts(), IsEmpty());
+    }
+}
+
 // --- Having it back ----------------------------------------------------------------------------------------
 
 TEST_F(RecoveryTest, WhatIsRecoveredHasNoNameAndProposesItsFormerOne) {
