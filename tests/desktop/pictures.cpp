@@ -206,6 +206,7 @@ int TakePictures(const Path& scriptFolder, const Path& folder, const std::vector
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_FONT_DPI", "96");
+    qputenv("LANGUAGE", "C");
     qputenv("HOME", "/home/engineer");  // whose name a file dialog shows
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     const QApplication application(argc, argv);
