@@ -30,8 +30,8 @@ struct TableShape {
 /// they read as rows without end. To be used by one thread. Throws DatabaseError.
 SQLite::Database OpenDatabase(const Path& path, DatabaseAccess access);
 
-/// Lets statements of a database take any time. For one whose pages and rows were checked, before a statement is
-/// made that is used again and again: SQLite counts the steps of all its uses together.
+/// Lets statements of a database take any time. For one whose pages and rows were checked, before a statement
+/// is made that is used again and again: SQLite counts the steps of all its uses together.
 void LiftStatementLimit(SQLite::Database& database);
 
 /// Throws DatabaseError if a table has more rows than `most`; it counts no further.
