@@ -101,6 +101,7 @@ std::string FreeLetters(const Form& form, const Control& control) {
 TEST_F(FormsTest, TheKeysOfTheMenusAreKeptFree) {
     std::string keys;
     for (const MenuTitle& title : MenuTitles()) keys.push_back(MarkedKey(title.caption));
+    keys.insert(keys.find('W'), "V");  // the windows put their own menu View before the menu Window
     EXPECT_EQ(keys, kMenuAccessKeys);
 }
 
