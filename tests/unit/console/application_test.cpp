@@ -370,7 +370,8 @@ TEST_F(ConsoleTest, AWorkFolderThatIsNamedKeepsItsWorkCopyButNoLock) {
     EXPECT_EQ(Obey("set SN 4.5\n", {"--work", File("work")}).status, 0);
     EXPECT_THAT(NamesIn(File("work")), ElementsAre("kvrwork.tmp"));
     EXPECT_EQ(NumberInFile(File("work/kvrwork.tmp"), "SN"), 4.5);
-    EXPECT_THAT(NamesIn(home_.path()), ElementsAre("DataBase", "Reports", "kvor.ini", "kvrwork.tpl"));
+    EXPECT_THAT(NamesIn(home_.path()),
+                ElementsAre("DataBase", "Languages", "Reports", "kvor.ini", "kvrwork.tpl"));
 }
 
 TEST_F(ConsoleTest, FoldersGivenByARelativePathAreFound) {

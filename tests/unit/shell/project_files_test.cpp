@@ -101,8 +101,9 @@ TEST_F(ProjectFilesTest, NoFileStaysBesideAProjectOrTheWorkCopy) {
     Enter("SN", "4.5");
     ASSERT_TRUE(Run().SaveAs(File("plan.kvr")));
     EXPECT_THAT(NamesIn(folder_.path()), ElementsAre("plan.kvr"));
-    EXPECT_THAT(NamesIn(program_.home.path()), ElementsAre("DataBase", "Projects", "Reports", "kvor.ini",
-                                                           "kvrwork.lck", "kvrwork.tmp", "kvrwork.tpl"))
+    EXPECT_THAT(NamesIn(program_.home.path()),
+                ElementsAre("DataBase", "Languages", "Projects", "Reports", "kvor.ini", "kvrwork.lck",
+                            "kvrwork.tmp", "kvrwork.tpl"))
         << "and the folder for projects, which Save As makes";
     EXPECT_THAT(NamesIn(program_.home / "DataBase"), ElementsAre("Kelvor.mdb", "custom.tpl"));
 }
@@ -353,8 +354,8 @@ TEST_F(ProjectFilesTest, NothingThatAnEarlierRunLeftBesideTheWorkCopyReachesAPro
         ASSERT_EQ(next.Start(open ? File("plan.kvr") : ""), StartResult::Running);
         EXPECT_EQ(next.state().dbWork.GetVar("SN"), 0.0);
         EXPECT_EQ(ReadFile(home / "kvrwork.tmp"), open ? saved : ReadFile(home / "kvrwork.tpl"));
-        EXPECT_THAT(NamesIn(home.path()), ElementsAre("DataBase", "Reports", "kvor.ini", "kvrwork.lck",
-                                                      "kvrwork.tmp", "kvrwork.tpl"));
+        EXPECT_THAT(NamesIn(home.path()), ElementsAre("DataBase", "Languages", "Reports", "kvor.ini",
+                                                      "kvrwork.lck", "kvrwork.tmp", "kvrwork.tpl"));
     }
 }
 

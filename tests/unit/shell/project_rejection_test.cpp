@@ -229,7 +229,8 @@ TEST_F(ProjectRejectionTest, AProgramThatEndsAfterARefusalLeavesTheFormerFileAnd
         std::vector<std::string> names = NamesIn(home.path());
         std::erase(names, "kvrwork.tmp");  // not there if the file could not even be read
         // What the opening dropped is kept aside.
-        EXPECT_THAT(names, ElementsAre("DataBase", "Kept", "Reports", "kvor.ini", "kvrwork.tpl"));
+        EXPECT_THAT(names,
+                    ElementsAre("DataBase", "Kept", "Languages", "Reports", "kvor.ini", "kvrwork.tpl"));
     }
 }
 

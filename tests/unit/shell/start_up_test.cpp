@@ -98,7 +98,7 @@ TEST_F(StartUpTest, WithoutACommandLineAFreshProjectIsOpen) {
     EXPECT_FALSE(start.reportsUnavailable);
     EXPECT_EQ(ReadFile(home_ / "kvrwork.tmp"), ReadFile(home_ / "kvrwork.tpl"));
     EXPECT_THAT(NamesIn(home_.path()),
-                ElementsAre("DataBase", "Reports", "kvor.ini", "kvrwork.tmp", "kvrwork.tpl"));
+                ElementsAre("DataBase", "Languages", "Reports", "kvor.ini", "kvrwork.tmp", "kvrwork.tpl"));
 }
 
 TEST_F(StartUpTest, BlanksAreNoCommandLine) {
@@ -529,8 +529,8 @@ TEST_F(StartUpTest, AProgramThatWasKilledLocksNobodyOut) {
     EXPECT_EQ(start.result, StartResult::Running);
     EXPECT_EQ(start.messages.size(), 1U) << "that it was killed is said, and its work offered";
     EXPECT_EQ(NumberInFile(home_ / "kvrwork.tmp", "SN"), 4.5);
-    EXPECT_THAT(NamesIn(home_.path()),
-                ElementsAre("DataBase", "Kept", "Reports", "kvor.ini", "kvrwork.tmp", "kvrwork.tpl"));
+    EXPECT_THAT(NamesIn(home_.path()), ElementsAre("DataBase", "Kept", "Languages", "Reports", "kvor.ini",
+                                                   "kvrwork.tmp", "kvrwork.tpl"));
 }
 
 TEST_F(StartUpTest, ProgramsWithTheirOwnWorkFoldersRunSideBySide) {
