@@ -218,9 +218,9 @@ bool Try(Session& session, const Step& step, std::string& told) {
 }
 
 /// Each step comes about, or says why not; then it comes about the second time. Nothing is lost.
-void Run(Session& session, int failing) {
+void Run(Session& session) {
     for (const Step& step : kSteps) {
-        const std::string at = "call " + std::to_string(failing) + " failing, " + step.what + ": ";
+        const std::string at = std::string(step.what) + ": ";
         std::string told;
         if (!Try(session, step, told)) {
             Hold(FileCalls::HasFailed(), at + "it comes about if nothing fails, but: " + told);
@@ -230,6 +230,7 @@ void Run(Session& session, int failing) {
         const FileCalls::Pause pause;
         Hold(session.HasWork(), at + "the work is somewhere");
     }
+    const FileCalls::Pause pause;
     Hold(NumberInFile(session.Other(), kMarker) == kMarkerOfOther, "the other file stands");
 }
 
@@ -238,7 +239,7 @@ int CallsOfSession(const SessionHome& home, int failing) {
     home.PutBack();
     Session session(home);
     FileCalls::Watch({(home / "").string(), session.folder().string()}, failing);
-    Run(session, failing);
+    Run(session);
     Hold(failing == FileCalls::kNone || FileCalls::HasFailed(), "the call was made");
     const int count = FileCalls::Count();
     FileCalls::Watch({}, FileCalls::kNone);
@@ -253,10 +254,11 @@ std::string FailOnce(const Trial& trial) {
     const int trials = std::min(trial.count, calls);
     std::string broken;
     for (int i = 0; i < trials; ++i) {
+        const auto failing = static_cast<int>(static_cast<long>(calls) * i / trials);
         try {
-            CallsOfSession(home, static_cast<int>(static_cast<long>(calls) * i / trials));
-        } catch (const Broken& failure) {
-            broken += std::string(broken.empty() ? "" : "; ") + failure.what();
+            CallsOfSession(home, failing);
+        } catch (const std::exception& failure) {
+            broken += "call " + std::to_string(failing) + " failing, " + failure.what() + "; ";
         }
     }
     Hold(broken.empty(), broken);
