@@ -12,6 +12,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstring>
+#include <string>
 #include <vector>
 
 #include "desktop/application.h"
@@ -97,7 +98,10 @@ struct GridOfProject {
         hooks.read = [this](int row, const GridColumn& column) {
             return program.CellText(*program.state().formRegistry.Find("TabForm"), row, column);
         };
+        hooks.note = [](int, const GridColumn&) { return std::string(); };
+        hooks.takesEdit = [](int, const GridColumn&) { return true; };
         hooks.moveTo = [](int, const GridColumn&) {};
+        hooks.marked = [] {};
         return hooks;
     }
 

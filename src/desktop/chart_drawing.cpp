@@ -3,6 +3,7 @@
 #include <QBarCategoryAxis>
 #include <QBarSeries>
 #include <QBarSet>
+#include <QLegendMarker>
 #include <QLineSeries>
 #include <QLocale>
 #include <QScatterSeries>
@@ -199,6 +200,14 @@ QXYSeries* MakeXYSeries(ChartKind kind, const ChartSeries& declared) {
     return points;
 }
 
+/// In the legend the series has the sign of its points.
+void ShowHollowInLegend(QXYSeries& series, QChart& chart) {
+    for (QLegendMarker* marker : chart.legend()->markers(&series)) {
+        marker->setShape(QLegend::MarkerShapeCircle);
+        marker->setPen(series.pen());
+    }
+}
+
 void AddXYSeries(const ChartData& data, QChart& chart) {
     for (std::size_t i = 0; i < data.series.size(); ++i) {
         QXYSeries* series = MakeXYSeries(data.kind, data.series[i]);
@@ -209,6 +218,7 @@ void AddXYSeries(const ChartData& data, QChart& chart) {
         series->setPointLabelsVisible(data.showsValues);
         series->setPointLabelsFormat(QStringLiteral("@yPoint"));
         AddSeries(series, chart);
+        if (data.series[i].hollowPoints) ShowHollowInLegend(*series, chart);
     }
 }
 

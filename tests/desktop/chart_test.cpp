@@ -161,6 +161,7 @@ TEST_F(ChartTest, ASeriesOfHollowPointsStandsBesideLinesAndPoints) {
         const auto markers = Drawn().legend()->markers(Drawn().series().value(1));
         ASSERT_EQ(markers.size(), 1);
         EXPECT_EQ(markers.first()->label(), "Left out");
+        EXPECT_EQ(markers.first()->pen().color(), QColor("#808080")) << "also seen on a dark ground";
     }
 }
 
