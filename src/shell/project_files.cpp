@@ -254,6 +254,7 @@ bool ProjectFiles::SaveProject(const std::string& path) {
         OpenWorkCopy(false);
     } catch (const DatabaseError& failure) {
         Report(failed + failure.what());
+        ReopenUnsaved();  // what failed once may not fail again, and without a work copy the work ends
         return false;
     }
     NameProject(path);

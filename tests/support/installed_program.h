@@ -13,6 +13,7 @@ class InstalledProgram {
         std::filesystem::create_directories(shipped().parent_path());
         const TestHome built;
         std::filesystem::copy(built.path(), shipped(), std::filesystem::copy_options::recursive);
+        std::filesystem::remove_all(shipped() / "Languages");  // read from there, and in no home of a user
         List();
     }
 

@@ -338,8 +338,9 @@ TEST_F(ConsoleTest, AWorkFolderThatCannotBeWrittenIsStatusOne) {
 /// What is Kelvor's own is told in the language; what every version says, and every number, as ever.
 TEST_F(ConsoleTest, AnotherLanguageIsSpokenOnlyWhereItIsNamed) {
     const std::string script =
-        "set FLEXDEV 0.125\nset FLEXE18 5,000,000\nshow FLEXE18\nget FLEXDEV\nsolve DeF SN\nopen DeF\nstate "
-        "DeF\n";
+        "set FLEXDEV 0.125\nset FLEXE18 5,000,000\nshow FLEXE18\nget FLEXDEV\nsolve DeF SN\nform open "
+        "DeF\nread "
+        "CHECK\n";
     ::setenv("LANGUAGE", "es", 1);
     const ConsoleEnd english = Obey(script);
     const ConsoleEnd spanish = Obey(script, {"--language", "es"});

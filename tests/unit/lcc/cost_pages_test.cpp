@@ -229,7 +229,7 @@ class RehabilitationRowsTest : public CostPagesTest {
         Open("LcA1_4", 1);
         EditCell(1, "RehabQuantity", "2");
         EditCell(1, "RehabUnitCost", "50");
-        Paste(2, "RehabItem", "Milling\t7\t12\teach\t100\nOverlay\t14\t3\teach\t900");
+        Paste(2, "RehabItem", "Milling\t7\t12\teach\t100\nOther\t14\t3\teach\t900");
     }
 
     std::vector<std::string> Items() {
@@ -243,7 +243,7 @@ class RehabilitationRowsTest : public CostPagesTest {
 TEST_F(RehabilitationRowsTest, ARowIsInsertedBelowTheAnnualMaintenance) {
     const std::string total = Page().TextOf("ItemTotal4");
     Shift(UserEvent::Kind::InsertRow, 2);
-    EXPECT_EQ(Items(), (std::vector<std::string>{"Annual Maintenance", "", "Milling", "Overlay"}));
+    EXPECT_EQ(Items(), (std::vector<std::string>{"Annual Maintenance", "", "Milling", "Other"}));
     EXPECT_EQ(Cell("RehabItemCost", 3, 1), 1200.0);
     EXPECT_EQ(Cell("RehabItemCost", 4, 1), 2700.0);
     EXPECT_EQ(Page().TextOf("ItemTotal4"), total) << "an empty row costs nothing";
@@ -251,7 +251,7 @@ TEST_F(RehabilitationRowsTest, ARowIsInsertedBelowTheAnnualMaintenance) {
 
 TEST_F(RehabilitationRowsTest, RowsChangePlacesWithAllTheyHold) {
     Shift(UserEvent::Kind::MoveRowUp, 3);
-    EXPECT_EQ(Items(), (std::vector<std::string>{"Annual Maintenance", "Overlay", "Milling", ""}));
+    EXPECT_EQ(Items(), (std::vector<std::string>{"Annual Maintenance", "Other", "Milling", ""}));
     EXPECT_EQ(Cell("RehabYear", 2, 1), 14.0);
     EXPECT_EQ(Cell("RehabItemCost", 2, 1), 2700.0);
     EXPECT_EQ(Page().FindGrid()->grid->row, 2);
