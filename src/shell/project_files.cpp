@@ -254,7 +254,11 @@ bool ProjectFiles::SaveProject(const std::string& path) {
         OpenWorkCopy(false);
     } catch (const DatabaseError& failure) {
         Report(failed + failure.what());
-        ReopenUnsaved();  // what failed once may not fail again, and without a work copy the work ends
+        // What failed once may not fail again, and without a work copy the work ends.
+        try {
+            ReopenChanged();
+        } catch (const DatabaseError&) {  // NOLINT(bugprone-empty-catch): it is told
+        }
         return false;
     }
     NameProject(path);
@@ -309,13 +313,17 @@ void ProjectFiles::Overwrite(const std::string& path) {
 
 /// The work copy again, as it was before it was closed to no effect.
 void ProjectFiles::ReopenUnsaved() {
-    const bool changed = state_.bProjectChanged;
     try {
-        OpenWorkCopy(false);
-        state_.bProjectChanged = changed;
+        ReopenChanged();
     } catch (const DatabaseError& failure) {
         Report("Error loading from " + state_.home.WorkCopyFile().string() + ": " + failure.what());
     }
+}
+
+void ProjectFiles::ReopenChanged() {
+    const bool changed = state_.bProjectChanged;
+    OpenWorkCopy(false);
+    state_.bProjectChanged = changed;
 }
 
 bool ProjectFiles::Save() {

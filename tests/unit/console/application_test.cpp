@@ -337,10 +337,14 @@ TEST_F(ConsoleTest, AWorkFolderThatCannotBeWrittenIsStatusOne) {
 
 /// What is Kelvor's own is told in the language; what every version says, and every number, as ever.
 TEST_F(ConsoleTest, AnotherLanguageIsSpokenOnlyWhereItIsNamed) {
-    const std::string script =
-        "set FLEXDEV 0.125\nset FLEXE18 5,000,000\nshow FLEXE18\nget FLEXDEV\nsolve DeF SN\nform open "
-        "DeF\nread "
-        "CHECK\n";
+    const std::string script = R"(set FLEXDEV 0.125
+set FLEXE18 5,000,000
+show FLEXE18
+get FLEXDEV
+solve DeF SN
+form open DeF
+read CHECK
+)";
     ::setenv("LANGUAGE", "es", 1);
     const ConsoleEnd english = Obey(script);
     const ConsoleEnd spanish = Obey(script, {"--language", "es"});
@@ -351,7 +355,11 @@ TEST_F(ConsoleTest, AnotherLanguageIsSpokenOnlyWhereItIsNamed) {
     EXPECT_THAT(english.output, HasSubstr("Missing: "));
     EXPECT_THAT(spanish.output, HasSubstr("Falta: "));
     std::string asInEnglish = spanish.output;
-    asInEnglish.replace(asInEnglish.find("Falta: "), std::string("Falta: ").size(), "Missing: ");
+    for (const auto& [own, translated] :
+         {std::pair<std::string, const char*>("Falta: ", "Missing: "), {" y 2 m\u00e1s", " and 2 more"}}) {
+        ASSERT_THAT(asInEnglish, HasSubstr(own));
+        asInEnglish.replace(asInEnglish.find(own), own.size(), translated);
+    }
     EXPECT_EQ(asInEnglish, english.output);
     EXPECT_EQ(none.status, 2);
     EXPECT_THAT(none.errors, HasSubstr("no language xx"));
