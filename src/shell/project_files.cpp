@@ -251,14 +251,9 @@ bool ProjectFiles::SaveProject(const std::string& path) {
     }
     AddRecentFile(state_, FullPath(path));
     try {
-        OpenWorkCopy(false);
+        ReopenSaved();
     } catch (const DatabaseError& failure) {
         Report(failed + failure.what());
-        // What failed once may not fail again, and without a work copy the work ends.
-        try {
-            ReopenChanged();
-        } catch (const DatabaseError&) {  // NOLINT(bugprone-empty-catch): it is told
-        }
         return false;
     }
     NameProject(path);
@@ -313,17 +308,23 @@ void ProjectFiles::Overwrite(const std::string& path) {
 
 /// The work copy again, as it was before it was closed to no effect.
 void ProjectFiles::ReopenUnsaved() {
+    const bool changed = state_.bProjectChanged;
     try {
-        ReopenChanged();
+        OpenWorkCopy(false);
+        state_.bProjectChanged = changed;
     } catch (const DatabaseError& failure) {
         Report("Error loading from " + state_.home.WorkCopyFile().string() + ": " + failure.what());
     }
 }
 
-void ProjectFiles::ReopenChanged() {
-    const bool changed = state_.bProjectChanged;
-    OpenWorkCopy(false);
-    state_.bProjectChanged = changed;
+/// The work copy again, of which the file is a copy now. What fails once may not fail again, and without it
+/// the work ends: so it is tried twice. Throws DatabaseError.
+void ProjectFiles::ReopenSaved() {
+    try {
+        OpenWorkCopy(false);
+    } catch (const DatabaseError&) {
+        OpenWorkCopy(false);
+    }
 }
 
 bool ProjectFiles::Save() {

@@ -53,7 +53,7 @@ class ProjectFiles {
     void KeepFormerVersion(const std::string& path, const std::string& content);
     void Overwrite(const std::string& path);
     void ReopenUnsaved();
-    void ReopenChanged();
+    void ReopenSaved();
     bool KeepAside();
     bool DiscardWorkCopy(const std::string& path);
     bool StoreOver(const std::string& path);

@@ -240,8 +240,9 @@ int CallsOfSession(const SessionHome& home, int failing) {
     Session session(home);
     FileCalls::Watch({(home / "").string(), session.folder().string()}, failing);
     Run(session);
-    Hold(failing == FileCalls::kNone || FileCalls::HasFailed(), "the call was made");
+    // What the clock brings about, a flush, may be lacking: then a session makes fewer calls than another.
     const int count = FileCalls::Count();
+    Hold(failing == FileCalls::kNone || FileCalls::HasFailed() || failing >= count, "the call was made");
     FileCalls::Watch({}, FileCalls::kNone);
     return count;
 }

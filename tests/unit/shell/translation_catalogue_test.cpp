@@ -106,7 +106,8 @@ TEST(TranslationCatalogueTest, EveryLanguageFitsTheCatalogue) {
         if (entry.path().extension() != ".po") continue;
         languages.push_back(entry.path().stem().string());
         SCOPED_TRACE(languages.back());
-        for (const auto& [english, translation] : ReadCatalogue(entry.path()).texts()) {
+        const Translation language = ReadCatalogue(entry.path());
+        for (const auto& [english, translation] : language.texts()) {
             EXPECT_TRUE(catalogue.texts().contains(english)) << "no text of Kelvor's: " << english;
             if (translation.empty()) continue;
             EXPECT_EQ(PlaceholdersOf(translation), PlaceholdersOf(english)) << english;
