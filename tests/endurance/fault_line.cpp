@@ -112,9 +112,9 @@ class Session {
 
 /// Something that a user does, and what is true once it has come about.
 struct Step {
-    const char* what;
-    void (*act)(Session&);
-    bool (*done)(Session&);
+    const char* what = "";
+    void (*act)(Session&) = nullptr;
+    bool (*done)(Session&) = nullptr;
     bool shows = false;  // that it did not come about is to be seen, and not said
 };
 
@@ -223,9 +223,9 @@ void Run(Session& session) {
         const std::string at = std::string(step.what) + ": ";
         std::string told;
         if (!Try(session, step, told)) {
-            Hold(FileCalls::HasFailed(), at + "it comes about if nothing fails, but: " + told);
+            Hold(FileCalls::HasFailed(), (at + "it comes about if nothing fails, but: ").append(told));
             Hold(step.shows || !told.empty(), at + "a step that fails says so");
-            Hold(Try(session, step, told), at + "it comes about the second time, but: " + told);
+            Hold(Try(session, step, told), (at + "it comes about the second time, but: ").append(told));
         }
         const FileCalls::Pause pause;
         Hold(session.HasWork(), at + "the work is somewhere");

@@ -21,14 +21,14 @@ inline constexpr std::size_t kMostReports = 15;
 
 /// What can be ticked or printed: it fills the staging tables, and gives one report or, for costs, two.
 struct ReportItem {
-    const char* box;                  // its tick on the tab Reports
-    const char* screen;               // the catalogue key of the screen that it reports
-    std::optional<BalanceFlag> flag;  // it is made only while this is set
+    const char* box = "";                  // its tick on the tab Reports
+    const char* screen = "";               // the catalogue key of the screen that it reports
+    std::optional<BalanceFlag> flag = {};  // it is made only while this is set
 
     /// Fills its staging tables. True if anything is known of the existing pavement.
-    bool (*stage)(Stager& stager, const char* screen);
+    bool (*stage)(Stager& stager, const char* screen) = nullptr;
 
-    const char* report;
+    const char* report = "";
     const char* second = nullptr;  // a further report of the same tables
     const char* part = nullptr;    // what the tab takes instead if nothing is known of the existing pavement
 };

@@ -51,10 +51,10 @@ enum class DecidesOn { Nothing, TrafficRoutes, Overlays };
 
 /// All that the hub knows of a screen.
 struct HubRow {
-    HubGroup group;
-    const char* option;
-    const char* caption;
-    const char* screen;
+    HubGroup group = {};
+    const char* option = "";
+    const char* caption = "";
+    const char* screen = "";
     std::optional<int> slice = {};  // of a screen that has several: the pavement, the category of cost
     HubNeeds needs = {};
     DecidesOn decidesOn = DecidesOn::Nothing;

@@ -345,7 +345,9 @@ TEST_F(HostileSettingsTest, AFolderIsNone) {
 }
 
 TEST_F(HostileSettingsTest, ALineOfTenMegabytesIsNotRead) {
-    WriteFile(File(), "[kvor]\nApplication=" + std::string(10'000'000, 'x') + "\n");
+    std::string line;
+    line.resize(10'000'000, 'x');
+    WriteFile(File(), "[kvor]\nApplication=" + line + "\n");
     EXPECT_EQ(Stop(), kUnreadable);
 }
 

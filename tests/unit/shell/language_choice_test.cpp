@@ -40,10 +40,11 @@ TEST(LanguageChoiceTest, TheEnvironmentAsksForLanguages) {
 
 /// The language of one test.
 class SpanishTest : public testing::Test {
-  protected:
+  public:
     SpanishTest() { SpeakFirstOf({"fr", "es"}, files, home.home()); }
     ~SpanishTest() override { Speak({}); }
 
+  protected:
     NativeFileSystem files;
     TestHome home;
 };
