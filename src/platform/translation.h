@@ -38,8 +38,7 @@ void Speak(Translation language);
 /// Marks a text of a table for the catalogue. It is translated where it is shown.
 [[nodiscard]] constexpr const char* ToTranslate(const char* english) { return english; }
 
-/// A text with its placeholders, %1 to %9, replaced by the parts. A part that has a placeholder in it keeps
-/// it.
+/// A text with its placeholders, %1 to %9, filled in. What is filled in keeps a placeholder of its own.
 [[nodiscard]] std::string Filled(std::string_view text, std::initializer_list<std::string_view> parts);
 
 }  // namespace kelvor
