@@ -190,8 +190,8 @@ constexpr std::size_t kLongestLine = 4'000'000;
 bool ReadLine(std::istream& script, std::string& line) {
     using Letters = std::istream::traits_type;
     line.clear();
-    const std::istream::sentry ready(script,
-                                     true);  // what was printed goes out first, as a caller may wait for it
+    // What was printed goes out first, as a caller may wait for it.
+    const std::istream::sentry ready(script, true);
     if (!ready) return false;
     for (auto letter = script.rdbuf()->sbumpc(); letter != Letters::eof();
          letter = script.rdbuf()->sbumpc()) {
