@@ -25,8 +25,9 @@ struct Pair {
 /// A keyed read by name, against a hash table of the standard library with the same names.
 std::vector<Pair> RegisterReads(BenchProgram& program);
 
-/// A solve for the structural number that writes nothing, against the same search on plain doubles.
-std::vector<Pair> RegisterSolves(BenchProgram& program);
+/// A solve for the structural number that writes nothing, and one of an overlay with its outputs, against the
+/// same search on plain doubles, the second with the same cells written.
+std::vector<Pair> RegisterSolves(BenchProgram& program, const Path& home);
 
 /// A write through to the work copy inside an event, and the end of an event that wrote one cell, both
 /// against SQLite alone.
@@ -35,8 +36,8 @@ std::vector<Pair> RegisterWrites(BenchProgram& program, const Path& home);
 /// All ESALs of a spectrum of axles once a parameter of the traffic has changed.
 std::vector<Pair> RegisterSpectrum(BenchProgram& program);
 
-/// All deflection tests of a day once an input that they share has changed: 75, 150 and 300 of each kind, and
-/// the flexible ones against a plain loop that writes the same cells.
+/// All deflection tests of a day once an input that they share has changed: 75, 150 and 300 of each kind,
+/// against a plain loop that writes the same cells.
 std::vector<Pair> RegisterDeflections(BenchProgram& program);
 
 /// The cost summary and the histogram opened, and a cell of a page of costs written.
@@ -48,8 +49,7 @@ std::vector<Pair> RegisterUndo(BenchProgram& program);
 
 /// How often one solve for the structural number reads the store, and what it does meanwhile.
 struct SolveCount {
-    int byName = 0;
-    int byHandle = 0;
+    int reads = 0;
     int evaluations = 0;  // of the design equation, during the search
 };
 SolveCount CountSolve(BenchProgram& program);
@@ -58,8 +58,8 @@ SolveCount CountSolve(BenchProgram& program);
 /// and of peak memory.
 std::vector<Comparison> CompareStarts(const Path& home);
 
-/// Starts the window and an empty one in turns, without a display, and compares them; then how long a screen
-/// takes to open and a key to be seen. Nothing if the window was not built.
+/// Starts the window and an empty one in turns, without a display, and compares them; then how long screens
+/// take to open, a key to be seen and a block of tests to be pasted. Nothing if the window was not built.
 std::vector<Comparison> CompareWindows(const Path& home);
 
 }  // namespace kelvor::bench

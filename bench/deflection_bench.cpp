@@ -133,25 +133,61 @@ void RegisterKind(BenchProgram& program, const TestKind& kind, int tests) {
            benchmark::kMicrosecond);
 }
 
-/// The flexible tests as a plain loop on doubles, which writes the same cells.
-void RegisterPlainLoop(BenchProgram& program, int tests) {
-    Repeat(benchmark::RegisterBenchmark("Deflections/PlainLoop",
-                                        [&program, tests](auto& state) {
+// --- The same as plain loops on doubles, which write the same cells ------------------------------------
+
+/// One event: an input of all tests, then the results of each row.
+using PlainLoop = void (*)(ProjectStore& store, double value, int tests);
+
+void LoopFlexible(ProjectStore& store, double distance, int tests) {
+    for (int row = 1; row <= tests; ++row) {
+        const double more = 1.0 + 0.001 * row;
+        const PlainModuli moduli =
+            BackcalculatePlain(PlainTest{9000.0 * more, 18.0 * more, 3.55 * more, distance, 0.33, 5.9, 12.0});
+        store.SetVarDim("NDTRM", row, 1, moduli.subgrade);
+        store.SetVarDim("NDTEFFEP", row, 1, moduli.pavement);
+    }
+}
+
+void WriteSlab(ProjectStore& store, const TestKind& kind, int row, const PlainSlab& slab) {
+    const double results[] = {slab.area, slab.radius, slab.dynamicK, slab.staticK, slab.modulus};
+    for (std::size_t i = 0; i < std::size(results); ++i) store.SetVarDim(kind.columns[i], row, 1, results[i]);
+}
+
+void LoopRigid(ProjectStore& store, double plateRadius, int tests) {
+    const TestKind kind = Kinds()[1];
+    for (int row = 1; row <= tests; ++row) {
+        const double more = 1.0 + 0.001 * row;
+        WriteSlab(store, kind, row,
+                  BackcalculatePlain(PlainSlabTest{9000.0 * more, 4.0 * more, 3.4 * more, 2.7 * more,
+                                                   2.0 * more, plateRadius, 0.15, 9.0, 0.0, 0.0}));
+    }
+}
+
+void LoopComposite(ProjectStore& store, double asphalt, int tests) {
+    const TestKind kind = Kinds()[2];
+    for (int row = 1; row <= tests; ++row) {
+        const double more = 1.0 + 0.001 * row;
+        WriteSlab(store, kind, row,
+                  BackcalculatePlain(PlainSlabTest{9000.0 * more, 4.5 * more, 3.4 * more, 2.7 * more,
+                                                   2.0 * more, 5.9, 0.15, 9.0, asphalt, 500'000.0}));
+    }
+}
+
+constexpr PlainLoop kPlainLoops[] = {LoopFlexible, LoopRigid, LoopComposite};  // as in Kinds()
+
+std::string PlainNameOf(const TestKind& kind) { return std::string("Deflections/PlainLoop") + kind.name; }
+
+void RegisterPlainLoop(BenchProgram& program, const TestKind& kind, PlainLoop loop, int tests) {
+    Repeat(benchmark::RegisterBenchmark(PlainNameOf(kind).c_str(),
+                                        [&program, kind, loop, tests](auto& state) {
                                             FillTests(program.store(), tests);
                                             ProjectStore& store = program.store();
-                                            double distance = 36.0;
+                                            double value = kind.from;
                                             for (auto _ : state) {
-                                                distance = distance < 40.0 ? distance + 4e-4 : 36.0;
+                                                value = NextValue(kind, value);
                                                 store.BeginEvent();
-                                                store.SetVar("NDTR", distance);
-                                                for (int row = 1; row <= tests; ++row) {
-                                                    const double more = 1.0 + 0.001 * row;
-                                                    const PlainModuli moduli = BackcalculatePlain(
-                                                        {9000.0 * more, 18.0 * more, 3.55 * more, distance,
-                                                         0.33, 5.9, 12.0});
-                                                    store.SetVarDim("NDTRM", row, 1, moduli.subgrade);
-                                                    store.SetVarDim("NDTEFFEP", row, 1, moduli.pavement);
-                                                }
+                                                store.SetVar(kind.changed, value);
+                                                loop(store, value, tests);
                                                 store.EndEvent();
                                             }
                                         }),
@@ -162,7 +198,8 @@ void RegisterPlainLoop(BenchProgram& program, int tests) {
 
 std::vector<Pair> RegisterDeflections(BenchProgram& program) {
     std::vector<Pair> pairs;
-    for (const TestKind& kind : Kinds()) {
+    const std::array kinds = Kinds();
+    for (const TestKind& kind : kinds) {
         for (const int tests : {75, 150, 300}) RegisterKind(program, kind, tests);
         const std::string what = std::string(kind.name) + " deflection tests";
         pairs.push_back({.name = what + ": 300 worked out anew, beside the longest time",
@@ -181,13 +218,13 @@ std::vector<Pair> RegisterDeflections(BenchProgram& program) {
                          .reference = NameOf(kind, 75),
                          .measure = Measure::Cpu,
                          .limit = kSlopeOfFour});
+        RegisterPlainLoop(program, kind, kPlainLoops[&kind - kinds.data()], 300);
+        pairs.push_back({.name = what + ": 300 beside a plain loop with the same writes",
+                         .ours = NameOf(kind, 300),
+                         .reference = PlainNameOf(kind),
+                         .measure = Measure::Cpu,
+                         .limit = kBesidePlainLoop});
     }
-    RegisterPlainLoop(program, 300);
-    pairs.push_back({.name = "Flexible deflection tests: 300 beside a plain loop with the same writes",
-                     .ours = "Deflections/Flexible/300",
-                     .reference = "Deflections/PlainLoop",
-                     .measure = Measure::Cpu,
-                     .limit = kBesidePlainLoop});
     return pairs;
 }
 

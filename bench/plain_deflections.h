@@ -15,4 +15,17 @@ struct PlainModuli {
 /// cells and no checks for faults.
 PlainModuli BackcalculatePlain(const PlainTest& test);
 
+/// A test on a slab, bare or under asphalt, as plain numbers: pounds, mils, inches, psi.
+struct PlainSlabTest {
+    double load, d0, d12, d24, d36, plateRadius, poisson, slab;
+    double asphalt, asphaltModulus;  // 0: a bare slab
+};
+
+struct PlainSlab {
+    double area, radius, dynamicK, staticK, modulus;  // inches, inches, psi/in twice, ksi
+};
+
+/// What the five columns of a test compute, the same way.
+PlainSlab BackcalculatePlain(const PlainSlabTest& test);
+
 }  // namespace kelvor::bench

@@ -1,3 +1,4 @@
+#include <memory>
 #include <stdexcept>
 
 #include "benchmarks.h"
@@ -5,6 +6,7 @@
 #include "design/calc/design_equations.h"
 #include "design/calc/solve_for.h"
 #include "plain_search.h"
+#include "raw_project.h"
 #include "shell/calculations.h"
 
 namespace kelvor::bench {
@@ -46,9 +48,68 @@ void SolvePlain(benchmark::State& state, PlainTerms terms) {
     }
 }
 
+// --- An overlay with its outputs ------------------------------------------------------------------------
+
+const char* const kOverlay = "OvAA";
+constexpr double kLongestOverlayRatio = 6.0;
+
+/// Solves for the future structural number, then works out the effective one and the thickness.
+void SolveOverlay(CalcContext& context, const Dispatch& calculations) {
+    if (calculations.SolveForVariable(context, kOverlay, kStructuralNumber) != 0) {
+        throw std::runtime_error("the overlay is not solved");
+    }
+    for (const char* output : {"ACACEFFSN", "ACACTHICK"}) calculations.CalcField(context, output, output);
+}
+
+void PrepareOverlay(BenchProgram& program) {
+    const Dispatch calculations = JoinCalculations();
+    const TermNames names = calculations.FindEquation(kOverlay, kStructuralNumber)->terms;
+    const double values[] = {kDesign.SN, kDesign.W18, kDesign.reliability, kDesign.S0,
+                             kDesign.MR, kDesign.P0,  kDesign.Pt};
+    ProjectStore& store = program.store();
+    for (std::size_t i = 0; i < names.size(); ++i) store.SetVar(names[i], values[i]);
+    store.SetVar("NDTEFFSN", 3.0);
+    store.SetVar("ACACOLLC", 0.44);
+    CalcContext context = program.MakeCalcContext();
+    SolveOverlay(context, calculations);
+    const double lack = store.GetVar(names[0]).value() - 3.0;
+    if (store.GetVar("ACACTHICK") != lack / 0.44) throw std::runtime_error("the overlay has no thickness");
+}
+
+/// Each solve starts and ends an event, and finds and writes another thickness.
+void SolveOverlays(benchmark::State& state, BenchProgram& program) {
+    PrepareOverlay(program);
+    const Dispatch calculations = JoinCalculations();
+    CalcContext context = program.MakeCalcContext();
+    ProjectStore& store = program.store();
+    double effective = 3.0;
+    for (auto _ : state) {
+        effective = effective < 4.0 ? effective + 1e-4 : 3.0;
+        store.BeginEvent();
+        store.SetVar("NDTEFFSN", effective);
+        SolveOverlay(context, calculations);
+        store.EndEvent();
+    }
+}
+
+/// The same search on plain doubles, and the same cells written with SQLite alone.
+void SearchAndWrite(benchmark::State& state, PlainTerms terms, RawProject& project) {
+    double effective = 3.0;
+    for (auto _ : state) {
+        effective = effective < 4.0 ? effective + 1e-4 : 3.0;
+        project.Begin();
+        project.Write("NDTEFFSN", effective);
+        benchmark::DoNotOptimize(terms);
+        const double future = SearchStructuralNumber(terms);
+        project.Write("ACACEFFSN", effective);
+        project.Write("ACACTHICK", (future - effective) / 0.44);
+        project.Commit();
+    }
+}
+
 }  // namespace
 
-std::vector<Pair> RegisterSolves(BenchProgram& program) {
+std::vector<Pair> RegisterSolves(BenchProgram& program, const Path& home) {
     PlainTerms terms = kDesign;
     terms.SN = PrepareSolve(program);
     if (SearchStructuralNumber(terms) != terms.SN) {
@@ -62,7 +123,17 @@ std::vector<Pair> RegisterSolves(BenchProgram& program) {
     Repeat(benchmark::RegisterBenchmark(pair.reference.c_str(),
                                         [terms](auto& state) { SolvePlain(state, terms); }),
            benchmark::kMicrosecond);
-    return {pair};
+    const Pair overlay{"an overlay solved, with its outputs, beside plain doubles with the same writes",
+                       "SolveOverlay/Store", "SolveOverlay/PlainDoubles", Measure::Cpu, kLongestOverlayRatio};
+    Repeat(benchmark::RegisterBenchmark(overlay.ours.c_str(),
+                                        [&program](auto& state) { SolveOverlays(state, program); }),
+           benchmark::kMicrosecond);
+    const auto project = std::make_shared<RawProject>(home, "overlay.tmp");
+    Repeat(benchmark::RegisterBenchmark(
+               overlay.reference.c_str(),
+               [terms, project](auto& state) { SearchAndWrite(state, terms, *project); }),
+           benchmark::kMicrosecond);
+    return {pair, overlay};
 }
 
 SolveCount CountSolve(BenchProgram& program) {
@@ -73,29 +144,18 @@ SolveCount CountSolve(BenchProgram& program) {
     CalcContext context = program.MakeCalcContext();
     const std::uint64_t before = store.readCount();
     calculations.SolveForVariable(context, kScreen, kStructuralNumber);
-    count.byName = static_cast<int>(store.readCount() - before);
+    count.reads = static_cast<int>(store.readCount() - before);
 
     // The search once more of the same parts, counting.
-    const TermNames names = calculations.FindEquation(kScreen, kStructuralNumber)->terms;
-    const CellHandle traffic = store.Resolve(names[1]);
-    const FlexibleInputs inputs = {store.Resolve(names[3]), store.Resolve(names[4]), store.Resolve(names[5]),
-                                   store.Resolve(names[6])};
-    int targets = 0;
-    SearchProblem problem{.low = 0.01, .high = 30.0, .lowers = true, .traffic = {}, .target = {}};
+    SearchProblem problem{.low = 0.01, .high = 30.0, .lowers = true, .traffic = {}, .target = kDesign.W18};
+    const FlexibleInputs inputs = {kDesign.S0, kDesign.MR, kDesign.P0, kDesign.Pt};
     problem.traffic = [&](Real SN, Real& w18) {
         ++count.evaluations;
         EvaluateFlexible(context, inputs, SN, w18);
     };
-    problem.target = [&]() -> Real {
-        ++targets;
-        return store.Number(traffic).value();
-    };
     if (SearchBracket(problem, program.clock()).x != solved) {
         throw std::runtime_error("the counted search finds another structural number");
     }
-    constexpr int kReadsOfEvaluation = 4;    // S0, MR, P0, Pt
-    constexpr int kReadsBefore = 1 + 6 + 5;  // the reliability; the terms that must be there; shared parts
-    count.byHandle = kReadsBefore + kReadsOfEvaluation * count.evaluations + targets;
     return count;
 }
 

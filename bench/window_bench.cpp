@@ -21,6 +21,7 @@ constexpr double kLongestGridRatio = 2.0;
 
 constexpr double kOpeningSeconds = 0.030;
 constexpr double kKeySeconds = 0.005;
+constexpr double kPasteSeconds = 0.100;
 
 /// A time beside the longest that a user shall wait.
 Comparison Wait(const std::string& name, double milliseconds, double longestSeconds) {
@@ -42,7 +43,10 @@ std::vector<Comparison> CompareWindows(const Path& home) {
     double key = 0.0;
     double grid = 0.0;
     double plainTable = 0.0;
-    answer >> shown >> opening >> key >> grid >> plainTable;
+    std::string slowest;
+    double slowestOpening = 0.0;
+    double paste = 0.0;
+    answer >> shown >> opening >> key >> grid >> plainTable >> slowest >> slowestOpening >> paste;
     return {
         {"window, start to shown, beside an empty one", Quantity::Time, Median(runs.ours, &Started::seconds),
          Median(runs.reference, &Started::seconds), kLongestRatio},
@@ -51,7 +55,10 @@ std::vector<Comparison> CompareWindows(const Path& home) {
         Wait("a design screen opened, beside 30 ms", opening, kOpeningSeconds),
         Wait("a key to the painted field, beside 5 ms", key, kKeySeconds),
         {"a grid of 50 x 10 painted, beside a plain table", Quantity::Time, grid / 1e3, plainTable / 1e3,
-         kLongestGridRatio}};
+         kLongestGridRatio},
+        Wait("the slowest of overlays, tests and costs opened (" + slowest + "), beside 30 ms",
+             slowestOpening, kOpeningSeconds),
+        Wait("300 x 5 deflections pasted and shown, beside 100 ms", paste, kPasteSeconds)};
 }
 
 }  // namespace kelvor::bench

@@ -67,7 +67,7 @@ Catalogue::~Catalogue() = default;
 
 void Catalogue::ReadVariables() {
     variables_.reserve(kUsualVariables);
-    variableByName_.reserve(kUsualVariables);
+    variableByName_.Reserve(kUsualVariables);
     VisitRows(*database_, "Variable",
               "Name, Format, Units, \"Desc\", Dim1, Dim2, High, Low, HighMetric, LowMetric, HelpHead",
               "rowid", [this](const RowView& row) {
@@ -83,7 +83,7 @@ void Catalogue::ReadVariables() {
                   variable.highMetric = row.Number(8);
                   variable.lowMetric = row.Number(9);
                   variable.helpHead = Text(row, 10);
-                  variableByName_.emplace(variable.name, variables_.size());
+                  variableByName_.Add(variable.name);
                   variables_.push_back(std::move(variable));
               });
 }
@@ -147,8 +147,9 @@ std::vector<ScreenLabel> Catalogue::LabelsOfScreen(std::string_view screen) cons
 }
 
 const Variable* Catalogue::FindVariable(std::string_view name) const {
-    const auto found = variableByName_.find(name);
-    return found == variableByName_.end() ? nullptr : &variables_[found->second];
+    const auto found = variableByName_.Find(
+        name, [this](std::uint32_t place) -> const std::string& { return variables_[place].name; });
+    return found ? &variables_[*found] : nullptr;
 }
 
 std::optional<std::string> Catalogue::HelpText(std::string_view name) const {

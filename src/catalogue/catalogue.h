@@ -6,11 +6,10 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "platform/file_system.h"
-#include "platform/text.h"
+#include "platform/name_index.h"
 
 namespace SQLite {
 class Database;
@@ -149,7 +148,7 @@ class Catalogue {
 
     std::unique_ptr<SQLite::Database> database_;
     std::vector<Variable> variables_;
-    std::unordered_map<std::string, std::size_t, NameHash, NameEqual> variableByName_;
+    NameIndex variableByName_;
     std::vector<Field> fields_;
     std::vector<Screen> screens_;
     std::vector<UnitPair> unitPairs_;

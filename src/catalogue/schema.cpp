@@ -26,7 +26,7 @@ std::vector<ColumnDefinition> ListColumns() {
 }  // namespace
 
 TableShape TableDefinition::Shape() const {
-    TableShape shape{name, {}};
+    TableShape shape{name, {}, CreateStatement()};
     for (const ColumnDefinition& column : columns) shape.columns.push_back(column.name);
     return shape;
 }
@@ -100,7 +100,9 @@ const std::vector<TableDefinition>& ListTables() {
 
 void CheckRowCounts(SQLite::Database& database, const std::vector<TableDefinition>& tables) {
     constexpr std::int64_t kMostRows = 100'000;
-    for (const TableDefinition& table : tables) CheckRowCount(database, table.name, kMostRows);
+    std::vector<std::string_view> names;
+    for (const TableDefinition& table : tables) names.push_back(table.name);
+    CheckRowCounts(database, names, kMostRows);
 }
 
 const TableDefinition& TableNamed(const std::vector<TableDefinition>& tables, std::string_view name) {

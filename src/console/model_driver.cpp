@@ -23,6 +23,7 @@ PropertyValue ValueOf(const Form& form, const Control& control) {
     if (control.IsChoice()) return control.value;
     if (control.kind == ControlKind::TabStrip) return form.page();
     if (control.IsBox() && control.stacked) return control.stacked->height;
+    if (control.height) return NumberProperty(ParseNumber(control.text));
     return control.text;
 }
 
@@ -251,7 +252,7 @@ PropertyValue ModelDriver::Read(const std::string& control, const std::string& p
     if (property == "visible") return c.visible;
     if (property == "bold") return c.bold;
     if (property == "backcolor") return std::string(c.backColor);
-    if (property == "forecolor") return std::string(c.foreColor);
+    if (property == "forecolor") return LetterColour(c.foreColor);
     if (property == "value") return ValueOf(CurrentForm(), c);
     throw ScriptError("a control has no property " + property);
 }

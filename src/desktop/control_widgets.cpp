@@ -152,6 +152,7 @@ bool MirrorTextBox(const Control& control, QLineEdit& box) {
     const QString text = ToQt(control.text);
     if (box.text() == text) return false;
     box.setText(text);
+    if (!box.hasFocus()) box.setCursorPosition(0);  // of a text that is too long its beginning is seen
     return true;
 }
 

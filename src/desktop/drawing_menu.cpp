@@ -34,6 +34,17 @@ std::string PngOf(const Scene& scene) {
     return bytes.toStdString();
 }
 
+/// A name for a file with the drawing: its title, without what no file's name may hold.
+std::string NameFor(const ChartData& sheet) {
+    const std::vector<std::string> lines = LinesOf(sheet.title);
+    std::string name;
+    for (const char letter : lines.empty() ? std::string() : lines.front()) {
+        name += std::string_view("/\\:*?\"<>|").find(letter) == std::string_view::npos ? letter : ' ';
+    }
+    const std::string_view trimmed = TrimBlanks(name);
+    return trimmed.empty() ? "chart" : std::string(trimmed);
+}
+
 /// Asks where to, and writes the drawing there.
 void AskAndSave(Program& program, const ChartData& sheet, const std::string& suffix) {
     ProcessState& state = program.state();
@@ -43,7 +54,8 @@ void AskAndSave(Program& program, const ChartData& sheet, const std::string& suf
                                     .folder = state.home.ProjectsFolder(),
                                     .filter = Translated("Pictures") + " (" + pattern + ")|" + pattern,
                                     .suffix = suffix,
-                                    .title = Translated("Save Picture")});
+                                    .title = Translated("Save Picture"),
+                                    .suggested = NameFor(sheet) + "." + suffix});
     if (!file) return;
     try {
         SaveDrawing(state.host.files, sheet, *file);

@@ -98,7 +98,7 @@ void HubCompany::SyncOverview() {
     ProcessState& state = door_.program().state();
     if (overview_->isHidden() || StampNow() == shown_ || !state.dbCatalogue) return;
     shown_ = StampNow();
-    overview_->Show(RowsOf(MakeOverview(state), *state.dbCatalogue));
+    overview_->Show(RowsOf(MakeOverview(state)));
 }
 
 void HubCompany::Arrange(QSize room) {

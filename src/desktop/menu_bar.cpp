@@ -101,7 +101,9 @@ void MenuBar::SyncEntry(QAction& action, const MenuEntry& entry) {
 
 QString MenuBar::CaptionOf(const MenuEntry& entry) const {
     const int room = kLettersOfPath * fontMetrics().averageCharWidth();
-    return fontMetrics().elidedText(ToQt(entry.caption), Qt::ElideMiddle, room, Qt::TextShowMnemonic);
+    // The end of a path is its name; of kept work the date comes first, and most at the start.
+    const auto side = entry.name == kRecoverEntry ? Qt::ElideRight : Qt::ElideMiddle;
+    return fontMetrics().elidedText(ToQt(entry.caption), side, room, Qt::TextShowMnemonic);
 }
 
 QAction* MenuBar::FindAction(const std::string& name, int index) const {

@@ -13,18 +13,10 @@ QStringList Head() {
     return {TranslatedText("Screen"), TranslatedText("Results"), TranslatedText("Equation")};
 }
 
-/// What the catalogue calls a result. The costs of the two pavements are no variables.
-QString NameOf(const OverviewResult& result, const Catalogue& catalogue) {
-    if (result.name == "EUACA") return TranslatedText("EUAC, Pavement (A)");
-    if (result.name == "EUACB") return TranslatedText("EUAC, Pavement (B)");
-    const Variable* variable = catalogue.FindVariable(result.name);
-    return ToQt(variable == nullptr || variable->desc.empty() ? result.name : variable->desc);
-}
-
-QString ResultText(const OverviewResult& result, const Catalogue& catalogue) {
+QString ResultText(const OverviewResult& result) {
     const QString value = result.text.empty() ? TranslatedText("none yet") : ToQt(result.text);
     const QString unit = result.text.empty() || result.unit.empty() ? QString() : " " + ToQt(result.unit);
-    return NameOf(result, catalogue) + ": " + value + unit;
+    return ToQt(result.title) + ": " + value + unit;
 }
 
 QString StateText(const OverviewLine& line) {
@@ -44,11 +36,11 @@ QString HtmlRow(const QStringList& parts, const QString& tag) {
 
 }  // namespace
 
-std::vector<OverviewRow> RowsOf(const std::vector<OverviewLine>& lines, const Catalogue& catalogue) {
+std::vector<OverviewRow> RowsOf(const std::vector<OverviewLine>& lines) {
     std::vector<OverviewRow> rows;
     for (const OverviewLine& line : lines) {
         QStringList results;
-        for (const OverviewResult& result : line.results) results << ResultText(result, catalogue);
+        for (const OverviewResult& result : line.results) results << ResultText(result);
         rows.push_back({line.name, ToQt(line.title), results.join(u'\n'), StateText(line)});
     }
     return rows;

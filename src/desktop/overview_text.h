@@ -4,7 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "catalogue/catalogue.h"
 #include "forms/overview_line.h"
 
 namespace kelvor {
@@ -19,7 +18,7 @@ struct OverviewRow {
     bool operator==(const OverviewRow& other) const = default;
 };
 
-std::vector<OverviewRow> RowsOf(const std::vector<OverviewLine>& lines, const Catalogue& catalogue);
+std::vector<OverviewRow> RowsOf(const std::vector<OverviewLine>& lines);
 
 /// Rows as lines of text whose parts are divided by tabs, with a head, for a spreadsheet or a letter.
 QString TextOf(const std::vector<OverviewRow>& rows);

@@ -50,6 +50,11 @@ double RoundStep(double width) {
     return 10.0 * power;
 }
 
+/// A picture without decimals would show the numbers of smaller steps alike.
+double LeastStep(const std::string& picture) {
+    return picture.empty() || picture.find('.') != std::string::npos ? 0.0 : 1.0;
+}
+
 PlotAxis MakeAxis(const ChartAxis& declared, const Reach& reach, double ceiling) {
     const bool found = declared.greatest <= declared.least;
     PlotAxis axis{found ? std::min(declared.least, reach.least) : declared.least,
@@ -57,7 +62,8 @@ PlotAxis MakeAxis(const ChartAxis& declared, const Reach& reach, double ceiling)
     if (ceiling > 0.0) axis.greatest = ceiling;
     if (axis.greatest <= axis.least) axis.greatest = axis.least + 1.0;
     axis.picture = declared.picture;
-    const double step = declared.step > 0.0 ? declared.step : RoundStep(axis.greatest - axis.least);
+    const double round = std::max(RoundStep(axis.greatest - axis.least), LeastStep(axis.picture));
+    const double step = declared.step > 0.0 ? declared.step : round;
     if (found && ceiling <= 0.0) {
         axis.least = step * std::floor(axis.least / step);
         axis.greatest = step * std::ceil(axis.greatest / step);

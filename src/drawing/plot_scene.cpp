@@ -138,13 +138,16 @@ class PlotPainter {
 
     void AddData() {
         if (sheet_.kind == ChartKind::StackedBars) return AddStackedBars();
-        for (std::size_t i = 0; i < sheet_.series.size(); ++i) {
-            if (sheet_.kind == ChartKind::GroupedBars) {
-                AddBars(i);
-            } else {
-                AddPoints(i);
+        for (const bool hollow : {false, true}) {  // hollow points would be lost below lines
+            for (std::size_t i = 0; i < sheet_.series.size(); ++i) {
+                if (sheet_.series[i].hollowPoints == hollow) AddSeries(i);
             }
         }
+    }
+
+    void AddSeries(std::size_t series) {
+        if (sheet_.kind == ChartKind::GroupedBars) return AddBars(series);
+        AddPoints(series);
     }
 
     void AddPoints(std::size_t series) {

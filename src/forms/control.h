@@ -128,9 +128,12 @@ struct Control {
     std::shared_ptr<const Document> document = {};  // of report pages; null: the text says why there are none
     bool enabled = true;
     bool visible = true;
-    bool locked = false;    // shows a value and takes none
-    bool computed = false;  // of a box: its value is worked out, and has the colour of such values
-    bool plain = false;     // of a box: it has no frame, and shows a figure among others
+    bool locked = false;      // shows a value and takes none
+    bool computed = false;    // of a box: its value is worked out, and has the colour of such values
+    bool plain = false;       // of a box: it has no frame, and shows a figure among others
+    bool passedOver = false;  // Tab goes on to the next one: its access key or the mouse reaches it
+    bool travels = false;     // of a hidden box: its text is put back with an event that is undone
+    bool height = false;      // of a box: its text is the height of a bar in twips, and that is its value
     bool tabStop = true;
     bool value = false;  // of an option button or a check box
     bool bold = false;

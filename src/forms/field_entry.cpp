@@ -55,9 +55,15 @@ bool Refuse(Form& form, Control& control) {
     return false;
 }
 
-/// Stores nothing at the field's cell.
-void EmptyCell(ScreenContext& context, const Form& form, const Control& control) {
-    context.calc.store.SetCell(control.tag, form.dim1().value_or(1), form.dim2().value_or(1), {});
+/// Stores nothing at the field's cell. True if something was there.
+bool EmptyCell(ScreenContext& context, const Form& form, const Control& control) {
+    ProjectStore& store = context.calc.store;
+    const int dim1 = form.dim1().value_or(1);
+    const int dim2 = form.dim2().value_or(1);
+    const CellValue* cell = store.FindCell(control.tag, dim1, dim2);
+    const bool filled = cell != nullptr && cell->IsFilled();
+    store.SetCell(control.tag, dim1, dim2, {});
+    return filled;
 }
 
 void AdviseOnConcrete(ScreenContext& context, const Control& control, const Range& range, double value) {
@@ -150,9 +156,10 @@ bool FieldLostFocus(ScreenContext& context, Form& form, Control& control) {
     if (!control.text.empty() && !IsNumeric(control.text) && !TakesText(context, control)) {
         context.calc.dialogs.ShowMessage({.text = "Please enter valid numeric value.", .title = "Value"});
         if (form.fieldChanged()) context.bProjectChanged = true;
-        EmptyCell(context, form, control);
+        if (EmptyCell(context, form, control) && IsInEquation(context, form, control)) {
+            WarnOfChange(context, form, control.tag);
+        }
         context.act = ChangeOf(context, control.tag);
-        if (IsInEquation(context, form, control)) WarnOfChange(context, form, control.tag);
         return Refuse(form, control);
     }
     if (form.fieldChanged()) {

@@ -153,7 +153,7 @@ Control* Form::NextInTabOrder(const Control* from, TabStep step) {
     for (std::size_t i = 0; i < count; ++i) {
         place = forwards ? (place + 1) % count : (place + count - 1) % count;
         Control& control = *controls_[place];
-        if (!control.IsSmallButton() && CanFocus(control)) return &control;
+        if (!control.IsSmallButton() && !control.passedOver && CanFocus(control)) return &control;
     }
     return nullptr;
 }

@@ -243,14 +243,16 @@ void FormEvents::Press(Form& form, Control& button) {
     if (MoveFocus(form, button)) Click(form, button);
 }
 
-/// What else the form does on a click names itself.
-void FormEvents::NameClick(const Control& control) {
+/// What else the form does on a click names itself. True if the button has given its name.
+bool FormEvents::NameClick(const Control& control) {
     const bool common = EqualNoCase(control.name, kOkButton) || EqualNoCase(control.name, kHelpButton);
     if (control.IsChoice()) {
         context_.act = Filled(Translated("choice of %1"), {PlainCaption(control.text)});
-    } else if (context_.act.empty() && control.IsButton() && !common && control.takesOver.empty()) {
-        context_.act = PlainCaption(control.text);
+        return false;
     }
+    if (!context_.act.empty() || !control.IsButton() || common || !control.takesOver.empty()) return false;
+    context_.act = PlainCaption(control.text);
+    return true;
 }
 
 void FormEvents::Click(Form& form, Control& control) {
@@ -263,7 +265,8 @@ void FormEvents::Click(Form& form, Control& control) {
     } else if (control.kind == ControlKind::CheckBox) {
         control.value = !control.value;
     }
-    NameClick(control);
+    const bool named = NameClick(control);
+    const std::string caption = context_.act;
     Handle(FormEvent::Click, form, &control, [&] {
         if (const auto equation = EquationOfButton(form, control)) SolveForClick(context_, form, *equation);
         if (EqualNoCase(control.name, kOkButton)) Close(form);
@@ -271,6 +274,10 @@ void FormEvents::Click(Form& form, Control& control) {
         if (!control.worksOut.empty()) WorkOut(form, control.worksOut);
         if (!control.takesOver.empty()) TakeValueOver(form, control.takesOver);
     });
+    // What a screen works out when it is opened is nothing that the user has done.
+    const auto& open = context_.forms.InOpeningOrder();
+    const bool opened = Current() != &form && std::find(open.begin(), open.end(), &form) != open.end();
+    if (named && opened && context_.act == caption) context_.act.clear();
 }
 
 /// The help of a field as it comes when the field is left for the Help button.
@@ -321,6 +328,10 @@ void FormEvents::ShowAnew(Form& form) {
     if (form.focus != focus && focus != nullptr && form.CanFocus(*focus)) GetFocus(form, *focus);
     context_.forms.CurrentForm = current;
     if (current != nullptr) NoteCurrentCell(*current);
+}
+
+void FormEvents::AfterTravel(Form& form) {
+    Handle(FormEvent::Travelled, form, nullptr, [] {});
 }
 
 // --- Units ------------------------------------------------------------------------------------------------

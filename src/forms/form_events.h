@@ -90,6 +90,9 @@ class FormEvents {
     /// where it is, and the focus with it.
     void ShowAnew(Form& form);
 
+    /// Tells a form that an act was undone or done again.
+    void AfterTravel(Form& form);
+
     /// Puts the stored value back into the control in focus. False if nothing was being typed there.
     bool DropTyping();
 
@@ -119,7 +122,7 @@ class FormEvents {
     void TakeReturn(Form& form, const SideScreenReturn& returned);
     void FocusFirstField(Form& form);
     void ActivateFront();
-    void NameClick(const Control& control);
+    bool NameClick(const Control& control);
     void Click(Form& form, Control& control);
     void WorkOut(Form& form, const std::string& variable);
     void TakeValueOver(Form& form, const std::string& variable);

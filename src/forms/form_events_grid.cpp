@@ -30,6 +30,10 @@ bool RowStays(const ScreenContext& context, const Form& form, const GridData& gr
     });
 }
 
+void TellRowsMoved(Form& form, const GridData& grid, const RowMoves& moves) {
+    if (grid.routines.rowsMoved != nullptr) grid.routines.rowsMoved(form, moves);
+}
+
 std::vector<int> RowsFromTo(int first, int last) {
     std::vector<int> rows;
     for (int row = first; row <= last; ++row) rows.push_back(row);
@@ -110,9 +114,10 @@ bool FormEvents::DeleteRow(Form& form, int row) {
     if (mayDelete != nullptr && !mayDelete(context_, form, row)) return true;
     if (control->grid->texts) {
         if (!CommitCell(form, *control)) return true;
-    } else if (GridDeleteRow(context_, form, row)) {
+    } else if (const auto moves = GridDeleteRow(context_, form, row)) {
         control->grid->typed.reset();  // what was being typed has gone with its row
         form.SetFieldChanged(false);
+        TellRowsMoved(form, *control->grid, *moves);
     } else {
         return true;
     }
@@ -134,15 +139,16 @@ bool FormEvents::MayShiftRows(Form& form, Control& control, int row) {
 bool FormEvents::InsertRow(Form& form, int row) {
     Control* control = FindGridWith(form, row, {});
     if (control == nullptr || !MayShiftRows(form, *control, row)) return control != nullptr;
-    const auto last = GridInsertRow(context_, form, row, control->grid->rows);
-    if (!last) {
+    const auto moves = GridInsertRow(context_, form, row, control->grid->rows);
+    if (!moves) {
         context_.calc.dialogs.ShowMessage(
             {.text = Translated("The last row of the table is filled. Delete a row first."),
              .title = Translated("Insert Row")});
         return true;
     }
     context_.act = Filled(Translated("insertion of %1 %2"), {form.type().rowName, std::to_string(row)});
-    NoteRowsWritten(form, *control, RowsFromTo(row, *last));
+    TellRowsMoved(form, *control->grid, *moves);
+    NoteRowsWritten(form, *control, RowsFromTo(row, static_cast<int>(moves->size())));
     return true;
 }
 
@@ -151,7 +157,8 @@ bool FormEvents::MoveRow(Form& form, int row, int step) {
     if (control == nullptr || FindGridWith(form, row + step, {}) == nullptr) return control != nullptr;
     if (RowStays(context_, form, *control->grid, row + step) || !MayShiftRows(form, *control, row))
         return true;
-    GridSwapRows(context_, form, row, row + step);
+    const RowMoves moves = GridSwapRows(context_, form, row, row + step, control->grid->rows);
+    TellRowsMoved(form, *control->grid, moves);
     context_.act = Filled(Translated("move of %1 %2"), {form.type().rowName, std::to_string(row)});
     NoteRowsWritten(form, *control, RowsFromTo(std::min(row, row + step), std::max(row, row + step)));
     MoveGridCursor(form, *control, row + step, control->grid->column);
@@ -176,10 +183,8 @@ void FormEvents::NoteCurrentCell(const Form& form) {
     context_.values.dim2 = form.dim2().value_or(1);
 }
 
-/// Moves the cursor by a key; Tab and Enter go on to the next row at the end of one, and leave the grid at
-/// its ends.
-/// Tab and Enter go from one cell that takes a value to the next, and out of the grid behind the last; the
-/// arrows reach every cell.
+/// Moves the cursor by a key. Tab and Enter go from one cell that takes a value to the next, and out of the
+/// grid behind the last; the arrows reach every cell.
 void FormEvents::StepCell(Form& form, Control& control, const std::string& key) {
     if (!CommitCell(form, control)) return;
     const GridData& grid = *control.grid;

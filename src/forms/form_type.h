@@ -30,6 +30,7 @@ enum class FormEvent {
     RowChanged,   // its cursor has moved to another row
     RowDeleted,
     UnitsSwitched,
+    Travelled,  // an act was undone or done again, and what the form keeps has been put back
     Unload,
 };
 

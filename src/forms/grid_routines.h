@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace kelvor {
 
@@ -15,8 +16,12 @@ struct ColumnRoutines {
     void (*write)(ScreenContext& context, Form& form, int row, const std::string& text) = nullptr;
 };
 
+/// Where the rows of a grid have gone: of each row, from 1 on, the row in which its cells stand now, and 0 if
+/// it was empty or has been deleted.
+using RowMoves = std::vector<int>;
+
 /// What a grid decides for each of its rows and cells. Null: every row may go, every cell of a column that is
-/// not computed can be edited, and no cell has a note.
+/// not computed can be edited, and no cell has a note; and nothing but cells goes with a row.
 struct GridRoutines {
     /// May this row be deleted? Asked before the user is; a refusal may tell why with a message of its own.
     bool (*mayDelete)(ScreenContext& context, Form& form, int row) = nullptr;
@@ -28,6 +33,10 @@ struct GridRoutines {
     /// What a cell has to say beside its text; empty: nothing. Asked while painting too.
     std::string (*note)(const ScreenContext& context, const Form& form, int row,
                         const GridColumn& column) = nullptr;
+
+    /// Takes along what the screen keeps of a row beside the project's cells. Called once the cells of rows
+    /// have changed places, before anything is worked out anew.
+    void (*rowsMoved)(Form& form, const RowMoves& moves) = nullptr;
 };
 
 }  // namespace kelvor

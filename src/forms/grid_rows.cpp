@@ -1,6 +1,8 @@
 #include "forms/grid_rows.h"
 
 #include <algorithm>
+#include <numeric>
+#include <utility>
 
 namespace kelvor {
 
@@ -47,20 +49,26 @@ void MoveRow(ProjectStore& store, const std::vector<ColumnCells>& columns, int f
     EmptyRow(store, columns, from);
 }
 
+/// So many rows that all stand where they stood.
+RowMoves Unmoved(int rows) {
+    RowMoves moves(static_cast<std::size_t>(rows));
+    std::iota(moves.begin(), moves.end(), 1);
+    return moves;
+}
+
 }  // namespace
 
-bool GridDeleteRow(ScreenContext& context, Form& form, int row) {
+std::optional<RowMoves> GridDeleteRow(ScreenContext& context, Form& form, int row) {
     const Answer answer = context.calc.dialogs.ShowMessage(
         {.text = "Do you want to delete this row?", .title = "Delete", .style = MessageStyle::YesNo});
-    if (answer != Answer::Yes) return false;
+    if (answer != Answer::Yes) return std::nullopt;
     context.bProjectChanged = true;
     const std::vector<ColumnCells> columns = ColumnsOf(context, form);
     EmptyRow(context.calc.store, columns, row);
-    CompactRows(context.calc.store, columns, RowsOf(context, columns));
-    return true;
+    return CompactRows(context.calc.store, columns, RowsOf(context, columns));
 }
 
-std::optional<int> GridInsertRow(ScreenContext& context, const Form& form, int row, int rows) {
+std::optional<RowMoves> GridInsertRow(ScreenContext& context, const Form& form, int row, int rows) {
     ProjectStore& store = context.calc.store;
     const std::vector<ColumnCells> inputs = ColumnsOf(context, form, false);
     int last = rows;
@@ -69,10 +77,12 @@ std::optional<int> GridInsertRow(ScreenContext& context, const Form& form, int r
     context.bProjectChanged = true;
     const std::vector<ColumnCells> columns = ColumnsOf(context, form);
     for (int from = last; from >= row; --from) MoveRow(store, columns, from, from + 1);
-    return std::max(row, last + 1);
+    RowMoves moves = Unmoved(std::max(row, last + 1));
+    for (int from = row; from <= last; ++from) moves[static_cast<std::size_t>(from - 1)] = from + 1;
+    return moves;
 }
 
-void GridSwapRows(ScreenContext& context, const Form& form, int row, int other) {
+RowMoves GridSwapRows(ScreenContext& context, const Form& form, int row, int other, int rows) {
     ProjectStore& store = context.calc.store;
     context.bProjectChanged = true;
     for (const ColumnCells& column : ColumnsOf(context, form)) {
@@ -83,15 +93,20 @@ void GridSwapRows(ScreenContext& context, const Form& form, int row, int other) 
         store.SetCell(column.variable, row, column.dim2, CellValue(*otherCell));
         store.SetCell(column.variable, other, column.dim2, value);
     }
+    RowMoves moves = Unmoved(rows);
+    std::swap(moves[static_cast<std::size_t>(row - 1)], moves[static_cast<std::size_t>(other - 1)]);
+    return moves;
 }
 
-void CompactRows(ProjectStore& store, const std::vector<ColumnCells>& columns, int rows) {
+RowMoves CompactRows(ProjectStore& store, const std::vector<ColumnCells>& columns, int rows) {
+    RowMoves moves(static_cast<std::size_t>(rows), 0);
     int next = 1;
     for (int row = 1; row <= rows; ++row) {
         if (!IsRowFilled(store, columns, row)) continue;
         if (row != next) MoveRow(store, columns, row, next);
-        ++next;
+        moves[static_cast<std::size_t>(row - 1)] = next++;
     }
+    return moves;
 }
 
 }  // namespace kelvor

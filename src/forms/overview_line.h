@@ -8,7 +8,8 @@ namespace kelvor {
 
 /// A result of a screen, as the screen shows it in the active units.
 struct OverviewResult {
-    std::string name;  // of its variable
+    std::string name;   // of its variable
+    std::string title;  // what it is called
     std::string text;
     std::string unit;
 };

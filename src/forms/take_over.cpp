@@ -1,7 +1,6 @@
 #include "forms/take_over.h"
 
 #include "calc/ignore_faults.h"
-#include "platform/number_picture.h"
 #include "platform/text.h"
 
 namespace kelvor {
@@ -11,13 +10,11 @@ namespace {
 constexpr const char* kArrow = "\u2191 ";  // the value goes to the field above
 
 std::string ShownText(const ScreenContext& context, const TakeOver& source) {
-    const Variable* variable = context.catalogue.FindVariable(source.variable);
     std::string text;
-    if (variable == nullptr || !context.calc.store.IsOpen()) return text;
+    if (!context.calc.store.IsOpen()) return text;
     IgnoreFaults([&] {
         const auto value = source.value(context.calc);
-        if (!value) return;
-        text = FormatNumber((*value * context.units.UnitFactor(variable->units)).value(), variable->format);
+        if (value) text = context.units.DisplayNumber(source.variable, value->value());
     });
     return text;
 }

@@ -2,13 +2,16 @@
 
 #include <fmt/chrono.h>
 #include <fmt/format.h>
+#include <time.h>  // NOLINT(modernize-deprecated-headers): clock_gettime
 
 #include <chrono>
 
 namespace kelvor {
 
 double SystemClock::SteadySeconds() {
-    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
+    timespec time{};
+    ::clock_gettime(CLOCK_MONOTONIC_COARSE, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
 }
 
 std::string SystemClock::Timestamp() {

@@ -12,7 +12,7 @@ class Clock {
     Clock& operator=(const Clock&) = delete;
     virtual ~Clock() = default;
 
-    /// Seconds since some fixed moment; never goes back.
+    /// Seconds since some fixed moment, to a hundredth; never goes back. Asked often, so it must cost little.
     virtual double SteadySeconds() = 0;
 
     /// The date and time of day, UTC, as "2001-02-03 04:05:06.789": text order is order in time.

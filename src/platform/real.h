@@ -50,17 +50,29 @@ class Real {
 /// The natural logarithm of 10. Every common logarithm is a natural one divided by it.
 inline constexpr double Ln10 = std::numbers::ln10;
 
+/// A result of the mathematical library; a fault if no double holds it.
+inline Real Finite(double result, const char* operation) {
+    if (!std::isfinite(result)) RaiseArithmeticFault(operation);
+    return result;
+}
+
 /// Natural logarithm; a fault for zero and below.
-Real Log(Real x);
+inline Real Log(Real x) {
+    if (x.value() <= 0.0) RaiseArithmeticFault("logarithm");
+    return Finite(std::log(x.value()), "logarithm");
+}
 
 /// e to the power x; a fault on overflow.
-Real Exp(Real x);
+inline Real Exp(Real x) { return Finite(std::exp(x.value()), "exponential"); }
 
 /// base ^ exponent. Zero to a negative power and a negative base with a broken exponent are faults; a
 /// negative base with a whole exponent and 0 ^ 0 = 1 are not.
-Real Pow(Real base, Real exponent);
+inline Real Pow(Real base, Real exponent) {
+    return Finite(std::pow(base.value(), exponent.value()), "power");
+}
 
-Real Floor(Real x);
-Real Abs(Real x);
+inline Real Floor(Real x) { return std::floor(x.value()); }
+
+inline Real Abs(Real x) { return std::fabs(x.value()); }
 
 }  // namespace kelvor

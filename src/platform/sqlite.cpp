@@ -87,6 +87,25 @@ void CheckTable(SQLite::Statement& query, const TableShape& shape) {
     if (count != shape.columns.size()) throw DatabaseError("table " + name + " lacks columns", false);
 }
 
+/// The tables that are not made by the statement that their shape gives, if it gives one. Whatever does not
+/// belong there is refused.
+std::vector<TableShape> UnknownTables(SQLite::Database& database, std::vector<TableShape> tables, bool only) {
+    SQLite::Statement schema(database, "SELECT type, name, sql FROM sqlite_schema");
+    while (schema.executeStep()) {
+        const std::string type = schema.getColumn(0);
+        const std::string name = schema.getColumn(1);
+        const std::string statement = schema.getColumn(2);
+        const auto known = std::find_if(tables.begin(), tables.end(), [&](const TableShape& table) {
+            return EqualNoCase(table.name, name);
+        });
+        const bool belongs = known != tables.end() && type == "table";
+        if (type == "trigger" || type == "view" || (only && !belongs)) Refuse(type, name);
+        if (belongs && statement == known->statement) known->columns.clear();
+    }
+    std::erase_if(tables, [](const TableShape& table) { return table.columns.empty(); });
+    return tables;
+}
+
 const char* const kVisitFunction = "visit_row";
 
 /// What is done with each row, and the exception that ended it: SQLite knows none, so it must not pass there.
@@ -173,16 +192,21 @@ void LiftStatementLimit(SQLite::Database& database) {
     sqlite3_progress_handler(database.getHandle(), 0, nullptr, nullptr);
 }
 
-void CheckRowCount(SQLite::Database& database, std::string_view table, std::int64_t most) {
-    const std::string name(table);
+void CheckRowCounts(SQLite::Database& database, const std::vector<std::string_view>& tables,
+                    std::int64_t most) {
+    // Of the tables themselves, as an index of a damaged one may have other rows.
+    std::string query;
+    for (const std::string_view table : tables) {
+        const std::string name(table);
+        query += query.empty() ? "" : " UNION ALL ";
+        query += "SELECT '" + name + "' WHERE EXISTS (SELECT 1 FROM \"" + name +
+                 "\" NOT INDEXED LIMIT 1 OFFSET ?1)";
+    }
     try {
-        // Of the table itself, as an index of a damaged one may have other rows.
-        SQLite::Statement count(database,
-                                "SELECT count(*) FROM (SELECT 1 FROM \"" + name + "\" NOT INDEXED LIMIT ?)");
-        count.bind(1, most + 1);
-        count.executeStep();
-        if (count.getColumn(0).getInt64() > most) {
-            throw DatabaseError("table " + name + " has too many rows", false);
+        SQLite::Statement tooLarge(database, query);
+        tooLarge.bind(1, most);
+        if (tooLarge.executeStep()) {
+            throw DatabaseError("table " + tooLarge.getColumn(0).getString() + " has too many rows", false);
         }
     } catch (const SQLite::Exception& failure) {
         throw ToDatabaseError(failure);
@@ -192,20 +216,10 @@ void CheckRowCount(SQLite::Database& database, std::string_view table, std::int6
 void CheckShape(SQLite::Database& database, const std::vector<TableShape>& tables, bool only) {
     try {
         SQLite::Transaction reading(database);  // one, so that the file is not locked for each query
-        SQLite::Statement schema(database, "SELECT type, name FROM sqlite_schema");
-        while (schema.executeStep()) {
-            const std::string type = schema.getColumn(0);
-            const std::string name = schema.getColumn(1);
-            const bool known = std::any_of(tables.begin(), tables.end(), [&](const TableShape& table) {
-                return EqualNoCase(table.name, name);
-            });
-            if (type == "trigger" || type == "view" || (only && !(known && type == "table"))) {
-                Refuse(type, name);
-            }
-        }
+        const std::vector<TableShape> unknown = UnknownTables(database, tables, only);
         // The plain table_info keeps quiet about computed columns.
         SQLite::Statement columns(database, "SELECT name, hidden FROM pragma_table_xinfo(?)");
-        for (const TableShape& table : tables) CheckTable(columns, table);
+        for (const TableShape& table : unknown) CheckTable(columns, table);
         reading.commit();
     } catch (const SQLite::Exception& failure) {
         throw ToDatabaseError(failure);

@@ -22,6 +22,7 @@ enum class DatabaseAccess { ReadOnly, ReadWrite };
 struct TableShape {
     std::string_view name;
     std::vector<std::string_view> columns;
+    std::string statement = {};  // that made it, if it is known: such a table needs no look at its columns
 };
 
 /// Opens an existing database that may come from anywhere: no extension, trigger or view of it ever
@@ -34,8 +35,9 @@ SQLite::Database OpenDatabase(const Path& path, DatabaseAccess access);
 /// is made that is used again and again: SQLite counts the steps of all its uses together.
 void LiftStatementLimit(SQLite::Database& database);
 
-/// Throws DatabaseError if a table has more rows than `most`; it counts no further.
-void CheckRowCount(SQLite::Database& database, std::string_view table, std::int64_t most);
+/// Throws DatabaseError if one of the tables has more rows than `most`; it counts no further.
+void CheckRowCounts(SQLite::Database& database, const std::vector<std::string_view>& tables,
+                    std::int64_t most);
 
 /// Checks that the tables are there with their columns. With `only`, nothing else may stand in the
 /// database; in any case it may hold no trigger and no view. Throws DatabaseError with the reason.

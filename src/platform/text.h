@@ -30,23 +30,41 @@ bool Like(std::string_view text, std::string_view pattern);
 struct NameHash {
     using is_transparent = void;
     std::size_t operator()(std::string_view name) const {
-        std::uint64_t hash = name.size();
-        while (name.size() > kWord) {
-            hash = Mix(hash, TakeWord(name, kWord));
-            name.remove_prefix(kWord);
-        }
-        return static_cast<std::size_t>(Mix(hash, TakeWord(name, name.size())));
+        const char* const letters = name.data();
+        const std::size_t size = name.size();
+        std::uint64_t hash = size;
+        if (size <= kWord) return static_cast<std::size_t>(Mix(hash, ShortWord(letters, size)));
+        for (std::size_t place = 0; place + kWord < size; place += kWord)
+            hash = Mix(hash, Word(letters + place));
+        return static_cast<std::size_t>(Mix(hash, Word(letters + size - kWord)));
     }
 
   private:
     static constexpr std::size_t kWord = sizeof(std::uint64_t);
+    static constexpr std::size_t kHalf = sizeof(std::uint32_t);
 
-    /// The first letters as a number. The bit in which a letter's cases differ is set in each, also in what
-    /// is no letter, which at worst gives two names one hash.
-    static std::uint64_t TakeWord(std::string_view name, std::size_t count) {
-        constexpr std::uint64_t kCaseBits = 0x2020202020202020ULL;
+    /// The bit in which a letter's cases differ is set in each, also in what is no letter, which at worst
+    /// gives two names one hash.
+    static constexpr std::uint64_t kCaseBits = 0x2020202020202020ULL;
+
+    /// Eight letters as a number.
+    static std::uint64_t Word(const char* letters) {
         std::uint64_t word = 0;
-        if (count > 0) std::memcpy(&word, name.data(), count);
+        std::memcpy(&word, letters, kWord);
+        return word | kCaseBits;
+    }
+
+    /// As many letters as there are, up to eight; some of four or more twice.
+    static std::uint64_t ShortWord(const char* letters, std::size_t size) {
+        if (size >= kHalf) {
+            std::uint32_t first = 0;
+            std::uint32_t last = 0;
+            std::memcpy(&first, letters, kHalf);
+            std::memcpy(&last, letters + size - kHalf, kHalf);
+            return (std::uint64_t{first} << 32U | last) | kCaseBits;
+        }
+        std::uint64_t word = 0;
+        for (std::size_t i = 0; i < size; ++i) word = word << 8U | static_cast<unsigned char>(letters[i]);
         return word | kCaseBits;
     }
 

@@ -7,6 +7,7 @@
 #include "forms/equation_lines.h"
 #include "forms/form_builder.h"
 #include "lcc/calc/cost_summary.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -32,7 +33,10 @@ const std::vector<OverviewScreen>& Screens() {
         {"OvUP", {"UBOLDEPTH"}, {"UBOLFJCU"}},
         {"OvWT", {"WTDEPTH"}, {}},
         {"TrAx", {"RIGE18", "FLEXE18"}, {"AxleWeight", "NumOfAxles"}},
-        {"TrVe", {"RIGE18", "FLEXE18"}, {"AW52", "AW55", "AW58", "NA53", "NA56"}},
+        {"TrVe", {"RIGE18", "FLEXE18"}, {"NA53", "NA56", "NA59", "NA62", "NA65", "NA70", "AW51",
+                                         "AW52", "AW53", "AW54", "AW55", "AW56", "AW57", "AW58",
+                                         "AW59", "AW60", "AW61", "AW62", "AW63", "AW64", "AW65",
+                                         "AW66", "AW67", "AW68", "AW69", "AW70"}},
         {"TrTr", {"RIGE18", "FLEXE18"}, {"TrInADTT", "TrInADT", "TrInPerTruck"}},
         {"ReDfF", {"AVGNDTRM", "AVGNDTEFFEP"}, {}},
         {"ReDfR", {"AVGSTATK", "AVGNDTE"}, {}},
@@ -44,6 +48,7 @@ const std::vector<OverviewScreen>& Screens() {
 /// The comparison of costs keeps no results in the project: they are worked out.
 constexpr const char* kCostScreen = "LcS";
 const std::vector<std::string_view> kCostInputs = {"InitialItemCost", "RehabItemCost", "MaintItemCost"};
+constexpr std::string_view kCostPages[] = {"LcA1", "LcA1_2", "LcA1_3", "LcA1_4", "EcFa"};
 
 /// ESALs are on the screens of the designs too: on a route to them they tell nothing of the route.
 bool IsShared(std::string_view variable) { return variable == "RIGE18" || variable == "FLEXE18"; }
@@ -66,26 +71,38 @@ bool AnyCounts(const ProcessState& state, const std::vector<std::string_view>& v
     });
 }
 
+/// As in the catalogue, which calls both of the ESALs that the designs ask for alike.
+std::string TitleOf(const ProcessState& state, std::string_view variable) {
+    if (variable == "RIGE18") return Translated("Rigid ESAL");
+    if (variable == "FLEXE18") return Translated("Flexible ESAL");
+    const Variable* known = state.dbCatalogue->FindVariable(variable);
+    return known == nullptr || known->desc.empty() ? std::string(variable) : known->desc;
+}
+
 OverviewResult ResultOf(const ProcessState& state, std::string_view variable) {
     const std::string unit = state.units->UnitLabel(variable);
-    return {std::string(variable), state.units->GetDisplayValue(variable), IsNoUnit(unit) ? "" : unit};
+    return {std::string(variable), TitleOf(state, variable), state.units->GetDisplayValue(variable),
+            IsNoUnit(unit) ? "" : unit};
 }
 
 std::vector<OverviewResult> CostResults(ProcessState& state) {
     CostSummary summary;
     bool complete = true;
     ComputeCostSummary(state.MakeCalcContext(), summary, [&](const ArithmeticFault&) { complete = false; });
-    std::vector<OverviewResult> results;
-    for (const auto& [name, costs] :
-         {std::pair("EUACA", &summary.pavements[0]), std::pair("EUACB", &summary.pavements[1])}) {
-        results.push_back({name, complete ? FormatWhole(costs->euac) : "", ""});
-    }
-    return results;
+    const auto text = [&](std::size_t pavement) {
+        return complete ? FormatWhole(summary.pavements.at(pavement).euac) : std::string();
+    };
+    return {{"EUACA", Translated("EUAC, Pavement (A)"), text(0), ""},
+            {"EUACB", Translated("EUAC, Pavement (B)"), text(1), ""}};
 }
 
 /// When one of a screen's variables was changed last, counted in events; 0: not since the project was opened.
-int LastChange(const ProcessState& state, const std::string& screen) {
+/// What is compared of costs stands on screens of its own.
+int LastChange(const ProcessState& state, std::string_view screen) {
     int last = 0;
+    if (screen == kCostScreen) {
+        for (const std::string_view page : kCostPages) last = std::max(last, LastChange(state, page));
+    }
     for (const Field* field : state.dbCatalogue->FieldsOfScreen(screen)) {
         const auto found = state.changes.find(field->name);
         if (found != state.changes.end()) last = std::max(last, found->second);

@@ -366,6 +366,7 @@ bool ProjectFiles::IsWorkCopy(const std::string& path) const {
 
 /// A sample stays as it is: what is opened is a copy without a name.
 bool ProjectFiles::IsSample(const std::string& path) const {
+    if (path.empty()) return false;
     const FileSystem& files = state_.host.files;
     return files.Resolve(Path(FullPath(path)).parent_path()) == files.Resolve(state_.home.SamplesFolder());
 }

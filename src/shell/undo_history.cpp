@@ -55,6 +55,15 @@ ControlLook LookOf(const Control& control) {
             control.visible, control.locked,    control.value,     control.bold};
 }
 
+/// Without a copy of either: most controls look after an event as they did before it.
+bool LooksAlike(const Control& a, const Control& b) {
+    const auto parts = [](const Control& control) {
+        return std::tie(control.text, control.backColor, control.foreColor, control.enabled, control.visible,
+                        control.locked, control.value, control.bold);
+    };
+    return parts(a) == parts(b);
+}
+
 /// A box and a unit show what the cells and the unit system say.
 bool ShowsItsOwnText(const Control& control) {
     const bool unit = control.kind == ControlKind::Label && control.tag.starts_with('u');
@@ -62,7 +71,7 @@ bool ShowsItsOwnText(const Control& control) {
 }
 
 void TakeOn(Control& control, const ControlLook& look) {
-    if (ShowsItsOwnText(control)) control.text = look.text;
+    if (ShowsItsOwnText(control) || control.travels) control.text = look.text;
     control.backColor = look.backColor;
     control.foreColor = look.foreColor;
     control.enabled = look.enabled;
@@ -76,9 +85,9 @@ FormLook Compare(const Form& form, const Form::Image& before) {
     FormLook look{form.name(), form.dim2(), before.state.equations, form.equations, {}};
     const std::size_t count = std::min(before.controls.size(), form.controls().size());
     for (std::size_t i = 0; i < count; ++i) {
-        ControlLook then = LookOf(before.controls[i]);
-        ControlLook now = LookOf(*form.controls()[i]);
-        if (!(then == now)) look.controls.push_back({i, std::move(then), std::move(now)});
+        const Control& then = before.controls[i];
+        const Control& now = *form.controls()[i];
+        if (!LooksAlike(then, now)) look.controls.push_back({i, LookOf(then), LookOf(now)});
     }
     return look;
 }
@@ -296,6 +305,8 @@ void UndoHistory::Travel(ProcessState& state, const UndoStep& step, Way way) {
     state.balance = back ? step.balanceBefore : step.balanceAfter;
     indicators.PutBack(context.forms);
     TakeOnLooks(context.forms, step.looks, back);
+    for (Form* form : std::vector<Form*>(context.forms.InOpeningOrder()))
+        FormEvents(context).AfterTravel(*form);
     state.bProjectChanged = true;
     if (metric != ended) {  // the user has changed the unit system since, and keeps it
         state.units->SetMetric(metric);

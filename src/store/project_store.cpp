@@ -2,8 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <tuple>
-#include <unordered_set>
+#include <set>
 #include <utility>
 
 #include "platform/database_error.h"
@@ -76,34 +75,31 @@ bool ProjectStore::LoadByBounds(const std::vector<CellBounds>& bounds) {
     LayOut(bounds);
     bool within = true;
     workCopy_->ReadFilledRows([&](const WorkCopy::Row& row) {
-        const auto index = Index(row.name, row.dim1, row.dim2);
-        if (index) cells_[*index].value = row.value;
-        within = within && index;
+        const auto place = FindPlace(row.name, row.dim1, row.dim2);
+        if (place) variables_[place->variable].Touch(place->cell).value = row.value;
+        within = within && place;
     });
     if (!within) ForgetCells();
     return within;
 }
 
 void ProjectStore::LayOut(const std::vector<CellBounds>& bounds) {
-    cells_.reserve(CountCells(bounds));
     variables_.reserve(bounds.size());
-    byName_.reserve(bounds.size());
-    for (const CellBounds& variable : bounds) {
-        AddVariable(variable.name);
-        for (int dim1 = 1; dim1 <= variable.dim1; ++dim1) {
-            for (int dim2 = 1; dim2 <= variable.dim2; ++dim2) AppendCell(dim1, dim2);
-        }
-        variables_.back().width = variable.dim2;
+    byName_.Reserve(bounds.size());
+    for (const CellBounds& declared : bounds) {
+        Variable& variable = AddVariable(declared.name);
+        variable.count =
+            static_cast<std::uint32_t>(declared.dim1) * static_cast<std::uint32_t>(declared.dim2);
+        variable.width = declared.dim2;
     }
 }
 
 void ProjectStore::LoadByRows(const std::vector<CellBounds>& bounds) {
-    cells_.reserve(std::min(CountCells(bounds), kUsualCells));  // a damaged catalogue may ask for any number
     variables_.reserve(bounds.size());
-    byName_.reserve(bounds.size());
+    byName_.Reserve(bounds.size());
     workCopy_->ReadRows(
         [this](const WorkCopy::Row& row) { AddCell(row.name, row.dim1, row.dim2, row.value); });
-    MarkBlocks();
+    for (Variable& variable : variables_) variable.MarkBlock();
     for (const CellBounds& variable : bounds) CheckBounds(variable);
 }
 
@@ -111,48 +107,28 @@ void ProjectStore::AddCell(std::string_view name, int dim1, int dim2, const Cell
     // The rows come in key order, so a variable's cells follow each other. In a damaged work copy that has
     // them in another order no change would find its row.
     const int order = variables_.empty() ? 1 : CompareNames(name, variables_.back().name);
-    if (order < 0 ||
-        (order == 0 && std::pair(dim1, dim2) <= std::pair(cells_.back().dim1, cells_.back().dim2))) {
+    const std::pair subscripts(dim1, dim2);
+    if (order < 0 || (order == 0 && subscripts <= variables_.back().subscripts.back())) {
         throw DatabaseError("rows out of order", false);
     }
-    if (order > 0) AddVariable(name);
-    Cell& cell = AppendCell(dim1, dim2);
-    if (value.IsFilled()) cell.value = value;
+    Variable& variable = order > 0 ? AddVariable(name) : variables_.back();
+    ++variable.count;
+    variable.subscripts.push_back(subscripts);
+    variable.cells.emplace_back();
+    if (value.IsFilled()) variable.cells.back().value = value;
 }
 
-void ProjectStore::AddVariable(std::string_view name) {
-    byName_.emplace(name, static_cast<std::uint32_t>(variables_.size()));
-    variables_.push_back({std::string(name), static_cast<std::uint32_t>(cells_.size()), 0, 0});
-}
-
-ProjectStore::Cell& ProjectStore::AppendCell(int dim1, int dim2) {
-    ++variables_.back().count;
-    Cell& cell = cells_.emplace_back();
-    cell.variable = static_cast<std::uint32_t>(variables_.size() - 1);
-    cell.dim1 = dim1;
-    cell.dim2 = dim2;
-    return cell;
-}
-
-void ProjectStore::MarkBlocks() {
-    for (Variable& variable : variables_) {
-        const int width = cells_[variable.first + variable.count - 1].dim2;
-        std::pair<int, int> expected(1, 1);
-        bool full = true;
-        for (std::uint32_t i = 0; full && i < variable.count; ++i) {
-            const Cell& cell = cells_[variable.first + i];
-            full = std::pair(cell.dim1, cell.dim2) == expected;
-            expected = cell.dim2 < width ? std::pair(cell.dim1, cell.dim2 + 1) : std::pair(cell.dim1 + 1, 1);
-        }
-        variable.width = full ? width : 0;
-    }
+ProjectStore::Variable& ProjectStore::AddVariable(std::string_view name) {
+    byName_.Add(name);
+    variables_.emplace_back().name = name;
+    return variables_.back();
 }
 
 void ProjectStore::CheckBounds(const CellBounds& bounds) const {
     const Variable* variable = FindVariable(bounds.name);
     for (int dim1 = 1; dim1 <= bounds.dim1; ++dim1) {
         for (int dim2 = 1; dim2 <= bounds.dim2; ++dim2) {
-            if (variable == nullptr || !Index(*variable, dim1, dim2)) {
+            if (variable == nullptr || !variable->PlaceOf(dim1, dim2)) {
                 throw DatabaseError("cell " + CellText(bounds.name, dim1, dim2) + " is missing", false);
             }
         }
@@ -180,49 +156,84 @@ void ProjectStore::Forget() noexcept {
 }
 
 void ProjectStore::ForgetCells() noexcept {
-    cells_.clear();
     variables_.clear();
-    byName_.clear();
+    byName_.Clear();
 }
 
 // --- Finding -------------------------------------------------------------------------------------
 
-const ProjectStore::Variable* ProjectStore::FindVariable(std::string_view name) const {
-    ++readCount_;
-    const auto found = byName_.find(name);
-    return found == byName_.end() ? nullptr : &variables_[found->second];
+std::pair<int, int> ProjectStore::Variable::SubscriptsOf(std::uint32_t place) const {
+    if (width == 0) return subscripts[place];
+    const auto number = static_cast<int>(place);
+    return {number / width + 1, number % width + 1};
 }
 
-std::optional<std::uint32_t> ProjectStore::Index(std::string_view name, int dim1, int dim2) const {
-    const Variable* variable = FindVariable(name);
-    return variable == nullptr ? std::nullopt : Index(*variable, dim1, dim2);
-}
-
-std::optional<std::uint32_t> ProjectStore::Index(const Variable& variable, int dim1, int dim2) const {
+std::optional<std::uint32_t> ProjectStore::Variable::PlaceOf(int dim1, int dim2) const {
     if (dim1 < 1 || dim2 < 1) return std::nullopt;
-    if (variable.width > 0) {
-        const std::int64_t place = std::int64_t{dim1 - 1} * variable.width + dim2 - 1;
-        if (dim2 > variable.width || place >= variable.count) return std::nullopt;
-        return variable.first + static_cast<std::uint32_t>(place);
+    if (width > 0) {
+        const std::int64_t place = std::int64_t{dim1 - 1} * width + dim2 - 1;
+        if (dim2 > width || place >= count) return std::nullopt;
+        return static_cast<std::uint32_t>(place);
     }
-    const auto begin = cells_.begin() + variable.first;
-    const auto end = begin + variable.count;
-    const auto cell = std::lower_bound(
-        begin, end, std::pair(dim1, dim2),
-        [](const Cell& c, const std::pair<int, int>& key) { return std::pair(c.dim1, c.dim2) < key; });
-    if (cell == end || cell->dim1 != dim1 || cell->dim2 != dim2) return std::nullopt;
-    return static_cast<std::uint32_t>(cell - cells_.begin());
+    const auto found = std::lower_bound(subscripts.begin(), subscripts.end(), std::pair(dim1, dim2));
+    if (found == subscripts.end() || *found != std::pair(dim1, dim2)) return std::nullopt;
+    return static_cast<std::uint32_t>(found - subscripts.begin());
 }
 
-std::uint32_t ProjectStore::RequireIndex(std::string_view name, int dim1, int dim2) const {
-    const auto index = Index(name, dim1, dim2);
-    if (!index) throw ProgramStop("no cell " + CellText(name, dim1, dim2));
-    return *index;
+const StoredCell& ProjectStore::Variable::At(std::uint32_t place) const {
+    static const StoredCell kEmpty;
+    return cells.empty() ? kEmpty : cells[place];
+}
+
+StoredCell& ProjectStore::Variable::Touch(std::uint32_t place) {
+    if (cells.empty()) cells.resize(count);
+    return cells[place];
+}
+
+void ProjectStore::Variable::MarkBlock() {
+    const int last = subscripts.back().second;
+    std::pair<int, int> expected(1, 1);
+    for (const auto& [dim1, dim2] : subscripts) {
+        if (std::pair(dim1, dim2) != expected) return;
+        expected = dim2 < last ? std::pair(dim1, dim2 + 1) : std::pair(dim1 + 1, 1);
+    }
+    width = last;
+    subscripts.clear();
+}
+
+std::optional<std::uint32_t> ProjectStore::FindName(std::string_view name) const {
+    ++readCount_;
+    return byName_.Find(
+        name, [this](std::uint32_t variable) -> const std::string& { return variables_[variable].name; });
+}
+
+const ProjectStore::Variable* ProjectStore::FindVariable(std::string_view name) const {
+    const auto index = FindName(name);
+    return index ? &variables_[*index] : nullptr;
+}
+
+std::optional<ProjectStore::Place> ProjectStore::FindPlace(std::string_view name, int dim1, int dim2) const {
+    const auto variable = FindName(name);
+    if (!variable) return std::nullopt;
+    const auto cell = variables_[*variable].PlaceOf(dim1, dim2);
+    return cell ? std::optional(Place{*variable, *cell}) : std::nullopt;
+}
+
+ProjectStore::Place ProjectStore::RequirePlace(std::string_view name, int dim1, int dim2) const {
+    const auto place = FindPlace(name, dim1, dim2);
+    if (!place) throw ProgramStop("no cell " + CellText(name, dim1, dim2));
+    return *place;
+}
+
+CellKey ProjectStore::KeyOf(Place place) const {
+    const Variable& variable = variables_[place.variable];
+    const auto [dim1, dim2] = variable.SubscriptsOf(place.cell);
+    return {variable.name, dim1, dim2};
 }
 
 const CellValue* ProjectStore::FindCell(std::string_view name, int dim1, int dim2) const {
-    const auto index = Index(name, dim1, dim2);
-    return index ? &cells_[*index].value : nullptr;
+    const auto place = FindPlace(name, dim1, dim2);
+    return place ? &At(*place).value : nullptr;
 }
 
 std::string_view ProjectStore::CanonicalName(std::string_view name) const {
@@ -230,23 +241,23 @@ std::string_view ProjectStore::CanonicalName(std::string_view name) const {
     return variable == nullptr ? std::string_view{} : std::string_view(variable->name);
 }
 
-CellHandle ProjectStore::Resolve(std::string_view name, int dim1, int dim2) const {
-    return CellHandle(RequireIndex(name, dim1, dim2));
+Real ProjectStore::GetVarDim(std::string_view name, int dim1, int dim2) const {
+    return At(RequirePlace(name, dim1, dim2)).value.number.value_or(0.0);
 }
 
-Real ProjectStore::GetVarDim(std::string_view name, int dim1, int dim2) const {
-    return cells_[RequireIndex(name, dim1, dim2)].value.number.value_or(0.0);
+std::optional<Real> ProjectStore::FindNumber(std::string_view name, int dim1, int dim2) const {
+    const auto& number = At(RequirePlace(name, dim1, dim2)).value.number;
+    return number ? std::optional(Real(*number)) : std::nullopt;
 }
 
 // --- Writing -------------------------------------------------------------------------------------
 
 void ProjectStore::SetVar(std::string_view name, Real value) {
-    if (const auto index = Index(name, 1, 1)) Store(*index, {value.value(), cells_[*index].value.text});
+    if (const auto place = FindPlace(name, 1, 1)) StoreNumber(*place, value);
 }
 
 void ProjectStore::SetVarDim(std::string_view name, int dim1, int dim2, Real value) {
-    const std::uint32_t index = RequireIndex(name, dim1, dim2);
-    Store(index, {value.value(), cells_[index].value.text});
+    StoreNumber(RequirePlace(name, dim1, dim2), value);
 }
 
 void ProjectStore::SetVarText(std::string_view name, std::string_view text) {
@@ -254,31 +265,34 @@ void ProjectStore::SetVarText(std::string_view name, std::string_view text) {
 }
 
 void ProjectStore::SetCell(std::string_view name, int dim1, int dim2, CellValue value) {
-    if (const auto index = Index(name, dim1, dim2)) Store(*index, std::move(value));
+    if (const auto place = FindPlace(name, dim1, dim2)) Store(*place, std::move(value));
 }
 
-void ProjectStore::SetNumber(CellHandle cell, Real value) {
-    Store(cell.index_, {value.value(), cells_[cell.index_].value.text});
+void ProjectStore::StoreNumber(Place place, Real number) {
+    const CellValue& former = At(place).value;
+    if (former.number == number.value()) return;
+    Store(place, {number.value(), former.text});
 }
 
-void ProjectStore::Store(std::uint32_t index, CellValue value) {
+void ProjectStore::Store(Place place, CellValue value) {
     if (value.number && !std::isfinite(*value.number)) RaiseArithmeticFault("a number to be stored");
     if (value.number == 0.0) value.number = 0.0;  // a zero has no sign
-    Cell& cell = cells_[index];
-    if (cell.value == value) return;
+    if (At(place).value == value) return;
+    StoredCell& cell = variables_[place.variable].Touch(place.cell);
     CellValue former = std::exchange(cell.value, std::move(value));
-    if (inEvent_) formers_.push_back({index, std::move(former), cell.unwritten});
-    WriteThrough(index);
+    if (inEvent_) formers_.push_back({place, std::move(former), cell.unwritten});
+    WriteThrough(place, cell);
 }
 
-void ProjectStore::WriteThrough(std::uint32_t index) {
-    Cell& cell = cells_[index];
+void ProjectStore::WriteThrough(Place place, StoredCell& cell) {
     try {
         if (inEvent_ && !inTransaction_) {
             workCopy_->Begin();
             inTransaction_ = true;
         }
-        workCopy_->Update(variables_[cell.variable].name, cell.dim1, cell.dim2, cell.value);
+        const Variable& variable = variables_[place.variable];
+        const auto [dim1, dim2] = variable.SubscriptsOf(place.cell);
+        workCopy_->Update(variable.name, dim1, dim2, cell.value);
         cell.unwritten = false;
     } catch (const DatabaseError&) {
         cell.unwritten = true;  // kept in memory; Close writes it or reports
@@ -301,12 +315,12 @@ void ProjectStore::EndEvent() {
 
 std::vector<CellChange> ProjectStore::EventChanges() const {
     std::vector<CellChange> changes;
-    std::unordered_set<std::uint32_t> seen;
+    changes.reserve(formers_.size());
+    std::set<Place> seen;
     for (const Former& former : formers_) {
-        if (!seen.insert(former.index).second) continue;
-        const Cell& cell = cells_[former.index];
-        if (cell.value == former.value) continue;
-        changes.push_back({{variables_[cell.variable].name, cell.dim1, cell.dim2}, former.value, cell.value});
+        if (formers_.size() > 1 && !seen.insert(former.place).second) continue;
+        const CellValue& value = At(former.place).value;
+        if (value != former.value) changes.push_back({KeyOf(former.place), former.value, value});
     }
     return changes;
 }
@@ -315,8 +329,9 @@ void ProjectStore::UndoEvent() noexcept {
     inEvent_ = false;
     // The last write goes first, as a cell may have been written more than once.
     for (auto former = formers_.rbegin(); former != formers_.rend(); ++former) {
-        cells_[former->index].value = std::move(former->value);
-        cells_[former->index].unwritten = former->unwritten;
+        StoredCell& cell = variables_[former->place.variable].cells[former->place.cell];
+        cell.value = std::move(former->value);
+        cell.unwritten = former->unwritten;
     }
     // A transaction that a failure had ended before may have left some of the writes behind.
     if (std::exchange(inTransaction_, false) && !workCopy_->Rollback()) MarkUnwritten();
@@ -325,14 +340,20 @@ void ProjectStore::UndoEvent() noexcept {
 
 /// The work copy is not known to have what the memory holds of the open event's cells.
 void ProjectStore::MarkUnwritten() noexcept {
-    for (const Former& former : formers_) cells_[former.index].unwritten = true;
+    for (const auto& [place, value, unwritten] : formers_) {
+        variables_[place.variable].cells[place.cell].unwritten = true;
+    }
 }
 
 void ProjectStore::WriteUnwritten() {
-    for (Cell& cell : cells_) {
-        if (!cell.unwritten) continue;
-        workCopy_->Update(variables_[cell.variable].name, cell.dim1, cell.dim2, cell.value);
-        cell.unwritten = false;
+    for (Variable& variable : variables_) {
+        for (std::uint32_t place = 0; place < variable.cells.size(); ++place) {
+            StoredCell& cell = variable.cells[place];
+            if (!cell.unwritten) continue;
+            const auto [dim1, dim2] = variable.SubscriptsOf(place);
+            workCopy_->Update(variable.name, dim1, dim2, cell.value);
+            cell.unwritten = false;
+        }
     }
 }
 
@@ -342,10 +363,10 @@ std::optional<Real> ProjectStore::SQLSum(std::string_view name, std::optional<in
     const Variable* variable = FindVariable(name);
     if (variable == nullptr) return std::nullopt;
     std::optional<Real> sum;
-    for (std::uint32_t i = variable->first; i < variable->first + variable->count; ++i) {
-        const Cell& cell = cells_[i];
-        if (!cell.value.number || (dim2 && cell.dim2 != *dim2)) continue;
-        sum = sum.value_or(0.0) + *cell.value.number;
+    for (std::uint32_t place = 0; place < variable->cells.size(); ++place) {
+        const auto& number = variable->cells[place].value.number;
+        if (number && (!dim2 || variable->SubscriptsOf(place).second == *dim2))
+            sum = sum.value_or(0.0) + *number;
     }
     return sum;
 }
@@ -353,15 +374,20 @@ std::optional<Real> ProjectStore::SQLSum(std::string_view name, std::optional<in
 int ProjectStore::SQLCount(std::string_view name, std::optional<int> dim2) const {
     const Variable* variable = FindVariable(name);
     if (variable == nullptr) return 0;
-    const auto begin = cells_.begin() + variable->first;
-    return static_cast<int>(std::count_if(begin, begin + variable->count, [&](const Cell& cell) {
-        return cell.value.number.has_value() && (!dim2 || cell.dim2 == *dim2);
-    }));
+    int count = 0;
+    for (std::uint32_t place = 0; place < variable->cells.size(); ++place) {
+        const bool counts = !dim2 || variable->SubscriptsOf(place).second == *dim2;
+        if (counts && variable->cells[place].value.number) ++count;
+    }
+    return count;
 }
 
 void ProjectStore::ForEachFilled(const std::function<void(const CellKey&, const CellValue&)>& visit) const {
-    for (const Cell& cell : cells_) {
-        if (cell.value.IsFilled()) visit({variables_[cell.variable].name, cell.dim1, cell.dim2}, cell.value);
+    for (std::uint32_t variable = 0; variable < variables_.size(); ++variable) {
+        const std::vector<StoredCell>& cells = variables_[variable].cells;
+        for (std::uint32_t place = 0; place < cells.size(); ++place) {
+            if (cells[place].value.IsFilled()) visit(KeyOf({variable, place}), cells[place].value);
+        }
     }
 }
 
@@ -374,7 +400,9 @@ std::vector<std::string> ProjectStore::CompareWithWorkCopy() {
         if (cell == nullptr || !(*cell == row.value))
             differences.push_back(CellText(row.name, row.dim1, row.dim2));
     });
-    if (rows != cells_.size()) differences.emplace_back("number of rows");
+    std::size_t cells = 0;
+    for (const Variable& variable : variables_) cells += variable.count;
+    if (rows != cells) differences.emplace_back("number of rows");
     return differences;
 }
 

@@ -8,13 +8,12 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
 #include "platform/file_system.h"
+#include "platform/name_index.h"
 #include "platform/real.h"
-#include "platform/text.h"
 #include "store/cell.h"
 
 namespace kelvor {
@@ -42,16 +41,10 @@ struct CellBounds {
 /// Brings them into the order in which a project holds its cells: one that stands so opens faster.
 void SortByName(std::vector<CellBounds>& bounds);
 
-/// The place of one cell in the open project, found once by name and then read without a search.
-/// Good until the project is closed.
-class CellHandle {
-  public:
-    CellHandle() = default;
-
-  private:
-    friend class ProjectStore;
-    explicit CellHandle(std::uint32_t index) : index_(index) {}
-    std::uint32_t index_ = 0;
+/// A cell as the store holds it.
+struct StoredCell {
+    CellValue value;
+    bool unwritten = false;  // the work copy does not have this value
 };
 
 /// All values of the open project, input or computed: cells addressed by the name of a variable,
@@ -86,6 +79,9 @@ class ProjectStore {
     [[nodiscard]] Real GetVar(std::string_view name) const { return GetVarDim(name, 1, 1); }
     [[nodiscard]] Real GetVarDim(std::string_view name, int dim1, int dim2) const;
 
+    /// The number, nothing for an empty one. Stops the program if there is no such cell.
+    [[nodiscard]] std::optional<Real> FindNumber(std::string_view name, int dim1, int dim2) const;
+
     /// Writes the number at (1, 1) and leaves the text; a missing cell is passed over.
     void SetVar(std::string_view name, Real value);
 
@@ -104,16 +100,6 @@ class ProjectStore {
 
     /// The name as the work copy spells it; empty if there is no such variable.
     [[nodiscard]] std::string_view CanonicalName(std::string_view name) const;
-
-    // --- Cells by handle -----------------------------------------------------------------------
-
-    /// Stops the program if there is no such cell.
-    [[nodiscard]] CellHandle Resolve(std::string_view name, int dim1 = 1, int dim2 = 1) const;
-    [[nodiscard]] Real Number(CellHandle cell) const {
-        return cells_[cell.index_].value.number.value_or(0.0);
-    }
-    [[nodiscard]] bool IsNull(CellHandle cell) const { return !cells_[cell.index_].value.number; }
-    void SetNumber(CellHandle cell, Real value);
 
     // --- Aggregates ----------------------------------------------------------------------------
 
@@ -150,25 +136,32 @@ class ProjectStore {
     [[nodiscard]] std::vector<std::string> CompareWithWorkCopy();
 
   private:
-    struct Cell {
-        std::uint32_t variable = 0;
-        int dim1 = 1;
-        int dim2 = 1;
-        CellValue value;
-        bool unwritten = false;  // the work copy does not have this value
-    };
-
-    /// One variable's cells stand together, in subscript order.
+    /// One variable's cells, in subscript order.
     struct Variable {
         std::string name;
-        std::uint32_t first = 0;
         std::uint32_t count = 0;
         int width = 0;  // cells of each first subscript if they form a full block; else 0
+        std::vector<std::pair<int, int>> subscripts;  // of each cell if they form no block
+        std::vector<StoredCell> cells;                // made with the first that is filled
+
+        [[nodiscard]] std::pair<int, int> SubscriptsOf(std::uint32_t place) const;
+        [[nodiscard]] std::optional<std::uint32_t> PlaceOf(int dim1, int dim2) const;
+        [[nodiscard]] const StoredCell& At(std::uint32_t place) const;
+        StoredCell& Touch(std::uint32_t place);
+        void MarkBlock();
+    };
+
+    /// Where a cell stands: its variable, and its place in that.
+    struct Place {
+        std::uint32_t variable = 0;
+        std::uint32_t cell = 0;
+        friend bool operator==(const Place&, const Place&) = default;
+        friend auto operator<=>(const Place&, const Place&) = default;
     };
 
     /// What a cell was before the open event wrote to it.
     struct Former {
-        std::uint32_t index = 0;
+        Place place;
         CellValue value;
         bool unwritten = false;
     };
@@ -181,27 +174,29 @@ class ProjectStore {
 
     void LoadByRows(const std::vector<CellBounds>& bounds);
     void AddCell(std::string_view name, int dim1, int dim2, const CellValue& value);
-    void AddVariable(std::string_view name);
-    Cell& AppendCell(int dim1, int dim2);
-    void MarkBlocks();
+    Variable& AddVariable(std::string_view name);
     void CheckBounds(const CellBounds& bounds) const;
 
+    [[nodiscard]] std::optional<std::uint32_t> FindName(std::string_view name) const;
     [[nodiscard]] const Variable* FindVariable(std::string_view name) const;
-    [[nodiscard]] std::optional<std::uint32_t> Index(const Variable& variable, int dim1, int dim2) const;
-    [[nodiscard]] std::optional<std::uint32_t> Index(std::string_view name, int dim1, int dim2) const;
-    [[nodiscard]] std::uint32_t RequireIndex(std::string_view name, int dim1, int dim2) const;
+    [[nodiscard]] std::optional<Place> FindPlace(std::string_view name, int dim1, int dim2) const;
+    [[nodiscard]] Place RequirePlace(std::string_view name, int dim1, int dim2) const;
+    [[nodiscard]] const StoredCell& At(Place place) const {
+        return variables_[place.variable].At(place.cell);
+    }
+    [[nodiscard]] CellKey KeyOf(Place place) const;
 
-    void Store(std::uint32_t index, CellValue value);
-    void WriteThrough(std::uint32_t index);
+    void StoreNumber(Place place, Real number);
+    void Store(Place place, CellValue value);
+    void WriteThrough(Place place, StoredCell& cell);
     void WriteUnwritten();
     void MarkUnwritten() noexcept;
     void Forget() noexcept;
     void ForgetCells() noexcept;
 
     std::unique_ptr<WorkCopy> workCopy_;
-    std::vector<Cell> cells_;
     std::vector<Variable> variables_;
-    std::unordered_map<std::string, std::uint32_t, NameHash, NameEqual> byName_;
+    NameIndex byName_;  // of variables_
     bool inEvent_ = false;
     bool inTransaction_ = false;
     std::vector<Former> formers_;  // of the open event, in the order of its writes

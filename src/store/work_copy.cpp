@@ -26,12 +26,12 @@ const char* const kUpdate =
 
 /// A table of the same name but another make would answer our statements in other ways.
 void CheckProject(SQLite::Database& database, bool checkPages) {
-    CheckShape(database, {{"Project", {"Name", "Dim1", "Dim2", "RValue", "SValue"}}}, true);
+    CheckShape(database, {{"Project", {"Name", "Dim1", "Dim2", "RValue", "SValue"}, kProjectTable}}, true);
     const std::string made =
         database.execAndGet("SELECT sql FROM sqlite_schema WHERE type = 'table'").getString();
     if (made != kProjectTable) throw DatabaseError("table Project is not made as a project's", false);
     if (!checkPages) return;
-    CheckRowCount(database, "Project", kMostRows);
+    CheckRowCounts(database, {"Project"}, kMostRows);
     const std::string verdict = database.execAndGet("PRAGMA quick_check(1)").getString();
     if (verdict != "ok") throw DatabaseError(verdict, false);
 }

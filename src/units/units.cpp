@@ -53,10 +53,16 @@ std::string Units::GetDisplayValue(std::string_view variable, int dim1, int dim2
     const Variable* row = catalogue_.FindVariable(variable);
     if (cell == nullptr || row == nullptr) return {};
     if (!cell->number) return FormatText(cell->text.value_or(""), row->format);
+    return DisplayNumber(variable, *cell->number);
+}
+
+std::string Units::DisplayNumber(std::string_view variable, double number) const {
+    const Variable* row = catalogue_.FindVariable(variable);
+    if (row == nullptr) return {};
     try {
-        return FormatNumber((Real(*cell->number) * UnitFactor(row->units)).value(), row->format);
+        return FormatNumber((Real(number) * UnitFactor(row->units)).value(), row->format);
     } catch (const ArithmeticFault&) {
-        return {};  // no double holds the value in this unit
+        return {};
     }
 }
 

@@ -58,6 +58,10 @@ class Units {
     /// variable is missing.
     [[nodiscard]] std::string GetDisplayValue(std::string_view variable, int dim1 = 1, int dim2 = 1) const;
 
+    /// A number of a variable in English units, in the active system and in the picture of its variable.
+    /// Empty if the variable is missing or no double holds the number in this unit.
+    [[nodiscard]] std::string DisplayNumber(std::string_view variable, double number) const;
+
     /// Stores a value given in the active system. An empty text empties the cell; a text that is no
     /// number, and any text of a text variable, leaves the number Null. A missing cell is passed over.
     /// A quantity of the cost grids goes by its own rule, below.

@@ -12,10 +12,10 @@
 #include <QTest>
 #include <QTimer>
 
+#include "desktop/chart_view.h"
 #include "desktop/desktop_fixture.h"
 #include "desktop/drawing_menu.h"
 #include "desktop/palettes.h"
-#include "desktop/section_view.h"
 
 namespace kelvor::test {
 namespace {
@@ -151,7 +151,7 @@ TEST_F(SectionViewTest, ItsMenuSavesItAsAFile) {
 
 TEST_F(SectionViewTest, ItIsSavedAsAPictureToo) {
     StoreFlexible();
-    const auto& view = dynamic_cast<const SectionView&>(Open("DeFCS"));
+    const auto& view = dynamic_cast<const ChartView&>(Open("DeFCS"));
     const Path file = home.home().folder / "section.png";
     SaveDrawing(state().host.files, view.shown(), file);
     const QImage picture(QString::fromStdString(file.string()));

@@ -3,7 +3,6 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGraphicsView>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,11 +12,11 @@
 #include <QTableView>
 #include <QToolButton>
 
+#include "desktop/chart_view.h"
 #include "desktop/control_widgets.h"
 #include "desktop/picture_view.h"
 #include "desktop/preview/report_pages_view.h"
 #include "desktop/qt_text.h"
-#include "desktop/section_view.h"
 #include "desktop/stack_view.h"
 #include "desktop/theme.h"
 
@@ -57,8 +56,7 @@ std::string ColourName(const QWidget& widget, QPalette::ColorRole role, Colour u
 }  // namespace
 
 ControlKind KindOf(const QWidget& widget) {
-    if (qobject_cast<const QGraphicsView*>(&widget) != nullptr) return ControlKind::Chart;
-    if (dynamic_cast<const SectionView*>(&widget) != nullptr) return ControlKind::Chart;
+    if (dynamic_cast<const ChartView*>(&widget) != nullptr) return ControlKind::Chart;
     if (qobject_cast<const QTableView*>(&widget) != nullptr) return ControlKind::Grid;
     if (qobject_cast<const QLineEdit*>(&widget) != nullptr) return ControlKind::TextBox;
     if (qobject_cast<const QComboBox*>(&widget) != nullptr) return ControlKind::ComboBox;

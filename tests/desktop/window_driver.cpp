@@ -24,6 +24,7 @@
 #include "desktop/drawing_menu.h"
 #include "desktop/qt_text.h"
 #include "desktop/widget_reading.h"
+#include "platform/number_text.h"
 
 namespace kelvor::test {
 
@@ -320,7 +321,9 @@ PropertyValue WindowDriver::Read(const std::string& control, const std::string& 
     if (property == "visible") return !widget.isHidden();
     if (property == "bold") return widget.font().bold();
     if (property == "backcolor") return BackColour(widget);
-    if (property == "forecolor") return ForeColour(widget);
+    if (property == "forecolor") return LetterColour(ForeColour(widget));
+    if (property == "value" && FindControl(control).height)
+        return NumberProperty(ParseNumber(TextOf(widget)));
     if (property == "value") return ValueOf(widget);
     throw ScriptError("a control has no property " + property);
 }
@@ -337,13 +340,13 @@ std::vector<ControlReport> WindowDriver::Controls() {
 
 ChartData WindowDriver::Chart(const std::string& control) {
     if (!FindControl(control).chart) throw ScriptError(control + " is no chart");
-    return DrawnChart(Widget(control));
+    return dynamic_cast<const ChartView&>(Widget(control)).shown();
 }
 
 void WindowDriver::SavePicture(const std::string& control, const std::string& file) {
     if (!FindControl(control).chart) throw ScriptError(control + " is no chart");
     try {
-        SaveDrawing(desktop_.program().state().host.files, ShownChart(Widget(control)), file);
+        SaveDrawing(desktop_.program().state().host.files, Chart(control), file);
     } catch (const FileError& failure) {
         throw ScriptError("cannot write " + file + ": " + failure.what());
     }

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -48,7 +49,13 @@ struct PreviewReport {
 };
 
 /// A property of a control: a truth value, the number of a tab or the height of a box, or a text.
-using PropertyValue = std::variant<bool, int, std::string>;
+using PropertyValue = std::variant<bool, int, double, std::string>;
+
+/// A number as a property: a whole one has no decimals.
+PropertyValue NumberProperty(double number);
+
+/// The colour of letters as a script prints it: those of the window's own colour are black.
+std::string LetterColour(std::string_view colour);
 
 /// What a script does to a program. One driver works on the program's model, another on its windows;
 /// the runner is the same for both. Each operation throws ScriptError if it makes no sense there.

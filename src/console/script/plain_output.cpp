@@ -19,6 +19,7 @@ std::string Quoted(const std::string& text) {
 
 std::string PropertyText(bool truth) { return truth ? "true" : "false"; }
 std::string PropertyText(int number) { return std::to_string(number); }
+std::string PropertyText(double number) { return ExactNumberText(number); }
 std::string PropertyText(const std::string& text) { return Quoted(text); }
 
 std::string StagedText(std::monostate /*nothing*/) { return "empty"; }

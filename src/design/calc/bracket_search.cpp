@@ -37,25 +37,25 @@ class BracketSearch {
     void Evaluate(Point& point) { problem_.traffic(point.x, point.traffic); }
 
     [[nodiscard]] bool Meets(const Point& point) const {
-        return Abs(problem_.target() - point.traffic) < problem_.target() / 1000.0;
+        return Abs(problem_.target - point.traffic) < problem_.target / 1000.0;
     }
 
     /// The end of the search, if this pass brought it.
     std::optional<SearchResult> Pass() {
         middle_.x = (high_.x + low_.x) / 2.0;
         Evaluate(middle_);
-        if (problem_.target() < low_.traffic) {
+        if (problem_.target < low_.traffic) {
             if (!problem_.lowers) return SearchResult{SearchEnd::BelowBracket, {}};
             low_.x = low_.x / 2.0;
             Evaluate(low_);
-        } else if (problem_.target() > high_.traffic) {
+        } else if (problem_.target > high_.traffic) {
             high_.x = high_.x + 1.0;
             Evaluate(high_);
-        } else if (problem_.target() > low_.traffic && problem_.target() <= middle_.traffic) {
+        } else if (problem_.target > low_.traffic && problem_.target <= middle_.traffic) {
             if (Meets(low_)) return SearchResult{SearchEnd::Found, low_.x};
             if (Meets(middle_)) return SearchResult{SearchEnd::Found, middle_.x};
             high_ = middle_;
-        } else if (problem_.target() > middle_.traffic && problem_.target() <= high_.traffic) {
+        } else if (problem_.target > middle_.traffic && problem_.target <= high_.traffic) {
             if (Meets(middle_)) return SearchResult{SearchEnd::Found, middle_.x};
             if (Meets(high_)) return SearchResult{SearchEnd::Found, high_.x};
             low_ = middle_;

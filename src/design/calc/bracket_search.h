@@ -13,7 +13,7 @@ struct SearchProblem {
     Real high;
     bool lowers = true;  // a target below the bracket lowers it; else it ends the search
     std::function<void(Real, Real&)> traffic;  // the traffic at x; leaves it as it was on a fault
-    std::function<Real()> target;              // read anew at every comparison
+    Real target;
 };
 
 enum class SearchEnd { Found, OutOfTime, BelowBracket };

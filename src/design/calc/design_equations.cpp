@@ -5,31 +5,18 @@
 
 namespace kelvor {
 
-Real FlexibleTraffic(const ProjectStore& store, Real ZR, const FlexibleInputs& inputs, Real SN) {
-    const Real S0 = store.Number(inputs.S0);
-    const Real MR = store.Number(inputs.MR);
-    const Real P0 = store.Number(inputs.P0);
-    const Real Pt = store.Number(inputs.Pt);
-
+Real FlexibleTraffic(Real ZR, const FlexibleInputs& inputs, Real SN) {
     const Real a = Log(SN + 1.0);
-    const Real b = Log(MR);
+    const Real b = Log(inputs.MR);
     const Real t1 = 9.36 * a / Ln10;
-    const Real t2 = Log((P0 - Pt) / 2.7) / (1094.0 / Pow(SN + 1.0, 5.19) + 0.4) / Ln10;
+    const Real t2 = Log((inputs.P0 - inputs.Pt) / 2.7) / (1094.0 / Pow(SN + 1.0, 5.19) + 0.4) / Ln10;
     const Real t3 = b / Ln10 * 2.32;
-    const Real exponent = ZR * S0 + t1 - 0.2 + t2 + t3 - 8.07;
+    const Real exponent = ZR * inputs.S0 + t1 - 0.2 + t2 + t3 - 8.07;
     return Pow(10.0, exponent);
 }
 
-Real RigidTraffic(const ProjectStore& store, Real ZR, const RigidInputs& inputs, Real D) {
-    const Real S0 = store.Number(inputs.S0);
-    const Real MR = store.Number(inputs.MR);
-    const Real Ec = store.Number(inputs.Ec);
-    const Real J = store.Number(inputs.J);
-    const Real k = store.Number(inputs.k);
-    const Real Cd = store.Number(inputs.Cd);
-    const Real P0 = store.Number(inputs.P0);
-    const Real Pt = store.Number(inputs.Pt);
-
+Real RigidTraffic(Real ZR, const RigidInputs& inputs, Real D) {
+    const auto& [S0, MR, Ec, J, k, Cd, P0, Pt] = inputs;
     const Real t1 = 7.35 * Log(D + 1.0) / Ln10;
     const Real t2 = Log((P0 - Pt) / 3.0) / (1.624e7 / Pow(D + 1.0, 8.46) + 1.0) / Ln10;
     const Real left = ZR * S0 + t1 - 0.06 + t2;
@@ -47,7 +34,7 @@ Real RoundTraffic(Real w18) {
 
 void EvaluateFlexible(CalcContext& context, const FlexibleInputs& inputs, Real SN, Real& w18) {
     try {
-        w18 = RoundTraffic(FlexibleTraffic(context.store, context.reliability.ZR, inputs, SN));
+        w18 = RoundTraffic(FlexibleTraffic(context.reliability.ZR, inputs, SN));
     } catch (const ArithmeticFault&) {
         ReportMathOverflow(context.dialogs);
     }
@@ -55,7 +42,7 @@ void EvaluateFlexible(CalcContext& context, const FlexibleInputs& inputs, Real S
 
 void EvaluateRigid(CalcContext& context, const RigidInputs& inputs, Real D, Real& w18) {
     try {
-        w18 = RoundTraffic(RigidTraffic(context.store, context.reliability.ZR, inputs, D));
+        w18 = RoundTraffic(RigidTraffic(context.reliability.ZR, inputs, D));
     } catch (const ArithmeticFault&) {
         ReportMathOverflow(context.dialogs);
     }
@@ -63,12 +50,13 @@ void EvaluateRigid(CalcContext& context, const RigidInputs& inputs, Real D, Real
 
 void EvaluateE18(CalcContext& context, std::string_view pavementType, Real x, Real& w18,
                  const std::array<std::string_view, 8>& names) {
-    const auto cell = [&](std::size_t i) { return context.store.Resolve(names[i]); };
+    const auto input = [&](std::size_t i) { return context.Get(names[i]); };
     if (EqualNoCase(pavementType, "Rigid")) {
-        EvaluateRigid(context, {cell(0), cell(1), cell(2), cell(3), cell(4), cell(5), cell(6), cell(7)}, x,
+        EvaluateRigid(context,
+                      {input(0), input(1), input(2), input(3), input(4), input(5), input(6), input(7)}, x,
                       w18);
     } else if (EqualNoCase(pavementType, "Flexible") || EqualNoCase(pavementType, "Flex")) {
-        EvaluateFlexible(context, {cell(0), cell(1), cell(2), cell(3)}, x, w18);
+        EvaluateFlexible(context, {input(0), input(1), input(2), input(3)}, x, w18);
     }
 }
 

@@ -8,32 +8,32 @@
 
 namespace kelvor {
 
-/// The cells from which the flexible design equation reads its inputs.
+/// What the flexible design equation takes beside the structural number.
 struct FlexibleInputs {
-    CellHandle S0;  // overall standard deviation
-    CellHandle MR;  // effective roadbed resilient modulus, psi
-    CellHandle P0;  // initial serviceability
-    CellHandle Pt;  // terminal serviceability
+    Real S0;  // overall standard deviation
+    Real MR;  // effective roadbed resilient modulus, psi
+    Real P0;  // initial serviceability
+    Real Pt;  // terminal serviceability
 };
 
-/// The cells from which the rigid design equation reads its inputs.
+/// What the rigid design equation takes beside the thickness.
 struct RigidInputs {
-    CellHandle S0;  // overall standard deviation
-    CellHandle MR;  // modulus of rupture of the concrete, psi
-    CellHandle Ec;  // modulus of elasticity of the concrete, psi
-    CellHandle J;   // load transfer coefficient
-    CellHandle k;   // effective modulus of subgrade reaction, pci
-    CellHandle Cd;  // drainage coefficient
-    CellHandle P0;  // initial serviceability
-    CellHandle Pt;  // terminal serviceability
+    Real S0;  // overall standard deviation
+    Real MR;  // modulus of rupture of the concrete, psi
+    Real Ec;  // modulus of elasticity of the concrete, psi
+    Real J;   // load transfer coefficient
+    Real k;   // effective modulus of subgrade reaction, pci
+    Real Cd;  // drainage coefficient
+    Real P0;  // initial serviceability
+    Real Pt;  // terminal serviceability
 };
 
 /// The traffic, in 18-kip ESALs and not rounded, that a structural number carries at a deviate ZR (1993
 /// AASHTO Guide, Part II, Figure 3.1). Raises ArithmeticFault where the equation has no value.
-Real FlexibleTraffic(const ProjectStore& store, Real ZR, const FlexibleInputs& inputs, Real SN);
+Real FlexibleTraffic(Real ZR, const FlexibleInputs& inputs, Real SN);
 
 /// The same for a slab thickness D in inches (1993 AASHTO Guide, Part II, Figure 3.7).
-Real RigidTraffic(const ProjectStore& store, Real ZR, const RigidInputs& inputs, Real D);
+Real RigidTraffic(Real ZR, const RigidInputs& inputs, Real D);
 
 /// The traffic, in 18-kip ESALs, that a structural number carries, at the deviate ZR
 /// that was looked up last. Rounded to a multiple of 100 if it is above 100. A

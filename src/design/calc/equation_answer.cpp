@@ -13,19 +13,17 @@ const char* const kNoServiceabilityLoss = "Pt is not less than Po";
 const char* const kSlabTooThin = "the slab is too thin for it";
 const char* const kNoValue = "a term is beyond what it can take";
 
-/// The cells of the terms, and what was looked up for them.
+/// The terms as they are stored.
 class StoredTerms {
   public:
-    StoredTerms(const CalcContext& context, TermNames names) : store_(context.store), names_(names) {}
+    StoredTerms(const CalcContext& context, TermNames names) : context_(context), names_(names) {}
 
-    [[nodiscard]] CellHandle Cell(int term) const {
-        return store_.Resolve(names_[static_cast<std::size_t>(term - 1)]);
+    [[nodiscard]] Real Value(int term) const {
+        return context_.Get(names_[static_cast<std::size_t>(term - 1)]);
     }
-    [[nodiscard]] Real Value(int term) const { return store_.Number(Cell(term)); }
-    [[nodiscard]] const ProjectStore& store() const { return store_; }
 
   private:
-    const ProjectStore& store_;
+    const CalcContext& context_;
     TermNames names_;
 };
 
@@ -59,9 +57,9 @@ EquationAnswer AnswerFlexible(const CalcContext& context, TermNames names) {
     const StoredTerms terms(context, names);
     const Real loss = terms.Value(kFlexiblePo) - terms.Value(kFlexiblePt);
     return AnswerAt(terms.Value(kFlexibleReliability), loss, [&](Real ZR) {
-        const FlexibleInputs inputs = {terms.Cell(kFlexibleDeviation), terms.Cell(kSoilModulus),
-                                       terms.Cell(kFlexiblePo), terms.Cell(kFlexiblePt)};
-        return FlexibleTraffic(terms.store(), ZR, inputs, terms.Value(kStructuralNumber));
+        const FlexibleInputs inputs = {terms.Value(kFlexibleDeviation), terms.Value(kSoilModulus),
+                                       terms.Value(kFlexiblePo), terms.Value(kFlexiblePt)};
+        return FlexibleTraffic(ZR, inputs, terms.Value(kStructuralNumber));
     });
 }
 
@@ -71,11 +69,11 @@ EquationAnswer AnswerRigid(const CalcContext& context, TermNames names) {
     if (IsTooThin(D, terms.Value(kElasticity), terms.Value(kSubgradeReaction))) return {{}, kSlabTooThin};
     const Real loss = terms.Value(kRigidPo) - terms.Value(kRigidPt);
     return AnswerAt(terms.Value(kRigidReliability), loss, [&](Real ZR) {
-        const RigidInputs inputs = {terms.Cell(kRigidDeviation),   terms.Cell(kRupture),
-                                    terms.Cell(kElasticity),       terms.Cell(kLoadTransfer),
-                                    terms.Cell(kSubgradeReaction), terms.Cell(kDrainage),
-                                    terms.Cell(kRigidPo),          terms.Cell(kRigidPt)};
-        return RigidTraffic(terms.store(), ZR, inputs, D);
+        const RigidInputs inputs = {terms.Value(kRigidDeviation),   terms.Value(kRupture),
+                                    terms.Value(kElasticity),       terms.Value(kLoadTransfer),
+                                    terms.Value(kSubgradeReaction), terms.Value(kDrainage),
+                                    terms.Value(kRigidPo),          terms.Value(kRigidPt)};
+        return RigidTraffic(ZR, inputs, D);
     });
 }
 

@@ -70,7 +70,7 @@ class FlexibleSolver : EquationSolver<kFlexibleTerms> {
     }
 
     [[nodiscard]] FlexibleInputs Inputs() const {
-        return {Handle(kFlexibleDeviation), Handle(kSoilModulus), Handle(kFlexiblePo), Handle(kFlexiblePt)};
+        return {Value(kFlexibleDeviation), Value(kSoilModulus), Value(kFlexiblePo), Value(kFlexiblePt)};
     }
 
     int SolveTraffic() {
@@ -86,7 +86,7 @@ class FlexibleSolver : EquationSolver<kFlexibleTerms> {
         problem.traffic = [this, inputs = Inputs()](Real SN, Real& w18) {
             EvaluateFlexible(context_, inputs, SN, w18);
         };
-        problem.target = [this] { return Value(kFlexibleTraffic); };
+        problem.target = Value(kFlexibleTraffic);
         const SearchResult result = SearchBracket(problem, context_.clock);
         return result.end == SearchEnd::Found ? Write(kStructuralNumber, result.x) : kSolveDone;
     }

@@ -21,14 +21,9 @@ void CalcLayerStructuralNumber(CalcContext& context, std::string_view target, in
     context.Put(target, layer, 1, coefficient * drainage * thickness);
 }
 
-/// The additional thickness, inches, of this layer: what the structure lacks, over a, times m. The Guide's SN
-/// = a m D would divide by m; with m = 1 both are the same. A layer without coefficients gets none.
 void CalcAdditionalThickness(CalcContext& context, std::string_view target, int layer, int /*dim2*/) {
-    const Real remainder = context.Get("SN") - TotalStructuralNumber(context);
-    const Real coefficient = context.Get("LDLayerCoef", layer, 1);
-    const Real drainage = context.Get("LDDrainCoef", layer, 1);
-    if (coefficient == 0.0 || drainage == 0.0) return;
-    context.Put(target, layer, 1, remainder / coefficient * drainage);
+    const std::optional<Real> thickness = AdditionalThickness(context, layer);
+    if (thickness) context.Put(target, layer, 1, *thickness);
 }
 
 void CalcStructureSum(CalcContext& context, std::string_view target) {
@@ -40,6 +35,14 @@ constexpr std::array kCells = {CellKeyRoutine{"LDLayerStructNo", CalcLayerStruct
                                CellKeyRoutine{"LDAdditThick", CalcAdditionalThickness}};
 
 }  // namespace
+
+std::optional<Real> AdditionalThickness(const CalcContext& context, int layer) {
+    const Real remainder = context.Get("SN") - TotalStructuralNumber(context);
+    const Real coefficient = context.Get("LDLayerCoef", layer, 1);
+    const Real drainage = context.Get("LDDrainCoef", layer, 1);
+    if (coefficient == 0.0 || drainage == 0.0) return std::nullopt;
+    return remainder / coefficient * drainage;
+}
 
 KeyTable LayeredStructureKeys() { return {kFields, kCells}; }
 

@@ -108,8 +108,8 @@ class RigidSolver : EquationSolver<kRigidTerms> {
     }
 
     [[nodiscard]] RigidInputs Inputs() const {
-        return {Handle(kRigidDeviation),   Handle(kRupture),  Handle(kElasticity), Handle(kLoadTransfer),
-                Handle(kSubgradeReaction), Handle(kDrainage), Handle(kRigidPo),    Handle(kRigidPt)};
+        return {Value(kRigidDeviation),   Value(kRupture),  Value(kElasticity), Value(kLoadTransfer),
+                Value(kSubgradeReaction), Value(kDrainage), Value(kRigidPo),    Value(kRigidPt)};
     }
 
     int SolveTraffic() {
@@ -136,7 +136,7 @@ class RigidSolver : EquationSolver<kRigidTerms> {
         problem.traffic = [this, inputs = Inputs()](Real D, Real& w18) {
             EvaluateRigid(context_, inputs, D, w18);
         };
-        problem.target = [this] { return Value(kRigidTraffic); };
+        problem.target = Value(kRigidTraffic);
         const SearchResult result = SearchBracket(problem, context_.clock);
         if (result.end == SearchEnd::BelowBracket) {
             ReportOutsideBounds(context_.dialogs);

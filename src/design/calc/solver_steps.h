@@ -21,17 +21,20 @@ inline constexpr int kSolveFailed = -1;
 inline constexpr int kTrafficTerm = 2;
 inline constexpr int kReliabilityTerm = 3;
 
-/// The cells of an equation's terms, found once per solve, by term number from 1.
+/// The terms of an equation by their numbers from 1, read once per solve.
 template <std::size_t Count>
-class TermCells {
+class Terms {
   public:
-    TermCells(ProjectStore& store, TermNames names) : store_(store) {
-        for (std::size_t i = 0; i < Count; ++i) cells_[i] = store.Resolve(names[i]);
+    Terms(ProjectStore& store, TermNames names) : store_(store), names_(names) {
+        for (std::size_t i = 0; i < Count; ++i) values_[i] = store.GetVar(names[i]);
     }
 
-    [[nodiscard]] Real Value(int term) const { return store_.Number(Handle(term)); }
-    void Write(int term, Real value) { store_.SetNumber(Handle(term), value); }
-    [[nodiscard]] CellHandle Handle(int term) const { return cells_[static_cast<std::size_t>(term - 1)]; }
+    [[nodiscard]] Real Value(int term) const { return values_[Place(term)]; }
+
+    void Write(int term, Real value) {
+        store_.SetVar(names_[Place(term)], value);
+        values_[Place(term)] = value;
+    }
 
     /// True if a term other than the one being solved is 0, which means not entered.
     [[nodiscard]] bool AnyMissing(int solvedTerm) const {
@@ -42,15 +45,18 @@ class TermCells {
     }
 
   private:
+    static std::size_t Place(int term) { return static_cast<std::size_t>(term - 1); }
+
     ProjectStore& store_;
-    std::array<CellHandle, Count> cells_;
+    TermNames names_;
+    std::array<Real, Count> values_;
 };
 
 /// The flow that both solvers share: looks up ZR unless the reliability itself is sought, refuses with
 /// a message if another term is missing, and runs the case; an arithmetic fault anywhere in it shows the
 /// overflow message and fails the solve.
 template <std::size_t Count>
-int RunSolve(CalcContext& context, int term, const TermCells<Count>& terms,
+int RunSolve(CalcContext& context, int term, const Terms<Count>& terms,
              const std::function<int()>& solveCase) {
     try {
         const Real reliability = terms.Value(kReliabilityTerm);
@@ -77,7 +83,6 @@ class EquationSolver {
 
   protected:
     [[nodiscard]] Real Value(int term) const { return terms_.Value(term); }
-    [[nodiscard]] CellHandle Handle(int term) const { return terms_.Handle(term); }
 
     int Write(int term, Real value) {
         terms_.Write(term, value);
@@ -96,7 +101,7 @@ class EquationSolver {
     }
 
     CalcContext& context_;
-    TermCells<Count> terms_;
+    Terms<Count> terms_;
 };
 
 }  // namespace kelvor

@@ -1,5 +1,6 @@
 #include "design/screens/layered_design.h"
 
+#include "calc/ignore_faults.h"
 #include "design/calc/layered_structure.h"
 #include "design/calc/material_coefficient.h"
 #include "forms/form.h"
@@ -16,6 +17,22 @@ constexpr const char* kForm = "LayDet";
 constexpr const char* kEnough = "OK";
 constexpr const char* kTooLittle = "Selected Structure is Less Than Required.";
 
+/// The box that shows the additional thickness of every layer at once: each by which that layer alone would
+/// do. The project keeps, and the report prints, that of the layer under the cursor.
+constexpr const char* kEveryLayer = "EveryLayer";
+
+std::string ReadAdditionalThickness(const ScreenContext& context, const Form& form, int layer) {
+    constexpr const char* kName = "LDAdditThick";
+    std::string text = context.units.GetDisplayValue(kName, layer);
+    const Control* box = form.Find(kEveryLayer);
+    if (!text.empty() || box == nullptr || !box->value) return text;
+    IgnoreFaults([&] {
+        const std::optional<Real> thickness = AdditionalThickness(context.calc, layer);
+        if (thickness) text = context.units.DisplayNumber(kName, thickness->value());
+    });
+    return text;
+}
+
 /// Compares the two structural numbers as they are shown.
 void ShowVerdict(Form& form) {
     Control* verdict = form.Find("Res");
@@ -27,8 +44,11 @@ void ShowVerdict(Form& form) {
 
 int CurrentRow(Form& form) { return form.FindGrid()->grid->row; }
 
-/// The total goes back to the variable for which the screen is opened.
-void Loaded(ScreenEvent& event) { event.form.SetText("SNCarry", event.form.TextOf("FieldName")); }
+/// The total goes back to the variable for which the screen is opened. From the last layer Tab goes on to OK.
+void Loaded(ScreenEvent& event) {
+    event.form.SetText("SNCarry", event.form.TextOf("FieldName"));
+    event.form.Get(kEveryLayer).passedOver = true;
+}
 
 void Activated(ScreenEvent& event) {
     RecalcAllOutputs(event.context, event.form);
@@ -94,10 +114,11 @@ FormType LayeredDesignForm() {
                       {.variable = "LDDrainCoef"},
                       {.variable = "LDLayerThick"},
                       {.variable = "LDLayerStructNo"},
-                      {.variable = "LDAdditThick"}}),
+                      {.variable = "LDAdditThick", .routines = {.read = ReadAdditionalThickness}}}),
         Columns({Fields({{.variable = "SN", .label = "Required Structural Number", .locked = true},
                          {.variable = "SSN"}}),
                  Verdict("Res")}),
+        Checks({{kEveryLayer, "&Additional Thickness of Every Layer"}}),
         Hidden({"SNCarry", "FieldName", "FormName", "Column"}),
     });
     type.handlers = {

@@ -46,7 +46,9 @@ void ShowHeights(Form& form, const std::array<double, 2>& costs, double larger) 
     const std::array<const char*, 2> bars = {"CostA", "CostB"};
     for (std::size_t i = 0; i < bars.size(); ++i) {
         const double height = larger > 0.0 ? std::max(kFullHeight * costs.at(i) / larger, 0.0) : 0.0;
-        form.SetText(bars.at(i), NumberToText(height));
+        Control& bar = form.Get(bars.at(i));
+        bar.height = true;
+        bar.text = NumberToText(height);
     }
 }
 

@@ -44,7 +44,7 @@ LayoutElement Tests() {
                  {.variable = "DYNKC", .letters = kLetters},
                  {.variable = "STATKC", .letters = kLetters},
                  {.variable = "NDTEC", .letters = kLetters}},
-                kTestsShown, {.mayDelete = PrepareDeletion, .note = AreaNote});
+                kTestsShown, {.note = AreaNote, .rowsMoved = MoveMarks});
 }
 
 }  // namespace

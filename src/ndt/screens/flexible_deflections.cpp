@@ -41,7 +41,7 @@ LayoutElement Tests() {
                  {.variable = "Msg", .letters = kRemarkLetters},
                  {.variable = "NDTRM", .letters = kResultLetters},
                  {.variable = "NDTEFFEP", .letters = kResultLetters}},
-                kTestsShown, {.mayDelete = PrepareDeletion, .note = SearchNote});
+                kTestsShown, {.note = SearchNote, .rowsMoved = MoveMarks});
 }
 
 }  // namespace

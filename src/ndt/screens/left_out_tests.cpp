@@ -12,7 +12,6 @@ namespace {
 
 constexpr const char* kBox = "LeftOut";
 constexpr const char* kMarks = "LeftOutTests";
-constexpr const char* kMarksAfterDeletion = "LeftOutAfterDeletion";
 
 std::set<int> RowsIn(const std::string& text) {
     std::istringstream words(text);
@@ -27,16 +26,28 @@ std::string TextOf(const std::set<int>& rows) {
     return text;
 }
 
-bool IsFilled(const ScreenContext& context, const Form& form, int row) {
+bool IsMeasured(const ScreenContext& context, const Form& form, int row) {
     const std::vector<GridColumn>& columns = form.FindGrid()->grid->columns;
     return std::any_of(columns.begin(), columns.end(), [&](const GridColumn& column) {
         const CellValue* cell = context.calc.store.FindCell(column.variable, row, form.dim2().value_or(1));
-        return cell != nullptr && cell->IsFilled();
+        return !column.locked && cell != nullptr && cell->IsFilled();
     });
+}
+
+/// What is taken back takes the marks back too.
+void KeepMarks(ScreenEvent& event) { event.form.Get(kMarks).travels = true; }
+
+/// A row that has been emptied is no test any more: what is measured there next counts.
+void DropMarksOfEmptyRows(ScreenEvent& event) {
+    std::set<int> marks = LeftOutTests(event.form);
+    if (std::erase_if(marks, [&](int row) { return !IsMeasured(event.context, event.form, row); }) == 0)
+        return;
+    event.form.SetText(kMarks, TextOf(marks));
 }
 
 /// The box tells of the row in which the cursor is.
 void ShowMark(ScreenEvent& event) {
+    DropMarksOfEmptyRows(event);
     event.form.Get(kBox).value = LeftOutTests(event.form).contains(event.form.FindGrid()->grid->row);
 }
 
@@ -51,22 +62,20 @@ void SetMark(ScreenEvent& event) {
     event.form.SetText(kMarks, TextOf(marks));
 }
 
-void MoveMarks(ScreenEvent& event) {
-    event.form.SetText(kMarks, event.form.TextOf(kMarksAfterDeletion));
-    ShowMark(event);
-}
-
 }  // namespace
 
 LayoutElement LeaveOutBox() { return Checks({{kBox, "Leave This &Test out of the Spread"}}); }
 
-LayoutElement LeaveOutState() { return Hidden({kMarks, kMarksAfterDeletion}); }
+LayoutElement LeaveOutState() { return Hidden({kMarks}); }
 
 std::vector<Handler> LeaveOutHandlers() {
-    return {{FormEvent::Activate, "", HandlerOrder::After, ShowMark},
+    return {{FormEvent::Load, "", HandlerOrder::After, KeepMarks},
+            {FormEvent::Activate, "", HandlerOrder::After, ShowMark},
             {FormEvent::RowChanged, "", HandlerOrder::After, ShowMark},
             {FormEvent::Click, kBox, HandlerOrder::After, SetMark},
-            {FormEvent::RowDeleted, "", HandlerOrder::After, MoveMarks}};
+            {FormEvent::RowDeleted, "", HandlerOrder::After, ShowMark},
+            {FormEvent::RowsWritten, "", HandlerOrder::After, ShowMark},
+            {FormEvent::Travelled, "", HandlerOrder::After, ShowMark}};
 }
 
 std::set<int> LeftOutTests(const Form& form) { return RowsIn(form.TextOf(kMarks)); }
@@ -76,17 +85,14 @@ std::string WithLeftOutNote(std::string note, const Form& form, int row, const G
     return note.empty() ? "Left out of the spread" : note + ". Left out of the spread";
 }
 
-bool PrepareDeletion(ScreenContext& context, Form& form, int row) {
-    const std::set<int> marks = LeftOutTests(form);
+void MoveMarks(Form& form, const RowMoves& moves) {
     std::set<int> moved;
-    int next = 1;
-    for (int from = 1; from <= form.FindGrid()->grid->rows; ++from) {
-        if (from == row || !IsFilled(context, form, from)) continue;
-        if (marks.contains(from)) moved.insert(next);
-        ++next;
+    for (const int row : LeftOutTests(form)) {
+        const auto place = static_cast<std::size_t>(row - 1);
+        const int now = place < moves.size() ? moves[place] : row;
+        if (now > 0) moved.insert(now);
     }
-    form.SetText(kMarksAfterDeletion, TextOf(moved));
-    return true;
+    form.SetText(kMarks, TextOf(moved));
 }
 
 }  // namespace kelvor

@@ -26,7 +26,7 @@ std::set<int> LeftOutTests(const Form& form);
 /// A note of a result with what is to be said of a test that is left out.
 std::string WithLeftOutNote(std::string note, const Form& form, int row, const GridColumn& column);
 
-/// Asked before a row goes: every test that moves up takes its mark with it. No row is refused.
-bool PrepareDeletion(ScreenContext& context, Form& form, int row);
+/// Every test that changes its row takes its mark with it; that of a test that goes is gone.
+void MoveMarks(Form& form, const RowMoves& moves);
 
 }  // namespace kelvor

@@ -42,7 +42,7 @@ LayoutElement Tests() {
                  {.variable = "DYNK", .letters = kLetters},
                  {.variable = "STATK", .letters = kLetters},
                  {.variable = "NDTE", .letters = kLetters}},
-                kTestsShown, {.mayDelete = PrepareDeletion, .note = AreaNote});
+                kTestsShown, {.note = AreaNote, .rowsMoved = MoveMarks});
 }
 
 }  // namespace

@@ -73,7 +73,8 @@ void ReportDesk::RunExport(ScreenContext& context, const Form& hub) {
     try {
         TellCreated(WriteFiles(context, list, prefix));
     } catch (const FileError& failure) {
-        dialogs().ShowMessage({.text = std::string("Error exporting files!\n") + failure.what()});
+        dialogs().ShowMessage({.text = "Error exporting files!"});
+        dialogs().ShowMessage({.text = failure.what(), .title = kTitle});
         return;
     }
     if (list.unbalanced().empty()) return;

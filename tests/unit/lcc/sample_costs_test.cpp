@@ -89,5 +89,30 @@ TEST_F(SampleCostsTest, TheProjectOfEveryReportHasItsCostsAddedUp) {
     EXPECT_EQ(summary.pavements.at(1).rehabilitation, 70'400.0 * 11.0);
 }
 
+TEST_F(SampleCostsTest, PagingThroughASampleLosesNoName) {
+    for (const char* sample : {"costs_asphalt_road", "costs_concrete_road", "every_report"}) {
+        program_.program.OpenProject(KELVOR_HOME_FOLDER "/Samples/" + std::string(sample) + ".kvr");
+        for (const int pavement : {1, 2}) {
+            const auto names = [&] {
+                std::vector<std::string> texts;
+                for (const char* column : {"LayerType", "InitialItem"}) {
+                    for (int row = 1; row <= 10; ++row) {
+                        texts.push_back(program_.store().FindCell(column, row, pavement)->text.value_or(""));
+                    }
+                }
+                return texts;
+            };
+            const auto before = names();
+            program_.program.Raise({UserEvent::Kind::OpenForm, "LcA1", {}, pavement});
+            program_.program.Raise({UserEvent::Kind::Press, "NextPage"});
+            ASSERT_EQ(program_.program.state().formRegistry.CurrentForm->name(), "LcA1_2");
+            program_.program.Raise({UserEvent::Kind::Press, "PrevPage"});
+            ASSERT_EQ(program_.program.state().formRegistry.CurrentForm->name(), "LcA1");
+            EXPECT_EQ(names(), before) << sample << " " << pavement;
+            program_.program.Raise({UserEvent::Kind::CloseForm, "LcA1"});
+        }
+    }
+}
+
 }  // namespace
 }  // namespace kelvor::test

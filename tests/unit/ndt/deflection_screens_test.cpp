@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <numbers>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -331,6 +332,87 @@ TEST_F(DeflectionScreenTest, WithTheLastTestTheAveragesAreZero) {
     EXPECT_EQ(program_.Get("AVGNDTEFFEP"), 0.0);
     EXPECT_EQ(TextOf("AVGNDTEFFEP"), "0");
 }
+
+// --- Tests that change their rows -----------------------------------------------------------------------
+
+class ShiftedTestsTest : public DeflectionScreenTest, public testing::WithParamInterface<const char*> {
+  protected:
+    static constexpr double kLoads[] = {9000.0, 9500.0, 10'000.0};
+
+    /// Three tests, of which the second is left out of the spread.
+    ShiftedTestsTest() {
+        for (int row = 1; row <= 3; ++row) {
+            const double load = kLoads[row - 1];
+            SetRow(row, {{"NDTLOADF", load}, {"D0F", 18.0}, {"DR", 3.55}});
+            SetRow(row, {{"NDTLOAD", load}, {"D0", 4.0}, {"D12", 3.4}, {"D24", 2.7}, {"D36", 2.0}});
+            SetRow(row, {{"NDTLOADC", load}, {"D0C", 4.5}, {"D12C", 3.4}, {"D24C", 2.7}, {"D36C", 2.0}});
+        }
+        Open(GetParam());
+        Raise(Kind::MoveToCell, load_, {}, 2);
+        Raise(Kind::Press, "LeftOut");
+    }
+
+    std::vector<std::optional<double>> Loads() {
+        std::vector<std::optional<double>> loads;
+        for (int row = 1; row <= 4; ++row) loads.push_back(Cell(load_, row));
+        return loads;
+    }
+
+    bool IsLeftOut(int row) {
+        Raise(Kind::MoveToCell, load_, {}, row);
+        return program_.program.state().formRegistry.CurrentForm->Get("LeftOut").value;
+    }
+
+    std::vector<int> LeftOut() {
+        std::vector<int> rows;
+        for (int row = 1; row <= 4; ++row) {
+            if (IsLeftOut(row)) rows.push_back(row);
+        }
+        return rows;
+    }
+
+    const char kind_ = GetParam()[4];
+    const char* load_ = kind_ == 'F' ? "NDTLOADF" : kind_ == 'R' ? "NDTLOAD" : "NDTLOADC";
+    const char* result_ = kind_ == 'F' ? "NDTRM" : kind_ == 'R' ? "DYNK" : "DYNKC";
+};
+
+TEST_P(ShiftedTestsTest, AnInsertedRowIsEmptyAndMovesTestsWithTheirMarks) {
+    const auto result = Cell(result_, 2);
+    Raise(Kind::InsertRow, {}, {}, 2);
+    EXPECT_THAT(Messages(), IsEmpty());
+    EXPECT_THAT(Loads(), ElementsAre(9000.0, std::nullopt, 9500.0, 10'000.0));
+    EXPECT_EQ(Cell(result_, 2), std::nullopt) << "an empty row has no results";
+    EXPECT_EQ(Cell(result_, 3), result);
+    EXPECT_THAT(LeftOut(), ElementsAre(3));
+}
+
+TEST_P(ShiftedTestsTest, AMovedTestTakesItsMarkWithIt) {
+    Raise(Kind::MoveRowUp, {}, {}, 2);
+    EXPECT_THAT(Loads(), ElementsAre(9500.0, 9000.0, 10'000.0, std::nullopt));
+    EXPECT_THAT(LeftOut(), ElementsAre(1));
+    Raise(Kind::MoveRowDown, {}, {}, 1);
+    Raise(Kind::MoveRowDown, {}, {}, 2);
+    EXPECT_THAT(Loads(), ElementsAre(9000.0, 10'000.0, 9500.0, std::nullopt));
+    EXPECT_THAT(LeftOut(), ElementsAre(3));
+}
+
+TEST_P(ShiftedTestsTest, AnUndoneMoveOrInsertionPutsTheMarksBack) {
+    Raise(Kind::MoveRowUp, {}, {}, 2);
+    program_.program.Undo();
+    EXPECT_THAT(LeftOut(), ElementsAre(2));
+    Raise(Kind::InsertRow, {}, {}, 1);
+    EXPECT_THAT(LeftOut(), ElementsAre(3));
+    program_.program.Undo();
+    EXPECT_THAT(Loads(), ElementsAre(9000.0, 9500.0, 10'000.0, std::nullopt));
+    EXPECT_THAT(LeftOut(), ElementsAre(2));
+    program_.host.dialogs.QueueAnswer("yes");
+    Raise(Kind::DeleteRow, {}, {}, 2);
+    EXPECT_THAT(LeftOut(), IsEmpty());
+    program_.program.Undo();
+    EXPECT_THAT(LeftOut(), ElementsAre(2));
+}
+
+INSTANTIATE_TEST_SUITE_P(Screens, ShiftedTestsTest, testing::Values("ReDfF", "ReDfR", "ReDfC"));
 
 }  // namespace
 }  // namespace kelvor::test

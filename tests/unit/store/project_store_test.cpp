@@ -59,7 +59,6 @@ TEST_F(ProjectStoreTest, ANumberThatIsNotFiniteIsRefusedAndTheCellStays) {
           std::numeric_limits<double>::quiet_NaN()}) {
         EXPECT_THROW(store_.SetVar("SN", number), ArithmeticFault);
         EXPECT_THROW(store_.SetVarDim("SN", 1, 1, number), ArithmeticFault);
-        EXPECT_THROW(store_.SetNumber(store_.Resolve("SN"), number), ArithmeticFault);
         EXPECT_THROW(store_.SetCell("SN", 1, 1, {number, "?"}), ArithmeticFault);
     }
     EXPECT_EQ(*store_.FindCell("SN", 1, 1), (CellValue{5.0, "5.0"}));
