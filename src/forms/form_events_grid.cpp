@@ -116,7 +116,8 @@ bool FormEvents::DeleteRow(Form& form, int row) {
     } else {
         return true;
     }
-    context_.act = Filled(Translated("deletion of %1 %2"), {form.type().rowName, std::to_string(row)});
+    context_.act =
+        Filled(Translated("deletion of %1 %2"), {Translated(form.type().rowName.one), std::to_string(row)});
     Handle(FormEvent::RowDeleted, form, control, [&] {
         RecalcAllOutputs(context_, form);
         RecalcOutputs(context_, form, "", 0);
@@ -141,7 +142,8 @@ bool FormEvents::InsertRow(Form& form, int row) {
              .title = Translated("Insert Row")});
         return true;
     }
-    context_.act = Filled(Translated("insertion of %1 %2"), {form.type().rowName, std::to_string(row)});
+    context_.act =
+        Filled(Translated("insertion of %1 %2"), {Translated(form.type().rowName.one), std::to_string(row)});
     NoteRowsWritten(form, *control, RowsFromTo(row, *last));
     return true;
 }
@@ -152,7 +154,8 @@ bool FormEvents::MoveRow(Form& form, int row, int step) {
     if (RowStays(context_, form, *control->grid, row + step) || !MayShiftRows(form, *control, row))
         return true;
     GridSwapRows(context_, form, row, row + step);
-    context_.act = Filled(Translated("move of %1 %2"), {form.type().rowName, std::to_string(row)});
+    context_.act =
+        Filled(Translated("move of %1 %2"), {Translated(form.type().rowName.one), std::to_string(row)});
     NoteRowsWritten(form, *control, RowsFromTo(std::min(row, row + step), std::max(row, row + step)));
     MoveGridCursor(form, *control, row + step, control->grid->column);
     return true;

@@ -7,6 +7,7 @@
 #include "forms/recalculation.h"
 #include "forms/side_screen.h"
 #include "platform/number_text.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -85,19 +86,21 @@ FormType LayeredDesignForm() {
     FormType type;
     type.name = kForm;
     type.caption = "Flexible Pavement Layer Thickness Determination";
-    type.rowName = "layer";
+    type.rowName = {ToTranslate("layer"), ToTranslate("layers")};
     type.layout = Rows({
         Grid("Grid", {{.variable = "LDLayerMat",
                        .list = true,
-                       .alsoSets = "also sets the layer coefficient of this row of the existing pavement"},
+                       .alsoSets = Translated("also sets the layer coefficient of this row of the existing "
+                                              "pavement")},
                       {.variable = "LDLayerCoef"},
                       {.variable = "LDDrainCoef"},
                       {.variable = "LDLayerThick"},
                       {.variable = "LDLayerStructNo"},
                       {.variable = "LDAdditThick"}}),
-        Columns({Fields({{.variable = "SN", .label = "Required Structural Number", .locked = true},
-                         {.variable = "SSN"}}),
-                 Verdict("Res")}),
+        Columns(
+            {Fields({{.variable = "SN", .label = Translated("Required Structural Number"), .locked = true},
+                     {.variable = "SSN"}}),
+             Verdict("Res")}),
         Hidden({"SNCarry", "FieldName", "FormName", "Column"}),
     });
     type.handlers = {

@@ -5,6 +5,7 @@
 
 #include "forms/form.h"
 #include "forms/screen_context.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -58,7 +59,7 @@ void MoveMarks(ScreenEvent& event) {
 
 }  // namespace
 
-LayoutElement LeaveOutBox() { return Checks({{kBox, "Leave This &Test out of the Spread"}}); }
+LayoutElement LeaveOutBox() { return Checks({{kBox, Translated("Leave This &Test out of the Spread")}}); }
 
 LayoutElement LeaveOutState() { return Hidden({kMarks, kMarksAfterDeletion}); }
 
@@ -73,7 +74,8 @@ std::set<int> LeftOutTests(const Form& form) { return RowsIn(form.TextOf(kMarks)
 
 std::string WithLeftOutNote(std::string note, const Form& form, int row, const GridColumn& column) {
     if (!column.locked || !LeftOutTests(form).contains(row)) return note;
-    return note.empty() ? "Left out of the spread" : note + ". Left out of the spread";
+    if (note.empty()) return Translated("Left out of the spread");
+    return Filled(Translated("%1. Left out of the spread"), {note});
 }
 
 bool PrepareDeletion(ScreenContext& context, Form& form, int row) {
