@@ -47,6 +47,39 @@ namespace {
     ToTranslate("%1\nFile not found.\nPlease verify the correct file name was given."),
 };
 
+/// The same of the dialog that prints.
+[[maybe_unused]] constexpr const char* kTextsOfPrinting[] = {
+    ToTranslate("&Print"),
+    ToTranslate("Printer"),
+    ToTranslate("&Name:"),
+    ToTranslate("P&roperties"),
+    ToTranslate("Location:"),
+    ToTranslate("Type:"),
+    ToTranslate("Output &file:"),
+    ToTranslate("&Options >>"),
+    ToTranslate("&Options <<"),
+    ToTranslate("Copies"),
+    ToTranslate("Copies:"),
+    ToTranslate("Collate"),
+    ToTranslate("Reverse"),
+    ToTranslate("Options"),
+    ToTranslate("Print range"),
+    ToTranslate("Print all"),
+    ToTranslate("Pages from"),
+    ToTranslate("to"),
+    ToTranslate("Current Page"),
+    ToTranslate("Selection"),
+    ToTranslate("Output Settings"),
+    ToTranslate("Color Mode"),
+    ToTranslate("Color"),
+    ToTranslate("Grayscale"),
+    ToTranslate("Duplex Printing"),
+    ToTranslate("None"),
+    ToTranslate("Long side binding"),
+    ToTranslate("Short side binding"),
+    ToTranslate("Print to File (PDF)"),
+};
+
 /// And of the menus of its frames.
 [[maybe_unused]] constexpr const char* kTextsOfFrames[] = {
     ToTranslate("&Restore"),  ToTranslate("&Move"),        ToTranslate("&Size"),  ToTranslate("Mi&nimize"),
