@@ -7,6 +7,7 @@
 #include "catalogue/schema.h"
 #include "platform/number_picture.h"
 #include "platform/sqlite.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -31,7 +32,7 @@ std::optional<int> Whole(const RowView& row, std::size_t column) {
     const std::optional<std::int64_t> value = row.Whole(column);
     if (!value) return std::nullopt;
     if (*value < 0 || *value > std::numeric_limits<std::int16_t>::max()) {
-        throw DatabaseError("a whole number is out of range", false);
+        throw DatabaseError(Translated("a whole number is out of range"), false);
     }
     return static_cast<int>(*value);
 }
@@ -132,7 +133,7 @@ void Catalogue::ReadScreens() {
 void Catalogue::ReadUnitPairs() {
     VisitRows(*database_, "Convert", "English, Metric, Factor", "rowid", [this](const RowView& row) {
         const auto factor = row.Number(2);
-        if (!factor || *factor <= 0.0) throw DatabaseError("a unit factor is not above 0", false);
+        if (!factor || *factor <= 0.0) throw DatabaseError(Translated("a unit factor is not above 0"), false);
         unitPairs_.push_back({Text(row, 0), Text(row, 1), *factor});
     });
 }

@@ -17,6 +17,7 @@
 #include "desktop/picture_view.h"
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
+#include "desktop/translated_text.h"
 #include "platform/number_picture.h"
 
 namespace kelvor {
@@ -126,7 +127,7 @@ QWidget* MakeTabStrip(QWidget* parent) {
     auto* tabs = new QTabWidget(parent);
     tabs->setFocusPolicy(Qt::NoFocus);
     tabs->tabBar()->setFocusPolicy(Qt::TabFocus);
-    tabs->tabBar()->setAccessibleName(QStringLiteral("Tabs"));
+    tabs->tabBar()->setAccessibleName(TranslatedText("Tabs"));
     tabs->setUsesScrollButtons(false);
     tabs->setElideMode(Qt::ElideNone);
     return tabs;

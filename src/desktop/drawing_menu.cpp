@@ -19,6 +19,7 @@
 #include "drawing/svg.h"
 #include "platform/replace_file.h"
 #include "platform/text.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -30,7 +31,8 @@ std::string PngOf(const Scene& scene) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    if (!PictureOf(scene, kDotsOfInch).save(&buffer, "PNG")) throw FileError("the picture cannot be made");
+    if (!PictureOf(scene, kDotsOfInch).save(&buffer, "PNG"))
+        throw FileError(Translated("the picture cannot be made"));
     return bytes.toStdString();
 }
 

@@ -16,6 +16,7 @@
 #include "desktop/app_icon.h"
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
+#include "desktop/translated_page.h"
 #include "desktop/translated_text.h"
 
 namespace kelvor {
@@ -42,7 +43,7 @@ class HelpBrowser : public QTextBrowser {
     }
 
     QVariant loadResource(int type, const QUrl& name) override {
-        if (name.scheme() == QStringLiteral("qthelp")) return engine_.fileData(name);
+        if (name.scheme() == QStringLiteral("qthelp")) return TranslatedPage(name, engine_.fileData(name));
         return QTextBrowser::loadResource(type, name);
     }
 

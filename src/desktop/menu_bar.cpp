@@ -94,7 +94,7 @@ void MenuBar::SyncEntry(QAction& action, const MenuEntry& entry) {
     action.setVisible(entry.visible);
     if (entry.IsSeparator()) return;
     action.setText(CaptionOf(entry));
-    action.setToolTip(entry.comesLater ? QString::fromLatin1(kComesLater) : ToQt(entry.toolTip));
+    action.setToolTip(entry.comesLater ? TranslatedText(kComesLater) : ToQt(entry.toolTip));
     action.setEnabled(entry.enabled && !entry.comesLater);
     action.setChecked(entry.checked);
 }

@@ -6,6 +6,8 @@
 #include <utility>
 #include <vector>
 
+#include "platform/translation.h"
+
 namespace kelvor {
 
 namespace {
@@ -168,21 +170,21 @@ void DrawMarks(Scene& scene, const shape::Rectangle& place, Material material) {
 std::string NameOf(Material material) {
     switch (material) {
         case Material::Asphalt:
-            return "Asphalt";
+            return Translated("Asphalt");
         case Material::Concrete:
-            return "Concrete";
+            return Translated("Concrete");
         case Material::Treated:
-            return "Treated base";
+            return Translated("Treated base");
         case Material::Granular:
-            return "Granular base";
+            return Translated("Granular base");
         case Material::Interlayer:
-            return "Interlayer";
+            return Translated("Interlayer");
         case Material::Subgrade:
-            return "Subgrade";
+            return Translated("Subgrade");
         case Material::Other:
             break;
     }
-    return "Other material";
+    return Translated("Other material");
 }
 
 void DrawHatched(Scene& scene, const shape::Rectangle& place, Material material) {

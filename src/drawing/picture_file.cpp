@@ -4,6 +4,7 @@
 #include "drawing/svg.h"
 #include "platform/replace_file.h"
 #include "platform/text.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -22,7 +23,7 @@ bool IsPictureFile(const Path& file) { return EndsIn(file, ".svg") || EndsIn(fil
 void WritePicture(FileSystem& files, const Path& file, const Scene& scene) {
     if (EndsIn(file, ".svg")) return ReplaceFile(files, file, ToSvg(scene));
     if (EndsIn(file, ".png")) return ReplaceFile(files, file, LoadScenePainter().Png(scene, kDotsOfInch));
-    throw FileError("a picture is a file .svg or .png");
+    throw FileError(Translated("a picture is a file .svg or .png"));
 }
 
 }  // namespace kelvor

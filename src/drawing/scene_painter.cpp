@@ -1,12 +1,14 @@
 #include "drawing/scene_painter.h"
 
 #include "platform/module.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
 const ScenePainter& LoadScenePainter() {
     static const ScenePainter& painter = OpenDoor<ScenePainter>(
-        {"kelvor-paint.so", kScenePainterEntryName, "what paints pictures"}, kScenePainterVersion);
+        {"kelvor-paint.so", kScenePainterEntryName, ToTranslate("what paints pictures")},
+        kScenePainterVersion);
     return painter;
 }
 

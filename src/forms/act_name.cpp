@@ -12,9 +12,14 @@ std::string ChangeOf(const ScreenContext& context, std::string_view variable, in
     return Filled(Translated("change of %1, row %2"), {name, std::to_string(row)});
 }
 
-std::string CountOf(std::string_view act, std::size_t count, std::string_view thing) {
-    return std::string(act) + " of " + std::to_string(count) + " " + std::string(thing) +
-           (count == 1 ? "" : "s");
+std::string PasteOf(std::size_t count, const RowName& rows) {
+    return Filled(Translated("paste of %1 %2"),
+                  {std::to_string(count), Translated(count == 1 ? rows.one : rows.several)});
+}
+
+std::string EmptyingOf(std::size_t cells) {
+    return Filled(cells == 1 ? Translated("emptying of %1 cell") : Translated("emptying of %1 cells"),
+                  {std::to_string(cells)});
 }
 
 std::string PlainCaption(std::string_view caption) {

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "forms/form_type.h"
 #include "forms/screen_context.h"
 
 namespace kelvor {
@@ -13,8 +14,11 @@ namespace kelvor {
 /// "change of Thickness, row 3".
 std::string ChangeOf(const ScreenContext& context, std::string_view variable, int row = 0);
 
-/// "paste of 30 tests", "paste of 1 row": how many, of things that have a name in the singular.
-std::string CountOf(std::string_view act, std::size_t count, std::string_view thing);
+/// "paste of 30 tests", "paste of 1 row".
+std::string PasteOf(std::size_t count, const RowName& rows);
+
+/// "emptying of 12 cells".
+std::string EmptyingOf(std::size_t cells);
 
 /// The caption of a button or an option, without the mark of its access key.
 std::string PlainCaption(std::string_view caption);

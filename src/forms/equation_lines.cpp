@@ -74,7 +74,9 @@ StatusLine AnswerLine(const ScreenContext& context, const SolveKey& equation) {
     try {
         const EquationAnswer answer = equation.answer(context.calc, equation.terms);
         if (answer.traffic) return CompareLine(*answer.traffic, context.calc.Get(equation.Traffic()));
-        return {Filled(Translated("Not in balance: the equation has no value: %1."), {answer.whyNot}), true};
+        return {
+            Filled(Translated("Not in balance: the equation has no value: %1."), {Translated(answer.whyNot)}),
+            true};
     } catch (const ArithmeticFault&) {
         return {Translated("Not in balance: the equation has no value."), true};
     }
@@ -92,7 +94,9 @@ std::string TargetText(const ScreenContext& context, const Form& form) {
     const Field* field = FindScreenField(context, form, current->name);
     const Variable* variable = context.catalogue.FindVariable(current->name);
     if (variable == nullptr) return {};
-    return (field != nullptr && field->solveFor ? "Solves for: " : "Cannot solve for: ") + variable->desc;
+    const bool solves = field != nullptr && field->solveFor;
+    return Filled(solves ? Translated("Solves for: %1") : Translated("Cannot solve for: %1"),
+                  {variable->desc});
 }
 
 StatusLine GovernsLine(const ScreenContext& context, const FormType& type) {

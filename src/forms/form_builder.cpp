@@ -7,6 +7,7 @@
 
 #include "forms/access_keys.h"
 #include "forms/coded_list.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -189,8 +190,8 @@ class Builder {
         grid.backColor = colours::kWindow;
         grid.grid.emplace();
         grid.visible = false;
-        AddButton(ControlKind::CommandButton, {"PrevPage", "&Back"}).visible = false;
-        AddButton(ControlKind::CommandButton, {"NextPage", "&Next"}).visible = false;
+        AddButton(ControlKind::CommandButton, {"PrevPage", Translated("&Back")}).visible = false;
+        AddButton(ControlKind::CommandButton, {"NextPage", Translated("&Next")}).visible = false;
     }
 
     void Make(const layout::Hidden& boxes) {
@@ -216,7 +217,7 @@ class Builder {
         button.accessKey = MarkedKey(item.caption);
         if (item.comesLater) {
             button.enabled = false;
-            button.toolTip = kComesLater;
+            button.toolTip = Translated(kComesLater);
         }
         return button;
     }
@@ -280,7 +281,7 @@ class Builder {
         for (const TakeOver& source : type_.takeOvers) {
             if (!EqualNoCase(source.variable, item.variable)) continue;
             Control& button = AddLabelled(ControlKind::CommandButton, TakeOverButtonName(item.variable), "");
-            button.toolTip = "Take over " + source.source;
+            button.toolTip = Filled(Translated("Take over %1"), {source.source});
             button.takesOver = item.variable;
             button.visible = false;
         }

@@ -140,7 +140,7 @@ bool FormEvents::PasteCells(Form& form, const std::string& block) {
         context_.calc.dialogs.ShowMessage(single ? plan.first->reason : LeftOutMessage(plan));
     }
     const std::vector<int> rows = RowsOf(plan.cells);
-    context_.act = CountOf("paste", rows.size(), form.type().rowName);
+    context_.act = PasteOf(rows.size(), form.type().rowName);
     NoteRowsWritten(form, *control, rows);
     return true;
 }
@@ -156,7 +156,7 @@ bool FormEvents::EmptyCells(Form& form, const CellRange& range) {
     }
     const std::vector<CellEntry> cells = FilledCells(context_, form, *control->grid, range);
     WriteCells(form, *control, cells);
-    context_.act = CountOf("emptying", cells.size(), "cell");
+    context_.act = EmptyingOf(cells.size());
     GridAfterColUpdate(form);
     NoteRowsWritten(form, *control, RowsOf(cells));
     return true;

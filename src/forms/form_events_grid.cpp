@@ -121,7 +121,8 @@ bool FormEvents::DeleteRow(Form& form, int row) {
     } else {
         return true;
     }
-    context_.act = Filled(Translated("deletion of %1 %2"), {form.type().rowName, std::to_string(row)});
+    context_.act =
+        Filled(Translated("deletion of %1 %2"), {Translated(form.type().rowName.one), std::to_string(row)});
     Handle(FormEvent::RowDeleted, form, control, [&] {
         RecalcAllOutputs(context_, form);
         RecalcOutputs(context_, form, "", 0);
@@ -146,7 +147,8 @@ bool FormEvents::InsertRow(Form& form, int row) {
              .title = Translated("Insert Row")});
         return true;
     }
-    context_.act = Filled(Translated("insertion of %1 %2"), {form.type().rowName, std::to_string(row)});
+    context_.act =
+        Filled(Translated("insertion of %1 %2"), {Translated(form.type().rowName.one), std::to_string(row)});
     TellRowsMoved(form, *control->grid, *moves);
     NoteRowsWritten(form, *control, RowsFromTo(row, static_cast<int>(moves->size())));
     return true;
@@ -159,7 +161,8 @@ bool FormEvents::MoveRow(Form& form, int row, int step) {
         return true;
     const RowMoves moves = GridSwapRows(context_, form, row, row + step, control->grid->rows);
     TellRowsMoved(form, *control->grid, moves);
-    context_.act = Filled(Translated("move of %1 %2"), {form.type().rowName, std::to_string(row)});
+    context_.act =
+        Filled(Translated("move of %1 %2"), {Translated(form.type().rowName.one), std::to_string(row)});
     NoteRowsWritten(form, *control, RowsFromTo(std::min(row, row + step), std::max(row, row + step)));
     MoveGridCursor(form, *control, row + step, control->grid->column);
     return true;

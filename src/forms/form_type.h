@@ -9,6 +9,7 @@
 #include "forms/layout.h"
 #include "forms/status_line.h"
 #include "platform/real.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -100,6 +101,12 @@ struct FormEquation {
 inline constexpr const char* kOkButton = "cmdAction";
 inline constexpr const char* kHelpButton = "SSHelp";
 
+/// What a row of a grid holds; translated where it is shown.
+struct RowName {
+    const char* one = ToTranslate("row");
+    const char* several = ToTranslate("rows");
+};
+
 /// A designed form: what it is called, what stands on it, and what it does beyond the common routines.
 /// Declared, not drawn: a front end lays it out.
 struct FormType {
@@ -113,14 +120,14 @@ struct FormType {
     std::vector<HelpRoute> helpRoutes;    // any other field has the general help
     std::vector<TakeOver> takeOvers;      // of its fields
     StatusLine (*governs)(const ScreenContext& context) =
-        nullptr;  // what decides its result, from the stored cells: shown on the label GOVERNS
-    std::string rowName = "row";  // what a row of its grid holds, in the singular: "test"
-    std::string helpPage = {};    // of the help, if it is not called like the form
-    bool modal = false;           // while it is open, the user works in it alone
-    bool isHelp = false;          // helps with one field of another form; Esc closes it
-    bool needsProject = true;     // it shows values of the project, and works on nothing else
-    bool beginsAnew = false;      // opened again while it is open, it starts as if it had not been
-    bool isHub = false;           // the form with the tabs: always open, and Enter selects its options
+        nullptr;                // what decides its result, from the stored cells: shown on the label GOVERNS
+    RowName rowName;            // what a row of its grid holds
+    std::string helpPage = {};  // of the help, if it is not called like the form
+    bool modal = false;         // while it is open, the user works in it alone
+    bool isHelp = false;        // helps with one field of another form; Esc closes it
+    bool needsProject = true;   // it shows values of the project, and works on nothing else
+    bool beginsAnew = false;    // opened again while it is open, it starts as if it had not been
+    bool isHub = false;         // the form with the tabs: always open, and Enter selects its options
 };
 
 /// A form type by its name, made when it is first asked for: most are never opened in a session.

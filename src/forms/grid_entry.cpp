@@ -7,6 +7,7 @@
 #include "platform/database_error.h"
 #include "platform/number_picture.h"
 #include "platform/number_text.h"
+#include "platform/translation.h"
 #include "units/number_entry.h"
 
 namespace kelvor {
@@ -130,7 +131,8 @@ void FillValueItems(ScreenContext& context, Form& form) {
     } catch (const DatabaseError& failure) {
         // The screen serves without what it would offer.
         context.calc.dialogs.ShowMessage(
-            {.text = std::string("The drop-down lists cannot be read: ") + failure.what(), .title = "Error"});
+            {.text = Filled(Translated("The drop-down lists cannot be read: %1"), {failure.what()}),
+             .title = "Error"});
     }
 }
 

@@ -4,6 +4,7 @@
 #include "forms/form_events.h"
 #include "forms/side_screen.h"
 #include "platform/number_picture.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -50,7 +51,7 @@ FormType ValueHelp(const std::string& name, const std::string& box, std::vector<
                  .choice = "ComboBox"}}),
         Hidden(std::move(hidden)),
     });
-    type.foot = {{"Command1", "&OK"}, {"SSHelp", "&Limits"}};
+    type.foot = {{"Command1", "&OK"}, {"SSHelp", Translated("&Limits")}};
     type.handlers = ValueHelpHandlers();
     return type;
 }
@@ -62,7 +63,7 @@ FormType CellHelp() { return ValueHelp("HelpGrid", "Text1", {"Column", "Dim1"});
 // --- What the catalogue holds about a variable ---------------------------------------------------------
 
 std::string LimitText(const std::optional<double>& limit, const std::string& picture) {
-    return limit ? FormatNumber(*limit, picture) : "none";
+    return limit ? FormatNumber(*limit, picture) : Translated("none");
 }
 
 void LoadFacts(ScreenEvent& event) {
@@ -70,11 +71,11 @@ void LoadFacts(ScreenEvent& event) {
     if (variable == nullptr) return;
     const Range range = event.context.units.VariableRange(variable->name);
     const std::pair<std::string, std::string> facts[] = {
-        {"Name in scripts", variable->name},
-        {"Unit", event.context.units.UnitLabel(variable->name)},
-        {"Least value", LimitText(range.low, variable->format)},
-        {"Greatest value", LimitText(range.high, variable->format)},
-        {"Number format", variable->format},
+        {Translated("Name in scripts"), variable->name},
+        {Translated("Unit"), event.context.units.UnitLabel(variable->name)},
+        {Translated("Least value"), LimitText(range.low, variable->format)},
+        {Translated("Greatest value"), LimitText(range.high, variable->format)},
+        {Translated("Number format"), variable->format},
     };
     int line = 0;
     for (const auto& [label, text] : facts) {
@@ -83,8 +84,9 @@ void LoadFacts(ScreenEvent& event) {
         event.form.SetText("Text" + number, text);
     }
     const bool limited = range.low || range.high;
-    event.form.SetText("msg", variable->desc + (limited ? ": values outside these limits are refused."
-                                                        : ": has no limits."));
+    event.form.SetText("msg", Filled(limited ? Translated("%1: values outside these limits are refused.")
+                                             : Translated("%1: has no limits."),
+                                     {variable->desc}));
 }
 
 void ReturnFromFacts(ScreenEvent& event) { ReturnFromSideScreen(event.context, event.form, false); }

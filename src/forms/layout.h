@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "forms/control.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -36,7 +37,7 @@ struct FieldItem {
 };
 
 /// What is said of a thing that Kelvor cannot do yet.
-inline constexpr const char* kComesLater = "comes later";
+inline constexpr const char* kComesLater = ToTranslate("comes later");
 
 /// A button or an option.
 struct ButtonItem {

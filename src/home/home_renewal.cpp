@@ -11,6 +11,7 @@
 #include "platform/database_error.h"
 #include "platform/file_lock.h"
 #include "platform/replace_file.h"
+#include "platform/translation.h"
 #include "platform/user_folders.h"
 
 namespace kelvor {
@@ -155,14 +156,15 @@ HomeState MakeOrRenewHome(FileSystem& files, const Path& installed, const Path& 
         MakePrivateFolders(home);
         // Of two starts at the same moment one makes the home; the other waits, and finds it whole.
         const std::unique_ptr<FileLock> turn = AwaitTurn(home / kTurn);
-        if (!turn->holds() && !IsHome(files, home)) throw FileError("another start is still at it");
+        if (!turn->holds() && !IsHome(files, home))
+            throw FileError(Translated("another start is still at it"));
         if (!turn->holds() || !Renewal(files, installed, home).IsDue()) return HomeState::AsItWas;
         const FileLock lock(home / kLock);
         if (!lock.holds()) return HomeState::AsItWas;
         Renewal(files, installed, home).Run();
     } catch (const FileError& failure) {
-        throw FileError("The folder " + home.string() +
-                        " of the program cannot be made ready: " + failure.what());
+        throw FileError(Filled(Translated("The folder %1 of the program cannot be made ready: %2"),
+                               {home.string(), failure.what()}));
     }
     return isNew ? HomeState::Made : HomeState::Renewed;
 }

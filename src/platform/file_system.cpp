@@ -9,6 +9,7 @@
 
 #include "platform/descriptor.h"
 #include "platform/system_reason.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -54,7 +55,7 @@ class RegularFile {
         struct stat status {};
         if (::fstat(file_.get(), &status) != 0) ThrowErrno();
         if (S_ISDIR(status.st_mode)) throw FileError(SystemReason(EISDIR));
-        if (!S_ISREG(status.st_mode)) throw FileError("Not a regular file");
+        if (!S_ISREG(status.st_mode)) throw FileError(Translated("Not a regular file"));
         size_ = static_cast<std::size_t>(status.st_size);
     }
 

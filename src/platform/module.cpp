@@ -3,6 +3,7 @@
 #include <dlfcn.h>
 
 #include "platform/executable_folder.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -20,12 +21,12 @@ void* OpenFile(const Module& module) {
 }  // namespace
 
 FileError LoadFailure(const Module& module, const std::string& reason) {
-    return FileError(std::string(module.work) + " could not be loaded: " + reason);
+    return FileError(Filled(Translated("%1 could not be loaded: %2"), {Translated(module.work), reason}));
 }
 
 void* LoadFunction(const Module& module) {
     void* function = ::dlsym(OpenFile(module), module.function);
-    if (function == nullptr) throw LoadFailure(module, std::string("it has no ") + module.function);
+    if (function == nullptr) throw LoadFailure(module, Filled(Translated("it has no %1"), {module.function}));
     return function;
 }
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/file_system.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -27,7 +28,8 @@ const Door& OpenDoor(const Module& module, int version) {
     using Function = const Door* (*)(int);
     const auto function = reinterpret_cast<Function>(LoadFunction(module));
     const Door* door = function(version);
-    if (door == nullptr) throw LoadFailure(module, std::string(module.file) + " is of another version");
+    if (door == nullptr)
+        throw LoadFailure(module, Filled(Translated("%1 is of another version"), {module.file}));
     return *door;
 }
 

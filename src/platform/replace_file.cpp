@@ -7,6 +7,7 @@
 #include <string>
 
 #include "platform/system_reason.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -67,7 +68,7 @@ void ReplaceFile(FileSystem& files, const Path& target, std::string_view content
     const Path resolved = files.Resolve(target);
     const FileKind kind = files.Kind(resolved);
     if (kind == FileKind::Directory) throw FileError(SystemReason(EISDIR));
-    if (kind == FileKind::Other) throw FileError("Not a regular file");
+    if (kind == FileKind::Other) throw FileError(Translated("Not a regular file"));
     // Renaming would replace a write-protected file all the same.
     if (kind == FileKind::Regular && !files.IsWritable(resolved)) throw FileError(SystemReason(EACCES));
     RemoveLeftovers(files, resolved);

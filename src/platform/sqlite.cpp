@@ -7,6 +7,7 @@
 #include <system_error>
 
 #include "platform/text.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -40,7 +41,7 @@ void CheckKind(const Path& path) {
     const bool serves = kind == std::filesystem::file_type::regular ||
                         kind == std::filesystem::file_type::directory ||
                         kind == std::filesystem::file_type::not_found;
-    if (!error && !serves) throw DatabaseError("Not a regular file", true);
+    if (!error && !serves) throw DatabaseError(Translated("Not a regular file"), true);
 }
 
 /// A file that cannot be opened for writing at the moment is opened by SQLite for reading alone, and would
@@ -60,11 +61,12 @@ void CheckLength(SQLite::Database& database, const Path& path) {
     std::error_code error;
     const std::uintmax_t length = std::filesystem::file_size(path, error);
     const auto pageSize = static_cast<std::uintmax_t>(database.execAndGet("PRAGMA page_size").getInt64());
-    if (!error && length % pageSize != 0) throw DatabaseError("file ends in the middle of a page", false);
+    if (!error && length % pageSize != 0)
+        throw DatabaseError(Translated("file ends in the middle of a page"), false);
 }
 
 [[noreturn]] void Refuse(const std::string& type, const std::string& name) {
-    throw DatabaseError(type + " " + name + " does not belong there", false);
+    throw DatabaseError(Filled(Translated("%1 %2 does not belong there"), {type, name}), false);
 }
 
 /// `query` gives the columns of the table that is bound to it.
@@ -76,15 +78,16 @@ void CheckTable(SQLite::Statement& query, const TableShape& shape) {
     while (query.executeStep()) {
         const std::string column = query.getColumn(0);
         if (count >= shape.columns.size() || !EqualNoCase(column, shape.columns[count])) {
-            throw DatabaseError("table " + name + " has other columns", false);
+            throw DatabaseError(Filled(Translated("table %1 has other columns"), {name}), false);
         }
         if (query.getColumn(1).getInt() != 0) {
-            throw DatabaseError("table " + name + " has computed columns", false);
+            throw DatabaseError(Filled(Translated("table %1 has computed columns"), {name}), false);
         }
         ++count;
     }
-    if (count == 0) throw DatabaseError("table " + name + " is missing", false);
-    if (count != shape.columns.size()) throw DatabaseError("table " + name + " lacks columns", false);
+    if (count == 0) throw DatabaseError(Filled(Translated("table %1 is missing"), {name}), false);
+    if (count != shape.columns.size())
+        throw DatabaseError(Filled(Translated("table %1 lacks columns"), {name}), false);
 }
 
 /// The tables that are not made by the statement that their shape gives, if it gives one. Whatever does not
@@ -163,9 +166,20 @@ void VisitRows(SQLite::Database& database, const std::string& table, const std::
     }
 }
 
+/// What SQLite says most often, for the catalogue of texts.
+[[maybe_unused]] constexpr std::array kCommonReasons = {
+    ToTranslate("attempt to write a readonly database"),
+    ToTranslate("database disk image is malformed"),
+    ToTranslate("database is locked"),
+    ToTranslate("database or disk is full"),
+    ToTranslate("disk I/O error"),
+    ToTranslate("file is not a database"),
+    ToTranslate("unable to open database file"),
+};
+
 DatabaseError ToDatabaseError(const SQLite::Exception& failure) {
-    if (failure.getErrorCode() == SQLITE_INTERRUPT) return {"it takes too long to read", false};
-    return {failure.what(), failure.getErrorCode() == SQLITE_NOTADB};
+    if (failure.getErrorCode() == SQLITE_INTERRUPT) return {Translated("it takes too long to read"), false};
+    return {Translated(failure.what()), failure.getErrorCode() == SQLITE_NOTADB};
 }
 
 SQLite::Database OpenDatabase(const Path& path, DatabaseAccess access) {
@@ -177,7 +191,7 @@ SQLite::Database OpenDatabase(const Path& path, DatabaseAccess access) {
         // The first reading is what tells a database from any other file. An empty file reads as a
         // database of no pages.
         if (database.execAndGet("PRAGMA page_count").getInt() == 0) {
-            throw DatabaseError("file is empty", true);
+            throw DatabaseError(Translated("file is empty"), true);
         }
         database.execAndGet("SELECT count(*) FROM sqlite_schema");
         CheckLength(database, path);
@@ -206,7 +220,8 @@ void CheckRowCounts(SQLite::Database& database, const std::vector<std::string_vi
         SQLite::Statement tooLarge(database, query);
         tooLarge.bind(1, most);
         if (tooLarge.executeStep()) {
-            throw DatabaseError("table " + tooLarge.getColumn(0).getString() + " has too many rows", false);
+            const std::string name = tooLarge.getColumn(0);
+            throw DatabaseError(Filled(Translated("table %1 has too many rows"), {name}), false);
         }
     } catch (const SQLite::Exception& failure) {
         throw ToDatabaseError(failure);

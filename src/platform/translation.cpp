@@ -101,6 +101,10 @@ std::string Translated(std::string_view english) {
     return translation == nullptr ? std::string(english) : *translation;
 }
 
+InEnglish::InEnglish() { std::swap(spoken_, Language()); }
+
+InEnglish::~InEnglish() { std::swap(spoken_, Language()); }
+
 std::string Filled(std::string_view text, std::initializer_list<std::string_view> parts) {
     std::string filled;
     for (std::size_t i = 0; i < text.size(); ++i) {

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "platform/translation.h"
+
 namespace kelvor {
 
 /// The program's own texts in one language, by their English wording: a catalogue in the format of GNU
@@ -34,6 +36,18 @@ void Speak(Translation language);
 
 /// A text in the language that the process speaks.
 [[nodiscard]] std::string Translated(std::string_view english);
+
+/// English for as long as it lives: a report is the same in whatever language its maker works.
+class InEnglish {
+  public:
+    InEnglish();
+    InEnglish(const InEnglish&) = delete;
+    InEnglish& operator=(const InEnglish&) = delete;
+    ~InEnglish();
+
+  private:
+    Translation spoken_;
+};
 
 /// Marks a text of a table for the catalogue. It is translated where it is shown.
 [[nodiscard]] constexpr const char* ToTranslate(const char* english) { return english; }

@@ -1,12 +1,13 @@
 #include "reports/page_maker.h"
 
 #include "platform/module.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
 const PageMaker& LoadPageMaker() {
-    static const PageMaker& maker =
-        OpenDoor<PageMaker>({"kelvor-pages.so", kPageMakerEntryName, "what makes pages"}, kPageMakerVersion);
+    static const PageMaker& maker = OpenDoor<PageMaker>(
+        {"kelvor-pages.so", kPageMakerEntryName, ToTranslate("what makes pages")}, kPageMakerVersion);
     return maker;
 }
 

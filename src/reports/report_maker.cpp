@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/replace_file.h"
+#include "platform/translation.h"
 #include "reports/document/document.h"
 #include "reports/drawing_pictures.h"
 #include "reports/layout/layout_reader.h"
@@ -39,8 +40,8 @@ Report ReportMaker::Fill(const ReportRequest& request) {
     try {
         return {std::make_shared<const Document>(FillFrom(files_, request)), ""};
     } catch (const FileError& failure) {
-        return {nullptr,
-                "The layout " + request.layout.string() + " cannot be read: " + failure.what() + "."};
+        return {nullptr, Filled(Translated("The layout %1 cannot be read: %2."),
+                                {request.layout.string(), failure.what()})};
     } catch (const std::exception& failure) {
         return {nullptr, failure.what()};
     }

@@ -4,6 +4,7 @@
 #include "forms/form_events.h"
 #include "forms/section_button.h"
 #include "forms/side_screen.h"
+#include "platform/translation.h"
 #include "sections/closing_button.h"
 #include "sections/section_sheet.h"
 
@@ -36,11 +37,11 @@ void OpenDiagram(ScreenEvent& event) {
 
 std::string ChartName(std::string_view screen) { return std::string(screen) + kSectionSuffix; }
 
-FormType SectionChartForm(std::string_view screen, const char* caption, LayoutElement layout,
+FormType SectionChartForm(std::string_view screen, std::string caption, LayoutElement layout,
                           void (*draw)(ScreenEvent&)) {
     FormType type;
     type.name = ChartName(screen);
-    type.caption = caption;
+    type.caption = std::move(caption);
     type.layout = std::move(layout);
     type.foot = {{kDiagramButton, "&Diagram"}, ClosingButton()};
     type.helpPage = kSectionHelpPage;
@@ -64,7 +65,7 @@ FormType MemberChartForm(const SectionMember& member) {
 }
 
 FormType PairChartForm() {
-    return SectionChartForm(kBothDesigns, "Flexible and Rigid Design Cross Sections",
+    return SectionChartForm(kBothDesigns, Translated("Flexible and Rigid Design Cross Sections"),
                             Columns({Chart("Chart1", EmptySection(), kPairLetters),
                                      Chart("Chart2", EmptySection(), kPairLetters)}),
                             DrawPair);

@@ -1,6 +1,7 @@
 #include "shell/about_form.h"
 
 #include "forms/form.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -9,18 +10,19 @@ FormType AboutForm(const std::vector<Library>& ofFrontEnd) {
     libraries.insert(libraries.end(), ofFrontEnd.begin(), ofFrontEnd.end());
     FormType type;
     type.name = kAboutForm;
-    type.caption = "About Kelvor";
+    type.caption = Translated("About Kelvor");
     type.needsProject = false;
     type.layout = Rows({
         Heading("ProductLabel", "Kelvor"),
         Text("VersionLabel", "Version " + std::string(ProgramVersion())),
-        Text("CommitLabel", "Commit " + std::string(SourceCommit())),
+        Text("CommitLabel", Filled(Translated("Commit %1"), {SourceCommit()})),
         Text("PurposeLabel",
-             "Design of new pavements and overlays, evaluation of deflection tests, traffic and "
-             "life-cycle cost by the 1993 AASHTO Guide for Design of Pavement Structures."),
-        Text("LibrariesLabel", "With " + NamesOf(libraries) + "."),
+             Translated("Design of new pavements and overlays, evaluation of deflection tests, traffic and "
+                        "life-cycle cost by the 1993 AASHTO Guide for Design of Pavement Structures.")),
+        Text("LibrariesLabel", Filled(Translated("With %1."), {NamesOf(libraries)})),
         Text("LicenceLabel",
-             "Free software under the GNU General Public License, version 3 or later; without any warranty."),
+             Translated("Free software under the GNU General Public License, version 3 or later; without any "
+                        "warranty.")),
     });
     type.foot = {{"cmdAction", "&OK"}};
     type.handlers = {

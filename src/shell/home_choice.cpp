@@ -6,6 +6,7 @@
 #include "home/home_renewal.h"
 #include "home/shipped_parts.h"
 #include "platform/ini_file.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -37,7 +38,7 @@ std::optional<Path> HomeChoice::Installed() const {
 }
 
 Home HomeChoice::OwnHome(const Path& installed) {
-    if (user_.data.empty()) throw FileError("Nothing tells where the user's home folder is.");
+    if (user_.data.empty()) throw FileError(Translated("Nothing tells where the user's home folder is."));
     const HomeState state = MakeOrRenewHome(files_, installed, UserHome());
     Home home{UserHome(), UserHome(), user_.documents / "Kelvor", installed, state == HomeState::Made};
     const Path chosen = ReadIni(files_, "kvor", "Projects", home.IniFile());

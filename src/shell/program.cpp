@@ -35,7 +35,7 @@ namespace {
 
 constexpr int kNotSolved = -1;  // as SolveForVariable tells it
 
-constexpr const char* kTyping = "typing";  // what Undo drops before it takes a step back
+constexpr const char* kTyping = ToTranslate("typing");  // what Undo drops before it takes a step back
 
 }  // namespace
 
@@ -75,10 +75,10 @@ StartResult Program::Start(const std::string& commandLine) {
 }
 
 std::vector<MenuEntry> Program::Menus() const {
-    static const std::string kTypingAct = kTyping;
+    const std::string typingAct = Translated(kTyping);
     const Form* form = state_.formRegistry.CurrentForm;
     const bool typing = form != nullptr && form->IsTyping();
-    return MenuEntries(state_, {typing ? &kTypingAct : history_.NextUndo(), history_.NextRedo()});
+    return MenuEntries(state_, {typing ? &typingAct : history_.NextUndo(), history_.NextRedo()});
 }
 
 std::string Program::CellText(const Form& form, int row, const GridColumn& column) {
@@ -299,7 +299,7 @@ bool Program::MayTravel() const {
 std::optional<std::string> Program::UndoLast() {
     if (!MayTravel()) return std::nullopt;
     ScreenContext context = state_.MakeScreenContext();
-    if (FormEvents(context).DropTyping()) return kTyping;
+    if (FormEvents(context).DropTyping()) return Translated(kTyping);
     travelled_ = true;
     return history_.Undo(state_);
 }

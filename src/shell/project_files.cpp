@@ -166,7 +166,7 @@ std::string ProjectFiles::ReadProject(const std::string& path) const {
     } catch (const FileTooLarge&) {
         // A large text is no project, rather than one too large.
         if (files.ReadStart(path, kDatabaseMagic.size()) == kDatabaseMagic) throw;
-        throw DatabaseError("file is not a database", true);
+        throw DatabaseError(Translated("file is not a database"), true);
     }
 }
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/database_error.h"
+#include "platform/translation.h"
 #include "store/project_version.h"
 #include "store/work_copy.h"
 
@@ -109,7 +110,7 @@ void ProjectStore::AddCell(std::string_view name, int dim1, int dim2, const Cell
     const int order = variables_.empty() ? 1 : CompareNames(name, variables_.back().name);
     const std::pair subscripts(dim1, dim2);
     if (order < 0 || (order == 0 && subscripts <= variables_.back().subscripts.back())) {
-        throw DatabaseError("rows out of order", false);
+        throw DatabaseError(Translated("rows out of order"), false);
     }
     Variable& variable = order > 0 ? AddVariable(name) : variables_.back();
     ++variable.count;
@@ -129,7 +130,8 @@ void ProjectStore::CheckBounds(const CellBounds& bounds) const {
     for (int dim1 = 1; dim1 <= bounds.dim1; ++dim1) {
         for (int dim2 = 1; dim2 <= bounds.dim2; ++dim2) {
             if (variable == nullptr || !variable->PlaceOf(dim1, dim2)) {
-                throw DatabaseError("cell " + CellText(bounds.name, dim1, dim2) + " is missing", false);
+                throw DatabaseError(
+                    Filled(Translated("cell %1 is missing"), {CellText(bounds.name, dim1, dim2)}), false);
             }
         }
     }

@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "platform/sqlite.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -29,7 +30,8 @@ void CheckProject(SQLite::Database& database, bool checkPages) {
     CheckShape(database, {{"Project", {"Name", "Dim1", "Dim2", "RValue", "SValue"}, kProjectTable}}, true);
     const std::string made =
         database.execAndGet("SELECT sql FROM sqlite_schema WHERE type = 'table'").getString();
-    if (made != kProjectTable) throw DatabaseError("table Project is not made as a project's", false);
+    if (made != kProjectTable)
+        throw DatabaseError(Translated("table Project is not made as a project's"), false);
     if (!checkPages) return;
     CheckRowCounts(database, {"Project"}, kMostRows);
     const std::string verdict = database.execAndGet("PRAGMA quick_check(1)").getString();
@@ -37,8 +39,10 @@ void CheckProject(SQLite::Database& database, bool checkPages) {
 }
 
 std::string NewerVersion(int version, int newest) {
-    return "it was saved by a newer version of Kelvor (its files have version " + std::to_string(version) +
-           ", this program knows those up to " + std::to_string(newest) + ")";
+    return Filled(
+        Translated("it was saved by a newer version of Kelvor (its files have version %1, this program "
+                   "knows those up to %2)"),
+        {std::to_string(version), std::to_string(newest)});
 }
 
 int VersionOf(SQLite::Database& database, int newest) {
@@ -51,7 +55,8 @@ SQLite::Database OpenProject(const Path& path, bool checkPages, int newest) {
     SQLite::Database database = OpenDatabase(path, DatabaseAccess::ReadWrite);
     try {
         if (database.execAndGet("PRAGMA journal_mode").getString() == "wal") {
-            throw DatabaseError("the newest values of a file in WAL mode may stand in another", false);
+            throw DatabaseError(Translated("the newest values of a file in WAL mode may stand in another"),
+                                false);
         }
         // OFF spares each event some waits for the disk. If the process is killed nothing is lost by it: what
         // was written is the system's, which brings it to the disk. Against a power cut stands FlushIfDue;
@@ -72,7 +77,7 @@ SQLite::Database OpenProject(const Path& path, bool checkPages, int newest) {
 int Subscript(const RowView& row, std::size_t column) {
     const std::int64_t value = row.Whole(column).value_or(0);
     if (value < 1 || value > std::numeric_limits<std::int16_t>::max()) {
-        throw DatabaseError("a cell has a subscript out of range", false);
+        throw DatabaseError(Translated("a cell has a subscript out of range"), false);
     }
     return static_cast<int>(value);
 }
@@ -163,7 +168,7 @@ void WorkCopy::Update(std::string_view name, int dim1, int dim2, const CellValue
         update_->bind(5, dim2);
         const int rows = update_->exec();
         update_->reset();
-        if (rows != 1) throw DatabaseError("the row of " + std::string(name) + " is missing", false);
+        if (rows != 1) throw DatabaseError(Filled(Translated("the row of %1 is missing"), {name}), false);
     });
 }
 

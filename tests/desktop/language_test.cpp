@@ -11,14 +11,19 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTableWidget>
+#include <QTextBrowser>
 #include <QToolBar>
+#include <QToolButton>
 #include <clocale>
 
 #include "desktop/desktop_fixture.h"
+#include "desktop/help_window.h"
 #include "desktop/layout_audit.h"
 #include "desktop/window_settings.h"
 #include "forms/form.h"
+#include "support/bracketed_language.h"
 
 namespace kelvor::test {
 namespace {
@@ -106,11 +111,49 @@ TEST_F(SpanishWindowTest, NumbersKeepTheirPoint) {
     EXPECT_THAT(Messages(), IsEmpty());
 }
 
-TEST_F(SpanishWindowTest, NothingOfTheHubIsCutAndNoAccessKeyStandsTwice) {
-    const FormView& hub = *window().FindView("TabForm");
-    EXPECT_THAT(FindCutWidgets(hub), IsEmpty());
-    EXPECT_THAT(FindOverlaps(hub), IsEmpty());
-    EXPECT_THAT(FindDoubleAccessKeys(hub, *window().menuBar()), IsEmpty());
+TEST_F(SpanishWindowTest, NothingOfAScreenIsCutAndNoAccessKeyStandsTwice) {
+    for (const std::string& name : state().formRegistry.TypeNames()) {
+        window().door().Raise({UserEvent::Kind::OpenForm, name});
+        FormView* view = window().FindView(name);
+        ASSERT_NE(view, nullptr) << name;
+        const int pages = view->tabs() == nullptr ? 1 : view->tabs()->count();
+        for (int page = 0; page < pages; ++page) {
+            if (view->tabs() != nullptr) window().door().Raise({UserEvent::Kind::SwitchTab, {}, {}, page});
+            QApplication::processEvents();
+            SCOPED_TRACE(name + ", page " + std::to_string(page));
+            EXPECT_THAT(FindCutWidgets(*view), IsEmpty());
+            EXPECT_THAT(FindCutHeadings(*view), IsEmpty());
+            EXPECT_THAT(FindOverlaps(*view), IsEmpty());
+            EXPECT_THAT(FindDoubleAccessKeys(*view, *window().menuBar()), IsEmpty());
+        }
+        window().door().Raise({UserEvent::Kind::CloseForm, name});
+    }
+}
+
+TEST_F(SpanishWindowTest, TheSentencesOfAScreenAreSpanish) {
+    window().door().Raise({UserEvent::Kind::OpenForm, "OvAA"});
+    window().door().Raise({UserEvent::Kind::Focus, "ACACFUTSN"});
+    QApplication::processEvents();
+    const Form& form = *state().formRegistry.Find("OvAA");
+    EXPECT_EQ(form.TextOf("TARGET"), "Despeja: Future Structural Number");
+    EXPECT_EQ(TextOf("GOVERNS"),
+              "Ni el ensayo no destructivo ni la inspección de estado dan un SN. Sin espesor: el coeficiente "
+              "de capa del refuerzo es 0.");
+    EXPECT_EQ(window().FindView("OvAA")->windowTitle().toStdString(), "AC Overlay of AC Pavement");
+}
+
+TEST_F(SpanishWindowTest, ThePageOfTheKeysIsSpanish) {
+    std::filesystem::create_directory_symlink(Path(KELVOR_HOME_FOLDER) / "Help", home / "Help");
+    window().FindAction("MenuTopics")->trigger();
+    HelpWindow* help = desktop.helpWindow();
+    ASSERT_NE(help, nullptr);
+    help->ShowPage("Keys");
+    const QString keys = help->findChild<QTextBrowser*>()->toPlainText();
+    EXPECT_TRUE(keys.contains(QStringLiteral("La pestaña siguiente")));
+    EXPECT_TRUE(keys.contains(QStringLiteral("Ctrl+Mayús+C")));
+    EXPECT_FALSE(keys.contains(QStringLiteral("The ")));
+    help->ShowPage("DeF");
+    EXPECT_TRUE(help->findChild<QTextBrowser*>()->toPlainText().contains(QStringLiteral("The screen")));
 }
 
 TEST_F(SpanishWindowTest, TheButtonsOfTheToolkitSpeakTheSameLanguage) {
@@ -149,6 +192,52 @@ TEST_F(LanguageMenuTest, EnglishChosenOutweighsTheEnvironment) {
     DesktopProgram other(Home{home.path(), work});
     ASSERT_TRUE(other.Start(""));
     EXPECT_EQ(other.window().findChild<QPushButton*>("StartNew")->text().toStdString(), "New Project");
+}
+
+/// The texts of a window beside those of its forms, which the model has.
+std::set<std::string> TextsBesideForms(const MainWindow& window) {
+    std::set<std::string> texts;
+    for (const QAction* action : window.findChildren<QAction*>()) {
+        if (action->objectName().startsWith(QStringLiteral("Language"))) continue;  // says its own name
+        texts.insert(action->text().toStdString());
+        // Without a tip of its own an action has its text for it.
+        const QString tip = action->toolTip();
+        if (tip != QString(action->text()).remove(u'&').remove(QStringLiteral("..."))) {
+            texts.insert(tip.toStdString());
+        }
+    }
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        const QWidget* parent = widget;
+        while (parent != nullptr && dynamic_cast<const FormView*>(parent) == nullptr) {
+            parent = parent->parentWidget();
+        }
+        const auto* tool = qobject_cast<const QToolButton*>(widget);
+        const bool isAction = tool != nullptr && tool->defaultAction() != nullptr;
+        if (parent != nullptr || isAction) continue;
+        texts.insert({widget->toolTip().toStdString(), widget->accessibleName().toStdString(),
+                      widget->accessibleDescription().toStdString()});
+        if (const auto* label = qobject_cast<const QLabel*>(widget))
+            texts.insert(label->text().toStdString());
+        if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
+            texts.insert(button->text().toStdString());
+        }
+    }
+    return texts;
+}
+
+TEST_F(LanguageMenuTest, WhatTheWindowSaysBesideItsScreensIsTranslated) {
+    const Path work = home / "other";
+    std::filesystem::create_directory(work);
+    WriteFile(home / "Languages/qq.po", BracketedLanguage());
+    WindowSettings(work / "kvrwindow.ini").KeepLanguage("qq");
+    DesktopProgram other(Home{home.path(), work});
+    ASSERT_TRUE(other.Start(""));
+    int own = 0;
+    for (const std::string& text : TextsBesideForms(other.window())) {
+        if (HasBracket(text)) ++own;
+        EXPECT_TRUE(HasBracket(text) || !HasWord(text) || IsAlikeInEveryLanguage(text)) << text;
+    }
+    EXPECT_GT(own, 20);
 }
 
 /// Every menu has a letter of its own, and within a menu no letter stands twice.

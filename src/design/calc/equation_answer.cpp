@@ -3,15 +3,16 @@
 #include "design/calc/design_equations.h"
 #include "design/calc/reliability.h"
 #include "design/calc/solve_for.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
 namespace {
 
-const char* const kReliabilityTooHigh = "a reliability of 100 per cent or more has no deviate";
-const char* const kNoServiceabilityLoss = "Pt is not less than Po";
-const char* const kSlabTooThin = "the slab is too thin for it";
-const char* const kNoValue = "a term is beyond what it can take";
+const char* const kReliabilityTooHigh = ToTranslate("a reliability of 100 per cent or more has no deviate");
+const char* const kNoServiceabilityLoss = ToTranslate("Pt is not less than Po");
+const char* const kSlabTooThin = ToTranslate("the slab is too thin for it");
+const char* const kNoValue = ToTranslate("a term is beyond what it can take");
 
 /// The terms as they are stored.
 class StoredTerms {

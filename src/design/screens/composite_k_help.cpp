@@ -10,6 +10,7 @@
 #include "platform/number_picture.h"
 #include "platform/number_text.h"
 #include "platform/real.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -102,12 +103,12 @@ LayoutElement GuidanceTable() {
 FormType CompositeKHelp() {
     FormType type;
     type.name = kForm;
-    type.caption = "Effective Modulus of Subgrade Reaction";
+    type.caption = Translated("Effective Modulus of Subgrade Reaction");
     type.isHelp = true;
     type.layout = Rows({
-        Frame("Frame1", "Soil and Subbase",
+        Frame("Frame1", Translated("Soil and Subbase"),
               {Fields({{"MRSG"}, {"MRSB"}, {"SBD"}, {"SGD"}, {"LS"}, {.variable = "K", .computed = true}})}),
-        Frame("Frame2", "Guidance", {GuidanceTable()}),
+        Frame("Frame2", Translated("Guidance"), {GuidanceTable()}),
     });
     type.handlers = {{FormEvent::Load, "", HandlerOrder::After, Load},
                      {FormEvent::Activate, "", HandlerOrder::After, Follow},

@@ -4,6 +4,7 @@
 #include "forms/form.h"
 #include "forms/section_button.h"
 #include "forms/work_out_help.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -19,7 +20,7 @@ FormType FlexibleDesignForm() {
     type.caption = "Flexible Design Inputs";
     type.equations = {{.flag = BalanceFlag::DeF}};
     type.layout = Columns({
-        Frame("Frame1", "Design Inputs",
+        Frame("Frame1", Translated("Design Inputs"),
               {Fields({{"FLEXE18"}, {"FLEXREL"}, {"FLEXDEV"}, {"RM"}, {"SN"}, {"FLEXPO"}, {"FLEXPT"}})}),
         Rows({SolveForFrame("Frame2", type.equations[0]),
               Buttons({{"Command2", "&Layer Determ."}, CrossSectionButton()})}),

@@ -5,6 +5,7 @@
 #include "design/calc/layer_coefficient.h"
 #include "forms/field_help.h"
 #include "forms/form.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -46,7 +47,9 @@ FormType CoefficientHelp(const char* name, const char* caption, std::vector<std:
     type.layout = Rows({
         Chart("Chart1", CoefficientChart()),
         Text("LabCurve",
-             "The curve is the published fit a = 0.171 ln(E) - 1.784, with E in psi (100 ksi is 690 MPa)."),
+             Translated(
+                 "The curve is the published fit a = 0.171 ln(E) - 1.784, with E in psi (100 ksi is 690 "
+                 "MPa).")),
         Fields({{.label = "Value", .box = "TextBox", .labelName = "Label", .unitName = "Units"}}),
         Hidden(std::move(hidden)),
     });

@@ -8,6 +8,7 @@
 #include "forms/recalculation.h"
 #include "forms/side_screen.h"
 #include "platform/number_text.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -105,20 +106,22 @@ FormType LayeredDesignForm() {
     FormType type;
     type.name = kForm;
     type.caption = "Flexible Pavement Layer Thickness Determination";
-    type.rowName = "layer";
+    type.rowName = {ToTranslate("layer"), ToTranslate("layers")};
     type.layout = Rows({
         Grid("Grid", {{.variable = "LDLayerMat",
                        .list = true,
-                       .alsoSets = "also sets the layer coefficient of this row of the existing pavement"},
+                       .alsoSets = Translated("also sets the layer coefficient of this row of the existing "
+                                              "pavement")},
                       {.variable = "LDLayerCoef"},
                       {.variable = "LDDrainCoef"},
                       {.variable = "LDLayerThick"},
                       {.variable = "LDLayerStructNo"},
                       {.variable = "LDAdditThick", .routines = {.read = ReadAdditionalThickness}}}),
-        Columns({Fields({{.variable = "SN", .label = "Required Structural Number", .locked = true},
-                         {.variable = "SSN"}}),
-                 Verdict("Res")}),
-        Checks({{kEveryLayer, "&Additional Thickness of Every Layer"}}),
+        Columns(
+            {Fields({{.variable = "SN", .label = Translated("Required Structural Number"), .locked = true},
+                     {.variable = "SSN"}}),
+             Verdict("Res")}),
+        Checks({{kEveryLayer, Translated("&Additional Thickness of Every Layer")}}),
         Hidden({"SNCarry", "FieldName", "FormName", "Column"}),
     });
     type.handlers = {

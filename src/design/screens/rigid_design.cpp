@@ -3,6 +3,7 @@
 #include "forms/form.h"
 #include "forms/section_button.h"
 #include "forms/work_out_help.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -31,10 +32,10 @@ LayoutElement FlexibleInputs() {
 FormType RigidDesignForm() {
     FormType type;
     type.name = "DeR";
-    type.caption = "Rigid Design Inputs";
+    type.caption = Translated("Rigid Design Inputs");
     type.equations = {{.flag = BalanceFlag::DeR}};
     type.layout = Columns({
-        Frame("Frame1", "Design Inputs", {RigidInputs()}),
+        Frame("Frame1", Translated("Design Inputs"), {RigidInputs()}),
         Rows({SolveForFrame("Frame2", type.equations[0]), Buttons({CrossSectionButton()})}),
     });
     type.handlers = {OpeningCrossSection()};
@@ -45,7 +46,7 @@ FormType RigidDesignForm() {
 FormType BothDesignsForm() {
     FormType type;
     type.name = "DeS";
-    type.caption = "Rigid and Flexible Design Inputs";
+    type.caption = Translated("Rigid and Flexible Design Inputs");
     type.equations = {{.flag = BalanceFlag::DeS},
                       {.flag = BalanceFlag::DeS2,
                        .indicator = "SolveFor2",
@@ -53,9 +54,9 @@ FormType BothDesignsForm() {
                        .target = "TARGET2",
                        .check = "CHECK2"}};
     type.layout = Columns({
-        Rows({Frame("Frame1", "Rigid Pavement Design", {RigidInputs()}),
+        Rows({Frame("Frame1", Translated("Rigid Pavement Design"), {RigidInputs()}),
               SolveForFrame("Frame2", type.equations[0], FrameShape::Wide)}),
-        Rows({Frame("Frame3", "Flexible Pavement Design", {FlexibleInputs()}),
+        Rows({Frame("Frame3", Translated("Flexible Pavement Design"), {FlexibleInputs()}),
               SolveForFrame("Frame4", type.equations[1], FrameShape::Wide, "So&lve For"),
               Buttons({CrossSectionButton()})}),
     });

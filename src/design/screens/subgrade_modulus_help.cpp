@@ -11,6 +11,7 @@
 #include "forms/side_screen.h"
 #include "platform/number_text.h"
 #include "platform/real.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -95,10 +96,10 @@ FormType SubgradeModulusHelp() {
     type.layout = Rows({
         Text("LabTests", kAboutTests),
         Text("LabCorrelation", kAboutCorrelation),
-        Columns({Frame("Frame1", "By CBR",
+        Columns({Frame("Frame1", Translated("By CBR"),
                        {Fields({{.variable = "CBR", .label = "CBR Value:"},
                                 {.variable = "OCBR", .label = "Resilient Modulus:", .computed = true}})}),
-                 Frame("Frame2", "By R-Value",
+                 Frame("Frame2", Translated("By R-Value"),
                        {Fields({{.variable = "RVAL", .label = "R-Value:"},
                                 {.variable = "ORVAL",
                                  .label = "Resilient Modulus, psi:",

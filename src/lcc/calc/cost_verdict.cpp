@@ -9,6 +9,7 @@
 #include "lcc/calc/money_over_time.h"
 #include "lcc/calc/pavements.h"
 #include "platform/number_picture.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -20,39 +21,48 @@ const char* NameOfPavement(int pavement) { return pavement == kPavementA ? "A" :
 
 std::string Rate(double percent) { return FormatNumber(percent, "0.0"); }
 
-/// "12 per cent less", or only "less" where a part of nothing would have to be told.
-std::string HowMuchLess(double low, double high) {
-    if (low <= 0.0) return "less";
+/// Of two costs a year which is less, and by how much: of which part of nothing is not told.
+std::string TellCheaper(double low, double high, const char* cheaper, const char* dearer) {
+    const std::string lowText = FormatWhole(low);
+    const std::string highText = FormatWhole(high);
+    if (low <= 0.0) {
+        return Filled(Translated("Pavement %1 costs less a year than %2: %3 against %4."),
+                      {cheaper, dearer, lowText, highText});
+    }
     const std::string percent = FormatNumber((high - low) / high * 100.0, "0");
-    return (percent == "0" ? "less than 1" : percent) + " per cent less";
+    if (percent == "0") {
+        return Filled(
+            Translated("Pavement %1 costs less than 1 per cent less a year than %2: %3 against %4."),
+            {cheaper, dearer, lowText, highText});
+    }
+    return Filled(Translated("Pavement %1 costs %5 per cent less a year than %2: %3 against %4."),
+                  {cheaper, dearer, lowText, highText, percent});
 }
 
 std::string CompareAnnualCosts(const CostSummary& summary) {
     const double a = summary.pavements[0].euac.value();
     const double b = summary.pavements[1].euac.value();
-    if (FormatWhole(a) == FormatWhole(b)) return "Both pavements cost " + FormatWhole(a) + " a year.";
-    const bool isB = b < a;
-    return std::string("Pavement ") + (isB ? "B" : "A") + " costs " +
-           HowMuchLess(std::min(a, b), std::max(a, b)) + " a year than " + (isB ? "A" : "B") + ": " +
-           FormatWhole(std::min(a, b)) + " against " + FormatWhole(std::max(a, b)) + ".";
+    if (FormatWhole(a) == FormatWhole(b)) {
+        return Filled(Translated("Both pavements cost %1 a year."), {FormatWhole(a)});
+    }
+    return b < a ? TellCheaper(b, a, "B", "A") : TellCheaper(a, b, "A", "B");
 }
 
 /// Which has the lower present worth, from the lowest rate to the highest.
 std::string TellBreakEven(const CashFlow& a, const CashFlow& b) {
     const std::vector<double> rates = BreakEvenRates(a, b, kGreatestRate);
-    if (rates.empty()) return "Between 0 and 15 per cent the present worths do not cross.";
+    if (rates.empty()) return Translated("Between 0 and 15 per cent the present worths do not cross.");
     const double below = rates.front() / 2.0;
     bool isA = PresentWorthAt(a, below).value() < PresentWorthAt(b, below).value();
+    const auto name = [&] { return isA ? "A" : "B"; };
     std::string text =
-        "Below " + Rate(rates.front()) + " per cent " + (isA ? "A" : "B") + " has the lower present worth";
-    for (std::size_t i = 0; i < rates.size(); ++i) {
+        Filled(Translated("Below %1 per cent %2 has the lower present worth"), {Rate(rates.front()), name()});
+    for (std::size_t i = 0; i + 1 < rates.size(); ++i) {
         isA = !isA;
-        const bool isLast = i + 1 == rates.size();
-        text +=
-            isLast ? ", above " + Rate(rates[i]) : ", from " + Rate(rates[i]) + " to " + Rate(rates[i + 1]);
-        text += isA ? " A" : " B";
+        text = Filled(Translated("%1, from %2 to %3 %4"), {text, Rate(rates[i]), Rate(rates[i + 1]), name()});
     }
-    return text + ".";
+    isA = !isA;
+    return Filled(Translated("%1, above %2 %3."), {text, Rate(rates.back()), name()});
 }
 
 /// Two numbers that were worked out alike differ by no more than rounding.
@@ -75,9 +85,10 @@ std::string TellStalePages(const CalcContext& context, const CashFlow& a, const 
     for (const int pavement : kPavements) {
         if (!IsStale(context, pavement == kPavementA ? a : b, pavement)) continue;
         const std::string name = NameOfPavement(pavement);
-        text += " The annual maintenance of pavement " + name +
-                " was priced with another period or rate: open Pavement (" + name +
-                ") Maintenance & Rehabilitation Costs first.";
+        text +=
+            " " + Filled(Translated("The annual maintenance of pavement %1 was priced with another period or "
+                                    "rate: open Pavement (%1) Maintenance & Rehabilitation Costs first."),
+                         {name});
     }
     return text;
 }

@@ -5,6 +5,7 @@
 #include "forms/form.h"
 #include "lcc/calc/pavements.h"
 #include "lcc/screens/cost_page.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -17,7 +18,7 @@ void Carry(ScreenContext& context, int pavement, const char* from, const char* t
         if (context.units.GetDisplayValue(to, row, pavement) == item) continue;
         context.units.SetDisplayValue(to, row, pavement, item);
         context.bProjectChanged = true;
-        context.act = "copy of item names";
+        context.act = Translated("copy of item names");
     }
 }
 

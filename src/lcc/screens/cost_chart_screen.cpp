@@ -10,6 +10,7 @@
 #include "lcc/screens/pavement_colours.h"
 #include "platform/number_picture.h"
 #include "platform/number_text.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -100,7 +101,7 @@ ChartData TwoBars() {
 FormType CostChartForm() {
     FormType type;
     type.name = "CostChart";
-    type.caption = "Cost Comparison";
+    type.caption = Translated("Cost Comparison");
     std::vector<LayoutElement> elements = {Caption("Title", ""),         Chart(kBars, TwoBars()),
                                            Caption("CostA", ""),         Caption("CostB", ""),
                                            Caption("SSCostA", "Cost A"), Caption("SSCostB", "Cost B")};

@@ -8,6 +8,7 @@
 #include "lcc/calc/pavements.h"
 #include "lcc/screens/carried_items.h"
 #include "platform/text.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -72,8 +73,11 @@ void HideUnitNote(ScreenEvent& event) { ShowUnitNote(event.form, ""); }
 FormType CostPage(const std::string& name, const std::vector<Handler>& own) {
     FormType type;
     type.name = name;
-    type.rowName = "item";
-    type.foot = {{"PrevPage", "&Back"}, {"NextPage", "&Next"}, {"cmdAction", "&OK"}, {"SSHelp", "Hel&p"}};
+    type.rowName = {ToTranslate("item"), ToTranslate("items")};
+    type.foot = {{"PrevPage", Translated("&Back")},
+                 {"NextPage", Translated("&Next")},
+                 {"cmdAction", "&OK"},
+                 {"SSHelp", "Hel&p"}};
     type.handlers = {
         {FormEvent::Load, "", HandlerOrder::Before, BeginPage},
         {FormEvent::Click, "PrevPage", HandlerOrder::Instead, PrevPageClick},

@@ -13,6 +13,7 @@
 #include "lcc/calc/cost_verdict.h"
 #include "lcc/calc/pavements.h"
 #include "lcc/screens/pavement_colours.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -111,10 +112,10 @@ LayoutElement CostTable() {
 ChartData CashFlowChart() {
     ChartData data;
     data.kind = ChartKind::Line;
-    data.title = "Present worth of all costs up to each year";
+    data.title = Translated("Present worth of all costs up to each year");
     data.across.title = "Year";
     data.across.picture = "0";
-    data.up.title = "Present worth";
+    data.up.title = Translated("Present worth");
     data.up.picture = "#,##0";
     data.series = {{"Pavement A", kColourOfA}, {"Pavement B", kColourOfB}};
     return data;

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "forms/form.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -31,18 +32,18 @@ FormType GraphsForm() {
     type.name = "Graphs";
     type.caption = "Graphs";
     type.layout = Columns({
-        Frame("Frame1", "Graph",
+        Frame("Frame1", Translated("Graph"),
               {Options({{"PW", "Present Worth"},
                         {"EUAC", "EUAC"},
                         {"PWH", "Present  Worth Histogram"},
                         {"EUACH", "EUAC Histogram"}})}),
-        Frame("Frame2", "Costs in it",
+        Frame("Frame2", Translated("Costs in it"),
               {Matrix({At(0, 0, Checks({{"InitialCost", "Initial Cost"}})),
-                       At(0, 1, Caption("Label3", "before the opening")),
+                       At(0, 1, Caption("Label3", Translated("before the opening"))),
                        At(1, 0, Checks({{"MaintenanceCosts", "Maintenance Cost"}})),
-                       At(1, 1, Caption("Label4", "in every year")),
+                       At(1, 1, Caption("Label4", Translated("in every year"))),
                        At(2, 0, Checks({{"RehabilitationCosts", "Rehabilitation Cost"}})),
-                       At(2, 1, Caption("Label5", "once, in their years"))})}),
+                       At(2, 1, Caption("Label5", Translated("once, in their years")))})}),
     });
     type.handlers = {
         {FormEvent::Click, "PW", HandlerOrder::After, SumClick},

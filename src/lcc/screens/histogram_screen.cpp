@@ -6,6 +6,7 @@
 #include "forms/form_events.h"
 #include "lcc/calc/expenditure_histogram.h"
 #include "lcc/screens/pavement_colours.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -63,7 +64,7 @@ void CloseClick(ScreenEvent& event) { FormEvents(event.context).Close(event.form
 ChartData YearlyBars() {
     ChartData data;
     data.kind = ChartKind::GroupedBars;
-    data.title = "Expenditures by year";
+    data.title = Translated("Expenditures by year");
     data.showsValues = true;
     data.across.title = "Year";
     data.up.picture = "#,##0";

@@ -5,6 +5,7 @@
 #include "lcc/calc/quantity_conversion.h"
 #include "lcc/screens/cost_grid_page.h"
 #include "lcc/screens/cost_page.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -23,7 +24,7 @@ void BringOver(ScreenEvent& event) {
 
 void UnitsSwitched(ScreenEvent& event) {
     BringOver(event);
-    ShowUnitNote(event.form, "Unit costs do not convert: they stay as they were entered.");
+    ShowUnitNote(event.form, Translated("Unit costs do not convert: they stay as they were entered."));
 }
 
 void CellChanged(ScreenEvent& event) { FollowCostCell(event.context, event.form, kInitialGrid); }

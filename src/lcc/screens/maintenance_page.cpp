@@ -4,6 +4,7 @@
 
 #include "forms/form.h"
 #include "lcc/screens/cost_page.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -21,7 +22,8 @@ void RowsWritten(ScreenEvent& event) {
 }
 
 void UnitsSwitched(ScreenEvent& event) {
-    ShowUnitNote(event.form, "Quantities and unit costs of this page do not convert: they stay as entered.");
+    ShowUnitNote(event.form,
+                 Translated("Quantities and unit costs of this page do not convert: they stay as entered."));
 }
 
 }  // namespace

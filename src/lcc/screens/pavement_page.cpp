@@ -5,6 +5,7 @@
 #include "lcc/screens/cost_page.h"
 #include "platform/number_picture.h"
 #include "platform/real.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -78,7 +79,7 @@ FormType PavementPage() {
                              {FormEvent::Stored, kLongLength, HandlerOrder::After, LongLengthStored},
                          });
     type.caption = "Pavement (A) Information";
-    type.rowName = "layer";
+    type.rowName = {ToTranslate("layer"), ToTranslate("layers")};
     type.layout = Rows({
         Fields({{"PavDesc"}}),
         Columns({Fields({{kLength}, {kLongLength}}), Fields({{"JointSpacing"}})}),

@@ -6,6 +6,7 @@
 #include "lcc/calc/quantity_conversion.h"
 #include "lcc/screens/cost_grid_page.h"
 #include "lcc/screens/cost_page.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -33,10 +34,10 @@ bool MayEdit(const ScreenContext& context, const Form& form, int row, const Grid
 
 bool MayDelete(ScreenContext& context, Form& /*form*/, int row) {
     if (row != kAnnualMaintenanceRow) return true;
-    context.calc.dialogs.ShowMessage({.text =
-                                          "The row of the annual maintenance cannot be deleted. Empty its "
-                                          "quantity if there is none.",
-                                      .title = "Delete"});
+    context.calc.dialogs.ShowMessage(
+        {.text = Translated("The row of the annual maintenance cannot be deleted. Empty its "
+                            "quantity if there is none."),
+         .title = "Delete"});
     return false;
 }
 
@@ -49,7 +50,7 @@ void BringOver(ScreenEvent& event) {
 
 void UnitsSwitched(ScreenEvent& event) {
     BringOver(event);
-    ShowUnitNote(event.form, "Unit costs do not convert: they stay as they were entered.");
+    ShowUnitNote(event.form, Translated("Unit costs do not convert: they stay as they were entered."));
 }
 
 void CellChanged(ScreenEvent& event) { FollowCostCell(event.context, event.form, kRehabGrid); }

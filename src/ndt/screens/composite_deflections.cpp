@@ -5,6 +5,7 @@
 #include "ndt/screens/test_notes.h"
 #include "ndt/screens/test_rows.h"
 #include "ndt/screens/test_summary.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -17,7 +18,7 @@ constexpr double kUnbonded = 0.0;
 
 std::vector<ResultColumn> Results() {
     return {{"BACKLC", "AVGBACKLC", "l", nullptr},
-            {"STATKC", "AVGSTATKC", "Static k", "ChartK"},
+            {"STATKC", "AVGSTATKC", ToTranslate("Static k"), "ChartK"},
             {"NDTEC", "AVGNDTEC", "Slab Ec", "ChartEc"}};
 }
 
@@ -53,7 +54,7 @@ FormType CompositeDeflectionsForm() {
     FormType type;
     type.name = "ReDfC";
     type.caption = "Composite Pavement Deflection Information";
-    type.rowName = "test";
+    type.rowName = {ToTranslate("test"), ToTranslate("tests")};
     type.layout = Rows({
         Columns({InputsOfAllTests({{"NDTEAC"}, {"ACACPCACT"}, {"BOND"}}),
                  InputsOfAllTests({{"Radius"}, {"Poisson"}, {"EXISTDEPTH"}})}),

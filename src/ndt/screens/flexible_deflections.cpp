@@ -7,6 +7,7 @@
 #include "ndt/screens/test_notes.h"
 #include "ndt/screens/test_rows.h"
 #include "ndt/screens/test_summary.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -19,7 +20,7 @@ constexpr double kResultLetters = 20.2;
 
 std::vector<ResultColumn> Results() {
     return {{"NDTRM", "AVGNDTRM", "Subgrade Mr", "ChartMr"},
-            {"NDTEFFEP", "AVGNDTEFFEP", "Pavement EP", "ChartEp"}};
+            {"NDTEFFEP", "AVGNDTEFFEP", ToTranslate("Pavement EP"), "ChartEp"}};
 }
 
 /// The layers may have changed meanwhile, and with them every effective modulus.
@@ -50,7 +51,7 @@ FormType FlexibleDeflectionsForm() {
     FormType type;
     type.name = "ReDfF";
     type.caption = "Flexible Pavement Deflection Information and Backcalculation";
-    type.rowName = "test";
+    type.rowName = {ToTranslate("test"), ToTranslate("tests")};
     type.layout = Rows({
         Columns({InputsOfAllTests({{"NDTR"}, {"NDTRMC"}}),
                  InputsOfAllTests({{"Radius"}, {.variable = "NDTEFFD", .computed = true}})}),

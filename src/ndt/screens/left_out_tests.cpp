@@ -5,6 +5,7 @@
 
 #include "forms/form.h"
 #include "forms/screen_context.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -64,7 +65,7 @@ void SetMark(ScreenEvent& event) {
 
 }  // namespace
 
-LayoutElement LeaveOutBox() { return Checks({{kBox, "Leave This &Test out of the Spread"}}); }
+LayoutElement LeaveOutBox() { return Checks({{kBox, Translated("Leave This &Test out of the Spread")}}); }
 
 LayoutElement LeaveOutState() { return Hidden({kMarks}); }
 
@@ -82,7 +83,8 @@ std::set<int> LeftOutTests(const Form& form) { return RowsIn(form.TextOf(kMarks)
 
 std::string WithLeftOutNote(std::string note, const Form& form, int row, const GridColumn& column) {
     if (!column.locked || !LeftOutTests(form).contains(row)) return note;
-    return note.empty() ? "Left out of the spread" : note + ". Left out of the spread";
+    if (note.empty()) return Translated("Left out of the spread");
+    return Filled(Translated("%1. Left out of the spread"), {note});
 }
 
 void MoveMarks(Form& form, const RowMoves& moves) {

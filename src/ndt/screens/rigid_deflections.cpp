@@ -5,6 +5,7 @@
 #include "ndt/screens/test_notes.h"
 #include "ndt/screens/test_rows.h"
 #include "ndt/screens/test_summary.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -16,7 +17,7 @@ constexpr double kUsualPoisson = 0.15;
 
 std::vector<ResultColumn> Results() {
     return {{"BACKL", "AVGBACKL", "l", nullptr},
-            {"STATK", "AVGSTATK", "Static k", "ChartK"},
+            {"STATK", "AVGSTATK", ToTranslate("Static k"), "ChartK"},
             {"NDTE", "AVGNDTE", "Slab Ec", "ChartEc"}};
 }
 
@@ -51,7 +52,7 @@ FormType RigidDeflectionsForm() {
     FormType type;
     type.name = "ReDfR";
     type.caption = "Rigid Pavement Deflection Information";
-    type.rowName = "test";
+    type.rowName = {ToTranslate("test"), ToTranslate("tests")};
     type.layout = Rows({
         Columns({InputsOfAllTests({{"Radius"}, {"Poisson"}}), Rows({InputsOfAllTests({{"EXISTDEPTH"}})})}),
         Tests(),

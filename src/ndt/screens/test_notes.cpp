@@ -6,6 +6,7 @@
 #include "ndt/calc/test_outcome.h"
 #include "ndt/screens/left_out_tests.h"
 #include "platform/number_picture.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -23,9 +24,28 @@ int SliceOf(const Form& form) { return form.dim2().value_or(1); }
 
 int RowsOf(const Form& form) { return form.FindGrid()->grid->rows; }
 
-std::string CountText(int count, int tests, const std::string& what) {
-    return std::to_string(count) + " of " + std::to_string(tests) + (tests == 1 ? " test " : " tests ") +
-           what + ".";
+/// How many of the tests a sentence is said of; it names the two numbers.
+std::string CountText(const std::string& sentence, int count, int tests) {
+    return Filled(sentence, {std::to_string(count), std::to_string(tests)});
+}
+
+std::string UnconvergedText(int count, int tests) {
+    return CountText(tests == 1 ? Translated("%1 of %2 test did not converge.")
+                                : Translated("%1 of %2 tests did not converge."),
+                     count, tests);
+}
+
+std::string AtBoundText(int count, int tests) {
+    return CountText(tests == 1 ? Translated("%1 of %2 test ended at a bound of the search.")
+                                : Translated("%1 of %2 tests ended at a bound of the search."),
+                     count, tests);
+}
+
+std::string UnsolvedText(int count, int tests) {
+    if (tests == 1) return CountText(Translated("%1 of %2 test has no solution."), count, tests);
+    return CountText(count == 1 ? Translated("%1 of %2 tests has no solution.")
+                                : Translated("%1 of %2 tests have no solution."),
+                     count, tests);
 }
 
 bool HasNumber(const ScreenContext& context, const std::string& variable, int row, int dim2) {
@@ -38,18 +58,20 @@ std::string NoteOfSearch(const ScreenContext& context, const Form& form, int row
     if (column.variable != "NDTEFFEP") return {};
     const auto outcome = OutcomeOfSearch(context.calc, row, SliceOf(form));
     if (!outcome || outcome->IsSound()) return {};
-    if (!outcome->atBound) return "Did not converge: no modulus gives the measured d0";
-    const std::string end =
-        "the search ended at its bound of " + Shown(context, column.variable, *outcome->atBound);
-    return outcome->converged ? "Converged, but " + end : "Did not converge: " + end;
+    if (!outcome->atBound) return Translated("Did not converge: no modulus gives the measured d0");
+    return Filled(outcome->converged ? Translated("Converged, but the search ended at its bound of %1")
+                                     : Translated("Did not converge: the search ended at its bound of %1"),
+                  {Shown(context, column.variable, *outcome->atBound)});
 }
 
 /// Of an AREA that no slab has.
 std::string NoteOfArea(const ScreenContext& context, const Form& form, int row, const GridColumn& column) {
     if (column.variable != "AREA" && column.variable != "AREAC") return {};
     if (!IsAreaWithoutSolution(context.calc, column.variable, row, SliceOf(form))) return {};
-    return "No solution: AREA is not below " + Shown(context, column.variable, kEvenBasinArea) +
-           ", so the basin does not get shallower away from the load";
+    return Filled(
+        Translated("No solution: AREA is not below %1, so the basin does not get shallower away from "
+                   "the load"),
+        {Shown(context, column.variable, kEvenBasinArea)});
 }
 
 }  // namespace
@@ -73,10 +95,10 @@ std::string SearchSummary(const ScreenContext& context, const Form& form) {
         if (!outcome->converged) ++unconverged;
         if (outcome->converged && outcome->atBound) ++atBound;
     }
-    std::string summary = unconverged == 0 ? "" : CountText(unconverged, tests, "did not converge");
+    std::string summary = unconverged == 0 ? "" : UnconvergedText(unconverged, tests);
     if (atBound > 0) {
         if (!summary.empty()) summary += " ";
-        summary += CountText(atBound, tests, "ended at a bound of the search");
+        summary += AtBoundText(atBound, tests);
     }
     return summary;
 }
@@ -88,8 +110,7 @@ std::string AreaSummary(const ScreenContext& context, const Form& form, const st
         if (HasNumber(context, variable, row, SliceOf(form))) ++tests;
         if (IsAreaWithoutSolution(context.calc, variable, row, SliceOf(form))) ++unsolved;
     }
-    if (unsolved == 0) return {};
-    return CountText(unsolved, tests, unsolved == 1 ? "has no solution" : "have no solution");
+    return unsolved == 0 ? "" : UnsolvedText(unsolved, tests);
 }
 
 }  // namespace kelvor

@@ -6,6 +6,7 @@
 #include "forms/form.h"
 #include "forms/recalculation.h"
 #include "forms/screen_context.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -33,12 +34,20 @@ bool HasResults(const ScreenContext& context, const Form& form) {
 constexpr const char* kBetweenNames = "; ";
 
 /// Which inputs have changed is said by name of one, by number of several.
+std::string OutdatedText(const std::string& names, int count) {
+    if (count == 0) return {};
+    if (count == 1) {
+        return Filled(Translated("Worked out before %1 changed: edit a test, or open the screen again."),
+                      {names});
+    }
+    return Filled(Translated("Worked out before %1 inputs changed: edit a test, or open the screen again."),
+                  {std::to_string(count)});
+}
+
 void ShowOutdated(Form& form, const std::string& names, int count) {
-    const std::string what = count == 1 ? names : std::to_string(count) + " inputs";
     Control& line = form.Get(kOutdatedLine);
-    line.text =
-        count == 0 ? "" : "Worked out before " + what + " changed: edit a test, or open the screen again.";
-    line.toolTip = count == 0 ? "" : "Changed: " + names;
+    line.text = OutdatedText(names, count);
+    line.toolTip = count == 0 ? "" : Filled(Translated("Changed: %1"), {names});
 }
 
 /// An input that has changed already is not counted again.

@@ -11,6 +11,7 @@
 #include "ndt/calc/column_statistics.h"
 #include "ndt/screens/left_out_tests.h"
 #include "platform/number_picture.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -30,32 +31,36 @@ struct SpreadLine {
 };
 
 constexpr std::array kLines = {
-    SpreadLine{"Count", "Tests Counted"},          SpreadLine{"Mean", "Their Mean"},
-    SpreadLine{"Deviation", "Std. Deviation"},     SpreadLine{"Variation", "Variation, %"},
-    SpreadLine{"Percentile15", "15th Percentile"}, SpreadLine{"Percentile85", "85th Percentile"},
+    SpreadLine{"Count", ToTranslate("Tests Counted")},
+    SpreadLine{"Mean", ToTranslate("Their Mean")},
+    SpreadLine{"Deviation", ToTranslate("Std. Deviation")},
+    SpreadLine{"Variation", ToTranslate("Variation, %")},
+    SpreadLine{"Percentile15", ToTranslate("15th Percentile")},
+    SpreadLine{"Percentile85", ToTranslate("85th Percentile")},
 };
 
 /// The rows of the spread, from above; its first column has their headings.
 enum SpreadRow { kHeadingRow, kUnitRow, kAverageRow, kFirstLine };
 
 void AddHeadings(std::vector<MatrixCell>& cells) {
-    cells.push_back(At(kAverageRow, 0, Caption("HeadAverage", "Average")));
+    cells.push_back(At(kAverageRow, 0, Caption("HeadAverage", Translated("Average"))));
     for (std::size_t i = 0; i < kLines.size(); ++i) {
-        cells.push_back(At(kFirstLine + static_cast<int>(i), 0,
-                           Caption(std::string("Head") + kLines.at(i).suffix, kLines.at(i).heading)));
+        cells.push_back(
+            At(kFirstLine + static_cast<int>(i), 0,
+               Caption(std::string("Head") + kLines.at(i).suffix, Translated(kLines.at(i).heading))));
     }
 }
 
 void AddColumn(std::vector<MatrixCell>& cells, int column, const ResultColumn& result) {
     const std::string name = result.column;
-    cells.push_back(At(kHeadingRow, column, Caption("Head" + name, result.heading)));
+    cells.push_back(At(kHeadingRow, column, Caption("Head" + name, Translated(result.heading))));
     cells.push_back(At(kAverageRow, column,
                        BareBox({.variable = result.average, .plain = true, .letters = kValueLetters})));
     cells.push_back(At(kUnitRow, column, UnitOf(result.average)));
     for (std::size_t i = 0; i < kLines.size(); ++i) {
         const SpreadLine& line = kLines.at(i);
         cells.push_back(At(kFirstLine + static_cast<int>(i), column,
-                           BareBox({.label = std::string(line.heading) + " of " + name,
+                           BareBox({.label = Filled(Translated("%1 of %2"), {Translated(line.heading), name}),
                                     .computed = true,
                                     .plain = true,
                                     .box = name + line.suffix,
@@ -124,13 +129,14 @@ ChartRow RowOf(std::size_t test, std::optional<double> value, double average, co
 ChartData ChartOf(const ScreenContext& context, const Form& form, const ResultColumn& result,
                   const ShownColumn& shown, const std::vector<std::optional<Real>>& results) {
     ChartData chart;
-    chart.title = std::string(result.heading) + ", " + shown.unit;
+    chart.title = Translated(result.heading) + ", " + shown.unit;
     chart.across = {.title = {}, .picture = "0"};
     chart.up = {.title = {}, .picture = shown.factor == 1.0 ? "0" : ""};
-    chart.series = {{"Test", kTestColour}, {"Average", kAverageColour}};
+    chart.series = {{Translated("Test"), kTestColour}, {Translated("Average"), kAverageColour}};
     const std::set<int> leftOut = LeftOutTests(form);
     if (!leftOut.empty()) {
-        chart.series.push_back({.name = "Left out", .colour = kLeftOutColour, .hollowPoints = true});
+        chart.series.push_back(
+            {.name = Translated("Left out"), .colour = kLeftOutColour, .hollowPoints = true});
     }
     const double average = context.calc.Get(result.average).value() * shown.factor;
     for (std::size_t i = 0; i < results.size(); ++i) {

@@ -10,8 +10,8 @@ namespace kelvor {
 struct ResultColumn {
     const char* column;
     const char* average;  // the variable of its average
-    const char* heading;
-    const char* chart;  // the name of its chart; null: it has none
+    const char* heading;  // translated where it is shown
+    const char* chart;    // the name of its chart; null: it has none
 };
 
 /// Below the table of tests: a column for each of results with their average and how they spread (the number

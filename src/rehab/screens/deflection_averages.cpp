@@ -1,6 +1,7 @@
 #include "rehab/screens/deflection_averages.h"
 
 #include "calc/calc_context.h"
+#include "platform/translation.h"
 #include "rehab/calc/effective_sn.h"
 
 namespace kelvor {
@@ -34,25 +35,26 @@ std::optional<Real> CompositeEc(const CalcContext& context) {
 }  // namespace
 
 TakeOver SoilModulusFromDeflections(const char* variable) {
-    return {variable, SoilModulus, "the average modulus of the deflection tests"};
+    return {variable, SoilModulus, Translated("the average modulus of the deflection tests")};
 }
 
 TakeOver StructuralNumberFromDeflections(const char* variable) {
-    return {variable, StructuralNumber, "the structural number by the average of the deflection tests"};
+    return {variable, StructuralNumber,
+            Translated("the structural number by the average of the deflection tests")};
 }
 
 TakeOver SubgradeReactionFromDeflections() {
-    return {"EXISTK", SlabK, "the average static k of the deflection tests"};
+    return {"EXISTK", SlabK, Translated("the average static k of the deflection tests")};
 }
 
 std::vector<TakeOver> SlabFromDeflections() {
-    return {{"EXISTEC", SlabEc, "the average modulus of the deflection tests"},
+    return {{"EXISTEC", SlabEc, Translated("the average modulus of the deflection tests")},
             SubgradeReactionFromDeflections()};
 }
 
 std::vector<TakeOver> CompositeSlabFromDeflections() {
-    return {{"EXISTEC", CompositeEc, "the average modulus of the deflection tests"},
-            {"EXISTK", CompositeK, "the average static k of the deflection tests"}};
+    return {{"EXISTEC", CompositeEc, Translated("the average modulus of the deflection tests")},
+            {"EXISTK", CompositeK, Translated("the average static k of the deflection tests")}};
 }
 
 }  // namespace kelvor

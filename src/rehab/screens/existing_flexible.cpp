@@ -1,6 +1,7 @@
 #include "rehab/screens/existing_flexible.h"
 
 #include "forms/work_out_help.h"
+#include "platform/translation.h"
 #include "rehab/screens/deflection_averages.h"
 #include "rehab/screens/existing_layers_grid.h"
 
@@ -10,7 +11,7 @@ FormType ExistingFlexibleForm() {
     FormType type;
     type.name = "ExF";
     type.caption = "Existing Flexible Pavement Information";
-    type.rowName = "layer";
+    type.rowName = {ToTranslate("layer"), ToTranslate("layers")};
     type.layout = Rows({
         Fields({{"EXISTRM"}, {"EXISTEP"}}),
         ExistingLayersGrid(),

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "forms/work_out_help.h"
+#include "platform/translation.h"
 #include "rehab/screens/deflection_averages.h"
 
 namespace kelvor {
@@ -10,11 +11,12 @@ namespace kelvor {
 namespace {
 
 LayoutElement SlabFrame() {
-    return Frame("Frame1", "Existing Slab", {Fields({{"EXISTDEPTH"}, {"EXISTMR"}, {"EXISTEC"}, {"EXISTJ"}})});
+    return Frame("Frame1", Translated("Existing Slab"),
+                 {Fields({{"EXISTDEPTH"}, {"EXISTMR"}, {"EXISTEC"}, {"EXISTJ"}})});
 }
 
 LayoutElement SupportFrame() {
-    return Frame("Frame2", "Support and Drainage", {Fields({{"EXISTK"}, {"EXISTC"}})});
+    return Frame("Frame2", Translated("Support and Drainage"), {Fields({{"EXISTK"}, {"EXISTC"}})});
 }
 
 FormType SlabForm(const char* name, const char* caption, LayoutElement layout,
@@ -36,10 +38,10 @@ FormType ExistingSlabForm() {
 }
 
 FormType ExistingCompositeForm() {
-    return SlabForm(
-        "ExC", "Existing Composite Pavement Information",
-        Rows({Frame("Frame3", "Existing Asphalt", {Fields({{"ACACPCACT"}})}), SlabFrame(), SupportFrame()}),
-        CompositeSlabFromDeflections());
+    return SlabForm("ExC", "Existing Composite Pavement Information",
+                    Rows({Frame("Frame3", Translated("Existing Asphalt"), {Fields({{"ACACPCACT"}})}),
+                          SlabFrame(), SupportFrame()}),
+                    CompositeSlabFromDeflections());
 }
 
 }  // namespace kelvor

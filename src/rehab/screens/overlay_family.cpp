@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "forms/section_button.h"
+#include "platform/translation.h"
 #include "rehab/screens/overlay_routines.h"
 
 namespace kelvor {
@@ -29,12 +30,12 @@ FormType MakeOverlay(OverlayScreen overlay) {
 }
 
 HelpRoute WorkOutJointFactor(const char* factor) {
-    return {factor, "FjcHelp", "Work out the joint and crack factor"};
+    return {factor, "FjcHelp", Translated("Work out the joint and crack factor")};
 }
 
 LayoutElement OnSlab(const char* future, const char* reliability, const char* deviation, FieldItem initial,
                      FieldItem terminal) {
-    return Frame("Frame1", "Slab Thickness for Future Traffic",
+    return Frame("Frame1", Translated("Slab Thickness for Future Traffic"),
                  {Fields({{future, "Future Thickness"},
                           {"RIGE18", "Future ESAL"},
                           {reliability, "Reliability"},
@@ -50,7 +51,7 @@ LayoutElement OnSlab(const char* future, const char* reliability, const char* de
 
 LayoutElement OfConcrete(const char* future, const char* label, const char* rupture, const char* elasticity,
                          const char* transfer) {
-    return Frame("Frame1", "Slab Thickness for Future Traffic",
+    return Frame("Frame1", Translated("Slab Thickness for Future Traffic"),
                  {Fields({{future, label},
                           {"RIGE18", "Future ESALs"},
                           {"OLRIGREL", "Reliabilty"},
@@ -76,8 +77,8 @@ LayoutElement OfLayer(const char* frame, const char* title, const char* thicknes
                           {drainage, "Drainage Coefficient"}})});
 }
 
-LayoutElement Effective(const char* title, Items items) {
-    return Frame("Frame2", title, {Fields(std::move(items))});
+LayoutElement Effective(std::string title, Items items) {
+    return Frame("Frame2", std::move(title), {Fields(std::move(items))});
 }
 
 }  // namespace kelvor

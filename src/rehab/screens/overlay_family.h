@@ -50,6 +50,6 @@ LayoutElement OfLayer(const char* frame, const char* title, const char* thicknes
                       const char* drainage);
 
 /// What the existing pavement still carries.
-LayoutElement Effective(const char* title, Items items);
+LayoutElement Effective(std::string title, Items items);
 
 }  // namespace kelvor

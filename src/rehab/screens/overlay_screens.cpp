@@ -1,6 +1,7 @@
 #include "rehab/screens/overlay_screens.h"
 
 #include "forms/work_out_help.h"
+#include "platform/translation.h"
 #include "rehab/screens/deflection_averages.h"
 #include "rehab/screens/overlay_family.h"
 #include "rehab/screens/overlay_governs.h"
@@ -28,8 +29,8 @@ FormType AsphaltOnAsphaltForm() {
                                                                  {"ACACEFFSN", "Effective SN for Analysis"}}),
                        Hidden({"SolveForFiled"})},
          .thickness = {{"ACACOLLC", "AC Overlay Layer Coefficient"}, {"ACACTHICK", "AC Overlay Thickness"}},
-         .helpRoutes = {{"NDTEFFSN", "SNHelp", "Work out the effective SN from deflections"},
-                        {"CONDEFFSN", "SNCHELP", "Work out the effective SN from the survey"},
+         .helpRoutes = {{"NDTEFFSN", "SNHelp", Translated("Work out the effective SN from deflections")},
+                        {"CONDEFFSN", "SNCHELP", Translated("Work out the effective SN from the survey")},
                         {"ACACOLLC", "H_ACACOLLC"}},
          .takeOvers = {SoilModulusFromDeflections("EXISTRM"), StructuralNumberFromDeflections("NDTEFFSN")},
          .handlers = {NotingOfField()}});
@@ -63,11 +64,12 @@ FormType AsphaltOnConcreteForm() {
          .governs = SlabGoverns,
          .future = OnSlab("ACPCFUTD", "ACPCREL", "ACPCDEV", {"ACPCPO", "Initial Serviceability, Po"},
                           {"ACPCPT", "Terminal Serviceability, Pt"}),
-         .effective = {Effective("Effective Slab Thickness", {{"EXISTDEPTH", "Existing PCC Thickness"},
-                                                              {"ACPCFJC", "Joint/Cracks Adj. Factor"},
-                                                              {"ACPCFDUR", "Durability Adj. Factor"},
-                                                              {"ACPCFFAT", "Fatigue Adj. Factor"},
-                                                              {"ACPCEFFD", "Effective PCC Thickness"}})},
+         .effective = {Effective(Translated("Effective Slab Thickness"),
+                                 {{"EXISTDEPTH", "Existing PCC Thickness"},
+                                  {"ACPCFJC", "Joint/Cracks Adj. Factor"},
+                                  {"ACPCFDUR", "Durability Adj. Factor"},
+                                  {"ACPCFFAT", "Fatigue Adj. Factor"},
+                                  {"ACPCEFFD", "Effective PCC Thickness"}})},
          .thickness = {{"ACPCOLT", "AC Overlay Thickness"}},
          .helpRoutes = {WorkOutJointFactor("ACPCFJC")},
          .takeOvers = SlabFromDeflections(),
@@ -82,12 +84,13 @@ FormType AsphaltOnCompositeForm() {
          .governs = CompositeGoverns,
          .future = OnSlab("ACACPCFUTD", "ACACPCREL", "ACACPCDEV", {"ACACPCPO", "Initial Serviceability"},
                           {"ACACPCPT", "Terminal Serviceability"}),
-         .effective = {Effective("Effective Slab Thickness", {{"EXISTDEPTH", "Existing PCC Thickness"},
-                                                              {"ACACPCFJC", "Joint/Crack Adj. Factor"},
-                                                              {"ACACPCFDUR", "Durability Adj. Factor"},
-                                                              {"ACACPCACT", "Existing AC Thickness"},
-                                                              {"ACACPCFAC", "AC Quality Adj. Factor"},
-                                                              {"ACACPCEFFD", "Effective AC/PCC Thickness"}})},
+         .effective = {Effective(Translated("Effective Slab Thickness"),
+                                 {{"EXISTDEPTH", "Existing PCC Thickness"},
+                                  {"ACACPCFJC", "Joint/Crack Adj. Factor"},
+                                  {"ACACPCFDUR", "Durability Adj. Factor"},
+                                  {"ACACPCACT", "Existing AC Thickness"},
+                                  {"ACACPCFAC", "AC Quality Adj. Factor"},
+                                  {"ACACPCEFFD", "Effective AC/PCC Thickness"}})},
          .thickness = {{"ACACPCOLT", "AC Overlay Thickness"}},
          .helpRoutes = {WorkOutK("EXISTK"), WorkOutJointFactor("ACACPCFJC")},
          .takeOvers = CompositeSlabFromDeflections(),
@@ -101,11 +104,12 @@ FormType BondedForm() {
          .flag = BalanceFlag::OvBP,
          .governs = BondedGoverns,
          .future = OfConcrete("BOLFUTDEPTH", "Future Thickness", "EXISTMR", "EXISTEC", "EXISTJ"),
-         .effective = {Effective("Effective Slab Thickness", {{"EXISTDEPTH", "Existing PCC Thickness"},
-                                                              {"BOLFJC", "Joints/Cracks Adj. Factor"},
-                                                              {"BOLFDUR", "Durabilty Adj. Factor"},
-                                                              {"BOLFFAT", "Fatigue Adj. Factor"},
-                                                              {"BOLEFFDEPTH", "Effective PCC Thickness"}})},
+         .effective = {Effective(Translated("Effective Slab Thickness"),
+                                 {{"EXISTDEPTH", "Existing PCC Thickness"},
+                                  {"BOLFJC", "Joints/Cracks Adj. Factor"},
+                                  {"BOLFDUR", "Durabilty Adj. Factor"},
+                                  {"BOLFFAT", "Fatigue Adj. Factor"},
+                                  {"BOLEFFDEPTH", "Effective PCC Thickness"}})},
          .answer = "Bonded Overlay Thickness",
          .thickness = {{"BOLDEPTH", "Bonded Overlay Thickness"}},
          .helpRoutes = {WorkOutK("EXISTK"), WorkOutJointFactor("BOLFJC")},
@@ -114,21 +118,21 @@ FormType BondedForm() {
 }
 
 FormType UnbondedForm() {
-    return MakeOverlay(
-        {.name = "OvUP",
-         .caption = "Unbonded PCC Overlay",
-         .flag = BalanceFlag::OvUP,
-         .governs = UnbondedGoverns,
-         .future = OfConcrete("UBOLFUTDEPTH", "Future Thickness", "OLMR", "OLEC", "OLJ"),
-         .effective = {Effective("Effective Slab Thickness", {{"EXISTDEPTH", "Existing PCC Thickness"},
-                                                              {"UBOLFJCU", "Joint/Cracks Adj. Factor"},
-                                                              {"UBOLEFFDEPTH", "Effective PCC Thickness"}})},
-         .answer = "Unbonded Overlay Thickness",
-         .thickness = {{"UBOLDEPTH", "Unbonded Overlay Thickness"}},
-         .button = "CmdSolveFor",
-         .helpRoutes = {WorkOutK("EXISTK"), WorkOutJointFactor("UBOLFJCU")},
-         .takeOvers = {SubgradeReactionFromDeflections()},
-         .handlers = {ClearingOfSurvey()}});
+    return MakeOverlay({.name = "OvUP",
+                        .caption = "Unbonded PCC Overlay",
+                        .flag = BalanceFlag::OvUP,
+                        .governs = UnbondedGoverns,
+                        .future = OfConcrete("UBOLFUTDEPTH", "Future Thickness", "OLMR", "OLEC", "OLJ"),
+                        .effective = {Effective(Translated("Effective Slab Thickness"),
+                                                {{"EXISTDEPTH", "Existing PCC Thickness"},
+                                                 {"UBOLFJCU", "Joint/Cracks Adj. Factor"},
+                                                 {"UBOLEFFDEPTH", "Effective PCC Thickness"}})},
+                        .answer = "Unbonded Overlay Thickness",
+                        .thickness = {{"UBOLDEPTH", "Unbonded Overlay Thickness"}},
+                        .button = "CmdSolveFor",
+                        .helpRoutes = {WorkOutK("EXISTK"), WorkOutJointFactor("UBOLFJCU")},
+                        .takeOvers = {SubgradeReactionFromDeflections()},
+                        .handlers = {ClearingOfSurvey()}});
 }
 
 FormType WhitetoppingForm() {

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "platform/number_picture.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -18,9 +19,12 @@ constexpr const char* kStructuralNumber = "ESN";
 bool IsWhole(double value) { return std::fabs(value - std::round(value)) < 1e-9; }
 
 std::string RaisedSentence(const ScreenContext& context, const WantedThickness& wanted) {
-    const std::string raised = "Raised to the least thickness of " + LengthText(context, wanted.least);
-    if (wanted.inches <= 0.0) return raised + " though none is needed.";
-    return raised + ": the formula gives " + LengthText(context, wanted.inches.value()) + ".";
+    const std::string least = LengthText(context, wanted.least);
+    if (wanted.inches <= 0.0) {
+        return Filled(Translated("Raised to the least thickness of %1 though none is needed."), {least});
+    }
+    return Filled(Translated("Raised to the least thickness of %1: the formula gives %2."),
+                  {least, LengthText(context, wanted.inches.value())});
 }
 
 }  // namespace
@@ -45,18 +49,21 @@ std::string StoredText(const ScreenContext& context, std::string_view variable) 
 
 std::string ThicknessSentence(const ScreenContext& context, const WantedThickness& wanted) {
     if (wanted.inches == 0.0) {
-        return "No overlay needed: the effective " + wanted.what + " equals the future one.";
+        return Filled(Translated("No overlay needed: the effective %1 equals the future one."),
+                      {wanted.what});
     }
-    if (wanted.inches > wanted.most) return "Held at the limit of " + LengthText(context, wanted.most) + ".";
+    if (wanted.inches > wanted.most) {
+        return Filled(Translated("Held at the limit of %1."), {LengthText(context, wanted.most)});
+    }
     if (wanted.inches >= wanted.least) return wanted.plainly;
     if (wanted.least > 0.0) return RaisedSentence(context, wanted);
-    return "No overlay needed: the effective " + wanted.what + " exceeds the future one.";
+    return Filled(Translated("No overlay needed: the effective %1 exceeds the future one."), {wanted.what});
 }
 
 std::string AnswerSentence(const ScreenContext& context, std::string_view future, std::string_view overlay,
                            const WantedThickness& wanted) {
     if (context.calc.Get(future) != 0.0) return ThicknessSentence(context, wanted);
-    const std::string unknown = "The future " + wanted.what + " is not known yet.";
+    const std::string unknown = Filled(Translated("The future %1 is not known yet."), {wanted.what});
     const bool showsOverlay = context.calc.Get(overlay) != 0.0;
     return showsOverlay ? Joined(unknown, ThicknessSentence(context, wanted)) : unknown;
 }

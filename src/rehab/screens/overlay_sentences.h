@@ -11,7 +11,7 @@ struct WantedThickness {
     Real inches;
     double least = 0.0;
     double most = 30.0;
-    std::string what;     // of the future that the effective one is set against: "thickness"
+    std::string what;     // of the future that the effective one is set against, translated: "thickness"
     std::string plainly;  // what is said of it where no bound holds it
 };
 

@@ -1,6 +1,7 @@
 #include <initializer_list>
 
 #include "platform/number_picture.h"
+#include "platform/translation.h"
 #include "rehab/calc/asphalt_on_concrete.h"
 #include "rehab/screens/overlay_governs.h"
 #include "rehab/screens/overlay_sentences.h"
@@ -23,25 +24,28 @@ Real Product(const ScreenContext& context, std::initializer_list<const char*> fa
 
 /// What bounds an effective thickness of so many inches.
 std::string EffectiveSentence(const ScreenContext& context, Real inches) {
-    if (inches == 0.0) return "No effective thickness: the slab or one of its factors is 0.";
+    if (inches == 0.0) return Translated("No effective thickness: the slab or one of its factors is 0.");
     if (inches > kThickestSlab) {
-        return "Effective thickness held at the limit of " + LengthText(context, kThickestSlab) + ".";
+        return Filled(Translated("Effective thickness held at the limit of %1."),
+                      {LengthText(context, kThickestSlab)});
     }
-    return inches < 0.0 ? "A negative effective thickness counts as 0." : "";
+    return inches < 0.0 ? Translated("A negative effective thickness counts as 0.") : "";
 }
 
 /// How much asphalt makes up for the slab that is missing.
 std::string AsphaltSentence(const ScreenContext& context, Real lackInches) {
-    return "The slab lacks " + LengthText(context, lackInches.value()) + ", each part of which takes " +
-           FormatNumber(AsphaltPerConcrete(lackInches).value(), kRatioPicture) + " of asphalt.";
+    return Filled(Translated("The slab lacks %1, each part of which takes %2 of asphalt."),
+                  {LengthText(context, lackInches.value()),
+                   FormatNumber(AsphaltPerConcrete(lackInches).value(), kRatioPicture)});
 }
 
 WantedThickness ConcreteOverlay(const ScreenContext& context, Real inches, double least) {
     return {.inches = inches,
             .least = least,
             .most = kThickestSlab,
-            .what = "thickness",
-            .plainly = "The overlay makes up what is missing: " + LengthText(context, inches.value()) + "."};
+            .what = Translated("thickness"),
+            .plainly = Filled(Translated("The overlay makes up what is missing: %1."),
+                              {LengthText(context, inches.value())})};
 }
 
 /// The thickness that the formula of the composite pavement takes from the other screen.
@@ -49,12 +53,13 @@ StatusLine OtherScreenLine(const ScreenContext& context) {
     if (context.calc.Get("ACACPCFUTD") == 0.0) return {};
     if (context.calc.Get("ACPCEFFD") == 0.0) {
         return {
-            "Warning: the formula takes Effective PCC Thickness of the screen AC Overlay of PCC Pavement, "
-            "which is 0, so that the thickness leaps.",
+            Translated("Warning: the formula takes Effective PCC Thickness of the screen AC Overlay of PCC "
+                       "Pavement, which is 0, so that the thickness leaps."),
             true};
     }
-    return {"The formula takes Effective PCC Thickness of the screen AC Overlay of PCC Pavement, " +
-            StoredText(context, "ACPCEFFD") + "."};
+    return {Filled(Translated("The formula takes Effective PCC Thickness of the screen AC Overlay of PCC "
+                              "Pavement, %1."),
+                   {StoredText(context, "ACPCEFFD")})};
 }
 
 }  // namespace
@@ -65,7 +70,7 @@ StatusLine SlabGoverns(const ScreenContext& context) {
     return {Joined(EffectiveSentence(context, effective),
                    AnswerSentence(context, "ACPCFUTD", "ACPCOLT",
                                   {.inches = lack * AsphaltPerConcrete(lack),
-                                   .what = "thickness",
+                                   .what = Translated("thickness"),
                                    .plainly = AsphaltSentence(context, lack)}))};
 }
 
@@ -74,13 +79,13 @@ StatusLine CompositeGoverns(const ScreenContext& context) {
     const Real lack = future - context.calc.Get("ACACPCEFFD");
     const Real effective = Product(context, {"ACACPCACT", "ACACPCFAC"}) / 2.0 +
                            Product(context, {"EXISTDEPTH", "ACACPCFJC", "ACACPCFDUR"});
-    const std::string plainly =
-        lack < 0.0 ? "Its own effective thickness exceeds the future one." : AsphaltSentence(context, lack);
+    const std::string plainly = lack < 0.0 ? Translated("Its own effective thickness exceeds the future one.")
+                                           : AsphaltSentence(context, lack);
     const std::string own =
         Joined(EffectiveSentence(context, effective),
                AnswerSentence(context, "ACACPCFUTD", "ACACPCOLT",
                               {.inches = (future - context.calc.Get("ACPCEFFD")) * AsphaltPerConcrete(lack),
-                               .what = "thickness",
+                               .what = Translated("thickness"),
                                .plainly = plainly}));
     const StatusLine other = OtherScreenLine(context);
     return {Joined(own, other.text), other.warns};
@@ -108,15 +113,18 @@ StatusLine UnbondedGoverns(const ScreenContext& context) {
 
 StatusLine WhitetoppingGoverns(const ScreenContext& context) {
     const Real thickness = context.calc.Get("WTDEPTH");
-    if (thickness == 0.0) return {"The whitetopping thickness is not known yet."};
-    if (thickness >= kThickestSlab) return {"At the limit of " + LengthText(context, kThickestSlab) + "."};
-    if (thickness < kThinnestSlab) {
-        return {"Below the least thickness of " + LengthText(context, kThinnestSlab) +
-                " that is ever solved for."};
+    if (thickness == 0.0) return {Translated("The whitetopping thickness is not known yet.")};
+    if (thickness >= kThickestSlab) {
+        return {Filled(Translated("At the limit of %1."), {LengthText(context, kThickestSlab)})};
     }
-    if (thickness == kThinnestSlab)
-        return {"At the least thickness of " + LengthText(context, kThinnestSlab) + "."};
-    return {"The whitetopping carries all of the traffic: the old pavement counts in k alone."};
+    if (thickness < kThinnestSlab) {
+        return {Filled(Translated("Below the least thickness of %1 that is ever solved for."),
+                       {LengthText(context, kThinnestSlab)})};
+    }
+    if (thickness == kThinnestSlab) {
+        return {Filled(Translated("At the least thickness of %1."), {LengthText(context, kThinnestSlab)})};
+    }
+    return {Translated("The whitetopping carries all of the traffic: the old pavement counts in k alone.")};
 }
 
 }  // namespace kelvor

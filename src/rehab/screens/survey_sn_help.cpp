@@ -4,6 +4,7 @@
 #include "forms/form.h"
 #include "forms/form_events.h"
 #include "forms/side_screen.h"
+#include "platform/translation.h"
 #include "rehab/screens/existing_layers_grid.h"
 
 namespace kelvor {
@@ -51,7 +52,7 @@ FormType SurveySNHelp() {
     type.caption = "Help Screen for Effective Structural Number for Condition Survey";
     type.isHelp = true;
     type.layout = Rows({
-        ExistingLayersGrid("also sets its layer coefficient"),
+        ExistingLayersGrid(Translated("also sets its layer coefficient")),
         Fields({{"SNEFFTOT"}}),
     });
     type.handlers = {{FormEvent::Activate, "", HandlerOrder::After, RecalcExistingLayers},

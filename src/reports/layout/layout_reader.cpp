@@ -6,6 +6,7 @@
 #include <pugixml.hpp>
 
 #include "platform/file_system.h"
+#include "platform/translation.h"
 #include "reports/layout/layout_source.h"
 #include "reports/layout/png_size.h"
 #include "reports/layout/table_reader.h"
@@ -25,7 +26,8 @@ class Reader {
         const pugi::xml_node page = tree.child("html");
         const pugi::xml_node body = page.child("body");
         if (!body)
-            throw source_.Error(tree, "there is no page: an element \"html\" with an element \"body\"");
+            throw source_.Error(tree,
+                                Translated("there is no page: an element \"html\" with an element \"body\""));
         const LayoutScope scope{data_.tables, data_.texts};
         document_.title = source_.FilledText(page.child("head").child("title"), scope);
         ReadBlocks(body, scope);
@@ -44,12 +46,13 @@ class Reader {
         const LayoutScope scope = InnerScope(source_, parent, outer);
         for (const pugi::xml_node child : parent.children()) {
             if (child.type() != pugi::node_element)
-                throw source_.Error(child, "a text stands outside of a paragraph");
+                throw source_.Error(child, Translated("a text stands outside of a paragraph"));
             const std::string_view name = child.name();
             const auto* const element = std::find_if(kElements.begin(), kElements.end(),
                                                      [name](const Element& e) { return e.name == name; });
             if (element == kElements.end()) {
-                throw source_.Error(child, "the element \"" + std::string(name) + "\" cannot stand here");
+                throw source_.Error(child,
+                                    Filled(Translated("the element \"%1\" cannot stand here"), {name}));
             }
             (this->*element->read)(child, InnerScope(source_, child, scope));
         }
@@ -71,7 +74,8 @@ class Reader {
         for (pugi::xml_node label = element.first_child(); label;) {
             const pugi::xml_node value = label.next_sibling();
             if (!IsNamed(label, "dt") || !IsNamed(value, "dd")) {
-                throw source_.Error(label, "in a list \"dl\" each \"dt\" is followed by its \"dd\"");
+                throw source_.Error(label,
+                                    Translated("in a list \"dl\" each \"dt\" is followed by its \"dd\""));
             }
             const pugi::xml_node next = value.next_sibling();
             const bool hasUnit = IsNamed(next, "dd") && HasClass(next, "unit");
@@ -97,7 +101,8 @@ class Reader {
         std::vector<std::string> texts;
         for (const pugi::xml_node child : element.children()) {
             if (!IsNamed(child, "p") || texts.size() == 3) {
-                throw source_.Error(child, "the head and the foot of the pages have one to three \"p\"");
+                throw source_.Error(child,
+                                    Translated("the head and the foot of the pages have one to three \"p\""));
             }
             texts.push_back(source_.FilledText(child, scope));
         }
@@ -110,12 +115,14 @@ class Reader {
     void ReadPicture(pugi::xml_node element, const LayoutScope& scope) {
         const std::string name = source_.FilledAttribute(element, "src", scope);
         if (name.empty() || name.front() == '.' || name.find_first_of("/\\:") != std::string::npos) {
-            throw source_.Error(element, "a picture is named by a file beside the layout, without a folder");
+            throw source_.Error(
+                element, Translated("a picture is named by a file beside the layout, without a folder"));
         }
         blocks::Picture picture;
         picture.png = PictureFile(element, name);
         const auto size = PngSize(picture.png);
-        if (!size) throw source_.Error(element, "the picture \"" + name + "\" is no PNG file");
+        if (!size)
+            throw source_.Error(element, Filled(Translated("the picture \"%1\" is no PNG file"), {name}));
         picture.words = source_.FilledAttribute(element, "alt", scope);
         const double wide = WidthOf(element, size->width);
         picture.widthPoints = wide * kPointsPerDot;
@@ -127,7 +134,8 @@ class Reader {
         const ReportDrawing& drawing = FindDrawing(element);
         const pugi::xml_node caption = element.first_child();
         if (!IsNamed(caption, "figcaption") || caption.next_sibling()) {
-            throw source_.Error(element, "a \"figure\" holds one \"figcaption\" and nothing else");
+            throw source_.Error(element,
+                                Translated("a \"figure\" holds one \"figcaption\" and nothing else"));
         }
         if (drawing.IsEmpty()) return;
         document_.blocks.emplace_back(blocks::Heading{2, source_.FilledText(caption, scope)});
@@ -140,14 +148,15 @@ class Reader {
             const auto found = data_.drawings->find(name);
             if (found != data_.drawings->end()) return found->second;
         }
-        throw source_.Error(element, "there is no drawing \"" + std::string(name) + "\"");
+        throw source_.Error(element, Filled(Translated("there is no drawing \"%1\""), {name}));
     }
 
     [[nodiscard]] std::string PictureFile(pugi::xml_node element, const std::string& name) const {
         try {
             return data_.pictures(name);
         } catch (const FileError& failure) {
-            throw source_.Error(element, "the picture \"" + name + "\" cannot be read: " + failure.what());
+            throw source_.Error(
+                element, Filled(Translated("the picture \"%1\" cannot be read: %2"), {name, failure.what()}));
         }
     }
 
@@ -157,7 +166,7 @@ class Reader {
         unsigned int dots = 0;
         const auto result = std::from_chars(text.data(), text.data() + text.size(), dots);
         if (result.ec != std::errc{} || result.ptr != text.data() + text.size() || dots == 0) {
-            throw source_.Error(element, "the width of a picture is a whole number above 0");
+            throw source_.Error(element, Translated("the width of a picture is a whole number above 0"));
         }
         return dots;
     }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/text.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -36,8 +37,8 @@ pugi::xml_document LayoutSource::Parse() const {
         tree.load_buffer(text_.data(), text_.size(), pugi::parse_default, pugi::encoding_utf8);
     if (!result)
         throw ErrorInLine(LineOf(result.offset),
-                          std::string("the markup is broken: ") + result.description());
-    if (IsTooDeep(tree)) throw ErrorInLine(1, "elements stand too deep in one another");
+                          Filled(Translated("the markup is broken: %1"), {result.description()}));
+    if (IsTooDeep(tree)) throw ErrorInLine(1, Translated("elements stand too deep in one another"));
     return tree;
 }
 
@@ -48,7 +49,7 @@ std::size_t LayoutSource::LineOf(std::ptrdiff_t offset) const {
 }
 
 LayoutError LayoutSource::ErrorInLine(std::size_t line, const std::string& reason) const {
-    return LayoutError(fileName_ + ", line " + std::to_string(line) + ": " + reason + ".");
+    return LayoutError(Filled(Translated("%1, line %2: %3."), {fileName_, std::to_string(line), reason}));
 }
 
 LayoutError LayoutSource::Error(pugi::xml_node node, const std::string& reason) const {
@@ -75,7 +76,8 @@ std::string LayoutSource::FilledText(pugi::xml_node element, const LayoutScope& 
         } else if (IsNamed(child, "br")) {
             filled += '\n';
         } else {
-            throw Error(child, "the element \"" + std::string(child.name()) + "\" cannot stand in a text");
+            throw Error(child,
+                        Filled(Translated("the element \"%1\" cannot stand in a text"), {child.name()}));
         }
     }
     return std::string(TrimBlanks(filled));

@@ -6,6 +6,7 @@
 
 #include "platform/number_picture.h"
 #include "platform/text.h"
+#include "platform/translation.h"
 #include "reports/document/characters.h"
 
 namespace kelvor {
@@ -50,7 +51,8 @@ std::string Quoted(std::string_view text) { return "\"" + CleanText(text) + "\""
 FoundColumn FindIn(const StagedTable& table, std::string_view column, std::size_t row) {
     const auto found = table.Find(column);
     if (!found) {
-        throw std::runtime_error("the table " + Quoted(table.name) + " has no column " + Quoted(column));
+        throw std::runtime_error(
+            Filled(Translated("the table %1 has no column %2"), {Quoted(table.name), Quoted(column)}));
     }
     return {table, *found, row};
 }
@@ -61,12 +63,15 @@ std::optional<FoundColumn> FindColumn(std::string_view name, const LayoutScope& 
     const std::size_t point = name.find('.');
     if (point != std::string_view::npos) {
         const StagedTable* table = scope.tables.Find(name.substr(0, point));
-        if (table == nullptr) throw std::runtime_error("there is no table " + Quoted(name.substr(0, point)));
+        if (table == nullptr)
+            throw std::runtime_error(
+                Filled(Translated("there is no table %1"), {Quoted(name.substr(0, point))}));
         return FindIn(*table, name.substr(point + 1), table == scope.table ? scope.row : 0);
     }
     const bool isColumn = scope.table != nullptr && scope.table->Find(name);
     if (!isColumn && scope.texts.contains(name)) return std::nullopt;
-    if (scope.table == nullptr) throw std::runtime_error("there is no text " + Quoted(name));
+    if (scope.table == nullptr)
+        throw std::runtime_error(Filled(Translated("there is no text %1"), {Quoted(name)}));
     return FindIn(*scope.table, name, scope.row);
 }
 
@@ -79,7 +84,8 @@ std::string ShowValue(const StagedValue& value, std::string_view picture) {
 std::string Show(std::string_view inBraces, const LayoutScope& scope) {
     const Placeholder placeholder = TakeApart(inBraces);
     if (!IsNumberPicture(placeholder.picture)) {
-        throw std::runtime_error(Quoted(placeholder.picture) + " is no number picture");
+        throw std::runtime_error(
+            Filled(Translated("%1 is no number picture"), {Quoted(placeholder.picture)}));
     }
     const auto found = FindColumn(placeholder.name, scope);
     if (!found) return CleanText(scope.texts.find(placeholder.name)->second);
@@ -110,7 +116,7 @@ std::size_t LinesIn(std::string_view text) {
 std::size_t ClosingBrace(std::string_view text, std::size_t open) {
     const std::size_t close = text.find_first_of("{}", open + 1);
     if (close == std::string_view::npos || text[close] != '}') {
-        throw std::runtime_error("a brace is not closed; a brace itself is written {{ or }}");
+        throw std::runtime_error(Translated("a brace is not closed; a brace itself is written {{ or }}"));
     }
     return close;
 }
@@ -123,7 +129,8 @@ std::size_t AppendBrace(std::string& filled, std::string_view text, std::size_t 
         return place + 2;
     }
     if (text[place] == '}') {
-        throw std::runtime_error("a brace is closed that was not opened; a brace itself is written {{ or }}");
+        throw std::runtime_error(
+            Translated("a brace is closed that was not opened; a brace itself is written {{ or }}"));
     }
     const std::size_t close = ClosingBrace(text, place);
     filled += Show(text.substr(place + 1, close - place - 1), scope);

@@ -4,6 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/translation.h"
+
 namespace kelvor {
 
 namespace {
@@ -15,7 +17,7 @@ const StagedTable& TableNamed(const LayoutSource& source, pugi::xml_node element
                               const LayoutScope& scope) {
     const std::string name = element.attribute(attribute).value();
     const StagedTable* table = scope.tables.Find(name);
-    if (table == nullptr) throw source.Error(element, "there is no table \"" + name + "\"");
+    if (table == nullptr) throw source.Error(element, Filled(Translated("there is no table \"%1\""), {name}));
     return *table;
 }
 
@@ -23,7 +25,7 @@ std::vector<blocks::Table::Column> ReadColumns(const LayoutSource& source, pugi:
                                                const LayoutScope& scope) {
     std::vector<blocks::Table::Column> columns;
     for (const pugi::xml_node cell : row.children()) {
-        if (!IsNamed(cell, "th")) throw source.Error(cell, "the headings of a table are \"th\"");
+        if (!IsNamed(cell, "th")) throw source.Error(cell, Translated("the headings of a table are \"th\""));
         columns.push_back(
             {source.FilledText(cell, scope), HasClass(cell, "number") ? Alignment::Right : Alignment::Left});
     }
@@ -34,12 +36,12 @@ std::vector<std::string> ReadCells(const LayoutSource& source, pugi::xml_node ro
                                    const LayoutScope& scope) {
     std::vector<std::string> cells;
     for (const pugi::xml_node cell : row.children()) {
-        if (!IsNamed(cell, "td")) throw source.Error(cell, "the cells of a table are \"td\"");
+        if (!IsNamed(cell, "td")) throw source.Error(cell, Translated("the cells of a table are \"td\""));
         cells.push_back(source.FilledText(cell, scope));
     }
     if (cells.size() != columns) {
-        throw source.Error(row, "the row has " + std::to_string(cells.size()) + " cells, the table " +
-                                    std::to_string(columns) + " columns");
+        throw source.Error(row, Filled(Translated("the row has %1 cells, the table %2 columns"),
+                                       {std::to_string(cells.size()), std::to_string(columns)}));
     }
     return cells;
 }
@@ -47,7 +49,7 @@ std::vector<std::string> ReadCells(const LayoutSource& source, pugi::xml_node ro
 /// Appends what a `tr` stands for: a row, or one for each row of a staging table.
 void AppendRows(const LayoutSource& source, pugi::xml_node row, const LayoutScope& outer,
                 blocks::Table& table) {
-    if (!IsNamed(row, "tr")) throw source.Error(row, "the rows of a table are \"tr\"");
+    if (!IsNamed(row, "tr")) throw source.Error(row, Translated("the rows of a table are \"tr\""));
     LayoutScope scope = InnerScope(source, row, outer);
     if (!row.attribute(kRowsAttribute)) {
         table.rows.push_back(ReadCells(source, row, table.columns.size(), scope));
@@ -75,11 +77,13 @@ LayoutScope InnerScope(const LayoutSource& source, pugi::xml_node element, const
 blocks::Table ReadTable(const LayoutSource& source, pugi::xml_node element, const LayoutScope& scope) {
     blocks::Table table;
     const pugi::xml_node head = element.child("thead").child("tr");
-    if (!head) throw source.Error(element, "a table has its headings in a \"tr\" of its \"thead\"");
+    if (!head)
+        throw source.Error(element, Translated("a table has its headings in a \"tr\" of its \"thead\""));
     table.columns = ReadColumns(source, head, InnerScope(source, head, scope));
     for (const pugi::xml_node part : element.children()) {
         if (IsNamed(part, "thead")) continue;
-        if (!IsNamed(part, "tbody")) throw source.Error(part, "a table has a \"thead\" and a \"tbody\"");
+        if (!IsNamed(part, "tbody"))
+            throw source.Error(part, Translated("a table has a \"thead\" and a \"tbody\""));
         for (const pugi::xml_node row : part.children()) {
             AppendRows(source, row, InnerScope(source, part, scope), table);
         }

@@ -5,6 +5,7 @@
 #include "forms/form_events.h"
 #include "forms/side_screen.h"
 #include "platform/database_error.h"
+#include "platform/translation.h"
 #include "reports/run/preview_form.h"
 #include "reports/run/report_sections.h"
 #include "reports/run/report_texts.h"
@@ -32,14 +33,15 @@ bool ReportDesk::DemandReports(const ScreenContext& context) {
         return false;
     }
     if (context.calc.store.IsOpen()) return true;
-    dialogs().ShowMessage({.text = "There is no project to report.", .title = kTitle});
+    dialogs().ShowMessage({.text = Translated("There is no project to report."), .title = kTitle});
     return false;
 }
 
 /// Runs a part of the work that opens databases and files; what fails there is shown, and ends it.
 void ReportDesk::Guard(const std::function<void()>& run) {
     const auto tell = [&](const std::string& reason) {
-        dialogs().ShowMessage({.text = "The reports cannot be prepared: " + reason, .title = kTitle});
+        dialogs().ShowMessage(
+            {.text = Filled(Translated("The reports cannot be prepared: %1"), {reason}), .title = kTitle});
     };
     try {
         run();
@@ -197,7 +199,8 @@ void ReportDesk::PrintPreview() {
         failure = error.what();
     }
     if (!failure) return;
-    dialogs().ShowMessage({.text = "The report could not be printed: " + *failure + ".", .title = kTitle});
+    dialogs().ShowMessage(
+        {.text = Filled(Translated("The report could not be printed: %1."), {*failure}), .title = kTitle});
 }
 
 void ReportDesk::ClosePreviews(ScreenContext& context) {

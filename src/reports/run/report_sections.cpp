@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "drawing/section_scene.h"
+#include "platform/translation.h"
 #include "sections/section_sheet.h"
 
 namespace kelvor {
@@ -53,6 +54,7 @@ std::string WordsOf(const ChartData& sheet) {
 }  // namespace
 
 ReportDrawings DrawingsOfReport(const ScreenContext& context, const std::string& screen) {
+    const InEnglish english;
     ReportDrawing section;
     if (const SectionMember* member = FindSectionMember(screen)) {
         const ChartData sheet = MakeSectionSheet(context.units, *member);

@@ -1,6 +1,7 @@
 #include "reports/run/report_texts.h"
 
 #include "forms/equation_lines.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -13,6 +14,7 @@ constexpr std::size_t kToTheMinute = 16;
 
 decltype(ReportRequest::texts) ReportTexts(const ScreenContext& context, const std::string& screen,
                                            const std::string& projectFile) {
+    const InEnglish english;
     return {{"Check", EquationCheck(context, screen)},
             {"Governs", WhatGoverns(context, screen)},
             {"Project", Path(projectFile).filename().string()},

@@ -6,6 +6,7 @@
 
 #include "platform/number_text.h"
 #include "platform/text.h"
+#include "platform/translation.h"
 #include "reports/staging/rating_texts.h"
 
 namespace kelvor {
@@ -136,7 +137,7 @@ ColumnRule FindColumnRule(std::string_view name, bool isText) {
 
 double ShownNumber(const CalcContext& context, const std::string& variable, int dim1, int dim2) {
     const std::string text = BlankToZero(context.units.GetDisplayValue(variable, dim1, dim2));
-    if (!IsNumeric(text)) throw StagingFault(variable + " is no number: " + text);
+    if (!IsNumeric(text)) throw StagingFault(Filled(Translated("%1 is no number: %2"), {variable, text}));
     return ParseNumber(text);
 }
 

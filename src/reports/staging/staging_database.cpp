@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "platform/translation.h"
+
 namespace kelvor {
 
 namespace {
@@ -67,7 +69,8 @@ void StagingDatabase::UpdateRow(const std::string& table, int row, const std::ve
         SQLite::Statement update(
             database_, "UPDATE " + Quoted(table) + " SET " + List(values, " = ?") + RowCondition(table, row));
         if (Run(update, values) == 0) {
-            throw DatabaseError("table " + table + " has no row " + std::to_string(row), false);
+            throw DatabaseError(Filled(Translated("table %1 has no row %2"), {table, std::to_string(row)}),
+                                false);
         }
     });
 }

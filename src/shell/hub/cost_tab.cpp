@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "platform/translation.h"
 #include "shell/hub/screen_choice.h"
 #include "shell/hub/tabs.h"
 
@@ -29,9 +30,9 @@ HubPage CostTab() {
                                                 {.variable = "DiscountRate", .computed = true},
                                                 {"AnalysisPeriodA"},
                                                 {"AnalysisPeriodB"}})}),
-                                 Frame("FrameLc", "Costs",
+                                 Frame("FrameLc", Translated("Costs"),
                                        {HubOptions(HubGroup::Costs),
-                                        Buttons({{HubButton(HubGroup::Costs), "&Costs"}})})}),
+                                        Buttons({{HubButton(HubGroup::Costs), Translated("&Costs")}})})}),
                            Frame("GraphsOpt", "Graphs",
                                  {HubOptions(HubGroup::Graphs),
                                   Buttons({{HubButton(HubGroup::Graphs), "Graphs"}})})})}),

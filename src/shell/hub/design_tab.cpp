@@ -1,3 +1,4 @@
+#include "platform/translation.h"
 #include "shell/hub/screen_choice.h"
 #include "shell/hub/tabs.h"
 
@@ -5,7 +6,8 @@ namespace kelvor {
 
 HubPage DesignTab() {
     constexpr HubGroup kGroup = HubGroup::Designs;
-    return {Page("Design / Evaluation", {HubOptions(kGroup), Buttons({{HubButton(kGroup), "&Design"}})}),
+    return {Page("Design / Evaluation",
+                 {HubOptions(kGroup), Buttons({{HubButton(kGroup), Translated("&Design")}})}),
             {OpeningChosenScreen(kGroup)}};
 }
 

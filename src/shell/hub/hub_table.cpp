@@ -4,6 +4,7 @@
 #include <array>
 
 #include "platform/text.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -15,7 +16,8 @@ namespace category = report_category;
 
 /// What every route to the ESALs needs, but for the distribution.
 constexpr std::array kSharedInputs = {"TrafficDEPTH", "TrafficSN", "PT", "Life", "GrowthRate", "TrPer"};
-constexpr HubNeeds kTrafficInputs = {kSharedInputs, "needs the values of Pavement & Traffic Inputs"};
+constexpr HubNeeds kTrafficInputs = {kSharedInputs,
+                                     ToTranslate("needs the values of Pavement & Traffic Inputs")};
 
 /// What an overlay needs to know of the pavement below it.
 constexpr std::array kSlabInputs = {"EXISTMR", "EXISTEC", "EXISTJ", "EXISTK"};

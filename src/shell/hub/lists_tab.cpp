@@ -125,7 +125,7 @@ HubPage ListsTab() {
                            Grid(kGrid, {{"Name", "Name"}, {"Sort", "Sort Order"}, {kValueColumn, "Value"}}),
                            Buttons({{kAdd, "&Add Item"},
                                     {kDelete, "&Delete Item"},
-                                    {kRestore, "&Restore Defaults"},
+                                    {kRestore, Translated("&Restore Defaults")},
                                     {kSort, "&Sort"}})}),
             {{FormEvent::Change, kCombo, HandlerOrder::Instead, ListChosen},
              {FormEvent::CellChanged, kGrid, HandlerOrder::Instead, CellChanged},

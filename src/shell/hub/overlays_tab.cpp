@@ -1,14 +1,18 @@
+#include "platform/translation.h"
 #include "shell/hub/screen_choice.h"
 #include "shell/hub/tabs.h"
 
 namespace kelvor {
 
 HubPage OverlaysTab() {
-    const LayoutElement existing = Section("FrameEx", "Existing Pavement", {HubOptions(HubGroup::Existing)});
-    const LayoutElement overlays = Section("FrameOv", "Overlay Design", {HubOptions(HubGroup::Overlays)});
-    const LayoutElement tests = Section("FrameNDT", "Deflection Tests", {HubOptions(HubGroup::Deflections)});
+    const LayoutElement existing =
+        Section("FrameEx", Translated("Existing Pavement"), {HubOptions(HubGroup::Existing)});
+    const LayoutElement overlays =
+        Section("FrameOv", Translated("Overlay Design"), {HubOptions(HubGroup::Overlays)});
+    const LayoutElement tests =
+        Section("FrameNDT", Translated("Deflection Tests"), {HubOptions(HubGroup::Deflections)});
     return {Page("Overlays", {Columns({Rows({existing, overlays}), Rows({tests})}),
-                              Buttons({{HubButton(HubGroup::Overlays), "&Overlay"}})}),
+                              Buttons({{HubButton(HubGroup::Overlays), Translated("&Overlay")}})}),
             {OpeningChosenScreen(HubGroup::Overlays)}};
 }
 

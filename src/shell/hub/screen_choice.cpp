@@ -7,6 +7,7 @@
 
 #include "forms/form_events.h"
 #include "forms/side_screen.h"
+#include "platform/translation.h"
 #include "shell/hub/offer.h"
 #include "shell/hub/screen_data.h"
 
@@ -82,7 +83,7 @@ std::string WhatIsMissing(const ScreenContext& context, const HubNeeds& needs) {
     const std::string missing = MissingFields(context, needs);
     const std::string_view whyNot = needs.whyNot;
     if (missing.empty()) return {};
-    return whyNot.empty() ? "needs " + missing : std::string(whyNot);
+    return whyNot.empty() ? Filled(Translated("needs %1"), {missing}) : std::string(whyNot);
 }
 
 void OfferByNeeds(const ScreenContext& context, Form& hub, HubGroup group) {

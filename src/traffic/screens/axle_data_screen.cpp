@@ -2,6 +2,7 @@
 
 #include "forms/form.h"
 #include "forms/recalculation.h"
+#include "platform/translation.h"
 #include "traffic/screens/traffic_inputs.h"
 #include "traffic/screens/traffic_words.h"
 
@@ -27,7 +28,7 @@ FormType AxleDataForm() {
     FormType type;
     type.name = "TrAx";
     type.caption = "ESAL Conversion From Axle Data";
-    type.rowName = "axle";
+    type.rowName = {ToTranslate("axle"), ToTranslate("axles")};
     type.layout = Rows({
         TrafficInputCopies(),
         Grid("Grid",

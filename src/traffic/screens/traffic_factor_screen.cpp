@@ -7,6 +7,7 @@
 #include "forms/form_events.h"
 #include "forms/recalculation.h"
 #include "forms/side_screen.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -74,8 +75,8 @@ FormType TrafficFactorForm() {
     type.caption = "ESAL Determination by Traffic Factor";
     type.layout = Columns({Rows({TrafficInput(), Frame("Frame2", "ESAL Traffic Factors",
                                                        {Fields({{"TrInFESAL"}, {"TrInRESAL"}})})}),
-                           Rows({Frame("Frame3", "Growth", {Fields({{"GrowthRate"}, {"Life"}})}),
-                                 Frame("Frame4", "Design Traffic",
+                           Rows({Frame("Frame3", Translated("Growth"), {Fields({{"GrowthRate"}, {"Life"}})}),
+                                 Frame("Frame4", Translated("Design Traffic"),
                                        {Fields({{.variable = "FLEXE18", .label = "Total Flexible ESAL"},
                                                 {.variable = "RIGE18", .label = "Total Rigid ESAL"}})})})});
     type.handlers = {

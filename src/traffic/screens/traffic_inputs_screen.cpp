@@ -4,6 +4,7 @@
 #include "forms/field_entry.h"
 #include "forms/field_help.h"
 #include "forms/form.h"
+#include "platform/translation.h"
 #include "traffic/calc/traffic_codes.h"
 #include "traffic/screens/distribution.h"
 #include "traffic/screens/traffic_words.h"
@@ -100,7 +101,7 @@ void HelpClick(ScreenEvent& event) {
 }
 
 LayoutElement SharedInputs() {
-    return Frame("Frame3", "Pavement and Growth",
+    return Frame("Frame3", Translated("Pavement and Growth"),
                  {Fields({{.variable = "TrafficDEPTH", .box = "TRAFFICDEPTH"},
                           {.variable = "TrafficSN", .box = "TRAFFICSN"},
                           {"PT"},
@@ -114,7 +115,7 @@ LayoutElement Distribution() {
         Frame("Frame1",
               "Traffic Input as:", {Options({{"Option1", "Design Lane"}, {"Option2", "Total Traffic"}})}),
         Fields({{"TRNUMLANES"}}),
-        Frame("Frame2", "Directions and Lanes",
+        Frame("Frame2", Translated("Directions and Lanes"),
               {Options({{"TRONEWAY", "1-way"}, {"TRTWOWAY", "2-way"}}),
                Fields({{.variable = "TRDIRDIS", .labelName = "Label10", .unitName = "Label11"},
                        {.variable = "TRLANDIS", .labelName = "Label12", .unitName = "Label13"}})}),

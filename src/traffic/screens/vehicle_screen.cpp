@@ -9,6 +9,7 @@
 #include "forms/field_entry.h"
 #include "forms/form.h"
 #include "forms/recalculation.h"
+#include "platform/translation.h"
 #include "traffic/calc/traffic_codes.h"
 #include "traffic/screens/traffic_inputs.h"
 #include "traffic/screens/traffic_words.h"
@@ -23,7 +24,7 @@ struct Drawing {
     const char* words;
 };
 
-/// How a class of vehicles is shown.
+/// How a class of vehicles is shown. Its texts are translated where they are shown.
 struct Vehicle {
     const char* name;
     std::vector<Drawing> drawings;
@@ -32,14 +33,20 @@ struct Vehicle {
 /// In the order of the classes' axles.
 std::array<Vehicle, kVehicleAxles.size()> Vehicles() {
     return {{
-        {"2-axle truck, bus", {{"truck_2.svg", 11.0, "A truck with two axles"}}},
-        {"3-axle truck", {{"truck_3.svg", 13.0, "A truck with three axles, two of them a tandem"}}},
-        {"2-S1", {{"semitrailer_2_s1.svg", 19.0, "A tractor with two axles, a semitrailer with one"}}},
-        {"2-S2", {{"semitrailer_2_s2.svg", 20.0, "A tractor with two axles, a semitrailer with a tandem"}}},
-        {"3-S2", {{"semitrailer_3_s2.svg", 21.0, "A tractor with three axles, a semitrailer with a tandem"}}},
+        {ToTranslate("2-axle truck, bus"), {{"truck_2.svg", 11.0, ToTranslate("A truck with two axles")}}},
+        {ToTranslate("3-axle truck"),
+         {{"truck_3.svg", 13.0, ToTranslate("A truck with three axles, two of them a tandem")}}},
+        {"2-S1",
+         {{"semitrailer_2_s1.svg", 19.0, ToTranslate("A tractor with two axles, a semitrailer with one")}}},
+        {"2-S2",
+         {{"semitrailer_2_s2.svg", 20.0,
+           ToTranslate("A tractor with two axles, a semitrailer with a tandem")}}},
+        {"3-S2",
+         {{"semitrailer_3_s2.svg", 21.0,
+           ToTranslate("A tractor with three axles, a semitrailer with a tandem")}}},
         {"2-S1-2",
-         {{"semitrailer_2_s1.svg", 19.0, "A tractor with two axles, a semitrailer with one,"},
-          {"trailer_2.svg", 14.0, "and a trailer with two axles behind it"}}},
+         {{"semitrailer_2_s1.svg", 19.0, ToTranslate("A tractor with two axles, a semitrailer with one,")},
+          {"trailer_2.svg", 14.0, ToTranslate("and a trailer with two axles behind it")}}},
     }};
 }
 
@@ -68,10 +75,10 @@ void AddHeadings(std::vector<MatrixCell>& elements, int block, int firstAxle) {
 LayoutElement Drawings(const Vehicle& vehicle, const VehicleAxles& axles, int& images) {
     std::vector<LayoutElement> rows;
     for (const Drawing& drawing : vehicle.drawings) {
-        rows.push_back(
-            SmallPicture("Image" + std::to_string(++images), drawing.file, drawing.letters, drawing.words));
+        rows.push_back(SmallPicture("Image" + std::to_string(++images), drawing.file, drawing.letters,
+                                    Translated(drawing.words)));
     }
-    rows.push_back(Caption(Named("Class", axles.last), vehicle.name));
+    rows.push_back(Caption(Named("Class", axles.last), Translated(vehicle.name)));
     return Rows(std::move(rows));
 }
 
@@ -158,7 +165,7 @@ FormType VehicleForm() {
     FormType type;
     type.name = "TrVe";
     type.caption = "ESAL Conversion From Vehicle Data";
-    type.rowName = "vehicle";
+    type.rowName = {ToTranslate("vehicle"), ToTranslate("vehicles")};
     type.layout = VehicleLayout();
     type.handlers = {
         {FormEvent::Activate, "", HandlerOrder::After, Activated},

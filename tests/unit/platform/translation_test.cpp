@@ -69,6 +69,16 @@ TEST(TranslationTest, TheProcessSpeaksTheLanguageThatItWasGiven) {
     EXPECT_EQ(Translated("New Project"), "New Project");
 }
 
+TEST(TranslationTest, WhatIsTheSameInEveryLanguageIsMadeInEnglish) {
+    Speak(Translation::ReadPo(kPo));
+    {
+        const InEnglish english;
+        EXPECT_EQ(Translated("New Project"), "New Project");
+    }
+    EXPECT_EQ(Translated("New Project"), "Proyecto nuevo");
+    Speak({});
+}
+
 TEST(TranslationTest, PlaceholdersAreFilledInAnyOrder) {
     EXPECT_EQ(Filled("%1 of %2", {"3", "7"}), "3 of 7");
     EXPECT_EQ(Filled("de %2, %1", {"3", "7"}), "de 7, 3");

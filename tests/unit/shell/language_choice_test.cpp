@@ -9,6 +9,7 @@
 #include <map>
 
 #include "platform/translation.h"
+#include "reports/run/report_texts.h"
 #include "shell/overview.h"
 #include "support/test_home.h"
 #include "support/test_host.h"
@@ -19,6 +20,8 @@ namespace {
 using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Pair;
+using testing::StartsWith;
 
 std::vector<std::string> Asked(const std::map<std::string, std::string>& variables) {
     return LanguagesOf([&](const char* name) {
@@ -111,6 +114,26 @@ TEST_F(SpanishTest, NumbersAndWhatEveryVersionHasAlikeDoNotChange) {
     const std::vector<OverviewLine> english = MakeOverview(program.program.state());
     EXPECT_EQ(lines[0].title, english[0].title);
     EXPECT_EQ(lines[0].results[0].text, english[0].results[0].text);
+}
+
+TEST_F(SpanishTest, AScreenSaysInSpanishWhatItsReportSaysInEnglish) {
+    TestProgram program;
+    program.program.Raise({UserEvent::Kind::OpenForm, "OvWT"});
+    const Form& form = *program.program.state().formRegistry.Find("OvWT");
+    EXPECT_EQ(form.TextOf("GOVERNS"), "El espesor del whitetopping no se conoce todavía.");
+    const auto texts = ReportTexts(program.program.state().MakeScreenContext(), "OvWT", "road.kvr");
+    EXPECT_THAT(texts, Contains(Pair("Governs", "The whitetopping thickness is not known yet.")));
+    EXPECT_THAT(texts, Contains(Pair("Check", StartsWith("Missing: "))));
+}
+
+TEST_F(SpanishTest, WhyAnOptionIsOffIsToldInSpanish) {
+    TestProgram program;
+    program.program.Raise({UserEvent::Kind::SwitchTab, {}, {}, 1});
+    const Form& hub = *program.program.state().formRegistry.Find("TabForm");
+    EXPECT_EQ(hub.Find("AxleData")->toolTip, "necesita los valores de Pavement & Traffic Inputs");
+    program.program.Raise({UserEvent::Kind::SwitchTab, {}, {}, 3});
+    EXPECT_EQ(hub.Find("oOvAA")->toolTip,
+              "necesita " + program.program.state().dbCatalogue->FindVariable("EXISTRM")->desc);
 }
 
 }  // namespace
