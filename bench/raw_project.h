@@ -4,8 +4,8 @@
 #include <stdexcept>
 #include <string>
 
-#include "shell/home.h"
 #include "raw_database.h"
+#include "shell/home.h"
 
 namespace kelvor::bench {
 
