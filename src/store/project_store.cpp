@@ -330,11 +330,11 @@ std::vector<CellChange> ProjectStore::EventChanges() const {
 void ProjectStore::UndoEvent() noexcept {
     inEvent_ = false;
     // The last write goes first, as a cell may have been written more than once.
-    for (auto former = formers_.rbegin(); former != formers_.rend(); ++former) {
-        StoredCell& cell = variables_[former->place.variable].cells[former->place.cell];
-        cell.value = std::move(former->value);
-        cell.unwritten = former->unwritten;
-    }
+    std::for_each(formers_.rbegin(), formers_.rend(), [this](Former& former) {
+        StoredCell& cell = variables_[former.place.variable].cells[former.place.cell];
+        cell.value = std::move(former.value);
+        cell.unwritten = former.unwritten;
+    });
     // A transaction that a failure had ended before may have left some of the writes behind.
     if (std::exchange(inTransaction_, false) && !workCopy_->Rollback()) MarkUnwritten();
     formers_.clear();

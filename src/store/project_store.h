@@ -155,8 +155,9 @@ class ProjectStore {
     struct Place {
         std::uint32_t variable = 0;
         std::uint32_t cell = 0;
-        friend bool operator==(const Place&, const Place&) = default;
-        friend auto operator<=>(const Place&, const Place&) = default;
+        friend bool operator<(const Place& a, const Place& b) {
+            return std::pair(a.variable, a.cell) < std::pair(b.variable, b.cell);
+        }
     };
 
     /// What a cell was before the open event wrote to it.

@@ -131,7 +131,7 @@ ChartData ChartOf(const ScreenContext& context, const Form& form, const ResultCo
     ChartData chart;
     chart.title = Translated(result.heading) + ", " + shown.unit;
     chart.across = {.title = {}, .picture = "0"};
-    chart.up = {.title = {}, .picture = shown.factor == 1.0 ? "0" : ""};
+    chart.up = {.title = {}, .picture = shown.factor == 1.0 ? "#,##0" : ""};
     chart.series = {{Translated("Test"), kTestColour}, {Translated("Average"), kAverageColour}};
     const std::set<int> leftOut = LeftOutTests(form);
     if (!leftOut.empty()) {
