@@ -15,7 +15,9 @@ TemporaryHome::TemporaryHome() {
     std::string name = (std::filesystem::temp_directory_path() / "kelvor-bench-XXXXXX").string();
     if (::mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder can be made");
     path_ = name;
-    std::filesystem::copy(built / "DataBase", path_ / "DataBase", std::filesystem::copy_options::recursive);
+    for (const char* folder : {"DataBase", "Reports", "Samples"}) {
+        std::filesystem::copy(built / folder, path_ / folder, std::filesystem::copy_options::recursive);
+    }
     std::filesystem::copy(built / "kvor.ini", path_ / "kvor.ini");
     std::filesystem::copy(built / Home::kTemplateName, path_ / Home::kTemplateName);
 }

@@ -35,6 +35,7 @@ class BenchProgram {
     [[nodiscard]] ProjectStore& store() { return program_.state().dbWork; }
     [[nodiscard]] Program& program() { return program_; }
     [[nodiscard]] Clock& clock() { return clock_; }
+    [[nodiscard]] FileSystem& files() { return files_; }
     [[nodiscard]] CalcContext MakeCalcContext() { return program_.state().MakeCalcContext(); }
 
     /// The names of all variables, in an order that is the same in every run but follows nothing.

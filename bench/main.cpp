@@ -43,9 +43,10 @@ bool InitializeLibrary(std::vector<char*> arguments) {
 
 std::vector<Pair> RegisterAll(BenchProgram& program, const kelvor::Path& home) {
     std::vector<Pair> pairs;
-    for (const auto& some : {RegisterReads(program), RegisterSolves(program, home),
-                             RegisterWrites(program, home), RegisterSpectrum(program),
-                             RegisterDeflections(program), RegisterCosts(program), RegisterUndo(program)}) {
+    for (const auto& some :
+         {RegisterReads(program), RegisterSolves(program, home), RegisterWrites(program, home),
+          RegisterSpectrum(program), RegisterDeflections(program), RegisterCosts(program),
+          RegisterUndo(program), RegisterReports(program)}) {
         pairs.insert(pairs.end(), some.begin(), some.end());
     }
     return pairs;
@@ -77,6 +78,7 @@ bool RunBenchmarks() {
 
     std::vector<Comparison> comparisons = Compare(pairs, reporter);
     comparisons.insert(comparisons.end(), starts.begin(), starts.end());
+    comparisons.push_back(CompareReportSizes(program));
     std::cout << '\n';
     PrintSummary(std::cout, comparisons);
     const SolveCount solve = CountSolve(program);

@@ -1,8 +1,9 @@
 // Shows the program's main window, says so, and ends. With --timings it goes on: how long a screen takes to
 // open, and how long a key takes until the field that it was typed into is painted again; then how long a
 // grid of 50 rows by 10 columns takes to be painted, and a plain table of the toolkit with the same cells;
-// then the screen of overlays, deflection tests and costs that takes longest to open, and how long the paste
-// of a day's deflection tests takes. In milliseconds.
+// then the screen of overlays, deflection tests, costs and cross sections that takes longest to open, how
+// long the paste of a day's deflection tests takes, and how long all reports of a sample take to be previewed
+// one after the other. In milliseconds.
 //
 // Usage: kelvor-bench-window HOME [--timings]
 
@@ -147,6 +148,8 @@ int main(int argc, char** argv) {
             const bench::Slowest slowest = bench::TimeSlowestOpening(desktop.window());
             std::printf("%s %.6f\n", slowest.screen.c_str(), slowest.milliseconds);
             std::printf("%.6f\n", bench::TimePaste(desktop.window()));
+            const Path sample = Path(argv[1]) / "Samples" / "every_report.kvr";
+            std::printf("%.6f\n", bench::TimePreviews(desktop.window(), sample.string()));
         }
     });
     return QApplication::exec();

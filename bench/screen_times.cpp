@@ -7,6 +7,7 @@
 #include <chrono>
 #include <stdexcept>
 #include <utility>
+#include <vector>
 
 #include "desktop/form_view.h"
 
@@ -18,11 +19,14 @@ using Clock = std::chrono::steady_clock;
 
 constexpr int kRepetitions = 5;
 constexpr int kTests = 300;
+constexpr int kReportsTab = 5;
+constexpr std::size_t kReports = 14;
 
-const char* const kScreens[] = {"ExF",    "ExR",    "ExC",   "SNHelp",    "SNCHELP", "FjcHelp",
-                                "OvAA",   "OvAFP",  "OvAP",  "OvAAP",     "OvBP",    "OvUP",
-                                "OvWT",   "ReDfF",  "ReDfR", "ReDfC",     "LcA1",    "LcA1_2",
-                                "LcA1_3", "LcA1_4", "LcS",   "CostChart", "Histogr", "Graphs"};
+const char* const kScreens[] = {"ExF",       "ExR",     "ExC",     "SNHelp", "SNCHELP", "FjcHelp", "OvAA",
+                                "OvAFP",     "OvAP",    "OvAAP",   "OvBP",   "OvUP",    "OvWT",    "ReDfF",
+                                "ReDfR",     "ReDfC",   "LcA1",    "LcA1_2", "LcA1_3",  "LcA1_4",  "LcS",
+                                "CostChart", "Histogr", "Graphs",  "DeFCS",  "DeRCS",   "DeSCS",   "OvAACS",
+                                "OvAFPCS",   "OvAPCS",  "OvAAPCS", "OvBPCS", "OvUPCS",  "OvWTCS"};
 
 template <typename Act>
 double Milliseconds(Act act) {
@@ -42,6 +46,12 @@ void Prepare(MainWindow& window) {
     for (const auto& [name, value] : {std::pair{"Radius", 5.9},
                                       {"Poisson", 0.15},
                                       {"EXISTDEPTH", 9.0},
+                                      {"SBD", 6.0},
+                                      {"DEPTH", 9.5},
+                                      {"BOLDEPTH", 3.0},
+                                      {"UBOLDEPTH", 8.0},
+                                      {"ACCSTHICK", 6.0},
+                                      {"WTDEPTH", 7.0},
                                       {"DiscountRate", 4.0},
                                       {"AnalysisPeriodA", 100.0},
                                       {"AnalysisPeriodB", 100.0}}) {
@@ -111,6 +121,30 @@ double TimePaste(MainWindow& window) {
         CheckPaste(window, load);
     }
     return Median(times);
+}
+
+double TimePreviews(MainWindow& window, const std::string& project) {
+    const std::pair<const char*, std::vector<const char*>> categories[] = {
+        {"rbND", {"rbNDopR", "rbNDopF"}},
+        {"rbOV", {"rbOVopBP", "rbOVopUP", "rbOVopWT", "rbOVopAFP", "rbOVopAA", "rbOVopAP", "rbOVopAAP"}},
+        {"rbTr", {"rbTRopTrAx", "rbTRopTrVe", "rbTRopTrTr"}},
+        {"rbCost", {}}};
+    window.door().Raise({UserEvent::Kind::OpenFile, {}, project});
+    Raise(window, UserEvent::Kind::SwitchTab, {}, kReportsTab);
+    std::size_t shown = 0;
+    double all = 0.0;
+    for (const auto& [option, boxes] : categories) {
+        Raise(window, UserEvent::Kind::Choose, option);
+        for (const char* box : boxes) Raise(window, UserEvent::Kind::Choose, box);
+        all += Milliseconds([&] { Raise(window, UserEvent::Kind::Press, "Command10"); });
+        const std::size_t made = window.door().program().state().reports.previews().size();
+        for (std::size_t i = 1; i < made; ++i)
+            all += Milliseconds([&] { Raise(window, UserEvent::Kind::Press, "NextRep"); });
+        shown += made;
+        Raise(window, UserEvent::Kind::Press, "Close");
+    }
+    if (shown != kReports) throw std::runtime_error("not every report is shown");
+    return all;
 }
 
 }  // namespace kelvor::bench

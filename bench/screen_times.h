@@ -20,10 +20,14 @@ struct Slowest {
     double milliseconds = 0.0;
 };
 
-/// Of the screens of existing pavements, overlays, deflection tests and costs, with their helps and charts.
+/// Of the screens of existing pavements, overlays, deflection tests and costs, with their helps, charts and
+/// cross sections.
 Slowest TimeSlowestOpening(MainWindow& window);
 
 /// How long 300 deflection tests of a slab take to be pasted from a spreadsheet and shown, in milliseconds.
 double TimePaste(MainWindow& window);
+
+/// How long all reports of a project take to be made and looked at one after the other, in milliseconds.
+double TimePreviews(MainWindow& window, const std::string& project);
 
 }  // namespace kelvor::bench

@@ -10,9 +10,11 @@ namespace {
 
 constexpr int kRepetitions = 21;
 constexpr double kSecondsOfOne = 0.05;
+constexpr double kMebibyte = 1024.0 * 1024.0;
 
 std::string Amount(double value, Quantity quantity) {
-    if (quantity == Quantity::Memory) return fmt::format("{:.1f} MiB", value / (1024.0 * 1024.0));
+    if (quantity == Quantity::Memory && value < kMebibyte) return fmt::format("{:.1f} kB", value / 1e3);
+    if (quantity == Quantity::Memory) return fmt::format("{:.1f} MiB", value / kMebibyte);
     if (value < 1e-6) return fmt::format("{:.1f} ns", value * 1e9);
     if (value < 1e-3) return fmt::format("{:.2f} us", value * 1e6);
     return fmt::format("{:.2f} ms", value * 1e3);

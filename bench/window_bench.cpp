@@ -22,6 +22,7 @@ constexpr double kLongestGridRatio = 2.0;
 constexpr double kOpeningSeconds = 0.030;
 constexpr double kKeySeconds = 0.005;
 constexpr double kPasteSeconds = 0.100;
+constexpr double kPreviewSeconds = 1.0;
 
 /// A time beside the longest that a user shall wait.
 Comparison Wait(const std::string& name, double milliseconds, double longestSeconds) {
@@ -46,7 +47,8 @@ std::vector<Comparison> CompareWindows(const Path& home) {
     std::string slowest;
     double slowestOpening = 0.0;
     double paste = 0.0;
-    answer >> shown >> opening >> key >> grid >> plainTable >> slowest >> slowestOpening >> paste;
+    double previews = 0.0;
+    answer >> shown >> opening >> key >> grid >> plainTable >> slowest >> slowestOpening >> paste >> previews;
     return {
         {"window, start to shown, beside an empty one", Quantity::Time, Median(runs.ours, &Started::seconds),
          Median(runs.reference, &Started::seconds), kLongestRatio},
@@ -58,7 +60,8 @@ std::vector<Comparison> CompareWindows(const Path& home) {
          kLongestGridRatio},
         Wait("the slowest of overlays, tests and costs opened (" + slowest + "), beside 30 ms",
              slowestOpening, kOpeningSeconds),
-        Wait("300 x 5 deflections pasted and shown, beside 100 ms", paste, kPasteSeconds)};
+        Wait("300 x 5 deflections pasted and shown, beside 100 ms", paste, kPasteSeconds),
+        Wait("all 14 reports previewed, one after the other, beside 1 s", previews, kPreviewSeconds)};
 }
 
 }  // namespace kelvor::bench

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFontDatabase>
 #include <QMessageBox>
 #include <chrono>
 #include <cstdio>
@@ -55,7 +56,9 @@ int RunProgram(const Home& home, const std::string& project) {
 }  // namespace
 
 DesktopProgram::DesktopProgram(const Home& home)
-    : language_(files_, home), program_({files_, clock_, dialogs_, components_, ToolkitLibraries()}, home) {}
+    : fonts_(std::async(std::launch::async, [] { QFontDatabase::families(); })),
+      language_(files_, home),
+      program_({files_, clock_, dialogs_, components_, ToolkitLibraries()}, home) {}
 
 bool DesktopProgram::Start(const std::string& project) {
     if (program_.Start(project) == StartResult::Stopped) return false;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTimer>
+#include <future>
 #include <memory>
 #include <string>
 
@@ -32,6 +33,7 @@ class DesktopProgram {
     [[nodiscard]] MainWindow& window() { return *window_; }
 
   private:
+    std::future<void> fonts_;  // of the system, read in while the program reads its own files
     NativeFileSystem files_;
     WindowLanguage language_;  // before anything is said
     SystemClock clock_;

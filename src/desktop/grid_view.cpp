@@ -267,8 +267,17 @@ void GridView::Show() {
         updateGeometries();  // rows that were added lengthen the way
         scrollTo(cursor);
     }
-    emit cells_.headerDataChanged(Qt::Horizontal, 0, cells_.columnCount() - 1);
+    ShowHeadings();
     showing_ = false;
+}
+
+/// Captions and units change seldom, and a heading that is painted for nothing costs more than a look.
+void GridView::ShowHeadings() {
+    QStringList headings;
+    for (int column = 0; column < cells_.columnCount(); ++column)
+        headings << cells_.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    if (std::exchange(headings_, headings) != headings && !headings.isEmpty())
+        emit cells_.headerDataChanged(Qt::Horizontal, 0, cells_.columnCount() - 1);
 }
 
 void GridView::Detach() {

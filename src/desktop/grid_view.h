@@ -2,6 +2,7 @@
 
 #include <QAbstractTableModel>
 #include <QPointer>
+#include <QStringList>
 #include <QStyledItemDelegate>
 #include <QTableView>
 #include <cstddef>
@@ -112,13 +113,15 @@ class GridView : public QTableView {
     void OpenCellList();
     [[nodiscard]] bool RowsShift() const;
     void SizeColumns();
+    void ShowHeadings();
     void OpenEditor(QWidget& editor);
 
     const Control* control_;  // null once it is gone
     GridHooks hooks_;
     CellModel cells_;
     QPointer<QWidget> editor_;
-    bool typedInEditor_ = false;  // when it was shown last
+    QStringList headings_;        // when it was shown last
+    bool typedInEditor_ = false;  // likewise
     bool showing_ = false;
 };
 

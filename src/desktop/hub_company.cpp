@@ -38,7 +38,7 @@ void HubCompany::Join(FormView& hub) {
 StartPageHooks HubCompany::Hooks() {
     return {.newProject = [this] { BeginProject(); },
             .open = [this] { Trigger("MenuFileOpen", 0); },
-            .openRecent = [this](int position) { Trigger("mnuRecentFile", position); },
+            .openRecent = [this](int position) { Trigger(kRecentEntry, position); },
             .openSample = [this](const std::string& path) { OpenSample(path); },
             .showHelp =
                 [this](const std::string& page) {
@@ -101,18 +101,23 @@ void HubCompany::SyncOverview() {
     overview_->Show(RowsOf(MakeOverview(state)));
 }
 
+bool HubCompany::HasRoom() const {
+    const int tabs = hub_->tabs()->minimumSizeHint().width();
+    const int margins = 3 * hub_->fontMetrics().lineSpacing();
+    return room_.width() >= tabs + overview_->LeastWidth() + margins;
+}
+
 void HubCompany::Arrange(QSize room) {
     room_ = room;
     if (hub_ == nullptr) return;
-    const int tabs = hub_->tabs()->minimumSizeHint().width();
-    const int margins = 3 * hub_->fontMetrics().lineSpacing();
-    overview_->setVisible(wanted_ && room.width() >= tabs + overview_->LeastWidth() + margins);
+    overview_->setVisible(wanted_ && HasRoom());
     SyncOverview();
 }
 
 void HubCompany::ShowOverview(bool wanted) {
     wanted_ = wanted;
     Arrange(room_);
+    if (hub_ != nullptr && !HasRoom() && whenNoRoom) whenNoRoom();
 }
 
 }  // namespace kelvor

@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <QSize>
 #include <QWidget>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -33,6 +34,9 @@ class HubCompany {
     void ShowOverview(bool wanted);
     [[nodiscard]] bool overviewWanted() const { return wanted_; }
 
+    /// Called when the user shows or hides the overview and the window has no room for it.
+    std::function<void()> whenNoRoom;
+
     /// Null before the hub is open.
     [[nodiscard]] OverviewPanel* overview() const { return overview_; }
 
@@ -55,6 +59,7 @@ class HubCompany {
     [[nodiscard]] Stamp StampNow() const;
     [[nodiscard]] StartPageHooks Hooks();
     [[nodiscard]] std::vector<RecentProject> RecentProjects() const;
+    [[nodiscard]] bool HasRoom() const;
     void SyncOverview();
     void BeginProject();
     void Trigger(const char* entry, int index);

@@ -1,7 +1,5 @@
 #include "desktop/key_table.h"
 
-#include <algorithm>
-
 namespace kelvor {
 
 const std::vector<KeyRow>& WindowKeys() {
@@ -20,14 +18,38 @@ const std::vector<KeyRow>& WindowKeys() {
         {KeyAct::CopyValue, "Ctrl+Shift+C", "Ctrl+Shift+C", "Copies the value of the field with its unit"},
         {KeyAct::CopyScreen, "Ctrl+Shift+T", "Ctrl+Shift+T", "Copies the whole screen as a table"},
         {KeyAct::ShowOverview, "F9", "F9", "Shows or hides the overview of the project"},
+        {KeyAct::ContextMenu, "Shift+F10", "Shift+F10",
+         "Like the Menu key: the menu of a field or a table, or of the drawings of a window"},
+    };
+    return table;
+}
+
+const std::vector<KeyRow>& PreviewKeys() {
+    static const std::vector<KeyRow> table = {
+        {KeyAct::PageOn, "Ctrl+PgDown", "Ctrl+Page Down", "On a report: the next page"},
+        {KeyAct::PageBack, "Ctrl+PgUp", "Ctrl+Page Up", "On a report: the page before"},
+        {KeyAct::FirstPage, "Ctrl+Home", "Ctrl+Home", "On a report: the first page"},
+        {KeyAct::LastPage, "Ctrl+End", "Ctrl+End", "On a report: the last page"},
+        {KeyAct::ZoomIn, "Ctrl++; Ctrl+=", "Ctrl++", "On a report: larger"},
+        {KeyAct::ZoomOut, "Ctrl+-", "Ctrl+-", "On a report: smaller"},
+        {KeyAct::FitWidth, "Ctrl+0", "Ctrl+0", "On a report: as wide as the window"},
+        {KeyAct::FullSize, "Ctrl+1", "Ctrl+1", "On a report: in its full size"},
+        {KeyAct::FindWords, "Ctrl+F", "Ctrl+F", "On a report: finds words"},
+        {KeyAct::FindOn, "F3", "F3", "On a report: where the words stand next"},
+        {KeyAct::FindBack, "Shift+F3", "Shift+F3", "On a report: where the words stand before"},
+        {KeyAct::PageSetup, "Ctrl+Shift+P", "Ctrl+Shift+P", "On a report: paper and margins"},
+        {KeyAct::SaveReport, "Ctrl+E", "Ctrl+E", "On a report: saves it as PDF, RTF, HTML or text"},
     };
     return table;
 }
 
 QList<QKeySequence> KeysOf(KeyAct act) {
-    const std::vector<KeyRow>& table = WindowKeys();
-    const auto row = std::find_if(table.begin(), table.end(), [&](const KeyRow& r) { return r.act == act; });
-    return QKeySequence::listFromString(QString::fromLatin1(row->keys));
+    for (const auto* table : {&WindowKeys(), &PreviewKeys()}) {
+        for (const KeyRow& row : *table) {
+            if (row.act == act) return QKeySequence::listFromString(QString::fromLatin1(row.keys));
+        }
+    }
+    return {};
 }
 
 std::optional<int> PressedKeyOf(KeyAct act, const QKeyEvent& key) {

@@ -22,6 +22,20 @@ enum class KeyAct {
     CopyValue,
     CopyScreen,
     ShowOverview,
+    ContextMenu,
+    PageBack,
+    PageOn,
+    FirstPage,
+    LastPage,
+    ZoomOut,
+    ZoomIn,
+    FitWidth,
+    FullSize,
+    FindWords,
+    FindBack,
+    FindOn,
+    PageSetup,
+    SaveReport,
 };
 
 /// A row of the table from which keys are bound, and which the help page of keys shows.
@@ -33,6 +47,9 @@ struct KeyRow {
 };
 
 const std::vector<KeyRow>& WindowKeys();
+
+/// Those of the tools above the pages of a report.
+const std::vector<KeyRow>& PreviewKeys();
 
 /// The keys of an act.
 QList<QKeySequence> KeysOf(KeyAct act);

@@ -96,6 +96,7 @@ MainWindow::MainWindow(Program& program)
     menus_ = new MenuBar(door_, this);
     setMenuBar(menus_);
     company_ = std::make_unique<HubCompany>(door_, *menus_);
+    company_->whenNoRoom = [this] { status_->ShowNoRoom(); };
     actions_ = std::make_unique<WindowActions>(door_, *menus_, *company_, *this);
     AddLanguageMenu(*menus_->FindMenu("MenuView"), settings_, program_.state());
     connect(menus_->FindAction("NewProj", 0), &QAction::triggered, this, &MainWindow::NewProjectMade);
@@ -246,7 +247,33 @@ void MainWindow::SyncActiveWindow() {
     QMdiSubWindow* frame = FrameOf(*view);
     if (area_->activeSubWindow() != frame) area_->setActiveSubWindow(frame);
     view->SyncFocus();
+    SyncStacking(*view);
     if (frame->widget() == view && view->form() != nullptr) ScrollToFocus(*view);
+}
+
+/// The other forms stand in front of the hub, unless one hides the field in which the user works there.
+void MainWindow::SyncStacking(const FormView& current) {
+    QMdiSubWindow* frame = FrameOf(current);
+    if (frame == hubFrame_) {
+        if (!IsFocusHidden(current)) return;
+        hubFrame_->raise();
+        hubInFront_ = true;
+    } else if (std::exchange(hubInFront_, false)) {
+        for (Form* form : program_.state().formRegistry.InOpeningOrder()) {
+            if (!form->type().isHub) FrameOf(*views_.value(form))->raise();
+        }
+        frame->raise();
+    }
+}
+
+bool MainWindow::IsFocusHidden(const FormView& hub) const {
+    const Control* focus = hub.form()->focus;
+    const QWidget* widget = focus == nullptr ? nullptr : hub.FindWidget(focus->name);
+    if (widget == nullptr) return false;
+    const QRect place(widget->mapTo(area_->viewport(), QPoint(0, 0)), widget->size());
+    return std::any_of(views_.cbegin(), views_.cend(), [&](const FormView* view) {
+        return view != &hub && FrameOf(*view)->geometry().intersects(place);
+    });
 }
 
 /// In a window that is smaller than a form, what has the focus is brought into view.

@@ -72,6 +72,8 @@ class MainWindow : public QMainWindow {
     void SyncForms();
     void SyncModality();
     void SyncActiveWindow();
+    void SyncStacking(const FormView& current);
+    [[nodiscard]] bool IsFocusHidden(const FormView& hub) const;
     void SyncTitle();
     void NewProjectMade();
     void OpenWhatWaits();
@@ -97,6 +99,7 @@ class MainWindow : public QMainWindow {
     std::unique_ptr<WindowActions> actions_;
     bool metricForNew_ = false;  // the unit system of new projects
     QMdiSubWindow* hubFrame_ = nullptr;
+    bool hubInFront_ = false;  // of forms that hid its focus
     QHash<Form*, FormView*> views_;
     std::string handedOver_;  // a project that waits to be opened; empty: none
     QTimer handOverTimer_;

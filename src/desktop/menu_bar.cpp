@@ -107,8 +107,12 @@ QString MenuBar::CaptionOf(const MenuEntry& entry) const {
 }
 
 QAction* MenuBar::FindAction(const std::string& name, int index) const {
-    const MenuEntry entry{{}, name, {}, false, {}, false, false, index};
-    return name.empty() ? nullptr : findChild<QAction*>(ActionName(entry));
+    if (name.empty()) return nullptr;
+    const QString wanted = ActionName({{}, name, {}, false, {}, false, false, index});
+    for (QAction* action : findChildren<QAction*>()) {
+        if (action->objectName().compare(wanted, Qt::CaseInsensitive) == 0) return action;
+    }
+    return nullptr;
 }
 
 QAction* MenuBar::FindWindowAction(const std::string& form) const {

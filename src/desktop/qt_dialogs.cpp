@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QUrl>
@@ -15,6 +16,9 @@
 namespace kelvor {
 
 namespace {
+
+/// The width of a question in lines, in letters.
+constexpr int kQuestionLetters = 60;
 
 /// An ordinary pointer over a box that shows while the program is busy.
 class BoxPointer {
@@ -118,11 +122,15 @@ Answer QtDialogs::ShowMessage(const Message& message) {
 
 std::optional<std::string> QtDialogs::AskText(const InputRequest& request) {
     const BoxPointer pointer;
-    bool accepted = false;
-    const QString text = QInputDialog::getText(parent_, ToQt(request.title), ToQt(request.text),
-                                               QLineEdit::Normal, {}, &accepted);
-    if (!accepted) return std::nullopt;
-    return FromQt(text);
+    QInputDialog dialog(parent_);
+    dialog.setWindowTitle(ToQt(request.title));
+    dialog.setLabelText(ToQt(request.text));
+    for (QLabel* label : dialog.findChildren<QLabel*>()) {
+        label->setWordWrap(true);
+        label->setMinimumWidth(kQuestionLetters * label->fontMetrics().averageCharWidth());
+    }
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return FromQt(dialog.textValue());
 }
 
 std::optional<Path> QtDialogs::AskFile(const FileRequest& request) {

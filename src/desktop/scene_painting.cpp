@@ -72,6 +72,7 @@ class ScenePainting {
         QPen pen(ColourOf(stroke.colour), stroke.width);
         pen.setJoinStyle(Qt::MiterJoin);
         pen.setCapStyle(Qt::FlatCap);
+        if (stroke.dash > 0.0) pen.setDashPattern({stroke.dash / stroke.width, stroke.dash / stroke.width});
         painter_.setPen(pen);
     }
 

@@ -2,7 +2,9 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QShortcut>
 #include <span>
 #include <utility>
 
@@ -22,6 +24,15 @@ void PressOnFocus(Qt::Key key) {
     if (focus == nullptr) return;
     QKeyEvent press(QEvent::KeyPress, key, Qt::ControlModifier);
     QApplication::sendEvent(focus, &press);
+}
+
+/// What the Menu key does, which many keyboards lack.
+void OpenContextMenu() {
+    QWidget* focus = QApplication::focusWidget();
+    if (focus == nullptr) return;
+    const QPoint place = focus->rect().center();
+    QContextMenuEvent request(QContextMenuEvent::Keyboard, place, focus->mapToGlobal(place));
+    QApplication::sendEvent(focus, &request);
 }
 
 /// An entry of the menus as the tool bar calls it.
@@ -71,6 +82,8 @@ WindowActions::WindowActions(EventDoor& door, MenuBar& menus, HubCompany& compan
     QObject::connect(overview_, &QAction::toggled, &window,
                      [&company](bool wanted) { company.ShowOverview(wanted); });
     own_.push_back(overview_);
+    auto* contextMenu = new QShortcut(KeysOf(KeyAct::ContextMenu).constFirst(), &window);
+    QObject::connect(contextMenu, &QShortcut::activated, &window, OpenContextMenu);
     FillEditMenu(*menus.FindMenu("MenuEdit"));
     FillViewMenu(*menus.AddMenuBefore(TranslatedText("&View"), "MenuView", "MenuWindow"));
     FillSamples(*menus.FindMenu("MenuHelp"), company);

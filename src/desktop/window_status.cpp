@@ -71,6 +71,8 @@ void WindowStatus::ShowFigures(const FormView* view) {
     SetText(*figures_, grid == nullptr ? QString() : grid->FiguresOfMarked());
 }
 
+void WindowStatus::ShowNoRoom() { SetText(*hint_, TranslatedText("The overview needs a wider window")); }
+
 /// "Saved road" until something is changed, then "road*".
 void WindowStatus::ShowDocument(const ProcessState& state) {
     if (saves_ != state.saves) projects_ = state.projects;

@@ -19,6 +19,9 @@ class WindowStatus : public QStatusBar {
     /// The sum and the mean of what is marked in the grid of a form's window.
     void ShowFigures(const FormView* view);
 
+    /// Says in place of the hint, until the next event, why the overview does not appear.
+    void ShowNoRoom();
+
   private:
     void ShowHint(Program& program);
     void ShowDocument(const ProcessState& state);

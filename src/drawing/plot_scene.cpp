@@ -22,6 +22,7 @@ constexpr double kGap = 5.0;
 constexpr double kThinLine = 0.5;
 constexpr double kThickLine = 1.5;
 constexpr double kPoint = 3.0;
+constexpr double kDash = 6.0;
 constexpr double kSwatch = 9.0;
 constexpr double kGroupWidth = 0.8;  // of the room that a group of bars has
 constexpr double kStackWidth = 0.6;
@@ -38,6 +39,7 @@ class PlotPainter {
     Scene Paint() {
         AddTitle();
         PlaceArea();
+        PlaceLegend();
         AddAxisUp();
         AddAxisAcross();
         AddData();
@@ -62,8 +64,22 @@ class PlotPainter {
         }
         left_ = kMargin + (sheet_.up.title.empty() ? 0.0 : kLinePitch) + widest + kGap;
         right_ = scene_.width - 2.0 * kMargin;
-        bottom_ = scene_.height - kMargin - kLinePitch - (sheet_.across.title.empty() ? 0.0 : kLinePitch) -
-                  (HasLegend() ? kLinePitch : 0.0);
+        bottom_ = scene_.height - kMargin - kLinePitch - (sheet_.across.title.empty() ? 0.0 : kLinePitch);
+    }
+
+    /// At the foot, in as many lines as its names need; the data end above it.
+    void PlaceLegend() {
+        if (!HasLegend()) return;
+        Point at{left_, scene_.height - kMargin};
+        for (const ChartSeries& series : sheet_.series) {
+            const double width = kSwatch + kGap + TextWidth(series.name, kTextSize);
+            if (at.x > left_ && at.x + width > scene_.width - kMargin) at = {left_, at.y + kLinePitch};
+            legend_.push_back(at);
+            at.x += width + 2.0 * kGap;
+        }
+        const double lines = at.y - (scene_.height - kMargin);
+        for (Point& place : legend_) place.y -= lines;
+        bottom_ -= lines + kLinePitch;
     }
 
     [[nodiscard]] double HeightOf(double value) const {
@@ -80,8 +96,8 @@ class PlotPainter {
         scene_.shapes.emplace_back(shape::Text{place, text, size, ink_.ink, anchor, bold, upright});
     }
 
-    void AddLine(std::vector<Point> points, double width, const std::string& colour) {
-        scene_.shapes.emplace_back(shape::Line{std::move(points), {colour, width}});
+    void AddLine(std::vector<Point> points, double width, const std::string& colour, double dash = 0.0) {
+        scene_.shapes.emplace_back(shape::Line{std::move(points), {colour, width, dash}});
     }
 
     void AddTitle() {
@@ -161,10 +177,17 @@ class PlotPainter {
             }
         }
         const ChartSeries& drawn = sheet_.series[series];
-        if (sheet_.kind == ChartKind::Line && !drawn.hollowPoints) {
-            return AddLine(std::move(points), kThickLine, drawn.colour);
-        }
+        if (IsLine(drawn)) return AddLine(std::move(points), kThickLine, drawn.colour, DashOf(drawn));
         for (const Point& point : points) AddPoint(point, drawn);
+    }
+
+    [[nodiscard]] bool IsLine(const ChartSeries& series) const {
+        return sheet_.kind == ChartKind::Line && !series.hollowPoints;
+    }
+
+    /// The first line is whole and the others are dashed: colours cannot be told apart on every printer.
+    [[nodiscard]] double DashOf(const ChartSeries& series) const {
+        return &series == &sheet_.series.front() ? 0.0 : kDash;
     }
 
     void AddPoint(Point centre, const ChartSeries& series) {
@@ -176,20 +199,23 @@ class PlotPainter {
         scene_.shapes.emplace_back(std::move(point));
     }
 
-    /// Values stand above the bars where none is wider than its bar.
-    [[nodiscard]] bool ValuesHaveRoom(double width) const {
-        for (const ChartRow& row : sheet_.rows) {
-            for (const auto& cell : row.cells) {
-                if (cell && TextWidth(up_.TextOf(*cell), kTextSize) > width) return false;
-            }
+    /// A value stands above its bar unless it would run into one that stands already; 0 has no bar to stand
+    /// above where bars are many.
+    void AddValue(Point place, double value, double barWidth) {
+        const std::string text = up_.TextOf(value);
+        const double width = TextWidth(text, kTextSize);
+        if (value == 0.0 && width > barWidth) return;
+        const ValueBox box{place.x - width / 2.0, place.x + width / 2.0, place.y - kTextSize, place.y};
+        for (const ValueBox& other : values_) {
+            if (box.Meets(other)) return;
         }
-        return true;
+        values_.push_back(box);
+        AddText(place, text, Anchor::Middle);
     }
 
     void AddBars(std::size_t series) {
         const double width = RoomOfGroup() * kGroupWidth / static_cast<double>(sheet_.series.size());
         const double gap = RoomOfGroup() * (1.0 - kGroupWidth) / 2.0;
-        const bool valued = sheet_.showsValues && ValuesHaveRoom(width);
         for (std::size_t i = 0; i < sheet_.rows.size(); ++i) {
             const ChartRow& row = sheet_.rows[i];
             if (series >= row.cells.size() || !row.cells[series]) continue;
@@ -198,9 +224,8 @@ class PlotPainter {
                 left_ + static_cast<double>(i) * RoomOfGroup() + gap + static_cast<double>(series) * width;
             AddBar({x, HeightOf(std::max(value, 0.0))}, width, HeightOf(std::min(value, 0.0)),
                    sheet_.series[series].colour, sheet_.series[series].name + " " + row.label);
-            if (!valued) continue;
-            AddText({x + width / 2.0, HeightOf(std::max(value, 0.0)) - kGap / 2.0}, up_.TextOf(value),
-                    Anchor::Middle);
+            if (sheet_.showsValues)
+                AddValue({x + width / 2.0, HeightOf(std::max(value, 0.0)) - kGap / 2.0}, value, width);
         }
     }
 
@@ -237,23 +262,39 @@ class PlotPainter {
     }
 
     void AddLegend() {
-        if (!HasLegend()) return;
-        Point at{left_, scene_.height - kMargin};
-        for (const ChartSeries& series : sheet_.series) {
-            AddSwatch(at, series);
-            AddText({at.x + kSwatch + kGap, at.y}, series.name, Anchor::Start);
-            at.x += kSwatch + 3.0 * kGap + TextWidth(series.name, kTextSize);
+        for (std::size_t i = 0; i < legend_.size(); ++i) {
+            AddSwatch(legend_[i], sheet_.series[i]);
+            AddText({legend_[i].x + kSwatch + kGap, legend_[i].y}, sheet_.series[i].name, Anchor::Start);
         }
     }
 
-    /// Above and to the right of a place: a point where the series is drawn as hollow ones.
+    /// Above and to the right of a place, as the series is drawn: a hollow point, a line or an area.
     void AddSwatch(Point at, const ChartSeries& series) {
-        if (series.hollowPoints) return AddPoint({at.x + kSwatch / 2.0, at.y - kSwatch / 2.0}, series);
+        const double middle = at.y - kSwatch / 2.0;
+        if (series.hollowPoints) return AddPoint({at.x + kSwatch / 2.0, middle}, series);
+        if (IsLine(series)) {
+            return AddLine({{at.x, middle}, {at.x + kSwatch, middle}}, 2.0 * kThickLine, series.colour,
+                           DashOf(series) / 2.0);
+        }
         scene_.shapes.emplace_back(shape::Rectangle{{at.x, at.y - kSwatch}, kSwatch, kSwatch, series.colour});
     }
 
+    /// Where a value stands.
+    struct ValueBox {
+        double left = 0.0;
+        double right = 0.0;
+        double top = 0.0;
+        double bottom = 0.0;
+
+        [[nodiscard]] bool Meets(const ValueBox& other) const {
+            return left < other.right && other.left < right && top < other.bottom && other.top < bottom;
+        }
+    };
+
     const ChartData& sheet_;
     const Ink& ink_;
+    std::vector<Point> legend_;  // the place of each series' entry
+    std::vector<ValueBox> values_;
     PlotAxis up_;
     PlotAxis across_;
     Scene scene_;

@@ -18,6 +18,7 @@ struct Point {
 struct Stroke {
     std::string colour = {};
     double width = 0.0;
+    double dash = 0.0;  // the length of its dashes and of the gaps between them; 0: a whole line
 
     bool operator==(const Stroke&) const = default;
 };

@@ -7,7 +7,7 @@ namespace kelvor {
 
 const ScenePainter& LoadScenePainter() {
     static const ScenePainter& painter = OpenDoor<ScenePainter>(
-        {"kelvor-paint.so", kScenePainterEntryName, ToTranslate("what paints pictures")},
+        {"kelvor-paint.so", kScenePainterEntryName, ToTranslate("The module that paints pictures")},
         kScenePainterVersion);
     return painter;
 }

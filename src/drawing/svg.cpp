@@ -60,6 +60,7 @@ class SvgWriter {
         if (stroke.colour.empty()) return;
         Attribute("stroke", stroke.colour);
         Attribute("stroke-width", stroke.width);
+        if (stroke.dash > 0.0) Attribute("stroke-dasharray", stroke.dash);
     }
 
     void AddPaint(const std::string& fill, const Stroke& stroke) {

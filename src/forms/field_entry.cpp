@@ -49,10 +49,10 @@ void TakeEntry(const ScreenContext& context, Control& control) {
 }
 
 /// Empties the box of a refused value.
-bool Refuse(Form& form, Control& control) {
+Leaving Refuse(Form& form, Control& control) {
     control.text.clear();
     form.SetFieldChanged(false);
-    return false;
+    return Leaving::Refused;
 }
 
 /// Stores nothing at the field's cell. True if something was there.
@@ -97,6 +97,24 @@ bool IsInEquation(const ScreenContext& context, const Form& form, const Control&
     });
 }
 
+/// A changed value is stored: what follows from it is worked out, and the indicator warns.
+void FollowChange(ScreenContext& context, Form& form, const Control& control) {
+    RecalcOutputs(context, form, control.tag, 0);
+    if (IsInEquation(context, form, control)) WarnOfChange(context, form, control.tag);
+}
+
+/// A text that is no number empties its cell, which is a change like any other.
+Leaving RefuseText(ScreenContext& context, Form& form, Control& control) {
+    context.calc.dialogs.ShowMessage({.text = "Please enter valid numeric value.", .title = "Value"});
+    if (form.fieldChanged()) context.bProjectChanged = true;
+    const bool emptied = EmptyCell(context, form, control);
+    context.act = ChangeOf(context, control.tag);
+    Refuse(form, control);
+    if (!emptied) return Leaving::Refused;
+    FollowChange(context, form, control);
+    return Leaving::Emptied;
+}
+
 void StoreField(ScreenContext& context, Form& form, Control& control) {
     if (control.text.empty()) {
         EmptyCell(context, form, control);
@@ -107,8 +125,7 @@ void StoreField(ScreenContext& context, Form& form, Control& control) {
                                       control.text);
     }
     context.act = ChangeOf(context, control.tag);
-    RecalcOutputs(context, form, control.tag, 0);
-    if (IsInEquation(context, form, control)) WarnOfChange(context, form, control.tag);
+    FollowChange(context, form, control);
 }
 
 }  // namespace
@@ -144,23 +161,17 @@ void FindControlIndex(Form& form, std::string_view controlName) {
     if (const auto index = form.IndexOf(controlName)) form.iCurrentField = index;
 }
 
-bool FieldLostFocus(ScreenContext& context, Form& form, Control& control) {
+Leaving FieldLostFocus(ScreenContext& context, Form& form, Control& control) {
     if (form.fieldChanged() && !IsOffered(control)) {
         context.calc.dialogs.ShowMessage({.text = "Please select item from the list", .title = "List"});
         Refuse(form, control);
         // The list is left blank, and with it the code.
         if (control.coded) form.SetFieldChanged(true);
-        return false;
+        return Leaving::Refused;
     }
     if (form.fieldChanged()) TakeEntry(context, control);
     if (!control.text.empty() && !IsNumeric(control.text) && !TakesText(context, control)) {
-        context.calc.dialogs.ShowMessage({.text = "Please enter valid numeric value.", .title = "Value"});
-        if (form.fieldChanged()) context.bProjectChanged = true;
-        if (EmptyCell(context, form, control) && IsInEquation(context, form, control)) {
-            WarnOfChange(context, form, control.tag);
-        }
-        context.act = ChangeOf(context, control.tag);
-        return Refuse(form, control);
+        return RefuseText(context, form, control);
     }
     if (form.fieldChanged()) {
         form.SetFieldChanged(false);
@@ -169,7 +180,7 @@ bool FieldLostFocus(ScreenContext& context, Form& form, Control& control) {
         StoreField(context, form, control);
     }
     form.SetText("SolveForField", control.tag);
-    return true;
+    return Leaving::Accepted;
 }
 
 void ShowStoredValue(const ScreenContext& context, const Form& form, Control& control) {

@@ -19,10 +19,17 @@ void SelectAll(Form& form);
 /// Notes a control's place in the form as that of the current field.
 void FindControlIndex(Form& form, std::string_view controlName);
 
+/// What becomes of the text of a field that is left.
+enum class Leaving {
+    Accepted,
+    Refused,  // the cell stays as it is
+    Emptied   // refused, and the cell, which held something, is empty now
+};
+
 /// A field is left: its text is tested and stored, the outputs are recalculated, and the indicator warns if
-/// the field belongs to the equation. False if the value was refused; the focus then stays. A field that
-/// was not typed in stores nothing.
-bool FieldLostFocus(ScreenContext& context, Form& form, Control& control);
+/// the field belongs to the equation. After a refusal the focus stays. A field that was not typed in stores
+/// nothing.
+Leaving FieldLostFocus(ScreenContext& context, Form& form, Control& control);
 
 /// Shows in a box the value that is stored for its field: a list of codes shows the word.
 void ShowStoredValue(const ScreenContext& context, const Form& form, Control& control);

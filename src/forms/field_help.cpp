@@ -6,6 +6,7 @@
 #include "forms/field_entry.h"
 #include "forms/form_builder.h"
 #include "forms/form_events.h"
+#include "forms/grid_entry.h"
 #include "forms/side_screen.h"
 #include "platform/number_text.h"
 
@@ -70,28 +71,33 @@ struct CallerField {
     bool locked = false;
     bool computed = false;
     std::vector<std::string> items;
-    std::vector<LetterWord> words;  // of a list that stores codes; the list of a grid stores its texts
+    std::vector<LetterWord> words;  // that letters stand for
+    bool coded = false;             // it stores the place of a word; the list of a grid stores its text
 };
+
+CallerField FindCallerColumn(const ScreenContext& context, const Form& form, const Form& caller) {
+    const GridData& grid = *caller.FindGrid()->grid;
+    const auto found = grid.Find(form.TextOf("FieldName"));
+    if (!found) return {};
+    const GridColumn& column = grid.columns[*found];
+    const bool locked = !GridTakesEdit(context, caller, *form.dim1(), column);
+    return {locked, column.locked, column.items, column.words};
+}
 
 CallerField FindCallerField(const ScreenContext& context, const Form& form) {
     Form* caller = context.forms.Find(form.TextOf("FormName"));
     if (caller == nullptr) return {};
-    const std::string field = form.TextOf("FieldName");
-    if (form.dim1() && caller->FindGrid() != nullptr) {
-        const GridData& grid = *caller->FindGrid()->grid;
-        const auto column = grid.Find(field);
-        if (!column) return {};
-        return {grid.columns[*column].locked, grid.columns[*column].locked, grid.columns[*column].items, {}};
-    }
-    const Control* box = caller->FindField(field);
+    if (form.dim1() && caller->FindGrid() != nullptr) return FindCallerColumn(context, form, *caller);
+    const Control* box = caller->FindField(form.TextOf("FieldName"));
     if (box == nullptr) return {};
-    return {box->locked, box->computed, box->items, box->words};
+    return {box->locked, box->computed, box->items, box->words, box->coded};
 }
 
 /// Offers what the caller's list offers, in the same way.
 void OfferItems(Control& list, const CallerField& field) {
     list.items = field.items;
-    if (!field.words.empty()) MakeCoded(list, field.words);
+    list.words = field.words;
+    if (field.coded) MakeCoded(list, field.words);
 }
 
 /// Puts the list in the place of the box.

@@ -184,20 +184,22 @@ bool FormEvents::LoseFocus(Form& form, Control& control) {
 
 /// Stores what was typed into a control. False if it was refused.
 bool FormEvents::CommitControl(Form& form, Control& control) {
-    bool accepted = true;
     if (control.grid && control.grid->texts) return CommitCell(form, control);
-    if (!context_.calc.store.IsOpen()) return accepted;
+    if (!context_.calc.store.IsOpen()) return true;
     if (control.grid) return CommitCell(form, control);
-    if (!control.IsField()) return accepted;
+    if (!control.IsField()) return true;
+    auto leaving = Leaving::Accepted;
     const bool changed = form.fieldChanged();
     Handle(FormEvent::LostFocus, form, &control, [&] {
-        accepted = FieldLostFocus(context_, form, control);
-        form.refused = !accepted;
+        leaving = FieldLostFocus(context_, form, control);
+        form.refused = leaving != Leaving::Accepted;
     });
-    if (!accepted || !changed) return accepted;
-    form.edited = true;
-    Handle(FormEvent::Stored, form, &control, [] {});
-    return true;
+    const bool stored = leaving == Leaving::Emptied || (leaving == Leaving::Accepted && changed);
+    if (stored) {
+        form.edited = true;
+        Handle(FormEvent::Stored, form, &control, [] {});
+    }
+    return leaving == Leaving::Accepted;
 }
 
 void FormEvents::GetFocus(Form& form, Control& control) {
@@ -342,6 +344,13 @@ void FormEvents::AfterUnitSwitch() {
     FillValueItems(context_, *form);
     Handle(FormEvent::UnitsSwitched, *form, nullptr, [&] { RefreshScreen(context_, *form); });
     if (form->focus != nullptr) GetFocus(*form, *form->focus);
+}
+
+void FormEvents::LeaveAndEnter() {
+    Form* form = Current();
+    if (form == nullptr || form->focus == nullptr) return;
+    form->focusLeft = false;
+    if (LoseFocus(*form, *form->focus)) GetFocus(*form, *form->focus);
 }
 
 }  // namespace kelvor

@@ -99,6 +99,9 @@ class FormEvents {
     /// Rewrites the current form after a switch of the unit system.
     void AfterUnitSwitch();
 
+    /// The field in hand is left and entered again, so that what follows from it is worked out anew.
+    void LeaveAndEnter();
+
   private:
     Form* Current() { return context_.forms.CurrentForm; }
 

@@ -19,13 +19,6 @@ bool IsCursorKey(std::string_view key) {
     return std::find(std::begin(kKeys), std::end(kKeys), key) != std::end(kKeys);
 }
 
-/// False for a form that has nothing to type into, and so nothing that Esc could restore.
-bool TakesTyping(const Form& form) {
-    return std::any_of(form.controls().begin(), form.controls().end(), [](const auto& control) {
-        return control->visible && (control->IsBox() || control->grid);
-    });
-}
-
 /// The small button beside the field in hand; null if there is none that can be pressed.
 Control* SmallButtonOfFocus(const Form& form) {
     if (form.focus == nullptr || form.focus->tag.empty()) return nullptr;
@@ -117,7 +110,7 @@ bool FormEvents::NamedKey(Form& form, const std::string& key) {
         Tab(form, TabStep::Next);
     } else if (key == "BackTab") {
         Tab(form, TabStep::Previous);
-    } else if (key == "Esc" && (form.type().isHelp || !TakesTyping(form))) {
+    } else if (key == "Esc" && form.type().isHelp) {
         Close(form);
     } else if (key == "Esc") {
         Restore(form);

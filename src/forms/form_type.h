@@ -24,7 +24,7 @@ enum class FormEvent {
     Change,
     GotFocus,
     LostFocus,
-    Stored,  // of a field: a changed value has been stored
+    Stored,  // of a field: a changed value has been stored, or a refused text has emptied the cell
     Click,
     CellChanged,  // of a grid: the cell under its cursor was written; once for each cell of a block
     RowsWritten,  // of a grid: once after the cells that one act has written; see GridData::writtenRows

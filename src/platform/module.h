@@ -12,7 +12,7 @@ namespace kelvor {
 struct Module {
     const char* file;      // without a folder
     const char* function;  // its name
-    const char* work;      // what the module does, for the message: "what makes pages"
+    const char* work;      // what the module does, for the message: "The module that makes pages"
 };
 
 /// The function of a module. The module stays loaded: the libraries that it uses do not bear to be unloaded.

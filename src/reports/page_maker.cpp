@@ -7,7 +7,8 @@ namespace kelvor {
 
 const PageMaker& LoadPageMaker() {
     static const PageMaker& maker = OpenDoor<PageMaker>(
-        {"kelvor-pages.so", kPageMakerEntryName, ToTranslate("what makes pages")}, kPageMakerVersion);
+        {"kelvor-pages.so", kPageMakerEntryName, ToTranslate("The module that makes pages")},
+        kPageMakerVersion);
     return maker;
 }
 

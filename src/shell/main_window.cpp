@@ -33,7 +33,7 @@ std::string AsCaption(const std::string& path) {
 MenuEntry RecentEntry(const ProcessState& state, int position) {
     const auto item = std::find_if(state.recentMenu.begin(), state.recentMenu.end(),
                                    [&](const RecentMenuItem& i) { return i.position == position; });
-    MenuEntry entry{"MenuFile", "mnuRecentFile", "-"};
+    MenuEntry entry{"MenuFile", kRecentEntry, "-"};
     entry.index = position;
     entry.visible = item != state.recentMenu.end();
     if (!entry.visible) return entry;

@@ -45,6 +45,9 @@ struct UndoNames {
 /// stand in a menu of the menu File.
 inline constexpr const char* kRecoverEntry = "MenuFileRecover";
 
+/// The entries of the files that were open last, by the place in their list.
+inline constexpr const char* kRecentEntry = "mnuRecentFile";
+
 /// The entries of all menus, with the unit system that is active checked and the recent projects by their
 /// position; always the same entries in the same order, of which some are not visible.
 std::vector<MenuEntry> MenuEntries(const ProcessState& state, const UndoNames& names);

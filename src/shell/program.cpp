@@ -330,6 +330,7 @@ void Program::SwitchUnits(bool metric) {
     state_.units->SetMetric(metric);
     state_.act = Translated("switch of units");
     events.AfterUnitSwitch();
+    events.LeaveAndEnter();
     state_.host.dialogs.SetWaitCursor(false);
 }
 

@@ -25,9 +25,10 @@ bool Program::ChooseMenu(const std::string& name, int index) {
         return true;
     }
     const std::vector<MenuEntry> entries = Menus();
+    const bool isOneOfSeveral = EqualNoCase(name, kRecentEntry) || EqualNoCase(name, kRecoverEntry);
     const auto entry = std::find_if(entries.begin(), entries.end(), [&](const MenuEntry& e) {
-        return e.name == name && e.visible && !e.IsSeparator() &&
-               (e.index == index || (name != "mnuRecentFile" && name != kRecoverEntry));
+        return EqualNoCase(e.name, name) && e.visible && !e.IsSeparator() &&
+               (e.index == index || !isOneOfSeveral);
     });
     if (entry == entries.end()) return false;
     if (entry->comesLater || !entry->enabled) return true;
@@ -38,7 +39,7 @@ bool Program::ChooseMenu(const std::string& name, int index) {
         {"MenuFileSave", [&] { SaveByMenu(false); }},
         {"MenuFileSaveAs", [&] { SaveByMenu(true); }},
         {kRecoverEntry, [&] { OpenKeptWork(index); }},
-        {"mnuRecentFile", [&] { OpenRecentFile(index); }},
+        {kRecentEntry, [&] { OpenRecentFile(index); }},
         {kExit, [&] { Exit(); }},
         {"MenuEditUndo", [&] { UndoLast(); }},
         {"MenuEditRedo", [&] { RedoLast(); }},
@@ -48,7 +49,7 @@ bool Program::ChooseMenu(const std::string& name, int index) {
         {"MenuTopics", [&] { ShowHelp({}); }},
     };
     for (const auto& [action, act] : actions) {
-        if (name == action) act();
+        if (entry->name == action) act();
     }
     return true;
 }

@@ -16,8 +16,10 @@ namespace kelvor {
 
 namespace {
 
-/// So many steps are kept at least; beyond them the oldest go when the cells of all grow too many.
+/// So many steps are kept at least, and at most; between them the oldest go when the cells of all grow too
+/// many.
 constexpr std::size_t kLeastSteps = 1'000;
+constexpr std::size_t kMostSteps = 2'000;
 constexpr std::size_t kMostCells = 400'000;
 
 /// Cells by which the program remembers how it stands, not what the user has entered.
@@ -247,8 +249,10 @@ void UndoHistory::Add(UndoStep step) {
     for (; steps_.size() > done_; steps_.pop_back()) cells_ -= steps_.back().cells.size();
     cells_ += step.cells.size();
     steps_.push_back(std::move(step));
-    for (; steps_.size() > kLeastSteps && cells_ > kMostCells; steps_.pop_front())
-        cells_ -= steps_.front().cells.size();
+    const auto areTooMany = [this] {
+        return steps_.size() > kMostSteps || (steps_.size() > kLeastSteps && cells_ > kMostCells);
+    };
+    for (; areTooMany(); steps_.pop_front()) cells_ -= steps_.front().cells.size();
     done_ = steps_.size();
 }
 

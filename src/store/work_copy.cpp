@@ -68,6 +68,9 @@ SQLite::Database OpenProject(const Path& path, bool checkPages, int newest) {
             VersionOf(database, newest);
         }
         CheckProject(database, checkPages);
+        // A header that allows reading alone: nothing that is typed could be stored.
+        if (sqlite3_db_readonly(database.getHandle(), "main") != 0)
+            throw DatabaseError(::sqlite3_errstr(SQLITE_READONLY), false);
     } catch (const SQLite::Exception& failure) {
         throw ToDatabaseError(failure);
     }

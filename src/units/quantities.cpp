@@ -20,6 +20,14 @@ CellValue Units::QuantityCell(double quantity, std::string text, std::string_vie
     return {quantity, NumberToText(english.value())};
 }
 
+/// A text that is no number cannot be divided: in English units it stands beside the number that was there,
+/// in metric ones nothing changes.
+void Units::StoreQuantityText(std::string_view variable, int dim1, int dim2, std::string_view text) {
+    const CellValue* cell = store_.FindCell(variable, dim1, dim2);
+    if (bMetric() || cell == nullptr) return;
+    store_.SetCell(variable, dim1, dim2, {cell->number, std::string(text)});
+}
+
 void Units::StoreQuantity(std::string_view variable, std::string_view unitVariable, int dim1, int dim2,
                           std::optional<double> quantity, std::string_view text) {
     if (text.empty()) {
@@ -27,7 +35,8 @@ void Units::StoreQuantity(std::string_view variable, std::string_view unitVariab
         return;
     }
     const CellValue* unit = store_.FindCell(unitVariable, dim1, dim2);
-    if (!quantity || unit == nullptr) return;
+    if (unit == nullptr) return;
+    if (!quantity) return StoreQuantityText(variable, dim1, dim2, text);
     try {
         store_.SetCell(variable, dim1, dim2,
                        QuantityCell(*quantity, std::string(text), unit->text.value_or("")));

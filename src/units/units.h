@@ -85,6 +85,7 @@ class Units {
     [[nodiscard]] std::string GetQuantityDisplay(std::string_view variable, int dim1, int dim2) const;
 
   private:
+    void StoreQuantityText(std::string_view variable, int dim1, int dim2, std::string_view text);
     void StoreQuantity(std::string_view variable, std::string_view unitVariable, int dim1, int dim2,
                        std::optional<double> quantity, std::string_view text);
     [[nodiscard]] std::optional<double> ToEnglish(const Variable* variable,

@@ -5,8 +5,10 @@
 #include <QAccessible>
 #include <QClipboard>
 #include <QFile>
+#include <QMenu>
 #include <QStatusBar>
 #include <QTabBar>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <atomic>
@@ -133,9 +135,34 @@ TEST_F(LargeWindowTest, F9HidesTheOverviewAndANarrowWindowHasNone) {
     window().resize(800, 600);
     QApplication::processEvents();
     EXPECT_FALSE(panel.isVisible());
+    QTest::keyClick(&window(), Qt::Key_F9);
+    EXPECT_EQ(Find<QLabel>("Hint").text(), "The overview needs a wider window");
+    QTest::keyClick(&window(), Qt::Key_F9);
     window().resize(kWide);
     QApplication::processEvents();
     EXPECT_TRUE(panel.isVisible());
+}
+
+/// The line under the keys is seen: it has the colour of what is chosen, and a paler one while the keys go
+/// elsewhere.
+TEST_F(LargeWindowTest, WhatIsChosenInTheOverviewIsPalerWithoutTheFocus) {
+    EnterFlexibleDesign();
+    QTableWidget& table = Overview();
+    const auto ground = [&] {
+        QApplication::processEvents();
+        const QRect cell = table.visualItemRect(table.item(0, 0));
+        return table.viewport()->grab().toImage().pixelColor(cell.right() - 6, cell.bottom() - 6);
+    };
+    Press(Qt::Key_8, Qt::ControlModifier);
+    ASSERT_FALSE(table.hasFocus());
+    const QColor resting = ground();
+    for (int i = 0; i < 10 && !table.hasFocus(); ++i) Press(Qt::Key_Tab);
+    ASSERT_TRUE(table.hasFocus());
+    const QColor focused = ground();
+    EXPECT_EQ(focused, QApplication::palette().color(QPalette::Highlight));
+    EXPECT_NE(resting, focused);
+    EXPECT_NE(resting, QApplication::palette().color(QPalette::Base));
+    EXPECT_GT(std::abs(resting.lightness() - QApplication::palette().color(QPalette::Text).lightness()), 128);
 }
 
 TEST_F(LargeWindowTest, TheOverviewIsWorkedOutWithinFiveMilliseconds) {
@@ -148,6 +175,35 @@ TEST_F(LargeWindowTest, TheOverviewIsWorkedOutWithinFiveMilliseconds) {
         best = std::min(best, Clock::now() - begun);
     }
     EXPECT_LT(best, std::chrono::milliseconds(5));
+}
+
+/// What is typed goes to a field that can be seen: a screen that hides it gives way until it is worked in
+/// again.
+TEST_F(LargeWindowTest, AFieldOfTheHubIsNeverHiddenBehindAScreen) {
+    Raise(UserEvent::Kind::OpenForm, "ReDfF");
+    Press(Qt::Key_5, Qt::ControlModifier);
+    const auto isSeen = [this](const QWidget& widget) {
+        const QWidget* top = window().childAt(widget.mapTo(&window(), widget.rect().center()));
+        return top == &widget || widget.isAncestorOf(top);
+    };
+    ASSERT_EQ(FocusName(), "InterestRate");
+    EXPECT_TRUE(isSeen(*QApplication::focusWidget()));
+    Raise(UserEvent::Kind::ActivateForm, "ReDfF");
+    EXPECT_TRUE(isSeen(*window().FindView("ReDfF")->FindWidget("Grid")));
+    EXPECT_TRUE(isSeen(*window().FindView("ReDfF")->FindWidget("cmdAction")));
+}
+
+/// A keyboard without a Menu key has Shift+F10.
+TEST_F(LargeWindowTest, ShiftF10OpensTheMenuOfAField) {
+    Raise(UserEvent::Kind::OpenForm, "DeF");
+    bool shown = false;
+    QTimer::singleShot(0, [&] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        shown = menu != nullptr && menu->objectName() == "FieldMenu";
+        if (menu != nullptr) menu->close();
+    });
+    Press(Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_TRUE(shown);
 }
 
 // --- The start page ---------------------------------------------------------------------------------------
@@ -374,7 +430,9 @@ TEST_F(LargeWindowTest, TheTabsHaveKeys) {
 
 TEST(KeyTableTest, TheHelpPageOfKeysShowsEveryRow) {
     const std::string page = ReadFile(KELVOR_SOURCE_FOLDER "/data/help/Keys.html");
-    for (const KeyRow& row : WindowKeys()) {
+    std::vector<KeyRow> rows = WindowKeys();
+    rows.insert(rows.end(), PreviewKeys().begin(), PreviewKeys().end());
+    for (const KeyRow& row : rows) {
         const std::string line =
             "<tr><td>" + std::string(row.shown) + "</td><td>" + row.effect + "</td></tr>";
         EXPECT_THAT(page, testing::HasSubstr(line));

@@ -4,6 +4,13 @@
 
 namespace kelvor::test {
 
+namespace {
+
+/// Each is two steps that can be undone; of more than 2,000 the oldest are forgotten.
+constexpr int kUntilUndoIsFull = 1'000;
+
+}  // namespace
+
 std::string HoldSteady(const Trial& trial) {
     static const std::vector<std::string> kScreens = {"DeF", "DeR",  "LayDet", "TrAx",
                                                       "ExF", "OvAA", "LcA1",   "ReDfF"};
@@ -27,11 +34,13 @@ std::string HoldSteady(const Trial& trial) {
           std::pair("RM", "5000"), std::pair("FLEXPO", "4.2"), std::pair("FLEXPT", "2.5")}) {
         run.SetValue(name, 1, 1, value);
     }
-    const std::string solves = Repeat("solves", trial.count / 10, [&](int i) {
+    const auto solve = [&](int i) {
         run.SetValue("FLEXREL", 1, 1, i % 2 == 0 ? "95" : "90");
         Hold(run.Solve("DeF", 1) == 0, "the design is solved");
         Forget(program.host.record);
-    });
+    };
+    for (int i = 0; i < kUntilUndoIsFull; ++i) solve(i);
+    const std::string solves = Repeat("solves", trial.count / 10, solve);
     return screens + "; " + saves + "; " + solves;
 }
 

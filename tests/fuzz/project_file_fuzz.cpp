@@ -27,7 +27,8 @@ class ProjectFileTarget {
         WriteFile(path, content);
         const bool opened = program_->OpenProject(path);
         const std::vector<std::string> messages = host_.record.TakeTexts();
-        Require(opened == Store().IsOpen(), "a project is open if, and only if, the opening said so");
+        Require(opened == Store().IsOpen(), "a project is open if, and only if, the opening said so: " +
+                                                (messages.empty() ? "no message" : messages.back()));
         Require(ReadFile(path) == content, "opening leaves the file as it was");
         if (opened) {
             Require(messages.empty(), "an open project came without a message");

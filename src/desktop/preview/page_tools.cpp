@@ -20,23 +20,24 @@ const QString kWidestNumber = QStringLiteral("000");
 PageTools::PageTools(PageBrowser& browser, QWidget* parent) : QWidget(parent), browser_(browser) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    Add({"PageBack", "<", ToTranslate("Previous page"), "Ctrl+PgUp"},
+    Add({"PageBack", "<", ToTranslate("Previous page"), KeyAct::PageBack},
         [this] { browser_.GoTo(browser_.page() - 1); });
     page_ = AddLabel("PageNumber", TranslatedText("Page %1 of %2").arg(kWidestNumber, kWidestNumber));
-    Add({"PageOn", ">", ToTranslate("Next page"), "Ctrl+PgDown"},
+    Add({"PageOn", ">", ToTranslate("Next page"), KeyAct::PageOn},
         [this] { browser_.GoTo(browser_.page() + 1); });
     row->addStretch();
-    Add({"ZoomOut", "-", ToTranslate("Smaller"), "Ctrl+-"}, [this] { browser_.StepZoom(-1); });
+    Add({"ZoomOut", "-", ToTranslate("Smaller"), KeyAct::ZoomOut}, [this] { browser_.StepZoom(-1); });
     zoom_ = AddLabel("Zoom", QStringLiteral("000 %"));
-    Add({"ZoomIn", "+", ToTranslate("Larger"), "Ctrl++"}, [this] { browser_.StepZoom(1); });
-    Add({"FitWidth", ToTranslate("Fit Width"), ToTranslate("As wide as the window"), "Ctrl+0"},
+    Add({"ZoomIn", "+", ToTranslate("Larger"), KeyAct::ZoomIn}, [this] { browser_.StepZoom(1); });
+    Add({"FitWidth", ToTranslate("Fit Width"), ToTranslate("As wide as the window"), KeyAct::FitWidth},
         [this] { browser_.FitWidth(); });
     row->addStretch();
     AddSearch();
     row->addStretch();
-    Add({"PageSetup", ToTranslate("Page Setup..."), ToTranslate("Paper and margins"), "Ctrl+Shift+P"},
+    Add({"PageSetup", ToTranslate("Page Setup..."), ToTranslate("Paper and margins"), KeyAct::PageSetup},
         [this] { onSetup(); });
-    Add({"SaveReport", ToTranslate("Save As..."), ToTranslate("Save as PDF, RTF, HTML or text"), "Ctrl+E"},
+    Add({"SaveReport", ToTranslate("Save As..."), ToTranslate("Save as PDF, RTF, HTML or text"),
+         KeyAct::SaveReport},
         [this] { onSave(); });
     AddScrollKeys();
     browser_.onMoved = [this] { ShowState(); };
@@ -49,17 +50,21 @@ void PageTools::Add(const Tool& tool, Act act) {
     button->setObjectName(QLatin1String(tool.name));
     button->setText(TranslatedText(tool.caption));
     button->setAccessibleName(TranslatedText(tool.meaning));
-    button->setToolTip(QStringLiteral("%1 (%2)").arg(TranslatedText(tool.meaning), QLatin1String(tool.keys)));
+    button->setToolTip(QStringLiteral("%1 (%2)").arg(TranslatedText(tool.meaning), ShownKeyOf(tool.key)));
     // The model moves the focus; the keys of the tools work from everywhere.
     button->setFocusPolicy(Qt::NoFocus);
     connect(button, &QToolButton::clicked, this, act);
-    AddKeys(tool.keys, act);
+    AddKeys(tool.key, act);
     layout()->addWidget(button);
 }
 
-void PageTools::AddKeys(const char* keys, const std::function<void()>& act) {
-    auto* shortcut = new QShortcut(QKeySequence(QLatin1String(keys)), this);
+void PageTools::AddKey(const QKeySequence& key, const std::function<void()>& act) {
+    auto* shortcut = new QShortcut(key, this);
     connect(shortcut, &QShortcut::activated, this, act);
+}
+
+void PageTools::AddKeys(KeyAct keys, const std::function<void()>& act) {
+    for (const QKeySequence& key : KeysOf(keys)) AddKey(key, act);
 }
 
 QLabel* PageTools::AddLabel(const char* name, const QString& widest) {
@@ -74,18 +79,20 @@ QLabel* PageTools::AddLabel(const char* name, const QString& widest) {
 void PageTools::AddSearch() {
     search_ = new SearchLine(this);
     search_->setObjectName(QStringLiteral("FindWords"));
-    search_->setToolTip(TranslatedText("Find words on the pages") + QStringLiteral(" (Ctrl+F)"));
+    search_->setToolTip(TranslatedText("Find words on the pages") +
+                        QStringLiteral(" (%1)").arg(ShownKeyOf(KeyAct::FindWords)));
     layout()->addWidget(search_);
-    Add({"FindBack", ToTranslate("Back"), ToTranslate("Where the words stand before"), "Shift+F3"}, [this] {
-        browser_.StepHit(-1);
-        ShowState();
-    });
-    Add({"FindOn", ToTranslate("Next"), ToTranslate("Where the words stand next"), "F3"}, [this] {
+    Add({"FindBack", ToTranslate("Back"), ToTranslate("Where the words stand before"), KeyAct::FindBack},
+        [this] {
+            browser_.StepHit(-1);
+            ShowState();
+        });
+    Add({"FindOn", ToTranslate("Next"), ToTranslate("Where the words stand next"), KeyAct::FindOn}, [this] {
         browser_.StepHit(1);
         ShowState();
     });
     found_ = AddLabel("Found", TranslatedText("%1 of %2").arg(kWidestNumber, kWidestNumber));
-    AddKeys("Ctrl+F", [this] {
+    AddKeys(KeyAct::FindWords, [this] {
         search_->setFocus(Qt::ShortcutFocusReason);
         search_->selectAll();
     });
@@ -101,14 +108,13 @@ void PageTools::AddScrollKeys() {
     const auto scroll = [this](QAbstractSlider::SliderAction action) {
         return [this, action] { browser_.verticalScrollBar()->triggerAction(action); };
     };
-    AddKeys("PgUp", scroll(QAbstractSlider::SliderPageStepSub));
-    AddKeys("PgDown", scroll(QAbstractSlider::SliderPageStepAdd));
-    AddKeys("Ctrl+Up", scroll(QAbstractSlider::SliderSingleStepSub));
-    AddKeys("Ctrl+Down", scroll(QAbstractSlider::SliderSingleStepAdd));
-    AddKeys("Ctrl+Home", [this] { browser_.GoTo(0); });
-    AddKeys("Ctrl+End", [this] { browser_.GoTo(static_cast<int>(browser_.Count()) - 1); });
-    AddKeys("Ctrl+=", [this] { browser_.StepZoom(1); });
-    AddKeys("Ctrl+1", [this] { browser_.SetZoom(100); });
+    AddKey(Qt::Key_PageUp, scroll(QAbstractSlider::SliderPageStepSub));
+    AddKey(Qt::Key_PageDown, scroll(QAbstractSlider::SliderPageStepAdd));
+    AddKey(Qt::CTRL | Qt::Key_Up, scroll(QAbstractSlider::SliderSingleStepSub));
+    AddKey(Qt::CTRL | Qt::Key_Down, scroll(QAbstractSlider::SliderSingleStepAdd));
+    AddKeys(KeyAct::FirstPage, [this] { browser_.GoTo(0); });
+    AddKeys(KeyAct::LastPage, [this] { browser_.GoTo(static_cast<int>(browser_.Count()) - 1); });
+    AddKeys(KeyAct::FullSize, [this] { browser_.SetZoom(100); });
 }
 
 void PageTools::Renew() { Search(); }

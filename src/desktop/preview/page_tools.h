@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <functional>
 
+#include "desktop/key_table.h"
 #include "desktop/preview/page_browser.h"
 #include "desktop/preview/search_line.h"
 
@@ -29,12 +30,13 @@ class PageTools : public QWidget {
         const char* name;  // of its widget
         const char* caption;
         const char* meaning;
-        const char* keys;
+        KeyAct key;
     };
 
     template <typename Act>
     void Add(const Tool& tool, Act act);
-    void AddKeys(const char* keys, const std::function<void()>& act);
+    void AddKey(const QKeySequence& key, const std::function<void()>& act);
+    void AddKeys(KeyAct keys, const std::function<void()>& act);
     QLabel* AddLabel(const char* name, const QString& widest);
     void AddSearch();
     void AddScrollKeys();

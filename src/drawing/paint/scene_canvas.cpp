@@ -100,6 +100,7 @@ class Canvas {
         if (!stroke.colour.empty()) {
             SetColour(stroke.colour);
             cairo_set_line_width(canvas_, stroke.width);
+            cairo_set_dash(canvas_, &stroke.dash, stroke.dash > 0.0 ? 1 : 0, 0.0);
             cairo_stroke_preserve(canvas_);
         }
         cairo_new_path(canvas_);

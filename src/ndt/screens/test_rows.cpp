@@ -12,16 +12,6 @@ namespace kelvor {
 
 namespace {
 
-/// A text that was refused because it is no number has emptied the cell; a number out of range has not.
-bool IsEmptied(const ScreenEvent& event) {
-    const CellValue* cell = event.context.calc.store.FindCell(event.control->tag, 1, 1);
-    return event.form.refused && cell != nullptr && !cell->IsFilled();
-}
-
-void RecalcIfEmptied(ScreenEvent& event) {
-    if (IsEmptied(event)) RecalcTests(event);
-}
-
 /// True if a column of results holds one.
 bool HasResults(const ScreenContext& context, const Form& form) {
     const auto& columns = form.FindGrid()->grid->columns;
@@ -63,10 +53,6 @@ void TellOutdated(ScreenEvent& event) {
     ShowOutdated(event.form, changed, static_cast<int>(semicolons) + 1);
 }
 
-void TellIfEmptied(ScreenEvent& event) {
-    if (IsEmptied(event)) TellOutdated(event);
-}
-
 void AllUpToDate(ScreenEvent& event) {
     event.form.SetText(kOutdatedInputs, "");
     ShowOutdated(event.form, "", 0);
@@ -96,7 +82,6 @@ std::vector<Handler> RecalcWhenLeft(const std::vector<std::string>& inputs) {
     std::vector<Handler> handlers;
     for (const std::string& input : inputs) {
         handlers.push_back({FormEvent::Stored, input, HandlerOrder::After, RecalcTests});
-        handlers.push_back({FormEvent::LostFocus, input, HandlerOrder::After, RecalcIfEmptied});
     }
     return handlers;
 }
@@ -106,7 +91,6 @@ std::vector<Handler> TellWhenOutdated(const std::vector<std::string>& inputs) {
                                      {FormEvent::RowDeleted, "", HandlerOrder::After, AllUpToDate}};
     for (const std::string& input : inputs) {
         handlers.push_back({FormEvent::Stored, input, HandlerOrder::After, TellOutdated});
-        handlers.push_back({FormEvent::LostFocus, input, HandlerOrder::After, TellIfEmptied});
     }
     return handlers;
 }

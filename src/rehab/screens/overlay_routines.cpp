@@ -26,12 +26,6 @@ void WorkOutAll(ScreenEvent& event) {
     }
 }
 
-/// A value that is stored has all outputs worked out by the common routine; one that is refused may have
-/// emptied its cell.
-void Left(ScreenEvent& event) {
-    if (event.form.refused) WorkOutAll(event);
-}
-
 /// After the button, whether it has solved or refused.
 void WorkOutThickness(ScreenEvent& event) {
     const auto outputs = event.context.catalogue.OutputsOfScreen(event.form.tag);
@@ -53,7 +47,6 @@ void NoteField(ScreenEvent& event) {
 
 std::vector<Handler> OverlayHandlers(const std::string& solveButton) {
     return {{FormEvent::Activate, "", HandlerOrder::After, WorkOutAll},
-            {FormEvent::LostFocus, "", HandlerOrder::After, Left},
             {FormEvent::Click, solveButton, HandlerOrder::After, WorkOutThickness}};
 }
 

@@ -1,10 +1,18 @@
 #include "reports/pages/page_breaker.h"
 
+#include <algorithm>
 #include <cstddef>
 
 namespace kelvor {
 
 namespace {
+
+/// Of a drawing's size; what is smaller has letters that tire the eye.
+constexpr double kLeastShare = 0.7;
+
+double LeastHeight(const Strip& strip) {
+    return strip.drawing.scene == nullptr ? strip.height : strip.height * kLeastShare;
+}
 
 class Breaker {
   public:
@@ -28,10 +36,10 @@ class Breaker {
         return last + 1;
     }
 
-    [[nodiscard]] double HeightOf(std::size_t first, std::size_t end) const {
+    [[nodiscard]] double LeastHeightOf(std::size_t first, std::size_t end) const {
         double height = 0.0;
         for (std::size_t i = first; i < end; ++i) {
-            height += strips_[i].height + (i == first ? 0.0 : strips_[i].spaceBefore);
+            height += LeastHeight(strips_[i]) + (i == first ? 0.0 : strips_[i].spaceBefore);
         }
         return height;
     }
@@ -45,12 +53,12 @@ class Breaker {
     }
 
     void PlaceGroup(std::size_t first, std::size_t end) {
-        const double height = HeightOf(first, end);
+        const double height = LeastHeightOf(first, end);
         const bool fitsHere = top_ + Space(strips_[first]) + height <= height_;
         const bool fitsAnywhere = HeightOfHeadings(strips_[first]) + height <= height_;
         if (!fitsHere && fitsAnywhere) BeginPage(strips_[first]);
         for (std::size_t i = first; i < end; ++i) {
-            if (top_ + Space(strips_[i]) + strips_[i].height > height_) BeginPage(strips_[i]);
+            if (top_ + Space(strips_[i]) + LeastHeight(strips_[i]) > height_) BeginPage(strips_[i]);
             Place(strips_[i]);
         }
     }
@@ -70,8 +78,10 @@ class Breaker {
 
     void Place(const Strip& strip) {
         top_ += Space(strip);
-        pages_.back().push_back({&strip, top_});
-        top_ += strip.height;
+        const bool isDrawing = strip.drawing.scene != nullptr;
+        const double share = isDrawing ? std::min(1.0, (height_ - top_) / strip.height) : 1.0;
+        pages_.back().push_back({&strip, top_, share});
+        top_ += strip.height * share;
     }
 
     const std::vector<Strip>& strips_;

@@ -41,17 +41,20 @@ void PaintPicture(cairo_t* painter, const PlacedPicture& picture, double left, d
     cairo_restore(painter);
 }
 
-void PaintDrawing(cairo_t* painter, const PlacedDrawing& drawing, double left, double top) {
+void PaintDrawing(cairo_t* painter, const PlacedDrawing& drawing, double share, double left, double top) {
+    const double scale = drawing.scale * share;
     cairo_save(painter);
     cairo_translate(painter, left, top);
-    cairo_scale(painter, drawing.scale, drawing.scale);
+    cairo_scale(painter, scale, scale);
     PaintScene(painter, *drawing.scene);
     cairo_restore(painter);
 }
 
-void PaintStrip(cairo_t* painter, const Strip& strip, double left, double top) {
+void PaintStrip(cairo_t* painter, const PlacedStrip& placedStrip, double left, double above) {
+    const Strip& strip = *placedStrip.strip;
+    const double top = above + placedStrip.top;
     if (strip.picture.surface) PaintPicture(painter, strip.picture, left, top);
-    if (strip.drawing.scene != nullptr) PaintDrawing(painter, strip.drawing, left, top);
+    if (strip.drawing.scene != nullptr) PaintDrawing(painter, strip.drawing, placedStrip.share, left, top);
     for (const PlacedLine& placed : strip.lines) {
         PaintLine(painter, placed.line, left + placed.left, top + placed.baseline);
     }
@@ -93,8 +96,7 @@ void PaintPage(cairo_t* painter, const TypeSetter& setter, const Document& docum
         PaintEdge(painter, setter, document.head, setup, top + styles::kEdge.size);
         PaintRule(painter, {0.0, width, styles::kEdge.size + kEdgeGap, kEdgeRuleGrey}, left, top);
     }
-    for (const PlacedStrip& placed : page)
-        PaintStrip(painter, *placed.strip, left, top + kEdgeRoom + placed.top);
+    for (const PlacedStrip& placed : page) PaintStrip(painter, placed, left, top + kEdgeRoom);
     PaintEdge(painter, setter, Foot(document.foot, number), setup, bottom);
     PaintRule(painter, {0.0, width, -styles::kEdge.size - kEdgeGap, kEdgeRuleGrey}, left, bottom);
 }

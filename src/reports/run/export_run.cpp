@@ -62,8 +62,9 @@ std::string ReportDesk::AskPrefix() {
 void ReportDesk::RunExport(ScreenContext& context, const Form& hub) {
     ReportList list(context, stagingFile_.Provide(site_.host.files, files_.Catalogue()));
     const std::string prefix = AskPrefix();
-    list.TakeTicked(hub);
-    DropKeptFiles(list, prefix);
+    list.TakeTicked(hub, [&](const ReportName& report) {
+        return MayReplace(ExportFolder() / FileName(prefix, site_.sProjectFile, report));
+    });
     list.StageGeneral();
     if (list.IsEmpty()) {
         (void)list.Finish();
@@ -85,13 +86,7 @@ void ReportDesk::RunExport(ScreenContext& context, const Form& hub) {
          .title = kTitle});
 }
 
-/// Leaves out the reports whose files are there and shall stay.
-void ReportDesk::DropKeptFiles(ReportList& list, const std::string& prefix) {
-    list.Drop([&](const ReportName& report) {
-        return !MayReplace(ExportFolder() / FileName(prefix, site_.sProjectFile, report));
-    });
-}
-
+/// False if the file is there and shall stay.
 bool ReportDesk::MayReplace(const Path& file) {
     if (site_.host.files.Kind(file) == FileKind::Missing) return true;
     return dialogs().ShowMessage({.text = "The export file " + file.filename().string() +

@@ -99,7 +99,6 @@ class ReportDesk {
     std::string AskPrefix();
     [[nodiscard]] Path ExportFolder() const;
     void RunExport(ScreenContext& context, const Form& hub);
-    void DropKeptFiles(ReportList& list, const std::string& prefix);
     bool MayReplace(const Path& file);
     int WriteFiles(ScreenContext& context, ReportList& list, const std::string& prefix);
     void TellCreated(int count);

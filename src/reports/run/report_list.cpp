@@ -7,27 +7,30 @@ namespace kelvor {
 ReportList::ReportList(const ScreenContext& context, const Path& stagingFile)
     : context_(context), database_(stagingFile), stager_(database_, context_.calc) {}
 
+bool ReportList::IsAlwaysWanted(const ReportName& /*report*/) { return true; }
+
 void ReportList::StageGeneral() { StageGeneralInfo(stager_); }
 
-void ReportList::Take(const ReportItem& item, bool takesPart) {
+void ReportList::Take(const ReportItem& item, bool takesPart, const Wish& isWanted) {
     if (item.flag && !context_.balance.Get(*item.flag)) {
         unbalanced_ += std::string(FindReport(item.report).title) + "\n";
         return;
     }
-    const bool hasExistingData = item.stage(stager_, item.screen);
-    const bool isPart = takesPart && item.part != nullptr && !hasExistingData;
-    reports_.push_back({&FindReport(isPart ? item.part : item.report), item.screen});
-    if (item.second != nullptr) reports_.push_back({&FindReport(item.second), item.screen});
+    std::vector<const ReportName*> names = {&FindReport(item.report)};
+    if (item.second != nullptr) names.push_back(&FindReport(item.second));
+    // Which of its two layouts a report has is known once it is staged.
+    const bool stagesFirst = takesPart && item.part != nullptr;
+    if (stagesFirst && !item.stage(stager_, item.screen)) names = {&FindReport(item.part)};
+    std::erase_if(names, [&](const ReportName* name) { return !isWanted(*name); });
+    if (names.empty()) return;
+    if (!stagesFirst) item.stage(stager_, item.screen);
+    for (const ReportName* name : names) reports_.push_back({name, item.screen});
 }
 
-void ReportList::TakeTicked(const Form& hub) {
+void ReportList::TakeTicked(const Form& hub, const Wish& isWanted) {
     for (const ReportItem& item : ReportItems()) {
-        if (hub.Get(item.box).value) Take(item, true);
+        if (hub.Get(item.box).value) Take(item, true, isWanted);
     }
-}
-
-void ReportList::Drop(const std::function<bool(const ReportName&)>& isUnwanted) {
-    std::erase_if(reports_, [&](const ListedReport& listed) { return isUnwanted(*listed.report); });
 }
 
 StagedTables ReportList::Finish() {

@@ -26,15 +26,16 @@ class ReportList {
 
     void StageGeneral();
 
+    /// Whether a report is wanted, asked just before it is staged.
+    using Wish = std::function<bool(const ReportName&)>;
+    static bool IsAlwaysWanted(const ReportName& report);
+
     /// Stages and lists an item, or its title where its equation is not balanced. `takesPart` lets the
     /// unbonded overlay go without what is not known of the existing pavement.
-    void Take(const ReportItem& item, bool takesPart);
+    void Take(const ReportItem& item, bool takesPart, const Wish& isWanted = IsAlwaysWanted);
 
     /// Takes every item that is ticked on the hub.
-    void TakeTicked(const Form& hub);
-
-    /// Leaves reports out.
-    void Drop(const std::function<bool(const ReportName&)>& isUnwanted);
+    void TakeTicked(const Form& hub, const Wish& isWanted = IsAlwaysWanted);
 
     /// Ends the staging. All tables as they stand then.
     StagedTables Finish();

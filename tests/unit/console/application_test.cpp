@@ -303,6 +303,11 @@ TEST_F(ConsoleTest, ARefusedProjectIsToldAndTheScriptGoesOnWithoutOne) {
                   "{\"cell\":{\"name\":\"SN\",\"dim1\":1,\"dim2\":1,\"missing\":true}}\n");
 }
 
+TEST_F(ConsoleTest, AProjectWithoutANameIsRefusedWithOneMessage) {
+    EXPECT_EQ(Report(ObeyPlainly("open \"\"\nget SN\n")),
+              "0\nmessage [Kelvor]: Error loading from : Invalid argument -> ok\nSN(1,1) = missing\n");
+}
+
 TEST_F(ConsoleTest, AHomeThatCannotBeWrittenServesWithAPrivateWorkCopy) {
     OpenToEverybody(folder_.path(), true);
     const WriteProtection readOnly(home_.path());

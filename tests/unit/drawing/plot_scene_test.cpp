@@ -4,9 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
+#include <set>
 
 #include "drawing/picture_file.h"
 #include "drawing/plot_axis.h"
+#include "drawing/text_width.h"
 #include "support/test_home.h"
 
 namespace kelvor::test {
@@ -42,16 +45,79 @@ TEST(PlotSceneTest, BarsAreInTheRatioOfTheirValues) {
     EXPECT_NEAR(heights[0] / heights[2], 2.0, 1e-9);
 }
 
-TEST(PlotSceneTest, ValuesStandAboveBarsThatAreWideEnoughForThem) {
+/// The texts above bars: those between the title and the line of labels, right of the axis.
+std::vector<shape::Text> ValuesOf(const ChartData& sheet, const std::set<std::string>& values) {
+    std::vector<shape::Text> found;
+    for (const auto& text : ShapesOf<shape::Text>(MakePlotScene(sheet, {}))) {
+        if (text.anchor == shape::Anchor::Middle && values.contains(text.text)) found.push_back(text);
+    }
+    return found;
+}
+
+TEST(PlotSceneTest, ValuesStandAboveTheirBars) {
     ChartData sheet = Costs();
     sheet.showsValues = true;
-    const auto hasValue = [&] {
-        const auto texts = ShapesOf<shape::Text>(MakePlotScene(sheet, {}));
-        return std::any_of(texts.begin(), texts.end(), [](const auto& text) { return text.text == "25"; });
-    };
-    EXPECT_TRUE(hasValue());
-    for (int year = 2; year <= 40; ++year) sheet.rows.push_back({std::to_string(year), {30.0, 40.0}});
-    EXPECT_FALSE(hasValue());
+    EXPECT_EQ(ValuesOf(sheet, {"100", "50", "25"}).size(), 3U);
+    sheet.rows.push_back({"2", {0.0, 0.0}});
+    EXPECT_EQ(ValuesOf(sheet, {"100", "50", "25"}).size(), 3U);
+}
+
+TEST(PlotSceneTest, AmongManyBarsTheFewWithValuesSayThem) {
+    ChartData sheet = Costs();
+    sheet.showsValues = true;
+    sheet.rows = {{"1900", {77'777.0, 66'666.0}}};
+    for (int year = 1901; year <= 1980; ++year) sheet.rows.push_back({std::to_string(year), {0.0, 0.0}});
+    sheet.rows[40].cells = {55'555.0, 0.0};
+    EXPECT_EQ(ValuesOf(sheet, {"77,777", "55,555"}).size(), 2U);
+    EXPECT_EQ(ValuesOf(sheet, {"0"}).size(), 0U) << "no bar, no value";
+}
+
+TEST(PlotSceneTest, NoValueRunsIntoAnother) {
+    ChartData sheet = Costs();
+    sheet.showsValues = true;
+    for (int year = 2; year <= 60; ++year) sheet.rows.push_back({std::to_string(year), {30'000.0, 30'000.0}});
+    const std::vector<shape::Text> values = ValuesOf(sheet, {"30,000"});
+    EXPECT_GT(values.size(), 3U);
+    EXPECT_LT(values.size(), 60U);
+    for (std::size_t i = 1; i < values.size(); ++i) {
+        const double width = TextWidth("30,000", values[i].size);
+        const bool besides = std::abs(values[i].place.x - values[i - 1].place.x) >= width;
+        EXPECT_TRUE(besides || values[i].place.x < values[i - 1].place.x) << i;
+    }
+}
+
+TEST(PlotSceneTest, ALegendWithoutRoomGoesOnInAnotherLine) {
+    ChartData sheet = Costs();
+    sheet.kind = ChartKind::Line;
+    sheet.series = {{"Static modulus of subgrade reaction of every test", "#1F5FBF"},
+                    {"Average of the tests that count", "#BF5F1F"},
+                    {"Left out of the averages", "#808080"}};
+    const DrawingSize small{300.0, 200.0};
+    double lowest = 0.0;
+    std::set<double> lines;
+    for (const auto& text : ShapesOf<shape::Text>(MakePlotScene(sheet, small))) {
+        for (const ChartSeries& series : sheet.series) {
+            if (text.text != series.name) continue;
+            lines.insert(text.place.y);
+            EXPECT_LE(text.place.x + TextWidth(text.text, text.size), small.width) << text.text;
+        }
+        lowest = std::max(lowest, text.place.y);
+    }
+    EXPECT_GE(lines.size(), 2U);
+    EXPECT_LE(lowest, small.height);
+}
+
+TEST(PlotSceneTest, LinesDifferByMoreThanTheirColours) {
+    ChartData sheet = Costs();
+    sheet.kind = ChartKind::Line;
+    sheet.rows = {{"0", {100.0, 50.0}}, {"10", {60.0, 70.0}}, {"20", {20.0, 90.0}}};
+    std::vector<double> dashes;
+    for (const auto& line : ShapesOf<shape::Line>(MakePlotScene(sheet, {}))) {
+        if (line.points.size() == 3) dashes.push_back(line.stroke.dash);
+    }
+    ASSERT_EQ(dashes.size(), 2U);
+    EXPECT_EQ(dashes[0], 0.0);
+    EXPECT_GT(dashes[1], 0.0);
 }
 
 TEST(PlotSceneTest, LinesAndPointsStandAtTheirLabels) {

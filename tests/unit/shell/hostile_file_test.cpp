@@ -156,6 +156,12 @@ TEST_F(HostileProjectTest, AFreeListThatRunsInACircleIsRefused) {
     EXPECT_THAT(OpenUnchanged(), StartsWith(Refusal("")));
 }
 
+TEST_F(HostileProjectTest, AHeaderThatAllowsReadingAloneIsRefused) {
+    constexpr std::size_t kWriteVersion = 18;  // its place in the header, by the file format
+    Patch(Hostile(), kWriteVersion, "\x03");
+    EXPECT_EQ(OpenUnchanged(), Refusal("attempt to write a readonly database"));
+}
+
 TEST_F(HostileProjectTest, AHeaderThatClaimsAWriteAheadLogIsRefusedAndTheLogLeftAlone) {
     constexpr std::size_t kFileFormat = 18;  // its place in the header, by the file format
     Patch(Hostile(), kFileFormat, "\x02\x02");

@@ -147,6 +147,17 @@ TEST_F(UndoTest, AThousandStepsAreKept) {
     EXPECT_FALSE(State().dbWork.FindCell("RM", 1, 1)->IsFilled());
 }
 
+/// What is kept has an end: a program that runs for weeks does not grow.
+TEST_F(UndoTest, OfVeryManyStepsTheOldestGo) {
+    constexpr int kEntries = 2100;
+    constexpr int kKept = 2000;
+    for (int i = 1; i <= kEntries; ++i) Enter("RM", std::to_string(2000 + i));
+    int undone = 0;
+    while (Run().Undo()) ++undone;
+    EXPECT_EQ(undone, kKept);
+    EXPECT_EQ(Get("RM"), 2000.0 + kEntries - kKept);
+}
+
 TEST_F(UndoTest, TheMenuNamesTheStep) {
     const auto entry = [&](const std::string& name) {
         for (const MenuEntry& e : Run().Menus()) {

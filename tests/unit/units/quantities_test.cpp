@@ -58,13 +58,17 @@ TEST_F(QuantitiesTest, AUnitWithoutAPartnerHasTheSameQuantityInBoth) {
     EXPECT_EQ(Cell("InitialQuantity"), (CellValue{13.0, "13"}));
 }
 
-TEST_F(QuantitiesTest, AnEmptyTextEmptiesAndOneThatIsNoNumberIsPassedOver) {
+TEST_F(QuantitiesTest, AnEmptyTextEmptiesAndOneThatIsNoNumberStandsBesideTheNumber) {
     Unit("sq yd");
     Type("12");
     Type("a dozen");
-    EXPECT_EQ(Cell("InitialQuantity"), (CellValue{12.0, "12"}));
+    EXPECT_EQ(Cell("InitialQuantity"), (CellValue{12.0, "a dozen"}));
     Type("");
     EXPECT_EQ(Cell("InitialQuantity"), CellValue{});
+    units_.SetMetric(true);
+    Type("a dozen");
+    EXPECT_EQ(Cell("InitialQuantity"), CellValue{})
+        << "in metric units a text that is no number is passed over";
     units_.SetDisplayValue("InitialQuantity", 36, 1, "5");  // there is no such row
 }
 

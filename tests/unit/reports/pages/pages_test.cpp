@@ -219,6 +219,17 @@ TEST_F(PagesTest, ADrawingIsPaintedAsShapesNotAsDots) {
     EXPECT_NEAR(static_cast<double>(dots), 200.0 * 90.0, 600.0) << "the slab, less its edges";
 }
 
+TEST_F(PagesTest, TheWordsOfADrawingAreFound) {
+    Document document;
+    document.blocks = {blocks::Paragraph{"A line above."}, test::SampleDrawing()};
+    const auto pages = Break(document);
+    const auto found = pages->Find(0, "pcc thick");
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_GT(found[0].top, pages->Find(0, "line above")[0].top);
+    EXPECT_GT(found[0].width, found[0].height);
+    EXPECT_THAT(pages->Find(0, "asphalt"), testing::IsEmpty());
+}
+
 TEST_F(PagesTest, AWideDrawingKeepsToThePage) {
     ReportDrawing drawing = test::SampleDrawing();
     drawing.scene.width *= 4.0;
@@ -236,6 +247,35 @@ TEST_F(PagesTest, AWideDrawingKeepsToThePage) {
     };
     EXPECT_GT(paintedIn(image.width - 56), 0);
     EXPECT_EQ(paintedIn(image.width - 53), 0) << "a margin of 54 points";
+}
+
+/// The painted height of the sample's slab, in points; 0 if it is not on the page.
+int HeightOfSlab(const PageImage& image) {
+    const auto rowHas = [&](int y) {
+        const auto row = image.dots.begin() + static_cast<std::ptrdiff_t>(y) * image.width;
+        return std::count(row, row + image.width, 0xFFC8CCD0U) > 0;
+    };
+    int height = 0;
+    for (int y = 0; y < image.height; ++y) height += rowHas(y) ? 1 : 0;
+    return height;
+}
+
+TEST_F(PagesTest, ADrawingIsSmallerRatherThanAloneOnTheNextPage) {
+    constexpr int kWhole = 90;
+    constexpr int kLeast = 63;  // seven tenths
+    Document document;
+    document.blocks = {test::SampleDrawing()};
+    int smaller = 0;
+    for (auto pages = Break(document); pages->Count() == 1; pages = Break(document)) {
+        const int height = HeightOfSlab(pages->Paint(0, 1.0));
+        EXPECT_GE(height, kLeast - 1);
+        EXPECT_LE(height, kWhole + 1);
+        if (height < kWhole - 2) ++smaller;
+        document.blocks.insert(document.blocks.begin(), blocks::Paragraph{"A line above."});
+    }
+    EXPECT_GT(smaller, 2);
+    EXPECT_EQ(HeightOfSlab(Break(document)->Paint(0, 1.0)), 0);
+    EXPECT_NEAR(HeightOfSlab(Break(document)->Paint(1, 1.0)), kWhole, 2);
 }
 
 TEST_F(PagesTest, AnEmptyReportIsOnePage) { EXPECT_EQ(Break(Document{})->Count(), 1U); }
