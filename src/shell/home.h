@@ -33,6 +33,8 @@ struct Home {
     /// By which a second start hands its project to the first.
     [[nodiscard]] Path HandOverFile() const { return work / "kvropen.txt"; }
     [[nodiscard]] Path UnsavedNoteFile() const { return work / "kvrwork.uns"; }
+    /// The work copy as it stood whole some seconds ago, in case a power cut tears it.
+    [[nodiscard]] Path SnapshotFile() const { return work / "kvrwork.sav"; }
     [[nodiscard]] Path LockFile() const { return work / "kvrwork.lck"; }
 
     [[nodiscard]] Path SharedFolder() const { return shared.empty() ? folder : shared; }

@@ -68,6 +68,7 @@ struct ProcessState {
     bool crashedBefore =
         false;  // the start found unsaved work of a crashed program, now the first of keptWork
     bool unsavedNoted = false;  // a note beside the work copy says that it holds unsaved changes
+    int snapshotWrites = -1;    // of the work copy when it was last copied as a whole; -1: there is no copy
     std::string proposedPath;   // of a recovered project: the path that it had, for Save As
     Path recoveredFrom;         // of a recovered project: where it is kept
     bool bReportsUnavailable = false;

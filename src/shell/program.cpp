@@ -265,9 +265,11 @@ bool Program::SwitchTab(int tab) {
 
 void Program::BringToDisk() {
     if (running_) return;
-    Recovery(state_).RenewNote();
+    Recovery recovery(state_);
+    recovery.RenewNote();
     state_.dbWork.BeginEvent();
     state_.dbWork.EndEvent();
+    recovery.TakeSnapshot();
 }
 
 // --- Undo -----------------------------------------------------------------------------------------------

@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "platform/database_error.h"
+#include "platform/replace_file.h"
 #include "platform/translation.h"
 #include "shell/overview.h"
 
@@ -91,6 +92,27 @@ void Recovery::DropNote() {
         state_.unsavedNoted = false;
     } catch (const FileError&) {  // NOLINT(bugprone-empty-catch): tried again
     }
+    DropSnapshot();
+}
+
+void Recovery::TakeSnapshot() {
+    if (!state_.unsavedNoted || !state_.dbWork.IsOpen()) return;
+    const int writes = state_.dbWork.writes();
+    if (writes == state_.snapshotWrites) return;
+    try {
+        ReplaceFile(state_.host.files, state_.home.SnapshotFile(), state_.dbWork.WorkCopyContent());
+        state_.snapshotWrites = writes;
+    } catch (const FileError&) {  // NOLINT(bugprone-empty-catch): tried again
+    }
+}
+
+/// A copy that stays does no harm: it is looked at only where a note stands beside a work copy that is torn.
+void Recovery::DropSnapshot() {
+    state_.snapshotWrites = -1;
+    try {
+        state_.host.files.Remove(state_.home.SnapshotFile());
+    } catch (const FileError&) {  // NOLINT(bugprone-empty-catch): see above
+    }
 }
 
 KeptProject Recovery::ReadNote() const {
@@ -146,11 +168,33 @@ std::string Recovery::ContentsOfCrashedWork() {
     }
 }
 
+bool Recovery::IsWhole(const Path& workCopy) {
+    try {
+        state_.dbWork.Open(workCopy, state_.projectBounds, true);
+        state_.dbWork.Close();
+        return true;
+    } catch (const DatabaseError&) {
+        state_.dbWork.Abandon();
+        return false;
+    }
+}
+
+/// Puts the copy of some seconds ago in the place of a work copy that a power cut has torn.
+void Recovery::MendCrashedWork() {
+    const FileSystem& files = state_.host.files;
+    const Path snapshot = state_.home.SnapshotFile();
+    const Path torn = state_.home.WorkCopyFile();
+    if (files.Kind(snapshot) != FileKind::Regular || IsWhole(torn) || !IsWhole(snapshot)) return;
+    state_.host.files.Remove(torn.string() + "-journal");  // it belongs to the torn one
+    ReplaceFile(state_.host.files, torn, files.Read(snapshot, kLargestProject));
+}
+
 bool Recovery::KeepCrashedWork() {
     if (!state_.home.KeepsDroppedWork()) return false;
     if (state_.host.files.Kind(state_.home.UnsavedNoteFile()) == FileKind::Missing) return false;
     const bool left = state_.host.files.Kind(state_.home.WorkCopyFile()) != FileKind::Missing;
     if (left) {
+        MendCrashedWork();
         KeptProject about = ReadNote();
         about.contents = ContentsOfCrashedWork();
         Keep(about);

@@ -21,7 +21,12 @@ class Recovery {
     /// Writes the note anew with the time of day, and brings it to the disk.
     void RenewNote();
 
-    /// Takes the note away: the work copy is about to be replaced, or the program ends in good order.
+    /// Copies the open work copy as a whole beside it, if it was written to since: a power cut may leave a part
+    /// of what was written last.
+    void TakeSnapshot();
+
+    /// Takes the note and the copy away: the work copy is about to be replaced, or the program ends in good
+    /// order.
     void DropNote();
 
     /// What would be lost with the open project now; nothing if a file has all of it.
@@ -42,6 +47,9 @@ class Recovery {
     [[nodiscard]] std::string FormerPath() const;
     [[nodiscard]] KeptProject ReadNote() const;
     [[nodiscard]] std::string ContentsOfCrashedWork();
+    bool IsWhole(const Path& workCopy);
+    void MendCrashedWork();
+    void DropSnapshot();
 
     ProcessState& state_;
 };

@@ -73,6 +73,11 @@ class ProjectStore {
 
     [[nodiscard]] bool IsOpen() const { return workCopy_ != nullptr; }
 
+    /// How many cells have been written to the work copy since it was opened, and all of it as a file has it.
+    /// Only of an open one.
+    [[nodiscard]] int writes() const { return workCopy_->writes(); }
+    [[nodiscard]] std::string WorkCopyContent() const { return workCopy_->Content(); }
+
     // --- Cells by name -------------------------------------------------------------------------
 
     /// The number at (1, 1), an empty one as 0. Stops the program if there is no such cell.

@@ -60,7 +60,7 @@ SQLite::Database OpenProject(const Path& path, bool checkPages, int newest) {
         }
         // OFF spares each event some waits for the disk. If the process is killed nothing is lost by it: what
         // was written is the system's, which brings it to the disk. Against a power cut stands FlushIfDue;
-        // of what came after the last flush the disk may then have a part.
+        // of what came after the last flush the disk may then have a part; the shell keeps a whole copy.
         database.exec(
             "PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = DELETE; PRAGMA synchronous = OFF");
         // What a newer version has made otherwise is no fault of the file.
@@ -181,6 +181,17 @@ void WorkCopy::FlushIfDue() noexcept {
     if (now - flushTime_ < kTimeBetweenFlushes) return;
     flushTime_ = now;
     flushed_ = Flush();
+}
+
+int WorkCopy::writes() const { return sqlite3_total_changes(database_->getHandle()); }
+
+std::string WorkCopy::Content() const {
+    // By the database itself: to open the file once more and close it would give up its lock.
+    sqlite3_int64 size = 0;
+    const std::unique_ptr<unsigned char, decltype(&sqlite3_free)> bytes(
+        sqlite3_serialize(database_->getHandle(), "main", &size, 0), &sqlite3_free);
+    if (bytes == nullptr) return {};
+    return {reinterpret_cast<const char*>(bytes.get()), static_cast<std::size_t>(size)};
 }
 
 bool WorkCopy::Flush() noexcept {

@@ -72,6 +72,12 @@ class WorkCopy {
     /// A failure is tried again the next time.
     void FlushIfDue() noexcept;
 
+    /// How many rows have been written since it was opened.
+    [[nodiscard]] int writes() const;
+
+    /// The file as it stands between two events; empty if there is no memory for it.
+    [[nodiscard]] std::string Content() const;
+
     void Begin();
     void Commit();
 

@@ -28,8 +28,8 @@ class SessionHome {
 
     void PutBack() const {
         for (const char* name :
-             {"Kept", "kvrwork.tmp", "kvrwork.tmp-journal", "kvrwork.uns", "kvrwork.lck", "kvrrport.tmp",
-              "DataBase/custom.tpl-journal", "DataBase/Kelvor.mdb-journal"}) {
+             {"Kept", "kvrwork.tmp", "kvrwork.tmp-journal", "kvrwork.uns", "kvrwork.sav", "kvrwork.lck",
+              "kvrrport.tmp", "DataBase/custom.tpl-journal", "DataBase/Kelvor.mdb-journal"}) {
             std::filesystem::remove_all(home_ / name);
         }
         for (std::size_t i = 0; i < kWritten.size(); ++i) WriteFile(home_ / kWritten[i], contents_[i]);

@@ -291,6 +291,63 @@ TEST_F(CrashTest, TheNextStartSaysSoAndOpensTheWorkIfWanted) {
     EXPECT_EQ(program.state().sProjectFile, "");
 }
 
+/// A page of the work copy that never came to the disk.
+void Tear(const Path& workCopy) {
+    constexpr std::size_t kPage = 4096;
+    std::string content = ReadFile(workCopy);
+    ASSERT_GT(content.size(), 3 * kPage);
+    content.replace(2 * kPage, kPage, std::string(kPage, '\0'));
+    WriteFile(workCopy, content);
+}
+
+TEST_F(CrashTest, OfAWorkCopyThatAPowerCutHasTornTheCopyOfSecondsAgoIsKept) {
+    Crash([](Program& program) {
+        program.SetValue("SN", 1, 1, "5.5");
+        program.BringToDisk();
+        program.SetValue("SN", 1, 1, "6.5");
+    });
+    Tear(home_ / "kvrwork.tmp");
+    TestHost host;
+    Program program(host.host(), home_.home());
+    ASSERT_EQ(program.Start(""), StartResult::Running);
+    ASSERT_THAT(host.record.messages, SizeIs(1));
+    EXPECT_THAT(host.record.messages[0].text, HasSubstr("Flexible Design Inputs: 5.5"));
+    EXPECT_EQ(program.state().dbWork.GetVar("SN"), 5.5);
+}
+
+TEST_F(CrashTest, AWorkCopyThatIsWholeCountsAlsoBesideAnOlderCopy) {
+    Crash([](Program& program) {
+        program.SetValue("SN", 1, 1, "5.5");
+        program.BringToDisk();
+        program.SetValue("SN", 1, 1, "6.5");
+    });
+    TestHost host;
+    Program program(host.host(), home_.home());
+    ASSERT_EQ(program.Start(""), StartResult::Running);
+    EXPECT_EQ(program.state().dbWork.GetVar("SN"), 6.5);
+}
+
+TEST_F(CrashTest, TheCopyGoesWithTheSaveAndIsTakenOfWorkAlone) {
+    const Path snapshot = home_ / "kvrwork.sav";
+    TestHost host;
+    Program program(host.host(), home_.home());
+    ASSERT_EQ(program.Start(""), StartResult::Running);
+    program.BringToDisk();
+    EXPECT_FALSE(std::filesystem::exists(snapshot)) << "nothing was done";
+    program.SetValue("SN", 1, 1, "5.5");
+    program.BringToDisk();
+    ASSERT_TRUE(std::filesystem::exists(snapshot));
+    const auto taken = std::filesystem::last_write_time(snapshot);
+    program.BringToDisk();
+    EXPECT_EQ(std::filesystem::last_write_time(snapshot), taken) << "nothing has changed";
+    EXPECT_EQ(NumberInFile(snapshot, "SN"), 5.5);
+    ASSERT_TRUE(program.SaveAs(File("plan.kvr")));
+    program.SetValue("SN", 1, 1, "5.5");  // the end of an event takes note
+    ASSERT_TRUE(program.Save());
+    ASSERT_TRUE(program.NewProject());
+    EXPECT_FALSE(std::filesystem::exists(snapshot));
+}
+
 TEST_F(CrashTest, AUserWhoDoesNotWantItNowHasItLater) {
     Crash([&](Program& program) {
         program.SaveAs(File("plan.kvr"));
