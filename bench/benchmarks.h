@@ -48,10 +48,10 @@ std::vector<Pair> RegisterCosts(BenchProgram& program);
 std::vector<Pair> RegisterUndo(BenchProgram& program);
 
 /// All reports of a project staged and filled, and written as PDF, against as many empty pages.
-std::vector<Pair> RegisterReports(BenchProgram& program);
+std::vector<Pair> RegisterReports();
 
-/// The largest report of a project as PDF, beside the most that it may be. Opens a sample.
-Comparison CompareReportSizes(BenchProgram& program);
+/// The largest report of a project as PDF, beside the most that it may be.
+Comparison CompareReportSizes();
 
 /// How often one solve for the structural number reads the store, and what it does meanwhile.
 struct SolveCount {

@@ -46,7 +46,7 @@ std::vector<Pair> RegisterAll(BenchProgram& program, const kelvor::Path& home) {
     for (const auto& some :
          {RegisterReads(program), RegisterSolves(program, home), RegisterWrites(program, home),
           RegisterSpectrum(program), RegisterDeflections(program), RegisterCosts(program),
-          RegisterUndo(program), RegisterReports(program)}) {
+          RegisterUndo(program), RegisterReports()}) {
         pairs.insert(pairs.end(), some.begin(), some.end());
     }
     return pairs;
@@ -78,7 +78,7 @@ bool RunBenchmarks() {
 
     std::vector<Comparison> comparisons = Compare(pairs, reporter);
     comparisons.insert(comparisons.end(), starts.begin(), starts.end());
-    comparisons.push_back(CompareReportSizes(program));
+    comparisons.push_back(CompareReportSizes());
     std::cout << '\n';
     PrintSummary(std::cout, comparisons);
     const SolveCount solve = CountSolve(program);

@@ -159,6 +159,7 @@ class PlotPainter {
                 if (sheet_.series[i].hollowPoints == hollow) AddSeries(i);
             }
         }
+        if (sheet_.showsValues) AddValues();
     }
 
     void AddSeries(std::size_t series) {
@@ -199,18 +200,29 @@ class PlotPainter {
         scene_.shapes.emplace_back(std::move(point));
     }
 
-    /// A value stands above its bar unless it would run into one that stands already; 0 has no bar to stand
-    /// above where bars are many.
-    void AddValue(Point place, double value, double barWidth) {
-        const std::string text = up_.TextOf(value);
-        const double width = TextWidth(text, kTextSize);
-        if (value == 0.0 && width > barWidth) return;
-        const ValueBox box{place.x - width / 2.0, place.x + width / 2.0, place.y - kTextSize, place.y};
-        for (const ValueBox& other : values_) {
-            if (box.Meets(other)) return;
+    /// A value stands above its bar, the greatest first, unless it would run into another one or into another
+    /// bar. 0 has no bar to stand above where bars are narrow.
+    void AddValues() {
+        std::stable_sort(bars_.begin(), bars_.end(), [](const ValuedBar& one, const ValuedBar& other) {
+            return one.value > other.value;
+        });
+        std::vector<Box> taken;
+        for (const ValuedBar& bar : bars_) {
+            const std::string text = up_.TextOf(bar.value);
+            const double width = TextWidth(text, kTextSize);
+            if (bar.value == 0.0 && width > bar.box.right - bar.box.left) continue;
+            const double middle = (bar.box.left + bar.box.right) / 2.0;
+            const double left = std::clamp(middle - width / 2.0, left_, std::max(left_, right_ - width));
+            const double y = bar.box.top - kGap / 2.0;
+            const Box box{left, left + width, y - kTextSize, y};
+            const bool meetsBar = std::any_of(bars_.begin(), bars_.end(),
+                                              [&](const ValuedBar& other) { return box.Meets(other.box); });
+            const bool meetsValue =
+                std::any_of(taken.begin(), taken.end(), [&](const Box& other) { return box.Meets(other); });
+            if (meetsBar || meetsValue) continue;
+            taken.push_back(box);
+            AddText({left + width / 2.0, y}, text, Anchor::Middle);
         }
-        values_.push_back(box);
-        AddText(place, text, Anchor::Middle);
     }
 
     void AddBars(std::size_t series) {
@@ -224,8 +236,8 @@ class PlotPainter {
                 left_ + static_cast<double>(i) * RoomOfGroup() + gap + static_cast<double>(series) * width;
             AddBar({x, HeightOf(std::max(value, 0.0))}, width, HeightOf(std::min(value, 0.0)),
                    sheet_.series[series].colour, sheet_.series[series].name + " " + row.label);
-            if (sheet_.showsValues)
-                AddValue({x + width / 2.0, HeightOf(std::max(value, 0.0)) - kGap / 2.0}, value, width);
+            bars_.push_back(
+                {{x, x + width, HeightOf(std::max(value, 0.0)), HeightOf(std::min(value, 0.0))}, value});
         }
     }
 
@@ -279,22 +291,25 @@ class PlotPainter {
         scene_.shapes.emplace_back(shape::Rectangle{{at.x, at.y - kSwatch}, kSwatch, kSwatch, series.colour});
     }
 
-    /// Where a value stands.
-    struct ValueBox {
+    struct Box {
         double left = 0.0;
         double right = 0.0;
         double top = 0.0;
         double bottom = 0.0;
 
-        [[nodiscard]] bool Meets(const ValueBox& other) const {
+        [[nodiscard]] bool Meets(const Box& other) const {
             return left < other.right && other.left < right && top < other.bottom && other.top < bottom;
         }
+    };
+    struct ValuedBar {
+        Box box;
+        double value = 0.0;
     };
 
     const ChartData& sheet_;
     const Ink& ink_;
     std::vector<Point> legend_;  // the place of each series' entry
-    std::vector<ValueBox> values_;
+    std::vector<ValuedBar> bars_;
     PlotAxis up_;
     PlotAxis across_;
     Scene scene_;

@@ -1,7 +1,10 @@
 #include "forms/access_keys.h"
 
 #include <algorithm>
+#include <map>
 #include <set>
+#include <unordered_map>
+#include <utility>
 
 namespace kelvor {
 
@@ -30,7 +33,13 @@ std::string KeyLetters(const std::string& text) {
 /// Hands out access keys: as many controls as can be get one, and one that has one by its caption keeps it.
 class KeyGiver {
   public:
-    explicit KeyGiver(Controls& controls) : controls_(controls) {}
+    explicit KeyGiver(Controls& controls) {
+        for (std::size_t i = 0; i < controls.size(); ++i) {
+            places_.emplace(controls[i].get(), i);
+            if (controls[i]->accessKey != '\0')
+                holders_[controls[i]->accessKey].insert(HolderAt(*controls[i]));
+        }
+    }
 
     /// False if every letter of the control's text is needed elsewhere on its page.
     bool Give(Control& control) {
@@ -38,34 +47,51 @@ class KeyGiver {
         return Give(control, tried);
     }
 
+    void Take(Control& control) { Change(control, '\0'); }
+
   private:
+    /// In the order of the form's controls.
+    using Holder = std::pair<std::size_t, Control*>;
+
+    [[nodiscard]] Holder HolderAt(Control& control) const { return {places_.at(&control), &control}; }
+
+    void Change(Control& control, char key) {
+        if (control.accessKey != '\0') holders_[control.accessKey].erase(HolderAt(control));
+        control.accessKey = key;
+        if (key != '\0') holders_[key].insert(HolderAt(control));
+    }
+
     /// Where no letter is free, one whose holder can do with another changes hands.
     bool Give(Control& control, std::set<char>& tried) {
         const std::string letters = KeyLetters(control.text);
         const auto take = [&](char key) {
-            control.accessKey = key;
+            Change(control, key);
             given_.insert(&control);
             return true;
         };
         for (const char key : letters) {
-            if (key != control.accessKey && HolderOf(key, control) == nullptr) return take(key);
+            if (key != control.accessKey && FindHolder(key, control) == nullptr) return take(key);
         }
         for (const char key : letters) {
-            Control* holder = HolderOf(key, control);
+            Control* holder = FindHolder(key, control);
             if (!given_.contains(holder) || !tried.insert(key).second) continue;
             if (Give(*holder, tried)) return take(key);
         }
         return false;
     }
 
-    [[nodiscard]] Control* HolderOf(char key, const Control& wanted) const {
-        const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const auto& control) {
-            return control->accessKey == key && control.get() != &wanted && SharePage(*control, wanted);
-        });
-        return found == controls_.end() ? nullptr : found->get();
+    /// The first control on the same page that has a key; null if there is none.
+    [[nodiscard]] Control* FindHolder(char key, const Control& wanted) const {
+        const auto holders = holders_.find(key);
+        if (holders == holders_.end()) return nullptr;
+        for (const auto& [place, holder] : holders->second) {
+            if (holder != &wanted && SharePage(*holder, wanted)) return holder;
+        }
+        return nullptr;
     }
 
-    Controls& controls_;
+    std::unordered_map<const Control*, std::size_t> places_;
+    std::map<char, std::set<Holder>> holders_;
     std::set<const Control*> given_;
 };
 
@@ -95,7 +121,7 @@ void AssignAccessKeys(std::vector<std::unique_ptr<Control>>& controls) {
     KeyGiver giver(controls);
     for (const auto& control : controls) {
         const bool lost = KeyLetters(control->text).find(control->accessKey) == std::string::npos;
-        if (!control->labelOf.empty() && lost) control->accessKey = '\0';
+        if (!control->labelOf.empty() && lost) giver.Take(*control);
         if (WantsAccessKey(controls, *control)) giver.Give(*control);
     }
 }

@@ -301,6 +301,10 @@ void ProjectStore::WriteThrough(Place place, StoredCell& cell) {
     }
 }
 
+int ProjectStore::writes() const { return workCopy_->writes(); }
+
+std::string ProjectStore::WorkCopyContent() const { return workCopy_->Content(); }
+
 void ProjectStore::EndEvent() {
     inEvent_ = false;
     if (std::exchange(inTransaction_, false)) {

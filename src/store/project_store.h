@@ -75,8 +75,8 @@ class ProjectStore {
 
     /// How many cells have been written to the work copy since it was opened, and all of it as a file has it.
     /// Only of an open one.
-    [[nodiscard]] int writes() const { return workCopy_->writes(); }
-    [[nodiscard]] std::string WorkCopyContent() const { return workCopy_->Content(); }
+    [[nodiscard]] int writes() const;
+    [[nodiscard]] std::string WorkCopyContent() const;
 
     // --- Cells by name -------------------------------------------------------------------------
 

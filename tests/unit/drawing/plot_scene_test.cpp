@@ -69,6 +69,7 @@ TEST(PlotSceneTest, AmongManyBarsTheFewWithValuesSayThem) {
     for (int year = 1901; year <= 1980; ++year) sheet.rows.push_back({std::to_string(year), {0.0, 0.0}});
     sheet.rows[40].cells = {55'555.0, 0.0};
     EXPECT_EQ(ValuesOf(sheet, {"77,777", "55,555"}).size(), 2U);
+    EXPECT_EQ(ValuesOf(sheet, {"66,666"}).size(), 0U) << "it would stand across the bar beside it";
     EXPECT_EQ(ValuesOf(sheet, {"0"}).size(), 0U) << "no bar, no value";
 }
 
