@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 #include "platform/database_error.h"
 #include "platform/replace_file.h"
@@ -108,7 +109,7 @@ void Recovery::TakeSnapshot() {
 
 /// A copy that stays does no harm: it is looked at only where a note stands beside a work copy that is torn.
 void Recovery::DropSnapshot() {
-    state_.snapshotWrites = -1;
+    if (std::exchange(state_.snapshotWrites, -1) == -1) return;
     try {
         state_.host.files.Remove(state_.home.SnapshotFile());
     } catch (const FileError&) {  // NOLINT(bugprone-empty-catch): see above
@@ -184,7 +185,9 @@ void Recovery::MendCrashedWork() {
     const FileSystem& files = state_.host.files;
     const Path snapshot = state_.home.SnapshotFile();
     const Path torn = state_.home.WorkCopyFile();
-    if (files.Kind(snapshot) != FileKind::Regular || IsWhole(torn) || !IsWhole(snapshot)) return;
+    if (files.Kind(snapshot) != FileKind::Regular) return;
+    state_.snapshotWrites = 0;  // from now on it is this program's to take away
+    if (IsWhole(torn) || !IsWhole(snapshot)) return;
     state_.host.files.Remove(torn.string() + "-journal");  // it belongs to the torn one
     ReplaceFile(state_.host.files, torn, files.Read(snapshot, kLargestProject));
 }

@@ -325,6 +325,9 @@ TEST_F(CrashTest, AWorkCopyThatIsWholeCountsAlsoBesideAnOlderCopy) {
     Program program(host.host(), home_.home());
     ASSERT_EQ(program.Start(""), StartResult::Running);
     EXPECT_EQ(program.state().dbWork.GetVar("SN"), 6.5);
+    ASSERT_TRUE(program.SaveAs(File("plan.kvr")));
+    ASSERT_TRUE(program.NewProject());
+    EXPECT_FALSE(std::filesystem::exists(home_ / "kvrwork.sav")) << "it goes with the work that it was of";
 }
 
 TEST_F(CrashTest, TheCopyGoesWithTheSaveAndIsTakenOfWorkAlone) {
