@@ -27,6 +27,7 @@ bool HasEdge(QStyle::PrimitiveElement element) {
         case QStyle::PE_FrameGroupBox:
         case QStyle::PE_FrameWindow:
         case QStyle::PE_FrameMenu:
+        case QStyle::PE_PanelMenu:
         case QStyle::PE_PanelButtonCommand:
         case QStyle::PE_PanelButtonTool:
         case QStyle::PE_IndicatorCheckBox:
@@ -105,6 +106,17 @@ void DrawCaption(const QStyle& style, QPainter& painter, const QStyleOptionTitle
 
 void WindowStyle::Use() {
     if (dynamic_cast<WindowStyle*>(QApplication::style()) == nullptr) QApplication::setStyle(new WindowStyle);
+}
+
+/// What is off can still be read where the system's shade for it is lost on the ground.
+void WindowStyle::polish(QPalette& palette) {
+    QProxyStyle::polish(palette);
+    if (!LacksEdges(palette)) return;
+    constexpr double kShade = 0.6;
+    const QColor shade = Between(palette.color(QPalette::Active, QPalette::Window),
+                                 palette.color(QPalette::Active, QPalette::WindowText), kShade);
+    for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
+        palette.setColor(QPalette::Disabled, role, shade);
 }
 
 int WindowStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {

@@ -13,6 +13,8 @@ class WindowStyle : public QProxyStyle {
     /// Makes it the style of the application, unless it is already.
     static void Use();
 
+    using QProxyStyle::polish;
+    void polish(QPalette& palette) override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
