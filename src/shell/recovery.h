@@ -21,8 +21,8 @@ class Recovery {
     /// Writes the note anew with the time of day, and brings it to the disk.
     void RenewNote();
 
-    /// Copies the open work copy as a whole beside it, if it was written to since: a power cut may leave a part
-    /// of what was written last.
+    /// Copies the open work copy as a whole beside it, if it was written to since: a power cut may leave a
+    /// part of what was written last.
     void TakeSnapshot();
 
     /// Takes the note and the copy away: the work copy is about to be replaced, or the program ends in good
