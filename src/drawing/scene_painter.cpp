@@ -6,7 +6,7 @@
 namespace kelvor {
 
 const ScenePainter& LoadScenePainter() {
-    static const ScenePainter& painter = OpenDoor<ScenePainter>(
+    static const auto& painter = OpenDoor<ScenePainter>(
         {"kelvor-paint.so", kScenePainterEntryName, ToTranslate("The module that paints pictures")},
         kScenePainterVersion);
     return painter;

@@ -6,7 +6,7 @@
 namespace kelvor {
 
 const PageMaker& LoadPageMaker() {
-    static const PageMaker& maker = OpenDoor<PageMaker>(
+    static const auto& maker = OpenDoor<PageMaker>(
         {"kelvor-pages.so", kPageMakerEntryName, ToTranslate("The module that makes pages")},
         kPageMakerVersion);
     return maker;

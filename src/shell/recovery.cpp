@@ -160,7 +160,7 @@ void Recovery::Keep(const KeptProject& about) {
 std::string Recovery::ContentsOfCrashedWork() {
     try {
         state_.dbWork.Open(state_.home.WorkCopyFile(), state_.projectBounds, true);
-        const std::string contents = ContentsOf(state_);
+        std::string contents = ContentsOf(state_);
         state_.dbWork.Close();
         return contents;
     } catch (const DatabaseError& failure) {

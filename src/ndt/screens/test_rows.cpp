@@ -80,6 +80,7 @@ void SetIfBlank(ScreenContext& context, Form& form, std::string_view variable, d
 
 std::vector<Handler> RecalcWhenLeft(const std::vector<std::string>& inputs) {
     std::vector<Handler> handlers;
+    handlers.reserve(inputs.size());
     for (const std::string& input : inputs) {
         handlers.push_back({FormEvent::Stored, input, HandlerOrder::After, RecalcTests});
     }
