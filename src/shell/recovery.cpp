@@ -100,8 +100,10 @@ void Recovery::TakeSnapshot() {
     if (!state_.unsavedNoted || !state_.dbWork.IsOpen()) return;
     const int writes = state_.dbWork.writes();
     if (writes == state_.snapshotWrites) return;
+    const std::string content = state_.dbWork.WorkCopyContent();
+    if (content.empty()) return;  // rather the copy of before than none
     try {
-        ReplaceFile(state_.host.files, state_.home.SnapshotFile(), state_.dbWork.WorkCopyContent());
+        ReplaceFile(state_.host.files, state_.home.SnapshotFile(), content);
         state_.snapshotWrites = writes;
     } catch (const FileError&) {  // NOLINT(bugprone-empty-catch): tried again
     }
