@@ -66,6 +66,7 @@ struct GridColumn {
     std::vector<LetterWord> words;   // that a letter typed into a cell stands for
     double letters = 0.0;            // its width; 0: by its picture
     bool locked = false;             // shows computed values and takes none
+    bool writtenLast = false;        // in a block, after the rest of a row, which gives it its meaning
     ColumnRoutines routines = {};    // if its cells are not simply the project's
 };
 

@@ -295,6 +295,7 @@ class Builder {
         column.picture = variable == nullptr ? "" : variable->format;
         if (item.list) column.list = item.listName.empty() ? item.variable : item.listName;
         column.alsoSets = item.alsoSets;
+        column.writtenLast = item.writtenLast;
         column.words = item.words;
         column.letters = item.letters;
         column.routines = item.routines;

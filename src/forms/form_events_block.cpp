@@ -68,6 +68,8 @@ class PastePlanner {
             const bool same = text.empty() && GridReadCell(context_, form_, row, column).empty();
             if (!same) cells.push_back({row, grid_.column + i, std::move(text)});
         }
+        std::stable_partition(cells.begin(), cells.end(),
+                              [&](const CellEntry& cell) { return !grid_.columns[cell.column].writtenLast; });
         std::move(cells.begin(), cells.end(), std::back_inserter(plan_.cells));
     }
 

@@ -30,6 +30,7 @@ struct FieldItem {
     ColumnRoutines routines = {};  // of a column whose cells are not simply the project's
     std::string listName = {};     // of a list: its name among the lists; empty: the variable's
     std::string alsoSets = {};     // of a column: what else an entry changes, told by its hint
+    bool writtenLast = false;      // of a column: in a block, after the rest of a row, which gives it meaning
 
     [[nodiscard]] const std::string& Box() const { return box.empty() ? variable : box; }
     [[nodiscard]] std::string Label() const;

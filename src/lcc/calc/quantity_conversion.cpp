@@ -19,15 +19,6 @@ CellValue CellOf(const CalcContext& context, const char* column, int row, int pa
     return cell == nullptr ? CellValue{} : *cell;
 }
 
-/// True if one of the cells of a row that follow a switch holds anything; the others have nothing to follow.
-bool HoldsAnything(const CalcContext& context, const CostGrid& grid, int row, int pavement) {
-    const auto isFilled = [&](const char* column) {
-        return CellOf(context, column, row, pavement).IsFilled();
-    };
-    return isFilled(grid.quantity) || isFilled(grid.unit) || isFilled(grid.unitCost) ||
-           isFilled(grid.itemCost);
-}
-
 /// The number of a quantity in the active system, from its text; what it was if there is none.
 std::optional<double> Converted(const CalcContext& context, const CellValue& quantity, double factor) {
     const std::string& english = *quantity.text;
@@ -54,12 +45,11 @@ void ConvertRow(CalcContext& context, const CostGrid& grid, int row, int pavemen
     });
 }
 
-/// Converts the rows of both pavements; `calculate` works out each that holds anything.
+/// Converts the rows of both pavements; `calculate` works out each, and one without a quantity costs 0.
 template <typename Calculation>
 void ConvertRows(CalcContext& context, const CostGrid& grid, Calculation calculate) {
     for (const int pavement : kPavements) {
         for (int row = 1; row <= kLastConvertedRow; ++row) {
-            if (!HoldsAnything(context, grid, row, pavement)) continue;
             ConvertRow(context, grid, row, pavement);
             calculate(row, pavement);
         }

@@ -8,6 +8,7 @@
 #include "lcc/calc/item_quantity.h"
 #include "lcc/screens/cost_page.h"
 #include "platform/text.h"
+#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -26,12 +27,10 @@ std::string SwappedName(const ScreenContext& context, const std::string& stored)
     return metric ? found->metric : found->english;
 }
 
-/// The number of a quantity stands in the unit of its row; the English one behind it follows a change of
-/// that unit.
-void RestateQuantity(ScreenContext& context, const CostGrid& grid, int row, int pavement) {
+/// The English quantity behind a metric one was worked out by the unit that its row had then.
+bool HasMetricQuantity(const ScreenContext& context, const CostGrid& grid, int row, int pavement) {
     const CellValue* quantity = context.calc.store.FindCell(grid.quantity, row, pavement);
-    if (!context.units.bMetric() || quantity == nullptr || !quantity->number) return;
-    context.units.SetDisplayNumber(grid.quantity, row, pavement, *quantity->number);
+    return context.units.bMetric() && quantity != nullptr && quantity->number.has_value();
 }
 
 }  // namespace
@@ -40,8 +39,8 @@ void FollowCostCell(ScreenContext& context, Form& page, const CostGrid& grid) {
     const GridData& shown = *page.FindGrid()->grid;
     const std::string& variable = shown.current().variable;
     const int pavement = PavementOf(page);
-    if (EqualNoCase(variable, grid.unit)) {
-        RestateQuantity(context, grid, shown.row, pavement);
+    if (EqualNoCase(variable, grid.unit) && HasMetricQuantity(context, grid, shown.row, pavement)) {
+        ShowUnitNote(page, Translated("The quantity was entered for another unit: enter it again."));
     } else if (EqualNoCase(variable, grid.item)) {
         const std::string item = context.units.GetDisplayValue(variable, shown.row, pavement);
         if (!item.empty()) FillItem(context.calc, context.lists, grid, shown.row, pavement, item);

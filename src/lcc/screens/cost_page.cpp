@@ -83,7 +83,7 @@ FormType CostPage(const std::string& name, const std::vector<Handler>& own) {
         {FormEvent::Click, "PrevPage", HandlerOrder::Instead, PrevPageClick},
         {FormEvent::Click, "NextPage", HandlerOrder::Instead, NextPageClick},
         {FormEvent::Activate, "", HandlerOrder::Before, HideUnitNote},
-        {FormEvent::RowsWritten, "", HandlerOrder::Before, HideUnitNote},
+        {FormEvent::CellChanged, "Grid", HandlerOrder::Before, HideUnitNote},
     };
     type.handlers.insert(type.handlers.end(), own.begin(), own.end());
     return type;

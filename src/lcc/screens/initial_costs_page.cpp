@@ -43,7 +43,7 @@ FormType InitialCostsPage() {
     type.layout = Rows({
         Grid("Grid",
              {{.variable = kInitialGrid.item, .list = true, .letters = 32.0, .listName = kInitialGrid.items},
-              {.variable = "InitialQuantity", .routines = {.read = ReadQuantity}},
+              {.variable = "InitialQuantity", .routines = {.read = ReadQuantity}, .writtenLast = true},
               {.variable = "InitialUnit", .list = true, .letters = 12.0},
               {"InitialUnitCost"},
               {"InitialItemCost"}},

@@ -68,18 +68,20 @@ FormType RehabilitationPage() {
                            });
     type.caption = "Pavement (A) Maintenance & Rehabilitation Costs";
     type.layout = Rows({
-        LayoutElement{
-            layout::Grid{"Grid",
-                         {{.variable = "RehabItem", .list = true, .letters = 30.0},
-                          {.variable = "RehabYear", .letters = 8.0},
-                          {.variable = "RehabQuantity", .letters = 12.0, .routines = {.read = ReadQuantity}},
-                          {.variable = "RehabUnit", .list = true, .letters = 10.0},
-                          {.variable = "RehabUnitCost", .letters = 12.0},
-                          {"RehabItemCost"},
-                          {"PWCostR"}},
-                         kRowsShown,
-                         {.mayDelete = MayDelete, .mayEdit = MayEdit},
-                         kLastCostRow}},
+        LayoutElement{layout::Grid{"Grid",
+                                   {{.variable = "RehabItem", .list = true, .letters = 30.0},
+                                    {.variable = "RehabYear", .letters = 8.0},
+                                    {.variable = "RehabQuantity",
+                                     .letters = 12.0,
+                                     .routines = {.read = ReadQuantity},
+                                     .writtenLast = true},
+                                    {.variable = "RehabUnit", .list = true, .letters = 10.0},
+                                    {.variable = "RehabUnitCost", .letters = 12.0},
+                                    {"RehabItemCost"},
+                                    {"PWCostR"}},
+                                   kRowsShown,
+                                   {.mayDelete = MayDelete, .mayEdit = MayEdit},
+                                   kLastCostRow}},
         UnitNote(),
         Fields({{"ItemTotal4"}, {"PrWorthTotal4"}}),
     });

@@ -109,18 +109,38 @@ INSTANTIATE_TEST_SUITE_P(Pages, TwentySwitchesTest,
 
 TEST_F(CostPagesTest, AnEntryLeavesTheOtherPavementAsItIs) {
     Open("LcA1_2", 1);
+    SetRow(1, 2, {{"InitialQuantity", 5.0}, {"InitialUnitCost", 3.0}, {"InitialItemCost", 7.0}});
     EditCell(1, "InitialUnitCost", "2");
     EXPECT_EQ(Cell("InitialItemCost", 1, 1), 0.0);
-    EXPECT_EQ(Cell("InitialItemCost", 1, 2), std::nullopt);
+    EXPECT_EQ(Cell("InitialItemCost", 1, 2), 7.0);
 }
 
-TEST_F(CostPagesTest, AQuantityMayBeTypedBeforeItsUnit) {
+/// What is written under the table of a page.
+std::string NoteOf(const Form& page) { return page.Get("UNITNOTE").text; }
+
+TEST_F(CostPagesTest, AUnitChangedUnderAMetricQuantityIsStoredAsItStandsWithANote) {
     program_.program.ChooseUnits(true);
     Open("LcA1_2", 1);
     EditCell(1, "InitialQuantity", "83.612736");
+    EXPECT_EQ(NoteOf(Page()), "");
     EditCell(1, "InitialUnit", "sq m");
     EXPECT_EQ(Cell("InitialQuantity", 1, 1), 83.612736);
+    EXPECT_EQ(Text("InitialQuantity", 1, 1), "83.612736");
+    EXPECT_EQ(NoteOf(Page()), "The quantity was entered for another unit: enter it again.");
+    EditCell(1, "InitialQuantity", "83.612736");
     EXPECT_NEAR(ParseNumber(Text("InitialQuantity", 1, 1).value()), 100.0, 1e-9);
+    EXPECT_EQ(NoteOf(Page()), "");
+}
+
+TEST_F(CostPagesTest, AUnitWithoutAQuantityAndAnEnglishUnitNeedNoNote) {
+    Open("LcA1_4", 1);
+    EditCell(1, "RehabQuantity", "100");
+    EditCell(1, "RehabUnit", "sq yd");
+    EXPECT_EQ(NoteOf(Page()), "");
+    program_.program.ChooseUnits(true);
+    Open("LcA1_2", 1);
+    EditCell(1, "InitialUnit", "sq m");
+    EXPECT_EQ(NoteOf(Page()), "");
 }
 
 TEST_F(CostPagesTest, APastedQuantityFollowsTheUnitOfItsRow) {

@@ -118,14 +118,21 @@ TEST_F(QuantityConversionTest, AQuantityWithoutATextIsEmptiedAndOneThatIsNoNumbe
     EXPECT_EQ(Text("InitialUnit", 2, 1), "sq m");
 }
 
-TEST_F(QuantityConversionTest, ARowThatHoldsNothingGetsNoCosts) {
+TEST_F(QuantityConversionTest, ARowWithoutAQuantityCosts0) {
+    Set({{"DiscountRate", 4.0}, {"AnalysisPeriodA", 20.0}, {"AnalysisPeriodB", 20.0}});
     Initial(2, 1, "sq yd", "10", 4.0);
     Switch(true);
     for (const int row : {1, 3, 25}) {
-        EXPECT_EQ(Cell("InitialItemCost", row, 1), std::nullopt) << row;
-        EXPECT_EQ(Cell("RehabItemCost", row, 1), std::nullopt) << row;
-        EXPECT_EQ(Cell("PWCostR", row, 1), std::nullopt) << row;
+        for (const int pavement : {1, 2}) {
+            SCOPED_TRACE(testing::Message() << row << " of " << pavement);
+            EXPECT_EQ(Cell("InitialItemCost", row, pavement), 0.0);
+            EXPECT_EQ(Cell("RehabItemCost", row, pavement), 0.0);
+            EXPECT_EQ(Cell("PWCostR", row, pavement), 0.0);
+            EXPECT_EQ(Cell("InitialQuantity", row, pavement), std::nullopt);
+        }
     }
+    for (const char* column : {"InitialItemCost", "RehabItemCost", "PWCostR"})
+        EXPECT_EQ(Cell(column, 26, 1), std::nullopt) << column;
     EXPECT_EQ(Cell("ItemTotal2", 1, 2), 0.0);
     EXPECT_EQ(Cell("ItemTotal4", 1, 1), 0.0);
 }
