@@ -109,6 +109,32 @@ void Catalogue::ReadFields() {
                   field.heading = Text(row, 11);
                   fields_.push_back(std::move(field));
               });
+    GroupFields();
+}
+
+std::optional<std::uint32_t> Catalogue::FindFieldGroup(std::string_view screen) const {
+    return screenOfFields_.Find(screen, [this](std::uint32_t group) -> const std::string& {
+        return fields_[fieldsOfScreen_[group].front()].screen;
+    });
+}
+
+void Catalogue::GroupFields() {
+    for (std::size_t place = 0; place < fields_.size(); ++place) {
+        const std::string& screen = fields_[place].screen;
+        const auto known = FindFieldGroup(screen);
+        if (known) {
+            fieldsOfScreen_[*known].push_back(place);
+        } else {
+            screenOfFields_.Add(screen);
+            fieldsOfScreen_.push_back({place});
+        }
+    }
+}
+
+const std::vector<std::size_t>& Catalogue::PlacesOnScreen(std::string_view screen) const {
+    static const std::vector<std::size_t> kNone;
+    const auto found = FindFieldGroup(screen);
+    return found ? fieldsOfScreen_[*found] : kNone;
 }
 
 void Catalogue::ReadScreens() {
@@ -166,8 +192,8 @@ std::optional<std::string> Catalogue::HelpText(std::string_view name) const {
 
 std::vector<const Field*> Catalogue::FieldsOfScreen(std::string_view screen) const {
     std::vector<const Field*> found;
-    for (const Field& field : fields_) {
-        if (EqualNoCase(field.screen, screen) && FindVariable(field.name) != nullptr) found.push_back(&field);
+    for (const std::size_t place : PlacesOnScreen(screen)) {
+        if (FindVariable(fields_[place].name) != nullptr) found.push_back(&fields_[place]);
     }
     std::stable_sort(found.begin(), found.end(),
                      [](const Field* a, const Field* b) { return a->seq < b->seq; });
@@ -176,8 +202,8 @@ std::vector<const Field*> Catalogue::FieldsOfScreen(std::string_view screen) con
 
 std::vector<const Field*> Catalogue::OutputsOfScreen(std::string_view screen) const {
     std::vector<const Field*> found;
-    for (const Field& field : fields_) {
-        if (EqualNoCase(field.screen, screen) && field.IsOutput()) found.push_back(&field);
+    for (const std::size_t place : PlacesOnScreen(screen)) {
+        if (fields_[place].IsOutput()) found.push_back(&fields_[place]);
     }
     return found;
 }

@@ -145,11 +145,18 @@ class Catalogue {
     void ReadFields();
     void ReadScreens();
     void ReadUnitPairs();
+    void GroupFields();
+    [[nodiscard]] std::optional<std::uint32_t> FindFieldGroup(std::string_view screen) const;
+
+    /// The places of a screen's fields, in the order of the catalogue.
+    [[nodiscard]] const std::vector<std::size_t>& PlacesOnScreen(std::string_view screen) const;
 
     std::unique_ptr<SQLite::Database> database_;
     std::vector<Variable> variables_;
     NameIndex variableByName_;
     std::vector<Field> fields_;
+    NameIndex screenOfFields_;
+    std::vector<std::vector<std::size_t>> fieldsOfScreen_;  // in the order of that index: places in fields_
     std::vector<Screen> screens_;
     std::vector<UnitPair> unitPairs_;
 };

@@ -1,10 +1,10 @@
 #include "forms/access_keys.h"
 
 #include <algorithm>
-#include <map>
-#include <set>
-#include <unordered_map>
-#include <utility>
+#include <array>
+#include <bitset>
+#include <cstddef>
+#include <optional>
 
 namespace kelvor {
 
@@ -31,68 +31,77 @@ std::string KeyLetters(const std::string& text) {
 }
 
 /// Hands out access keys: as many controls as can be get one, and one that has one by its caption keeps it.
+/// Controls are known by their places on the form.
 class KeyGiver {
   public:
-    explicit KeyGiver(Controls& controls) {
+    explicit KeyGiver(const Controls& controls) : controls_(controls), given_(controls.size()) {
+        letters_.reserve(controls.size());
         for (std::size_t i = 0; i < controls.size(); ++i) {
-            places_.emplace(controls[i].get(), i);
-            if (controls[i]->accessKey != '\0')
-                holders_[controls[i]->accessKey].insert(HolderAt(*controls[i]));
+            letters_.push_back(KeyLetters(controls[i]->text));
+            if (controls[i]->accessKey != '\0') HoldersOf(controls[i]->accessKey).push_back(i);
         }
     }
 
+    /// The letters of the control's text that may be its key.
+    [[nodiscard]] const std::string& LettersOf(std::size_t control) const { return letters_[control]; }
+
     /// False if every letter of the control's text is needed elsewhere on its page.
-    bool Give(Control& control) {
-        std::set<char> tried;
+    bool Give(std::size_t control) {
+        Keys tried;
         return Give(control, tried);
     }
 
-    void Take(Control& control) { Change(control, '\0'); }
+    void Take(std::size_t control) { Change(control, '\0'); }
 
   private:
+    static constexpr std::size_t kKeys = 256;
+    using Keys = std::bitset<kKeys>;
+
+    static std::size_t Index(char key) { return static_cast<unsigned char>(key); }
+
     /// In the order of the form's controls.
-    using Holder = std::pair<std::size_t, Control*>;
+    [[nodiscard]] std::vector<std::size_t>& HoldersOf(char key) { return holders_[Index(key)]; }
 
-    [[nodiscard]] Holder HolderAt(Control& control) const { return {places_.at(&control), &control}; }
-
-    void Change(Control& control, char key) {
-        if (control.accessKey != '\0') holders_[control.accessKey].erase(HolderAt(control));
-        control.accessKey = key;
-        if (key != '\0') holders_[key].insert(HolderAt(control));
+    void Change(std::size_t control, char key) {
+        char& held = controls_[control]->accessKey;
+        if (held != '\0') std::erase(HoldersOf(held), control);
+        held = key;
+        if (key == '\0') return;
+        std::vector<std::size_t>& holders = HoldersOf(key);
+        holders.insert(std::lower_bound(holders.begin(), holders.end(), control), control);
     }
 
     /// Where no letter is free, one whose holder can do with another changes hands.
-    bool Give(Control& control, std::set<char>& tried) {
-        const std::string letters = KeyLetters(control.text);
+    bool Give(std::size_t control, Keys& tried) {
         const auto take = [&](char key) {
             Change(control, key);
-            given_.insert(&control);
+            given_[control] = true;
             return true;
         };
-        for (const char key : letters) {
-            if (key != control.accessKey && FindHolder(key, control) == nullptr) return take(key);
+        for (const char key : letters_[control]) {
+            if (key != controls_[control]->accessKey && !FindHolder(key, control)) return take(key);
         }
-        for (const char key : letters) {
-            Control* holder = FindHolder(key, control);
-            if (!given_.contains(holder) || !tried.insert(key).second) continue;
+        for (const char key : letters_[control]) {
+            const auto holder = FindHolder(key, control);
+            if (!holder || !given_[*holder] || tried[Index(key)]) continue;
+            tried[Index(key)] = true;
             if (Give(*holder, tried)) return take(key);
         }
         return false;
     }
 
-    /// The first control on the same page that has a key; null if there is none.
-    [[nodiscard]] Control* FindHolder(char key, const Control& wanted) const {
-        const auto holders = holders_.find(key);
-        if (holders == holders_.end()) return nullptr;
-        for (const auto& [place, holder] : holders->second) {
-            if (holder != &wanted && SharePage(*holder, wanted)) return holder;
+    /// The first control on the same page that has a key.
+    [[nodiscard]] std::optional<std::size_t> FindHolder(char key, std::size_t wanted) {
+        for (const std::size_t holder : HoldersOf(key)) {
+            if (holder != wanted && SharePage(*controls_[holder], *controls_[wanted])) return holder;
         }
-        return nullptr;
+        return std::nullopt;
     }
 
-    std::unordered_map<const Control*, std::size_t> places_;
-    std::map<char, std::set<Holder>> holders_;
-    std::set<const Control*> given_;
+    const Controls& controls_;
+    std::vector<std::string> letters_;
+    std::array<std::vector<std::size_t>, kKeys> holders_;
+    std::vector<bool> given_;
 };
 
 /// True for a button, and for a label that is seen of a box that takes the focus.
@@ -119,10 +128,11 @@ char MarkedKey(const std::string& caption) {
 
 void AssignAccessKeys(std::vector<std::unique_ptr<Control>>& controls) {
     KeyGiver giver(controls);
-    for (const auto& control : controls) {
-        const bool lost = KeyLetters(control->text).find(control->accessKey) == std::string::npos;
-        if (!control->labelOf.empty() && lost) giver.Take(*control);
-        if (WantsAccessKey(controls, *control)) giver.Give(*control);
+    for (std::size_t i = 0; i < controls.size(); ++i) {
+        const Control& control = *controls[i];
+        const bool lost = giver.LettersOf(i).find(control.accessKey) == std::string::npos;
+        if (!control.labelOf.empty() && lost) giver.Take(i);
+        if (WantsAccessKey(controls, control)) giver.Give(i);
     }
 }
 

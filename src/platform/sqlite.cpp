@@ -23,6 +23,24 @@ constexpr int kMostSteps = 50'000'000;
 
 int EndStatement(void* /*unused*/) { return 1; }
 
+/// Sets what holds for all databases, once and before the first; false if that was too late. By default
+/// SQLite counts the memory that it takes, under a lock that all threads share, and nobody asks for it. No
+/// file is mapped into memory: one that another program cuts short would end this one.
+bool IsConfigured() {
+    static const bool configured = [] {
+        constexpr sqlite3_int64 kNone = 0;
+        return sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0) == SQLITE_OK &&
+               sqlite3_config(SQLITE_CONFIG_MMAP_SIZE, kNone, kNone) == SQLITE_OK;
+    }();
+    return configured;
+}
+
+/// No locks around each call, of which a row takes a dozen: no database is used by two threads at a time.
+SQLite::Database Connect(const std::string& file, int flags) {
+    IsConfigured();
+    return {file, flags | SQLite::OPEN_NOMUTEX, kBusyMilliseconds};
+}
+
 void Distrust(SQLite::Database& database) {
     sqlite3* handle = database.getHandle();
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
@@ -31,7 +49,8 @@ void Distrust(SQLite::Database& database) {
     sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
     sqlite3_limit(handle, SQLITE_LIMIT_LENGTH, kLongestValue);
     sqlite3_progress_handler(handle, kMostSteps, EndStatement, nullptr);
-    database.exec("PRAGMA cell_size_check = ON; PRAGMA mmap_size = 0");
+    database.exec("PRAGMA cell_size_check = ON");
+    if (!IsConfigured()) database.exec("PRAGMA mmap_size = 0");
 }
 
 /// A pipe, or a device that never ends, is no database. What is missing or a folder SQLite tells itself.
@@ -47,13 +66,12 @@ void CheckKind(const Path& path) {
 /// A file that cannot be opened for writing at the moment is opened by SQLite for reading alone, and would
 /// stay so; then it is tried once more.
 SQLite::Database OpenFile(const Path& path, DatabaseAccess access) {
-    // No locks around each call, of which a row takes a dozen: no database is used by two threads.
     const bool writes = access == DatabaseAccess::ReadWrite;
-    const int flags = (writes ? SQLite::OPEN_READWRITE : SQLite::OPEN_READONLY) | SQLite::OPEN_NOMUTEX;
-    SQLite::Database database(path.string(), flags, kBusyMilliseconds);
+    const int flags = writes ? SQLite::OPEN_READWRITE : SQLite::OPEN_READONLY;
+    SQLite::Database database = Connect(path.string(), flags);
     const bool readsAlone = sqlite3_db_readonly(database.getHandle(), "main") == 1;
     if (!writes || !readsAlone || !NativeFileSystem().IsWritable(path)) return database;
-    return {path.string(), flags, kBusyMilliseconds};
+    return Connect(path.string(), flags);
 }
 
 /// A file whose last page is cut would read as if zeros stood there.
@@ -88,6 +106,12 @@ void CheckTable(SQLite::Statement& query, const TableShape& shape) {
     if (count == 0) throw DatabaseError(Filled(Translated("table %1 is missing"), {name}), false);
     if (count != shape.columns.size())
         throw DatabaseError(Filled(Translated("table %1 lacks columns"), {name}), false);
+}
+
+void CheckTables(SQLite::Database& database, const std::vector<TableShape>& tables) {
+    // The plain table_info keeps quiet about computed columns.
+    SQLite::Statement columns(database, "SELECT name, hidden FROM pragma_table_xinfo(?)");
+    for (const TableShape& table : tables) CheckTable(columns, table);
 }
 
 /// The tables that are not made by the statement that their shape gives, if it gives one. Whatever does not
@@ -202,26 +226,42 @@ SQLite::Database OpenDatabase(const Path& path, DatabaseAccess access) {
     }
 }
 
+SQLite::Database OpenContent(const std::string& content) {
+    try {
+        SQLite::Database database = Connect(":memory:", SQLite::OPEN_READWRITE);
+        // Of a content for reading alone SQLite writes nothing into what it is given.
+        auto* bytes = reinterpret_cast<unsigned char*>(const_cast<char*>(content.data()));
+        const auto size = static_cast<sqlite3_int64>(content.size());
+        const int result =
+            sqlite3_deserialize(database.getHandle(), "main", bytes, size, size, SQLITE_DESERIALIZE_READONLY);
+        if (result != SQLITE_OK) throw SQLite::Exception(database.getHandle(), result);
+        Distrust(database);
+        return database;
+    } catch (const SQLite::Exception& failure) {
+        throw ToDatabaseError(failure);
+    }
+}
+
 void LiftStatementLimit(SQLite::Database& database) {
     sqlite3_progress_handler(database.getHandle(), 0, nullptr, nullptr);
 }
 
 void CheckRowCounts(SQLite::Database& database, const std::vector<std::string_view>& tables,
                     std::int64_t most) {
-    // Of the tables themselves, as an index of a damaged one may have other rows.
-    std::string query;
+    // Of the tables themselves, as an index of a damaged one may have other rows. Each column tells of a
+    // table whether it has a row beyond the last one that it may have.
+    std::string query = "SELECT ";
     for (const std::string_view table : tables) {
-        const std::string name(table);
-        query += query.empty() ? "" : " UNION ALL ";
-        query += "SELECT '" + name + "' WHERE EXISTS (SELECT 1 FROM \"" + name +
-                 "\" NOT INDEXED LIMIT 1 OFFSET ?1)";
+        if (table != tables.front()) query += ", ";
+        query += "(SELECT 1 FROM \"" + std::string(table) + "\" NOT INDEXED LIMIT 1 OFFSET ?1)";
     }
     try {
-        SQLite::Statement tooLarge(database, query);
-        tooLarge.bind(1, most);
-        if (tooLarge.executeStep()) {
-            const std::string name = tooLarge.getColumn(0);
-            throw DatabaseError(Filled(Translated("table %1 has too many rows"), {name}), false);
+        SQLite::Statement rowsBeyond(database, query);
+        rowsBeyond.bind(1, most);
+        rowsBeyond.executeStep();
+        for (std::size_t i = 0; i < tables.size(); ++i) {
+            if (rowsBeyond.getColumn(static_cast<int>(i)).isNull()) continue;
+            throw DatabaseError(Filled(Translated("table %1 has too many rows"), {tables[i]}), false);
         }
     } catch (const SQLite::Exception& failure) {
         throw ToDatabaseError(failure);
@@ -232,9 +272,7 @@ void CheckShape(SQLite::Database& database, const std::vector<TableShape>& table
     try {
         SQLite::Transaction reading(database);  // one, so that the file is not locked for each query
         const std::vector<TableShape> unknown = UnknownTables(database, tables, only);
-        // The plain table_info keeps quiet about computed columns.
-        SQLite::Statement columns(database, "SELECT name, hidden FROM pragma_table_xinfo(?)");
-        for (const TableShape& table : unknown) CheckTable(columns, table);
+        if (!unknown.empty()) CheckTables(database, unknown);
         reading.commit();
     } catch (const SQLite::Exception& failure) {
         throw ToDatabaseError(failure);

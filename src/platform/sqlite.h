@@ -31,6 +31,10 @@ struct TableShape {
 /// they read as rows without end. To be used by one thread. Throws DatabaseError.
 SQLite::Database OpenDatabase(const Path& path, DatabaseAccess access);
 
+/// Opens what a database file would hold, with the same distrust, for reading alone. The content must outlive
+/// it. Throws DatabaseError.
+SQLite::Database OpenContent(const std::string& content);
+
 /// Lets statements of a database take any time. For one whose pages and rows were checked, before a statement
 /// is made that is used again and again: SQLite counts the steps of all its uses together.
 void LiftStatementLimit(SQLite::Database& database);

@@ -18,6 +18,7 @@
 #include "reports/run/report_desk.h"
 #include "shell/home.h"
 #include "shell/kept_work.h"
+#include "shell/template_reader.h"
 #include "store/project_store.h"
 #include "units/units.h"
 
@@ -88,6 +89,8 @@ struct ProcessState {
     ReportDesk reports;
 
     std::unique_ptr<FileLock> workLock;
+
+    std::optional<TemplateReader> templateReader;  // during the start; for the first project
 
   private:
     int events_ = 0;

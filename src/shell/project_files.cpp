@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <functional>
 #include <optional>
+#include <utility>
 
 #include "platform/database_error.h"
 #include "platform/ini_file.h"
@@ -42,8 +43,8 @@ std::size_t DigestOf(const std::string& content) { return std::hash<std::string>
 
 // --- The work copy ---------------------------------------------------------------------------------
 
-void ProjectFiles::OpenWorkCopy(bool checkPages) {
-    state_.dbWork.Open(state_.home.WorkCopyFile(), state_.projectBounds, checkPages);
+void ProjectFiles::OpenWorkCopy(bool checkPages, const ProjectCells* known) {
+    state_.dbWork.Open(state_.home.WorkCopyFile(), state_.projectBounds, checkPages, known);
     state_.bProjectChanged = false;
     state_.units->SetMetric(state_.dbWork.GetVar("MetricMode") == kMetricMode);
 }
@@ -81,11 +82,13 @@ bool ProjectFiles::NewWorkCopy() {
     }
     Path culprit = source;
     try {
-        const std::string content = state_.host.files.Read(source, kLargestProject);
+        auto read = state_.templateReader ? state_.templateReader->Take() : std::nullopt;
+        const std::string content =
+            read ? std::move(read->content) : state_.host.files.Read(source, kLargestProject);
         culprit = state_.home.WorkCopyFile();
         WriteWorkCopy(content);
         culprit = source;
-        OpenWorkCopy(false);
+        OpenWorkCopy(false, read ? &read->cells : nullptr);
         return true;
     } catch (const FileError& failure) {
         Report("Error loading from " + culprit.string() + ": " + failure.what());

@@ -47,7 +47,7 @@ class ProjectFiles {
     bool SaveProjectAs(const std::string& name);
 
   private:
-    void OpenWorkCopy(bool checkPages);
+    void OpenWorkCopy(bool checkPages, const ProjectCells* known = nullptr);
     void CloseWorkCopyQuietly();
     [[nodiscard]] bool MayOverwrite(const std::string& path);
     void KeepFormerVersion(const std::string& path, const std::string& content);

@@ -175,7 +175,9 @@ StartResult RunStart(ProcessState& state, const std::string& commandLine) {
 StartResult Main(ProcessState& state, const std::string& commandLine) {
     state.bReportsUnavailable = false;
     state.host.dialogs.SetWaitCursor(true);
+    if (TrimBlanks(commandLine).empty()) state.templateReader.emplace(state.home.Template());
     const StartResult result = RunStart(state, commandLine);
+    state.templateReader.reset();
     // With an absent file the start ends early, and the wait cursor stays.
     if (result != StartResult::FileMissing) state.host.dialogs.SetWaitCursor(false);
     return result;

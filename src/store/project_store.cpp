@@ -37,8 +37,18 @@ std::size_t CountCells(const std::vector<CellBounds>& bounds) {
 }  // namespace
 
 void SortByName(std::vector<CellBounds>& bounds) {
-    std::sort(bounds.begin(), bounds.end(),
-              [](const CellBounds& a, const CellBounds& b) { return CompareNames(a.name, b.name) < 0; });
+    // By names in one case, made once: a comparison that folds letters takes longer than the rest.
+    std::vector<std::pair<std::string, std::size_t>> order;
+    order.reserve(bounds.size());
+    for (std::size_t i = 0; i < bounds.size(); ++i) {
+        std::string& folded = order.emplace_back(bounds[i].name, i).first;
+        std::transform(folded.begin(), folded.end(), folded.begin(), FoldLetter);
+    }
+    std::sort(order.begin(), order.end());
+    std::vector<CellBounds> sorted;
+    sorted.reserve(bounds.size());
+    for (const auto& [name, place] : order) sorted.push_back(std::move(bounds[place]));
+    bounds = std::move(sorted);
 }
 
 std::string CellText(std::string_view name, int dim1, int dim2) {
@@ -51,35 +61,43 @@ ProjectStore::~ProjectStore() { Abandon(); }
 
 // --- Opening and closing -----------------------------------------------------------------------
 
-void ProjectStore::Open(const Path& workCopy, const std::vector<CellBounds>& bounds, bool checkPages) {
+void ProjectStore::Open(const Path& workCopy, const std::vector<CellBounds>& bounds, bool checkPages,
+                        const ProjectCells* known) {
     Abandon();
     ++openings_;
     workCopy_ = std::make_unique<WorkCopy>(workCopy, checkPages);
     try {
+        if (workCopy_->version() != kProjectVersion) known = nullptr;  // it will have other rows
         BringUpToDate(*workCopy_, bounds);
-        if (checkPages || !LoadByBounds(bounds)) LoadByRows(bounds);
+        if (checkPages || !LoadByBounds(bounds, known)) LoadByRows(bounds);
     } catch (...) {
         Abandon();
         throw;
     }
 }
 
-bool ProjectStore::LoadByBounds(const std::vector<CellBounds>& bounds) {
+bool ProjectStore::LoadByBounds(const std::vector<CellBounds>& bounds, const ProjectCells* known) {
     const auto unordered = [](const CellBounds& a, const CellBounds& b) {
         return CompareNames(a.name, b.name) >= 0;
     };
     const std::size_t count = CountCells(bounds);
-    if (count > kUsualCells || count != workCopy_->CountRows() ||
+    if (count > kUsualCells || count != (known != nullptr ? known->rows : workCopy_->CountRows()) ||
         std::adjacent_find(bounds.begin(), bounds.end(), unordered) != bounds.end()) {
         return false;
     }
     LayOut(bounds);
     bool within = true;
-    workCopy_->ReadFilledRows([&](const WorkCopy::Row& row) {
-        const auto place = FindPlace(row.name, row.dim1, row.dim2);
-        if (place) variables_[place->variable].Touch(place->cell).value = row.value;
+    const auto fill = [&](std::string_view name, int dim1, int dim2, const CellValue& value) {
+        const auto place = FindPlace(name, dim1, dim2);
+        if (place) variables_[place->variable].Touch(place->cell).value = value;
         within = within && place;
-    });
+    };
+    if (known != nullptr) {
+        for (const auto& [key, value] : known->cells) fill(key.name, key.dim1, key.dim2, value);
+    } else {
+        workCopy_->ReadFilledRows(
+            [&](const WorkCopy::Row& row) { fill(row.name, row.dim1, row.dim2, row.value); });
+    }
     if (!within) ForgetCells();
     return within;
 }

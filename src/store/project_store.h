@@ -19,6 +19,7 @@
 namespace kelvor {
 
 class WorkCopy;
+struct ProjectCells;
 
 /// The program's stop: a read, or a subscripted write, of a cell that has no row. A fault of the
 /// program or of its template; nothing that ignores failures may swallow it.
@@ -61,8 +62,10 @@ class ProjectStore {
 
     /// Opens a work copy, which must hold every cell of `bounds`. With `checkPages`, as for a file from
     /// outside, each page and each row is looked at; without, a row that is missing where another is too many
-    /// shows when it is written. Throws DatabaseError, and the store is then closed.
-    void Open(const Path& workCopy, const std::vector<CellBounds>& bounds, bool checkPages);
+    /// shows when it is written. `known` are the cells of a work copy that were read before, of the content
+    /// that it was made with. Throws DatabaseError, and the store is then closed.
+    void Open(const Path& workCopy, const std::vector<CellBounds>& bounds, bool checkPages,
+              const ProjectCells* known = nullptr);
 
     /// Brings every change to the work copy and closes it. Throws DatabaseError, still open, if a
     /// change cannot be written.
@@ -175,7 +178,7 @@ class ProjectStore {
     /// Lays the cells out as `bounds` says and reads the filled ones alone. False, with nothing loaded, if
     /// the work copy is not known to hold these cells and no others, or the bounds are not in the order of
     /// names.
-    [[nodiscard]] bool LoadByBounds(const std::vector<CellBounds>& bounds);
+    [[nodiscard]] bool LoadByBounds(const std::vector<CellBounds>& bounds, const ProjectCells* known);
     void LayOut(const std::vector<CellBounds>& bounds);
 
     void LoadByRows(const std::vector<CellBounds>& bounds);

@@ -90,6 +90,31 @@ std::optional<double> FiniteNumber(const RowView& row, std::size_t column) {
     return value && std::isfinite(*value) ? value : std::nullopt;
 }
 
+/// The last column first: the way to it passes the other one, which is then at hand.
+const char* const kFilled = "SValue IS NOT NULL OR RValue IS NOT NULL";
+
+/// Visits the rows that meet a condition, all if it is empty, in key order.
+void VisitProject(SQLite::Database& database, const std::string& condition,
+                  const std::function<void(const WorkCopy::Row&)>& visit) {
+    WorkCopy::Row row;
+    VisitRows(
+        database, "Project", "Name, Dim1, Dim2, RValue, SValue", "Name, Dim1, Dim2",
+        [&](const RowView& columns) {
+            row.name = columns.Letters(0);
+            row.dim1 = Subscript(columns, 1);
+            row.dim2 = Subscript(columns, 2);
+            row.value.number = FiniteNumber(columns, 3);
+            row.value.text.reset();
+            if (columns.IsText(4)) row.value.text = columns.Letters(4);
+            visit(row);
+        },
+        condition);
+}
+
+std::size_t CountProject(SQLite::Database& database) {
+    return static_cast<std::size_t>(database.execAndGet("SELECT count(*) FROM Project").getInt64());
+}
+
 void Run(const std::function<void()>& action) {
     try {
         action();
@@ -111,6 +136,16 @@ WorkCopy::WorkCopy(const Path& path, bool checkPages, int newest)
 
 WorkCopy::~WorkCopy() = default;
 
+ProjectCells ReadProjectCells(const std::string& content) {
+    SQLite::Database database = OpenContent(content);
+    ProjectCells found;
+    Run([&] { found.rows = CountProject(database); });
+    VisitProject(database, kFilled, [&](const WorkCopy::Row& row) {
+        found.cells.push_back({{std::string(row.name), row.dim1, row.dim2}, row.value});
+    });
+    return found;
+}
+
 void WorkCopy::AddMissingRows(const std::string& name, int dim1, int dim2) {
     Run([&] {
         SQLite::Statement insert(*database_, "INSERT OR IGNORE INTO Project VALUES (?, ?, ?, NULL, NULL)");
@@ -131,42 +166,33 @@ void WorkCopy::SetVersion(int version) {
     version_ = version;
 }
 
-void WorkCopy::ReadRows(const std::function<void(const Row&)>& visit) { ReadRowsThat("", visit); }
+void WorkCopy::ReadRows(const std::function<void(const Row&)>& visit) { VisitProject(*database_, "", visit); }
 
 void WorkCopy::ReadFilledRows(const std::function<void(const Row&)>& visit) {
-    // The last column first: the way to it passes the other one, which is then at hand.
-    ReadRowsThat("SValue IS NOT NULL OR RValue IS NOT NULL", visit);
+    VisitProject(*database_, kFilled, visit);
 }
 
 std::size_t WorkCopy::CountRows() {
-    std::int64_t count = 0;
-    Run([&] { count = database_->execAndGet("SELECT count(*) FROM Project").getInt64(); });
-    return static_cast<std::size_t>(count);
+    std::size_t count = 0;
+    Run([&] { count = CountProject(*database_); });
+    return count;
 }
 
-void WorkCopy::ReadRowsThat(const std::string& condition, const std::function<void(const Row&)>& visit) {
-    Row row;
-    VisitRows(
-        *database_, "Project", "Name, Dim1, Dim2, RValue, SValue", "Name, Dim1, Dim2",
-        [&](const RowView& columns) {
-            row.name = columns.Letters(0);
-            row.dim1 = Subscript(columns, 1);
-            row.dim2 = Subscript(columns, 2);
-            row.value.number = FiniteNumber(columns, 3);
-            row.value.text.reset();
-            if (columns.IsText(4)) row.value.text = columns.Letters(4);
-            visit(row);
-        },
-        condition);
-}
-
-void WorkCopy::Update(std::string_view name, int dim1, int dim2, const CellValue& value) {
+void WorkCopy::Update(const std::string& name, int dim1, int dim2, const CellValue& value) {
     Run([&] {
         update_->tryReset();  // what failed before is no failure of this change
-        update_->clearBindings();
-        if (value.number) update_->bind(1, *value.number);
-        if (value.text) update_->bind(2, *value.text);
-        update_->bind(3, std::string(name));
+        // What is bound here is used here: the next change binds its own before it runs.
+        if (value.number) {
+            update_->bind(1, *value.number);
+        } else {
+            update_->bind(1);
+        }
+        if (value.text) {
+            update_->bindNoCopy(2, *value.text);
+        } else {
+            update_->bind(2);
+        }
+        update_->bindNoCopy(3, name);
         update_->bind(4, dim1);
         update_->bind(5, dim2);
         const int rows = update_->exec();

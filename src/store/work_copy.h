@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/file_system.h"
 #include "store/cell.h"
@@ -29,6 +30,19 @@ inline constexpr int kProjectVersion = 1;
 /// SQLite's application_id of a project file, "KVRP" in its header: by it a desktop tells a project from
 /// other databases.
 inline constexpr int kProjectApplicationId = 0x4B565250;
+
+/// What a project file holds without its empty cells.
+struct ProjectCells {
+    struct Cell {
+        CellKey key;
+        CellValue value;
+    };
+    std::size_t rows = 0;  // of all cells, the empty ones too
+    std::vector<Cell> cells;
+};
+
+/// Reads it of the content of a file, from memory. Throws DatabaseError.
+ProjectCells ReadProjectCells(const std::string& content);
 
 /// The database of the open project: table Project and nothing else. It is locked for this process,
 /// keeps a rollback journal, and is not flushed: it is a working copy, and saving copies it whole.
@@ -65,7 +79,7 @@ class WorkCopy {
     void AddMissingRows(const std::string& name, int dim1, int dim2);
     void SetVersion(int version);
 
-    void Update(std::string_view name, int dim1, int dim2, const CellValue& value);
+    void Update(const std::string& name, int dim1, int dim2, const CellValue& value);
 
     /// Waits until all that was committed is on the disk, if the last time was half a minute ago or more. Due
     /// at the end of each event, and now and then without one: so a power cut costs a minute of work at most.
@@ -88,8 +102,6 @@ class WorkCopy {
     using SteadyTime = std::chrono::steady_clock::time_point;
 
     [[nodiscard]] bool Flush() noexcept;
-    void ReadRowsThat(const std::string& condition, const std::function<void(const Row&)>& visit);
-
     std::unique_ptr<SQLite::Database> database_;
     int version_ = kProjectVersion;
     std::unique_ptr<SQLite::Statement> update_;

@@ -51,6 +51,18 @@ class FormsTest : public testing::Test {
         std::make_unique<ScreenContext>(program_.program.state().MakeScreenContext());
 };
 
+TEST_F(FormsTest, TheFormThatWasInFrontBeforeComesUpWhenOneCloses) {
+    Open("DeF");
+    Open("DeR");
+    Open("DeS");
+    ASSERT_TRUE(Raise(Kind::ActivateForm, "DeF"));
+    ASSERT_TRUE(Raise(Kind::ActivateForm, "DeS"));
+    ASSERT_TRUE(Raise(Kind::CloseForm, "DeS"));
+    EXPECT_EQ(program_.program.state().formRegistry.CurrentForm->name(), "DeF");
+    ASSERT_TRUE(Raise(Kind::CloseForm, "DeF"));
+    EXPECT_EQ(program_.program.state().formRegistry.CurrentForm->name(), "DeR");
+}
+
 TEST_F(FormsTest, AnArrowKeyInAGroupWithoutAnOptionThatTakesTheFocusDoesNothing) {
     ASSERT_TRUE(Raise(Kind::SwitchTab, {}, {}, 2));
     Form& hub = *program_.program.state().formRegistry.CurrentForm;

@@ -1,5 +1,6 @@
 // The pages of cost data as a user works in them.
 
+#include <algorithm>
 #include <array>
 #include <random>
 #include <string>
@@ -234,6 +235,16 @@ TEST_F(HistogramProgressTest, EachStepIsShownAndTheProgressGoes) {
                                         "Building histogram (costs for 1 year).",
                                         "Building histogram (costs for 2 year)."}));
     EXPECT_FALSE(dialogs_.isShown);
+}
+
+TEST_F(HistogramProgressTest, EachBarIsToldInDigits) {
+    program_.SetValue("AnalysisPeriodA", 1, 1, "2");
+    OpenHistogram();
+    const auto& controls = program_.state().formRegistry.CurrentForm->controls();
+    const auto chart = std::find_if(controls.begin(), controls.end(),
+                                    [](const auto& control) { return control->chart.has_value(); });
+    ASSERT_NE(chart, controls.end());
+    EXPECT_TRUE((*chart)->chart->showsValues);
 }
 
 TEST_F(HistogramProgressTest, WithoutAPeriodThereIsNone) {

@@ -68,6 +68,26 @@ TEST_F(SqliteTest, ADatabaseOpensForReadingOrWriting) {
     EXPECT_THROW(database.exec("DELETE FROM Number"), SQLite::Exception);
 }
 
+TEST_F(SqliteTest, AContentIsReadWithoutAFileAndStaysAsItIs) {
+    MakeNumbers(10);
+    const std::string content = ReadFile(file_);
+    std::filesystem::remove(file_);
+    const std::string before = content;
+    SQLite::Database database = OpenContent(content);
+    EXPECT_EQ(database.execAndGet("SELECT count(*) FROM Number").getInt(), 10);
+    EXPECT_THROW(database.exec("DELETE FROM Number"), SQLite::Exception);
+    EXPECT_EQ(content, before);
+}
+
+TEST_F(SqliteTest, AContentThatIsNoDatabaseShowsWhenItIsRead) {
+    for (const std::string& content : {std::string(), std::string("x"), std::string(20000, 'x')}) {
+        EXPECT_ANY_THROW({
+            SQLite::Database database = OpenContent(content);
+            database.execAndGet("SELECT count(*) FROM Number");
+        }) << content.size();
+    }
+}
+
 TEST_F(SqliteTest, WhatIsNoDatabaseIsToldFromOneWithAFault) {
     MakeNumbers(10);
     const std::string whole = ReadFile(file_);

@@ -6,6 +6,8 @@
 #include <type_traits>
 
 #include "platform/sqlite.h"
+#include "store/work_copy.h"
+#include "support/test_home.h"
 #include "support/test_host.h"
 
 namespace kelvor::test {
@@ -251,6 +253,59 @@ TEST_F(ProjectStoreTest, ACellThatTheBoundsNameMustBeThere) {
     EXPECT_FALSE(store.IsOpen());
     EXPECT_THROW(store.Open(other / "kvrwork.tmp", {{"SN", 1, 2}}, false), DatabaseError);
     EXPECT_THROW(store.Open(other / "kvrwork.tmp", {{"NOSUCH", 1, 1}}, false), DatabaseError);
+}
+
+// --- Cells that were read before ------------------------------------------------------------------------
+
+/// A store of a copy of the template, opened with what is said to be in it.
+class KnownCellsTest : public testing::Test {
+  protected:
+    KnownCellsTest() { std::filesystem::copy_file(home_.home().Template(), file_); }
+
+    ProjectCells Read() { return ReadProjectCells(ReadFile(file_)); }
+
+    TestHome home_;
+    Path file_ = home_ / "kvrwork.tmp";
+    TestProgram program_;
+    const std::vector<CellBounds>& bounds_ = program_.program.state().projectBounds;
+    ProjectStore store_;
+};
+
+TEST_F(KnownCellsTest, OpenAProjectWithoutAnotherLookAtIt) {
+    { WorkCopy(file_, true).Update("SN", 1, 1, {4.5, "4.5"}); }
+    const ProjectCells known = Read();
+    store_.Open(file_, bounds_, false, &known);
+    EXPECT_EQ(*store_.FindCell("SN", 1, 1), (CellValue{4.5, "4.5"}));
+    EXPECT_TRUE(store_.CompareWithWorkCopy().empty());
+    store_.SetVar("SN", 5.5);
+    EXPECT_TRUE(store_.CompareWithWorkCopy().empty());
+}
+
+TEST_F(KnownCellsTest, ThatDoNotFitTheCellsOfAProjectAreOfNoUse) {
+    ProjectCells fewer = Read();
+    --fewer.rows;
+    ProjectCells strange = Read();
+    strange.cells.push_back({{"SN", 2, 1}, {1.0, std::nullopt}});
+    for (const ProjectCells& known : {fewer, strange}) {
+        store_.Open(file_, bounds_, false, &known);
+        EXPECT_TRUE(store_.CompareWithWorkCopy().empty());
+        EXPECT_EQ(store_.FindCell("SN", 2, 1), nullptr);
+    }
+}
+
+/// The order of names is SQLite's own, without which a project is read row by row.
+TEST(SortByNameTest, IsTheOrderOfTheDatabase) {
+    std::vector<CellBounds> bounds = {{"b1"}, {"A_2"}, {"a"}, {"Az"}, {"AB"}, {"a1"}, {"B"}, {"b_"}, {"A10"}};
+    SQLite::Database database(":memory:", SQLite::OPEN_READWRITE);
+    database.exec("CREATE TABLE Name (Name TEXT COLLATE NOCASE)");
+    for (const CellBounds& variable : bounds)
+        database.exec("INSERT INTO Name VALUES ('" + variable.name + "')");
+    SQLite::Statement sorted(database, "SELECT Name FROM Name ORDER BY Name");
+    SortByName(bounds);
+    for (const CellBounds& variable : bounds) {
+        ASSERT_TRUE(sorted.executeStep());
+        EXPECT_EQ(variable.name, sorted.getColumn(0).getString());
+    }
 }
 
 }  // namespace
