@@ -64,8 +64,9 @@ SolveCount CountSolve(BenchProgram& program);
 /// and of peak memory.
 std::vector<Comparison> CompareStarts(const Path& home);
 
-/// Starts the window and an empty one in turns, without a display, and compares them; then how long screens
-/// take to open, a key to be seen and a block of tests to be pasted. Nothing if the window was not built.
+/// Starts the window in turns with an empty one, and with a plain one with as much in it, without a display,
+/// and compares them; then how long screens take to open, a key to be seen and a block of tests to be pasted.
+/// Nothing if the window was not built.
 std::vector<Comparison> CompareWindows(const Path& home);
 
 }  // namespace kelvor::bench
