@@ -31,6 +31,13 @@ QString InWords(const ChartData& sheet) {
     return layers.join(", ");
 }
 
+/// What it tells of any other chart: what is drawn there.
+QString SeriesNames(const ChartData& sheet) {
+    QStringList names;
+    for (const ChartSeries& series : sheet.series) names << ToQt(series.name);
+    return names.join(", ");
+}
+
 QSize LeastSize(const ChartData& sheet, double letters, const QFontMetrics& metrics) {
     const double usual = IsSection(sheet) ? kSectionLetters : kChartLetters;
     const double wide = letters > 0.0 ? letters : usual;
@@ -49,7 +56,7 @@ ChartView::ChartView(const ChartData& sheet, double letters, QWidget* parent) : 
 void ChartView::Show(const ChartData& sheet) {
     shown_ = sheet;
     setAccessibleName(ToQt(sheet.title).replace(u'\n', ", "));
-    setAccessibleDescription(IsSection(sheet) ? InWords(sheet) : QString());
+    setAccessibleDescription(IsSection(sheet) ? InWords(sheet) : SeriesNames(sheet));
     update();
 }
 

@@ -218,6 +218,9 @@ GridView::GridView(const Control& control, GridHooks hooks, QWidget* parent)
     setSelectionMode(QAbstractItemView::ContiguousSelection);
     setAlternatingRowColors(false);
     setAccessibleName(TranslatedText("Table"));
+    QStringList captions;
+    for (const GridColumn& column : control.grid->columns) captions.append(ToQt(column.caption));
+    setAccessibleDescription(captions.join(QStringLiteral(", ")));
     horizontalHeader()->setDefaultAlignment(Qt::AlignCenter | Qt::Alignment(Qt::TextWordWrap));
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);

@@ -18,9 +18,8 @@ namespace kelvor {
 
 namespace {
 
-constexpr int kDigitsOfFigures = 6;
-
-QString FigureText(double number) { return QString::number(number, 'g', kDigitsOfFigures); }
+/// Without the digits behind the fifteenth, which are of the arithmetic and not of the cells.
+QString FigureText(double number) { return ToQt(NumberToText(number)); }
 
 }  // namespace
 

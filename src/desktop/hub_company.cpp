@@ -83,9 +83,8 @@ std::vector<RecentProject> HubCompany::RecentProjects() const {
 
 HubCompany::Stamp HubCompany::StampNow() const {
     const ProcessState& state = door_.program().state();
-    Stamp stamp{state.projects, 0, state.dbWork.IsOpen(), state.units && state.units->bMetric()};
-    for (const auto& [variable, event] : state.changes) stamp.lastChange = std::max(stamp.lastChange, event);
-    return stamp;
+    return {state.projects, state.changingEvents(), state.dbWork.IsOpen(),
+            state.units && state.units->bMetric()};
 }
 
 void HubCompany::Sync() {

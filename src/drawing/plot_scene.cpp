@@ -178,7 +178,9 @@ class PlotPainter {
             }
         }
         const ChartSeries& drawn = sheet_.series[series];
-        if (IsLine(drawn)) return AddLine(std::move(points), kThickLine, drawn.colour, DashOf(drawn));
+        const bool hasLength = points.size() > 1;  // a line through one point alone would not be seen
+        if (IsLine(drawn) && hasLength)
+            return AddLine(std::move(points), kThickLine, drawn.colour, DashOf(drawn));
         for (const Point& point : points) AddPoint(point, drawn);
     }
 

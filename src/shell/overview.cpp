@@ -38,9 +38,9 @@ const std::vector<OverviewScreen>& Screens() {
                                          "AW59", "AW60", "AW61", "AW62", "AW63", "AW64", "AW65",
                                          "AW66", "AW67", "AW68", "AW69", "AW70"}},
         {"TrTr", {"RIGE18", "FLEXE18"}, {"TrInADTT", "TrInADT", "TrInPerTruck"}},
-        {"ReDfF", {"AVGNDTRM", "AVGNDTEFFEP"}, {}},
-        {"ReDfR", {"AVGSTATK", "AVGNDTE"}, {}},
-        {"ReDfC", {"AVGSTATKC", "AVGNDTEC"}, {}},
+        {"ReDfF", {"AVGNDTRM", "AVGNDTEFFEP"}, {"NDTLOADF", "D0F", "DR"}},
+        {"ReDfR", {"AVGSTATK", "AVGNDTE"}, {"NDTLOAD", "D0", "D12", "D24", "D36"}},
+        {"ReDfC", {"AVGSTATKC", "AVGNDTEC"}, {"NDTLOADC", "D0C", "D12C", "D24C", "D36C"}},
     };
     return screens;
 }

@@ -26,8 +26,9 @@ void ProcessState::OpenCatalogue(const Path& path) {
     SortByName(projectBounds);
 }
 
-void ProcessState::NoteChanges(const std::vector<CellChange>& cells) {
+void ProcessState::NoteChanges(const std::vector<CellChange>& cells, bool byUser) {
     ++events_;
+    if (!byUser) return;
     for (const CellChange& change : cells) changes[change.cell.name] = events_;
 }
 

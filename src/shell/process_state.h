@@ -39,8 +39,11 @@ struct ProcessState {
     /// Opens the catalogue and what depends on it. Throws DatabaseError.
     void OpenCatalogue(const Path& path);
 
-    /// Notes which variables an event has changed.
-    void NoteChanges(const std::vector<CellChange>& cells);
+    /// Notes that an event has changed cells, and of one that the user has made which variables they are of.
+    void NoteChanges(const std::vector<CellChange>& cells, bool byUser);
+
+    /// Counts the events that have changed cells.
+    [[nodiscard]] int changingEvents() const { return events_; }
 
     /// What a calculation may see.
     [[nodiscard]] CalcContext MakeCalcContext();
@@ -59,10 +62,10 @@ struct ProcessState {
 
     std::string sIniFile;
     std::unordered_map<std::string, int, NameHash, NameEqual>
-        changes;                            // by variable: the event that changed it last, counted
-    int saves = 0;                          // counts the projects that were written to a file
-    int projects = 0;                       // counts them: each New and each Open is another one
-    std::string sProjectFile;               // full path of the open project; empty for an unnamed one
+        changes;               // by variable: the event by which the user changed it last, counted
+    int saves = 0;             // counts the projects that were written to a file
+    int projects = 0;          // counts them: each New and each Open is another one
+    std::string sProjectFile;  // full path of the open project; empty for an unnamed one
     std::optional<std::size_t> fileDigest;  // of what that file held when it was opened or saved
     std::string caption;                    // of the main window
     bool bProjectChanged = false;

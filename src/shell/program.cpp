@@ -108,7 +108,7 @@ bool Program::InEvent(const std::function<bool()>& action) {
         const bool made = action();
         EndOfEvent();
         const std::vector<CellChange> changes = state_.dbWork.EventChanges();
-        if (!changes.empty()) state_.NoteChanges(changes);
+        if (!changes.empty()) state_.NoteChanges(changes, travelled_ || !state_.act.empty());
         Recovery(state_).NoteUnsavedWork();
         if (!std::exchange(travelled_, false)) history_.Record(state_, event, changes);
         return made;

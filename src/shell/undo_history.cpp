@@ -148,8 +148,8 @@ class CellTargets {
     std::map<Place, CellValue> targets_;
 };
 
-/// The indicators of the open forms at one moment: a screen that only shows other values keeps what its
-/// indicators say.
+/// The indicators of the open forms at one moment, and the hidden boxes in which they keep what they know: a
+/// screen that only shows other values keeps both.
 class KeptIndicators {
   public:
     explicit KeptIndicators(const FormRegistry& forms) {
@@ -158,6 +158,9 @@ class KeptIndicators {
             for (std::size_t i = 0; i < kept.equations.size(); ++i) {
                 if (Control* indicator = IndicatorLabel(*kept.form, i))
                     kept.looks.emplace_back(indicator, LookOf(*indicator));
+            }
+            for (const auto& control : kept.form->controls()) {
+                if (control->travels) kept.looks.emplace_back(control.get(), LookOf(*control));
             }
         }
     }
@@ -169,7 +172,7 @@ class KeptIndicators {
             if (std::find(open.begin(), open.end(), kept.form) == open.end()) continue;
             if (kept.form->dim2() != kept.dim2) continue;
             kept.form->equations = kept.equations;
-            for (const auto& [indicator, look] : kept.looks) TakeOn(*indicator, look);
+            for (const auto& [control, look] : kept.looks) TakeOn(*control, look);
         }
     }
 
@@ -238,11 +241,28 @@ void UndoHistory::Record(const ProcessState& state, const EventScope& event,
     }
     step.metric = event.marks().metric;
     step.metricAfter = state.units->bMetric();
-    step.cells = Compose(std::exchange(unnamed_, {}), std::move(changes));
+    step.cells = std::move(changes);
+    SettleUnnamed(step);
     step.balanceBefore = event.marks().balance;
     step.balanceAfter = state.balance;
     step.looks = CompareForms(state.formRegistry, event.forms());
     Add(std::move(step));
+}
+
+/// What screens have worked out since the last step followed from it, and is taken back with it alone: the
+/// steps after it find it as they left it. What came before the first step goes with that, so that taking all
+/// back leads to the start.
+void UndoHistory::SettleUnnamed(UndoStep& next) {
+    if (unnamed_.empty()) return;
+    const std::vector<CellChange> derived = std::exchange(unnamed_, {});
+    if (done_ == 0) {
+        next.cells = Compose(derived, std::move(next.cells));
+        return;
+    }
+    UndoStep& last = steps_[done_ - 1];
+    cells_ -= last.cells.size();
+    last.cells = Compose(last.cells, derived);
+    cells_ += last.cells.size();
 }
 
 void UndoHistory::Add(UndoStep step) {

@@ -57,8 +57,8 @@ struct UndoStep {
 
 /// The events of the open project that changed cells, newest last, to be taken back and done again. An event
 /// that has no name, as a screen that works its results out when it opens, is no step of its own: it goes
-/// with the step before when that is taken back, and with the next one. Emptied by another project; a save
-/// leaves it.
+/// with the step before it, and before the first step with that. Emptied by another project; a save leaves
+/// it.
 class UndoHistory {
   public:
     /// Notes what an event has done, at its end, with the cells that it changed. A step that was taken back
@@ -79,6 +79,7 @@ class UndoHistory {
   private:
     enum class Way { Back, Forth };
 
+    void SettleUnnamed(UndoStep& next);
     void Add(UndoStep step);
     static void Travel(ProcessState& state, const UndoStep& step, Way way);
 

@@ -97,6 +97,18 @@ TEST_F(GridRowsTest, TheFootShowsSumAndMeanOfTheMarkedCells) {
     EXPECT_EQ(figures->text(), "");
 }
 
+TEST_F(GridRowsTest, TheFootShowsALargeSumToItsLastDigit) {
+    window().door().Raise({UserEvent::Kind::OpenForm, "LcA1_3", {}, 0});
+    window().door().Raise({UserEvent::Kind::MoveToCell, "MaintUnitCost", {}, 1});
+    window().door().Raise({UserEvent::Kind::PasteCells, {}, "1066438.50\n0.25", 0});
+    auto& grid = dynamic_cast<GridView&>(*window().FindView("LcA1_3")->FindWidget("Grid"));
+    const int column = grid.currentIndex().column();
+    grid.selectionModel()->select(
+        QItemSelection(grid.model()->index(0, column), grid.model()->index(1, column)),
+        QItemSelectionModel::ClearAndSelect);
+    EXPECT_EQ(window().findChild<QLabel*>("Figures")->text(), "Sum 1066438.75, mean 533219.375 of 2 cells");
+}
+
 TEST_F(GridRowsTest, TheWholeNameOfAnItemIsTypedIntoAListCell) {
     // A material with a blank in its name.
     const GridData& grid = *state().formRegistry.Find("LayDet")->FindGrid()->grid;

@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QFile>
 #include <QMenu>
+#include <QMenuBar>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTimer>
@@ -439,6 +440,23 @@ TEST(KeyTableTest, TheHelpPageOfKeysShowsEveryRow) {
         EXPECT_FALSE(KeysOf(row.act).isEmpty());
         for (const QKeySequence& keys : KeysOf(row.act)) EXPECT_FALSE(keys.isEmpty()) << row.keys;
     }
+}
+
+TEST_F(LargeWindowTest, TheHelpPageOfKeysHasTheKeysOfTheMenus) {
+    const std::string page = ReadFile(KELVOR_SOURCE_FOLDER "/data/help/Keys.html");
+    int keys = 0;
+    for (const QAction* action : window().menuBar()->findChildren<QAction*>()) {
+        for (const QKeySequence& key : action->shortcuts()) {
+            const std::string shown = key.toString(QKeySequence::PortableText).toStdString();
+            const bool stands = page.find(">" + shown + "<") != std::string::npos ||
+                                page.find(">" + shown + ",") != std::string::npos ||
+                                page.find(" " + shown + ",") != std::string::npos ||
+                                page.find(" " + shown + "<") != std::string::npos;
+            EXPECT_TRUE(stands) << shown << " of " << action->text().toStdString();
+            ++keys;
+        }
+    }
+    EXPECT_GE(keys, 8);
 }
 
 // --- Those who hear the screen, and those who see little --------------------------------------------------

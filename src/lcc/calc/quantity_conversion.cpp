@@ -28,47 +28,52 @@ std::optional<double> Converted(const CalcContext& context, const CellValue& qua
     return (metric ? number * factor : number / factor).value();
 }
 
-void ConvertRow(CalcContext& context, const CostGrid& grid, int row, int pavement) {
+/// True if the row has another unit then.
+bool ConvertRow(CalcContext& context, const CostGrid& grid, int row, int pavement) {
     const CellValue unit = CellOf(context, grid.unit, row, pavement);
     const CellValue quantity = CellOf(context, grid.quantity, row, pavement);
     const double factor = context.units.UnitFactor(unit.text.value_or(""));
-    if (unit.text) {
-        context.store.SetCell(grid.unit, row, pavement, {std::nullopt, context.units.ActiveUnit(*unit.text)});
-    }
+    const std::string active = unit.text ? context.units.ActiveUnit(*unit.text) : "";
+    if (unit.text) context.store.SetCell(grid.unit, row, pavement, {std::nullopt, active});
     if (!quantity.text) {
         context.Clear(grid.quantity, row, pavement);
-        return;
+    } else {
+        IgnoreFaults([&] {
+            context.store.SetCell(grid.quantity, row, pavement,
+                                  {Converted(context, quantity, factor), quantity.text});
+        });
     }
-    IgnoreFaults([&] {
-        context.store.SetCell(grid.quantity, row, pavement,
-                              {Converted(context, quantity, factor), quantity.text});
-    });
+    return unit.text && *unit.text != active;
 }
 
 /// Converts the rows of both pavements; `calculate` works out each, and one without a quantity costs 0.
+/// True if any has another unit then.
 template <typename Calculation>
-void ConvertRows(CalcContext& context, const CostGrid& grid, Calculation calculate) {
+bool ConvertRows(CalcContext& context, const CostGrid& grid, Calculation calculate) {
+    bool converted = false;
     for (const int pavement : kPavements) {
         for (int row = 1; row <= kLastConvertedRow; ++row) {
-            ConvertRow(context, grid, row, pavement);
+            converted = ConvertRow(context, grid, row, pavement) || converted;
             calculate(row, pavement);
         }
     }
+    return converted;
 }
 
 }  // namespace
 
-void ConvertInitialQuantities(CalcContext& context) {
-    ConvertRows(context, kInitialGrid, [&](int row, int pavement) {
+bool ConvertInitialQuantities(CalcContext& context) {
+    const bool converted = ConvertRows(context, kInitialGrid, [&](int row, int pavement) {
         IgnoreFaults([&] { CalcInitialItemCost(context, "InitialItemCost", row, pavement); });
     });
     for (const int pavement : kPavements) {
         IgnoreFaults([&] { SumInitialCosts(context, "ItemTotal2", pavement); });
     }
+    return converted;
 }
 
-void ConvertRehabQuantities(CalcContext& context) {
-    ConvertRows(context, kRehabGrid, [&](int row, int pavement) {
+bool ConvertRehabQuantities(CalcContext& context) {
+    const bool converted = ConvertRows(context, kRehabGrid, [&](int row, int pavement) {
         IgnoreFaults([&] { CalcRehabItemCost(context, "RehabItemCost", row, pavement); });
         IgnoreFaults([&] { CalcRehabPresentWorth(context, "PWCostR", row, pavement); });
     });
@@ -76,6 +81,7 @@ void ConvertRehabQuantities(CalcContext& context) {
         IgnoreFaults([&] { SumRehabCosts(context, "ItemTotal4", pavement); });
         IgnoreFaults([&] { SumRehabPresentWorth(context, "PrWorthTotal4", pavement); });
     }
+    return converted;
 }
 
 }  // namespace kelvor

@@ -15,7 +15,7 @@ class Form;
 void FollowCostCell(ScreenContext& context, Form& page, const CostGrid& grid);
 
 /// Brings the names of a page's units over to the active system, also those of the rows whose quantities do
-/// not follow.
-void SwapUnitNames(const ScreenContext& context, const Form& page, const CostGrid& grid);
+/// not follow. True if there were any.
+bool SwapUnitNames(const ScreenContext& context, const Form& page, const CostGrid& grid);
 
 }  // namespace kelvor

@@ -84,6 +84,7 @@ FormType CostPage(const std::string& name, const std::vector<Handler>& own) {
         {FormEvent::Click, "NextPage", HandlerOrder::Instead, NextPageClick},
         {FormEvent::Activate, "", HandlerOrder::Before, HideUnitNote},
         {FormEvent::CellChanged, "Grid", HandlerOrder::Before, HideUnitNote},
+        {FormEvent::RowDeleted, "", HandlerOrder::Before, HideUnitNote},
     };
     type.handlers.insert(type.handlers.end(), own.begin(), own.end());
     return type;
@@ -101,6 +102,10 @@ int PavementOf(const Form& page) { return page.dim2().value_or(kPavementA); }
 LayoutElement UnitNote() { return Statement(kUnitNote, 1, kUnitNoteLetters); }
 
 void ShowUnitNote(Form& page, const std::string& text) { page.SetText(kUnitNote, text); }
+
+void ShowUnitCostsStay(Form& page) {
+    ShowUnitNote(page, Translated("Unit costs do not convert: they stay as they were entered."));
+}
 
 bool HasCell(const ScreenContext& context, const Form& page, int row, const GridColumn& column) {
     return context.calc.store.FindCell(column.variable, row, PavementOf(page)) != nullptr;

@@ -28,6 +28,9 @@ int PavementOf(const Form& page);
 LayoutElement UnitNote();
 void ShowUnitNote(Form& page, const std::string& text);
 
+/// Says so in its place.
+void ShowUnitCostsStay(Form& page);
+
 /// True if the project has the cell: a page's grid goes on below the last layer that has a width.
 bool HasCell(const ScreenContext& context, const Form& page, int row, const GridColumn& column);
 

@@ -5,7 +5,6 @@
 #include "lcc/calc/quantity_conversion.h"
 #include "lcc/screens/cost_grid_page.h"
 #include "lcc/screens/cost_page.h"
-#include "platform/translation.h"
 
 namespace kelvor {
 
@@ -15,16 +14,17 @@ std::string ReadQuantity(const ScreenContext& context, const Form& form, int row
     return context.units.GetQuantityDisplay(kInitialGrid.quantity, row, PavementOf(form));
 }
 
-/// The quantities convert before the names of their units do.
+/// The quantities convert before the names of their units do; the unit costs do not.
 void BringOver(ScreenEvent& event) {
-    ConvertInitialQuantities(event.context.calc);
-    SwapUnitNames(event.context, event.form, kInitialGrid);
+    const bool converted = ConvertInitialQuantities(event.context.calc);
+    const bool swapped = SwapUnitNames(event.context, event.form, kInitialGrid);
     RefreshScreen(event.context, event.form);
+    if (converted || swapped) ShowUnitCostsStay(event.form);
 }
 
 void UnitsSwitched(ScreenEvent& event) {
     BringOver(event);
-    ShowUnitNote(event.form, Translated("Unit costs do not convert: they stay as they were entered."));
+    ShowUnitCostsStay(event.form);
 }
 
 void CellChanged(ScreenEvent& event) { FollowCostCell(event.context, event.form, kInitialGrid); }

@@ -41,16 +41,17 @@ bool MayDelete(ScreenContext& context, Form& /*form*/, int row) {
     return false;
 }
 
-/// The quantities convert before the names of their units do.
+/// The quantities convert before the names of their units do; the unit costs do not.
 void BringOver(ScreenEvent& event) {
-    ConvertRehabQuantities(event.context.calc);
-    SwapUnitNames(event.context, event.form, kRehabGrid);
+    const bool converted = ConvertRehabQuantities(event.context.calc);
+    const bool swapped = SwapUnitNames(event.context, event.form, kRehabGrid);
     RefreshScreen(event.context, event.form);
+    if (converted || swapped) ShowUnitCostsStay(event.form);
 }
 
 void UnitsSwitched(ScreenEvent& event) {
     BringOver(event);
-    ShowUnitNote(event.form, Translated("Unit costs do not convert: they stay as they were entered."));
+    ShowUnitCostsStay(event.form);
 }
 
 void CellChanged(ScreenEvent& event) { FollowCostCell(event.context, event.form, kRehabGrid); }

@@ -65,7 +65,7 @@ FormType RigidDeflectionsForm() {
     // The slab thickness works no test out anew: it counts from the next activation on, or the next edit of a
     // row.
     type.handlers = RecalcWhenLeft({"Radius", "Poisson"});
-    Append(type.handlers, TellWhenOutdated({"EXISTDEPTH"}));
+    Append(type.handlers, TellWhenOutdated({"EXISTDEPTH"}, {"Radius", "Poisson"}));
     type.handlers.push_back({FormEvent::Activate, "", HandlerOrder::After, Activated});
     type.handlers.push_back({FormEvent::RowDeleted, "", HandlerOrder::Instead, RecalcTests});
     Append(type.handlers, LeaveOutHandlers());

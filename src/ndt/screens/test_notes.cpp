@@ -36,8 +36,8 @@ std::string UnconvergedText(int count, int tests) {
 }
 
 std::string AtBoundText(int count, int tests) {
-    return CountText(tests == 1 ? Translated("%1 of %2 test ended at a bound of the search.")
-                                : Translated("%1 of %2 tests ended at a bound of the search."),
+    return CountText(tests == 1 ? Translated("%1 of %2 test converged at a bound of the search.")
+                                : Translated("%1 of %2 tests converged at a bound of the search."),
                      count, tests);
 }
 

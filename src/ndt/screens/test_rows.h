@@ -41,8 +41,9 @@ void SetIfBlank(ScreenContext& context, Form& form, std::string_view variable, d
 std::vector<Handler> RecalcWhenLeft(const std::vector<std::string>& inputs);
 
 /// The handlers by which the line kOutdatedLine tells of changes of inputs that work no test out anew, until
-/// all are.
-std::vector<Handler> TellWhenOutdated(const std::vector<std::string>& inputs);
+/// all are; as they are when one of the `renewing` inputs is left.
+std::vector<Handler> TellWhenOutdated(const std::vector<std::string>& inputs,
+                                      const std::vector<std::string>& renewing = {});
 
 /// The handlers by which a routine runs after whatever may have changed a result or how it is shown.
 std::vector<Handler> AfterResults(void (*show)(ScreenEvent& event));

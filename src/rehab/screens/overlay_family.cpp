@@ -1,5 +1,6 @@
 #include "rehab/screens/overlay_family.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "forms/section_button.h"
@@ -7,6 +8,15 @@
 #include "rehab/screens/overlay_routines.h"
 
 namespace kelvor {
+
+namespace {
+
+/// The survey of joints and cracks, whose rows a screen that leads there clears when it closes.
+constexpr const char* kSurveyScreen = "FjcHelp";
+
+bool LeadsToSurvey(const HelpRoute& route) { return route.form == kSurveyScreen; }
+
+}  // namespace
 
 FormType MakeOverlay(OverlayScreen overlay) {
     FormType type;
@@ -21,6 +31,8 @@ FormType MakeOverlay(OverlayScreen overlay) {
     type.layout = Columns({std::move(overlay.future), Rows(std::move(right))});
     type.handlers = OverlayHandlers(overlay.button);
     type.handlers.insert(type.handlers.end(), overlay.handlers.begin(), overlay.handlers.end());
+    const bool surveys = std::any_of(overlay.helpRoutes.begin(), overlay.helpRoutes.end(), LeadsToSurvey);
+    if (surveys) type.handlers.push_back(ClearingOfSurvey());
     type.handlers.push_back(OpeningCrossSection());
     type.foot.insert(type.foot.begin(), CrossSectionButton());
     type.helpRoutes = std::move(overlay.helpRoutes);
@@ -30,7 +42,7 @@ FormType MakeOverlay(OverlayScreen overlay) {
 }
 
 HelpRoute WorkOutJointFactor(const char* factor) {
-    return {factor, "FjcHelp", Translated("Work out the joint and crack factor")};
+    return {factor, kSurveyScreen, Translated("Work out the joint and crack factor")};
 }
 
 LayoutElement OnSlab(const char* future, const char* reliability, const char* deviation, FieldItem initial,
@@ -79,6 +91,11 @@ LayoutElement OfLayer(const char* frame, const char* title, const char* thicknes
 
 LayoutElement Effective(std::string title, Items items) {
     return Frame("Frame2", std::move(title), {Fields(std::move(items))});
+}
+
+LayoutElement EffectiveSlab(Items factors) {
+    factors.insert(factors.begin(), {"EXISTDEPTH", "Existing PCC Thickness"});
+    return Effective(Translated("Effective Slab Thickness"), std::move(factors));
 }
 
 }  // namespace kelvor

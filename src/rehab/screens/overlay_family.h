@@ -52,4 +52,7 @@ LayoutElement OfLayer(const char* frame, const char* title, const char* thicknes
 /// What the existing pavement still carries.
 LayoutElement Effective(std::string title, Items items);
 
+/// The same of a slab, whose thickness comes first.
+LayoutElement EffectiveSlab(Items factors);
+
 }  // namespace kelvor

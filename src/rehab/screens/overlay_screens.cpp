@@ -64,16 +64,13 @@ FormType AsphaltOnConcreteForm() {
          .governs = SlabGoverns,
          .future = OnSlab("ACPCFUTD", "ACPCREL", "ACPCDEV", {"ACPCPO", "Initial Serviceability, Po"},
                           {"ACPCPT", "Terminal Serviceability, Pt"}),
-         .effective = {Effective(Translated("Effective Slab Thickness"),
-                                 {{"EXISTDEPTH", "Existing PCC Thickness"},
-                                  {"ACPCFJC", "Joint/Cracks Adj. Factor"},
-                                  {"ACPCFDUR", "Durability Adj. Factor"},
-                                  {"ACPCFFAT", "Fatigue Adj. Factor"},
-                                  {"ACPCEFFD", "Effective PCC Thickness"}})},
+         .effective = {EffectiveSlab({{"ACPCFJC", "Joint/Cracks Adj. Factor"},
+                                      {"ACPCFDUR", "Durability Adj. Factor"},
+                                      {"ACPCFFAT", "Fatigue Adj. Factor"},
+                                      {"ACPCEFFD", "Effective PCC Thickness"}})},
          .thickness = {{"ACPCOLT", "AC Overlay Thickness"}},
          .helpRoutes = {WorkOutJointFactor("ACPCFJC")},
-         .takeOvers = SlabFromDeflections(),
-         .handlers = {ClearingOfSurvey()}});
+         .takeOvers = SlabFromDeflections()});
 }
 
 FormType AsphaltOnCompositeForm() {
@@ -84,17 +81,14 @@ FormType AsphaltOnCompositeForm() {
          .governs = CompositeGoverns,
          .future = OnSlab("ACACPCFUTD", "ACACPCREL", "ACACPCDEV", {"ACACPCPO", "Initial Serviceability"},
                           {"ACACPCPT", "Terminal Serviceability"}),
-         .effective = {Effective(Translated("Effective Slab Thickness"),
-                                 {{"EXISTDEPTH", "Existing PCC Thickness"},
-                                  {"ACACPCFJC", "Joint/Crack Adj. Factor"},
-                                  {"ACACPCFDUR", "Durability Adj. Factor"},
-                                  {"ACACPCACT", "Existing AC Thickness"},
-                                  {"ACACPCFAC", "AC Quality Adj. Factor"},
-                                  {"ACACPCEFFD", "Effective AC/PCC Thickness"}})},
+         .effective = {EffectiveSlab({{"ACACPCFJC", "Joint/Crack Adj. Factor"},
+                                      {"ACACPCFDUR", "Durability Adj. Factor"},
+                                      {"ACACPCACT", "Existing AC Thickness"},
+                                      {"ACACPCFAC", "AC Quality Adj. Factor"},
+                                      {"ACACPCEFFD", "Effective AC/PCC Thickness"}})},
          .thickness = {{"ACACPCOLT", "AC Overlay Thickness"}},
          .helpRoutes = {WorkOutK("EXISTK"), WorkOutJointFactor("ACACPCFJC")},
-         .takeOvers = CompositeSlabFromDeflections(),
-         .handlers = {ClearingOfSurvey()}});
+         .takeOvers = CompositeSlabFromDeflections()});
 }
 
 FormType BondedForm() {
@@ -104,17 +98,14 @@ FormType BondedForm() {
          .flag = BalanceFlag::OvBP,
          .governs = BondedGoverns,
          .future = OfConcrete("BOLFUTDEPTH", "Future Thickness", "EXISTMR", "EXISTEC", "EXISTJ"),
-         .effective = {Effective(Translated("Effective Slab Thickness"),
-                                 {{"EXISTDEPTH", "Existing PCC Thickness"},
-                                  {"BOLFJC", "Joints/Cracks Adj. Factor"},
-                                  {"BOLFDUR", "Durabilty Adj. Factor"},
-                                  {"BOLFFAT", "Fatigue Adj. Factor"},
-                                  {"BOLEFFDEPTH", "Effective PCC Thickness"}})},
+         .effective = {EffectiveSlab({{"BOLFJC", "Joints/Cracks Adj. Factor"},
+                                      {"BOLFDUR", "Durabilty Adj. Factor"},
+                                      {"BOLFFAT", "Fatigue Adj. Factor"},
+                                      {"BOLEFFDEPTH", "Effective PCC Thickness"}})},
          .answer = "Bonded Overlay Thickness",
          .thickness = {{"BOLDEPTH", "Bonded Overlay Thickness"}},
          .helpRoutes = {WorkOutK("EXISTK"), WorkOutJointFactor("BOLFJC")},
-         .takeOvers = SlabFromDeflections(),
-         .handlers = {ClearingOfSurvey()}});
+         .takeOvers = SlabFromDeflections()});
 }
 
 FormType UnbondedForm() {
@@ -123,16 +114,13 @@ FormType UnbondedForm() {
                         .flag = BalanceFlag::OvUP,
                         .governs = UnbondedGoverns,
                         .future = OfConcrete("UBOLFUTDEPTH", "Future Thickness", "OLMR", "OLEC", "OLJ"),
-                        .effective = {Effective(Translated("Effective Slab Thickness"),
-                                                {{"EXISTDEPTH", "Existing PCC Thickness"},
-                                                 {"UBOLFJCU", "Joint/Cracks Adj. Factor"},
-                                                 {"UBOLEFFDEPTH", "Effective PCC Thickness"}})},
+                        .effective = {EffectiveSlab({{"UBOLFJCU", "Joint/Cracks Adj. Factor"},
+                                                     {"UBOLEFFDEPTH", "Effective PCC Thickness"}})},
                         .answer = "Unbonded Overlay Thickness",
                         .thickness = {{"UBOLDEPTH", "Unbonded Overlay Thickness"}},
                         .button = "CmdSolveFor",
                         .helpRoutes = {WorkOutK("EXISTK"), WorkOutJointFactor("UBOLFJCU")},
-                        .takeOvers = {SubgradeReactionFromDeflections()},
-                        .handlers = {ClearingOfSurvey()}});
+                        .takeOvers = {SubgradeReactionFromDeflections()}});
 }
 
 FormType WhitetoppingForm() {
@@ -142,7 +130,8 @@ FormType WhitetoppingForm() {
                         .governs = WhitetoppingGoverns,
                         .future = OfConcrete("WTDEPTH", "Whitetopping Thickness", "OLMR", "OLEC", "OLJ"),
                         .answer = "Whitetopping Thickness",
-                        .helpRoutes = {WorkOutK("EXISTK")}});
+                        .helpRoutes = {WorkOutK("EXISTK")},
+                        .takeOvers = {SubgradeReactionFromDeflections()}});
 }
 
 }  // namespace

@@ -62,6 +62,16 @@ TEST(PlotSceneTest, ValuesStandAboveTheirBars) {
     EXPECT_EQ(ValuesOf(sheet, {"100", "50", "25"}).size(), 3U);
 }
 
+TEST(PlotSceneTest, ALineOfOneValueIsAPoint) {
+    ChartData sheet;
+    sheet.kind = ChartKind::Line;
+    sheet.series = {{"Test", "#1F5FBF"}};
+    sheet.rows = {{"1", {100.0}}};
+    EXPECT_EQ(ShapesOf<shape::Ellipse>(MakePlotScene(sheet, {})).size(), 1U);
+    sheet.rows.push_back({"2", {50.0}});
+    EXPECT_EQ(ShapesOf<shape::Ellipse>(MakePlotScene(sheet, {})).size(), 0U);
+}
+
 TEST(PlotSceneTest, AmongManyBarsTheFewWithValuesSayThem) {
     ChartData sheet = Costs();
     sheet.showsValues = true;

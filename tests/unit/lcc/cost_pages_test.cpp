@@ -144,6 +144,42 @@ TEST_F(CostPagesTest, AUnitWithoutAQuantityAndAnEnglishUnitNeedNoNote) {
     EXPECT_EQ(NoteOf(Page()), "");
 }
 
+TEST_F(CostPagesTest, TheSameUnitOnceMoreAndARowThatGoesNeedNoNote) {
+    program_.program.ChooseUnits(true);
+    Open("LcA1_2", 1);
+    EditCell(1, "InitialUnit", "sq m");
+    EditCell(1, "InitialQuantity", "83.612736");
+    EditCell(1, "InitialUnit", "sq m");
+    EXPECT_EQ(NoteOf(Page()), "");
+    EditCell(1, "InitialUnit", "In cm");
+    EXPECT_NE(NoteOf(Page()), "");
+    program_.host.dialogs.QueueAnswer("yes");
+    Raise({UserEvent::Kind::DeleteRow, {}, {}, 1});
+    EXPECT_EQ(NoteOf(Page()), "");
+}
+
+TEST_F(CostPagesTest, AQuantityThatCameFromTheOtherUnitSystemIsOfItsUnit) {
+    for (const char* page : {"LcA1_2", "LcA1_4"}) {
+        const bool initial = std::string(page) == "LcA1_2";
+        const char* quantity = initial ? "InitialQuantity" : "RehabQuantity";
+        const char* unit = initial ? "InitialUnit" : "RehabUnit";
+        program_.program.ChooseUnits(false);
+        Open(page, 1);
+        EditCell(2, unit, "sq yd");
+        EditCell(2, quantity, "5");
+        Raise({UserEvent::Kind::CloseForm, page, {}, 0});
+        program_.program.ChooseUnits(true);
+        Open(page, 1);
+        EXPECT_EQ(NoteOf(Page()), "Unit costs do not convert: they stay as they were entered.");
+        EditCell(2, unit, "sq m");
+        EXPECT_EQ(NoteOf(Page()), "");
+        Raise({UserEvent::Kind::CloseForm, page, {}, 0});
+        Open(page, 1);
+        EXPECT_EQ(NoteOf(Page()), "") << "it has been said";
+        Raise({UserEvent::Kind::CloseForm, page, {}, 0});
+    }
+}
+
 TEST_F(CostPagesTest, APastedQuantityFollowsTheUnitOfItsRow) {
     program_.program.ChooseUnits(true);
     Open("LcA1_2", 1);
