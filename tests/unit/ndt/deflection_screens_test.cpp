@@ -289,6 +289,21 @@ TEST_F(DeflectionScreenTest, TheTestThatTheGridHasNoRowForIsLeftOut) {
     EXPECT_EQ(Cell("NDTEFFEP", 300), Cell("NDTEFFEP", 1));
 }
 
+TEST_F(DeflectionScreenTest, ABlockInMetricUnitsIsStoredInEnglishOnes) {
+    program_.program.ChooseUnits(true);
+    Open("ReDfF");
+    std::string block;
+    for (int row = 1; row <= 300; ++row) block += "40034\t457.2\t90.17\n";
+    PasteAt(1, "NDTLOADF", block);
+    EXPECT_THAT(Messages(), IsEmpty());
+    for (const int row : {1, 300}) {
+        ExpectNear(Cell("NDTLOADF", row), 40034.0 / 4.4482216);
+        ExpectNear(Cell("D0F", row), 457.2 / 25.4);
+        ExpectNear(Cell("DR", row), 90.17 / 25.4);
+        ExpectNear(Cell("NDTRM", row), 40034.0 / 4.4482216 * 0.24 * 0.33 / (3.55 / 1000.0 * 36.0));
+    }
+}
+
 TEST_F(DeflectionScreenTest, TestsWithLettersOrNegativeDeflectionsAreLeftOutOfABlock) {
     Open("ReDfR");
     PasteAt(2, "NDTLOAD",
