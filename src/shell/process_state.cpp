@@ -8,7 +8,7 @@
 namespace kelvor {
 
 ProcessState::ProcessState(Host hostInterfaces, Home homeFolders)
-    : host(hostInterfaces),
+    : host(std::move(hostInterfaces)),
       home(std::move(homeFolders)),
       calculations(JoinCalculations()),
       reports(

@@ -39,7 +39,7 @@ constexpr const char* kTyping = ToTranslate("typing");  // what Undo drops befor
 
 }  // namespace
 
-Program::Program(Host host, Home home) : state_(host, std::move(home)) {
+Program::Program(Host host, Home home) : state_(std::move(host), std::move(home)) {
     FormRegistry& forms = state_.formRegistry;
     forms.Declare({{kHubForm, HubForm}, {kAboutForm, [this] { return AboutForm(state_.host.libraries); }}});
     forms.Declare(HelpForms());

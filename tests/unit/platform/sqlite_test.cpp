@@ -70,9 +70,9 @@ TEST_F(SqliteTest, ADatabaseOpensForReadingOrWriting) {
 
 TEST_F(SqliteTest, AContentIsReadWithoutAFileAndStaysAsItIs) {
     MakeNumbers(10);
+    const std::string before = ReadFile(file_);
     const std::string content = ReadFile(file_);
     std::filesystem::remove(file_);
-    const std::string before = content;
     SQLite::Database database = OpenContent(content);
     EXPECT_EQ(database.execAndGet("SELECT count(*) FROM Number").getInt(), 10);
     EXPECT_THROW(database.exec("DELETE FROM Number"), SQLite::Exception);
