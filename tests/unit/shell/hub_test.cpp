@@ -100,6 +100,13 @@ const std::map<std::string, std::string> kScreenOf = {
 
 // --- The table -------------------------------------------------------------------------------------------
 
+TEST_F(HubTest, AfterARowWasAddedToAListThePointerWaitsNoMore) {
+    SwitchTo(6);
+    ASSERT_TRUE(Run().Raise({UserEvent::Kind::Choose, "CustCombo", "Axle Types", 0}));
+    Press("cmdbAddMaint");
+    EXPECT_FALSE(program_.host.dialogs.waiting());
+}
+
 TEST_F(HubTest, EveryNameOfTheTableIsOne) {
     EXPECT_NO_THROW(CheckHubTable(State().formRegistry, *State().dbCatalogue));
     std::map<std::string, std::string> screens;
