@@ -16,7 +16,7 @@ _kelvor_cli() {
             ;;
     esac
     if [[ $current == -* ]]; then
-        mapfile -t COMPREPLY < <(compgen -W '--home --work --script --json --help --version' -- "$current")
+        mapfile -t COMPREPLY < <(compgen -W '--home --work --script --language --json --help --version' -- "$current")
         return
     fi
     compopt -o filenames

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <regex>
+#include <set>
 #include <sstream>
 #include <string>
 
@@ -35,6 +37,28 @@ TEST_F(ConsolePageTest, TheCommandsThatItShowsPrintTheObjectsThatItShows) {
     EXPECT_EQ(RunConsole(4, arguments, commands, output, errors), 0);
     EXPECT_EQ(errors.str(), "");
     EXPECT_EQ(output.str(), Block("their output", "json"));
+}
+
+TEST_F(ConsolePageTest, EveryOptionIsOnItsPageInTheManualAndInTheCompletion) {
+    std::string words[] = {"kelvor-cli", "--help"};
+    char* arguments[] = {words[0].data(), words[1].data()};
+    std::istringstream commands;
+    std::ostringstream output;
+    std::ostringstream errors;
+    EXPECT_EQ(RunConsole(2, arguments, commands, output, errors), 0);
+    const std::string manual = ReadFile(Path(KELVOR_SOURCE_FOLDER) / "packaging/kelvor-cli.1.in");
+    const std::string completion = ReadFile(Path(KELVOR_SOURCE_FOLDER) / "packaging/kelvor-cli.bash");
+    const std::string help = output.str();
+    const std::regex option("--([a-z]+)");
+    std::set<std::string> options;
+    for (std::sregex_iterator hit(help.begin(), help.end(), option), end; hit != end; ++hit)
+        options.insert((*hit)[1]);
+    EXPECT_GE(options.size(), 6U);
+    for (const std::string& name : options) {
+        EXPECT_NE(page_.find("`--" + name), std::string::npos) << name;
+        EXPECT_NE(manual.find("\\-\\-" + name), std::string::npos) << name;
+        EXPECT_NE(completion.find("--" + name), std::string::npos) << name;
+    }
 }
 
 TEST_F(ConsolePageTest, EveryKeyThatIsServedIsListed) {
