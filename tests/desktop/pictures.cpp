@@ -2,13 +2,16 @@
 // dark. A script with a line `# picture: menu MenuFile`, `# picture: dialog` or
 // `# picture: help` shows that menu, the first dialog that comes up or the window of the help, and the units
 // that it has at its end. One with a line `# sample: NAME` goes on where that sample ends.
+// With a size or a font the pictures are of a window on such a screen, in English units alone.
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <fmt/format.h>
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QPainter>
 #include <QPixmap>
+#include <QSize>
 #include <QStyleOptionTitleBar>
 #include <algorithm>
 #include <cstdio>
@@ -27,11 +30,22 @@
 #include "support/test_home.h"
 
 namespace kelvor::test {
+
+constexpr const char* kUsualDpi = "96";
+
 namespace {
 
 struct Look {
     const char* name;
     QPalette palette;
+};
+
+/// What is asked for.
+struct Order {
+    Path folder;
+    std::vector<std::string> scripts;  // by name; empty: all
+    QSize size;                        // of the window; empty: as it starts
+    QString suffix;                    // of the pictures' names
 };
 
 /// A script may say where it switches: `units {UNITS}`. One that does not is switched at its end.
@@ -123,11 +137,11 @@ struct PictureHome {
 /// Runs a script and takes its picture.
 class PictureRun {
   public:
-    explicit PictureRun(const QPalette& palette)
+    PictureRun(const QPalette& palette, QSize size)
         : output_(printed_), responder_(output_), desktop_(home_.home.home()) {
         QApplication::setPalette(palette);
         if (!desktop_.Start("")) throw std::runtime_error(printed_.str());
-        desktop_.window().resize(desktop_.window().StartSize());
+        desktop_.window().resize(size.isEmpty() ? desktop_.window().StartSize() : size);
         driver_.emplace(desktop_, responder_);
     }
 
@@ -169,24 +183,29 @@ void Save(const QPixmap& picture, const Path& file) {
     std::puts(file.filename().c_str());
 }
 
-void TakePictures(const Path& script, const Look& look, const Path& folder) {
+/// Of a script that switches to a unit system at its end, if it names one.
+void TakePicture(const Order& order, const Look& look, const std::string& script, const std::string& name) {
+    const std::string file = fmt::format("{}-{}{}.png", name, look.name, order.suffix.toStdString());
+    Save(PictureRun(look.palette, order.size).Of(script), order.folder / file);
+}
+
+void TakePictures(const Order& order, const Look& look, const Path& script) {
     const std::string text = AfterSample(ReadFile(script));
     const std::string name = script.stem().string();
-    if (!SubjectOf(text).empty()) {
-        return Save(PictureRun(look.palette).Of(text), folder / fmt::format("{}-{}.png", name, look.name));
-    }
+    if (!SubjectOf(text).empty()) return TakePicture(order, look, text, name);
     for (const char* units : {"english", "metric"}) {
         const std::string switched = WithUnits(text, units) + fmt::format("\nunits {}\n", units);
-        Save(PictureRun(look.palette).Of(switched),
-             folder / fmt::format("{}-{}-{}.png", name, units, look.name));
+        TakePicture(order, look, switched, fmt::format("{}-{}", name, units));
+        if (!order.suffix.isEmpty()) return;
     }
 }
 
-/// Of the scripts that are named, or of all.
-int TakePictures(const Path& scriptFolder, const Path& folder, const std::vector<std::string>& names) {
-    std::filesystem::create_directories(folder);
+int TakePictures(const Order& order) {
+    std::filesystem::create_directories(order.folder);
     std::vector<Path> scripts;
-    for (const auto& entry : std::filesystem::directory_iterator(scriptFolder)) {
+    for (const auto& entry :
+         std::filesystem::directory_iterator(KELVOR_SOURCE_FOLDER "/docs/pictures/scripts")) {
+        const auto& names = order.scripts;
         const bool wanted =
             names.empty() || std::find(names.begin(), names.end(), entry.path().stem()) != names.end();
         if (wanted && entry.path().extension() == ".kvs") scripts.push_back(entry.path());
@@ -194,10 +213,38 @@ int TakePictures(const Path& scriptFolder, const Path& folder, const std::vector
     std::sort(scripts.begin(), scripts.end());
     for (const Path& script : scripts) {
         for (const Look& look : {Look{"light", LightPalette()}, Look{"dark", DarkPalette()}}) {
-            TakePictures(script, look, folder);
+            TakePictures(order, look, script);
         }
     }
     return 0;
+}
+
+/// `FOLDER [SCRIPT...] [--size WIDTHxHEIGHT] [--points N]`; the size is in pixels, the points are the font's.
+Order ReadOrder(const QApplication& application) {
+    QCommandLineParser parser;
+    const QCommandLineOption size(QStringLiteral("size"), {}, QStringLiteral("WIDTHxHEIGHT"));
+    const QCommandLineOption points(QStringLiteral("points"), {}, QStringLiteral("N"));
+    parser.addOptions({size, points});
+    parser.process(application);
+    const QStringList words = parser.positionalArguments();
+    if (words.isEmpty()) throw std::runtime_error("usage: kelvor-pictures FOLDER [SCRIPT...] [--size ...]");
+
+    Order order;
+    order.folder = words.first().toStdString();
+    for (const QString& word : words.mid(1)) order.scripts.push_back(word.toStdString());
+    if (parser.isSet(size)) {
+        const QStringList sides = parser.value(size).split(u'x');
+        order.size = QSize(sides.first().toInt(), sides.last().toInt());
+        order.suffix += "-" + parser.value(size);
+    }
+    if (parser.isSet(points)) {
+        QFont font = QApplication::font();
+        font.setPointSize(parser.value(points).toInt());
+        QApplication::setFont(font);
+        order.suffix += "-" + parser.value(points) + "pt";
+    }
+    if (qgetenv("QT_FONT_DPI") != kUsualDpi) order.suffix += "-" + qgetenv("QT_FONT_DPI") + "dpi";
+    return order;
 }
 
 }  // namespace
@@ -205,16 +252,14 @@ int TakePictures(const Path& scriptFolder, const Path& folder, const std::vector
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_FONT_DPI", "96");
+    if (!qEnvironmentVariableIsSet("QT_FONT_DPI")) qputenv("QT_FONT_DPI", kelvor::test::kUsualDpi);
     qputenv("LANGUAGE", "C");
     qputenv("HOME", "/home/engineer");  // whose name a file dialog shows
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     try {
-        if (argc < 2) throw std::runtime_error("usage: kelvor-pictures FOLDER [SCRIPT...]");
-        return kelvor::test::TakePictures(KELVOR_SOURCE_FOLDER "/docs/pictures/scripts", argv[1],
-                                          {argv + 2, argv + argc});
+        return kelvor::test::TakePictures(kelvor::test::ReadOrder(application));
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "%s\n", failure.what());
         return 1;
