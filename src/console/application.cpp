@@ -101,6 +101,8 @@ Home FindHome(const ConsoleOptions& options, const std::optional<TemporaryFolder
         home.folder = std::filesystem::absolute(options.home);
     }
     home.work = options.work.empty() ? scratch->path() : std::filesystem::absolute(options.work);
+    // The same folder by another name is the same.
+    if (files.Resolve(home.work) == files.Resolve(home.folder)) home.work = home.folder;
     return home;
 }
 

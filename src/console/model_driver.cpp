@@ -162,18 +162,11 @@ void ModelDriver::SwitchTab(int tab) {
     Raise({UserEvent::Kind::SwitchTab, {}, {}, tab}, "there is no tab " + std::to_string(tab));
 }
 
-void ModelDriver::CheckMenu(const std::string& name) {
-    for (const MenuEntry& entry : program_.Menus()) {
-        if (entry.name == name && entry.comesLater) throw ScriptError(name + " is not available yet");
-    }
-}
-
 void ModelDriver::ChooseMenu(const std::string& name, int index) {
-    CheckMenu(name);
-    const bool hadProject = program_.state().dbWork.IsOpen();
+    const int before = program_.state().noProjects;
     Raise({UserEvent::Kind::Menu, name, {}, index}, "there is no menu entry " + name);
-    if (name == "NewProj" && hadProject && !program_.state().dbWork.IsOpen())
-        throw ProgramStop(kNoNewProject);
+    // A cancelled Open wants a new project too.
+    if (program_.state().noProjects != before) throw ProgramStop(kNoNewProject);
 }
 
 const GridData& ModelDriver::FindGrid() {

@@ -82,9 +82,6 @@ class ModelDriver : public Driver {
     /// itself if there is none.
     std::string OpenFormName(const std::string& name);
 
-    /// Throws ScriptError for a menu entry that does nothing yet.
-    void CheckMenu(const std::string& name);
-
     /// The grid of the current form, and a row or column of it. Each throws ScriptError if there is none.
     const GridData& FindGrid();
     void CheckRow(int row);

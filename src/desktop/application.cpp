@@ -55,9 +55,10 @@ int RunProgram(const Home& home, const std::string& project) {
 
 }  // namespace
 
-DesktopProgram::DesktopProgram(const Home& home)
+DesktopProgram::DesktopProgram(const Home& home, std::unique_ptr<PrintSystem> printers)
     : fonts_(std::async(std::launch::async, [] { QFontDatabase::families(); })),
       language_(files_, home),
+      dialogs_(std::move(printers)),
       program_({files_, clock_, dialogs_, components_, ToolkitLibraries()}, home) {}
 
 bool DesktopProgram::Start(const std::string& project) {

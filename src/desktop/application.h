@@ -7,6 +7,7 @@
 
 #include "desktop/hand_over.h"
 #include "desktop/main_window.h"
+#include "desktop/print_system.h"
 #include "desktop/qt_dialogs.h"
 #include "desktop/window_language.h"
 #include "platform/clock.h"
@@ -18,7 +19,8 @@ namespace kelvor {
 /// The program with its windows, composed.
 class DesktopProgram {
   public:
-    explicit DesktopProgram(const Home& home);
+    explicit DesktopProgram(const Home& home,
+                            std::unique_ptr<PrintSystem> printers = std::make_unique<LpPrintSystem>());
 
     /// Starts, with the project of a path if it is not empty, and shows the main window. False if the start
     /// failed; the message was shown.

@@ -17,6 +17,7 @@
 #include "drawing/picture_file.h"
 #include "drawing/section_layers.h"
 #include "drawing/svg.h"
+#include "platform/file_name.h"
 #include "platform/replace_file.h"
 #include "platform/text.h"
 #include "platform/translation.h"
@@ -36,15 +37,11 @@ std::string PngOf(const Scene& scene) {
     return bytes.toStdString();
 }
 
-/// A name for a file with the drawing: its title, without what no file's name may hold.
+/// A name for a file with the drawing: its title.
 std::string NameFor(const ChartData& sheet) {
     const std::vector<std::string> lines = LinesOf(sheet.title);
-    std::string name;
-    for (const char letter : lines.empty() ? std::string() : lines.front()) {
-        name += std::string_view("/\\:*?\"<>|").find(letter) == std::string_view::npos ? letter : ' ';
-    }
-    const std::string_view trimmed = TrimBlanks(name);
-    return trimmed.empty() ? "chart" : std::string(trimmed);
+    const std::string name = lines.empty() ? std::string() : FileNameFrom(lines.front());
+    return name.empty() ? "chart" : name;
 }
 
 /// Asks where to, and writes the drawing there.

@@ -157,7 +157,10 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
     }
     const Control* control = controls_.value(watched);
     if (control == nullptr) return QWidget::eventFilter(watched, event);
-    return Filter(*control, *event) || QWidget::eventFilter(watched, event);
+    if (Filter(*control, *event)) return true;
+    // A box that may not have the focus has lost it again by now: it must not show a caret.
+    const auto* widget = qobject_cast<QWidget*>(watched);
+    return event->type() == QEvent::FocusIn && widget != nullptr && !widget->hasFocus();
 }
 
 bool FormView::Filter(const Control& control, QEvent& event) {

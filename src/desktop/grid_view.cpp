@@ -323,6 +323,18 @@ void GridView::currentChanged(const QModelIndex& current, const QModelIndex& pre
         hooks_.moveTo(current.row() + 1, cells_.ColumnAt(current.column()));
 }
 
+/// A press on another cell may be refused while the toolkit handles it; it would still mark that cell.
+void GridView::mousePressEvent(QMouseEvent* event) {
+    const QPersistentModelIndex pressed = indexAt(event->position().toPoint());
+    QTableView::mousePressEvent(event);
+    if (selectionModel() != nullptr && pressed.isValid() && currentIndex() != pressed)
+        selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
+}
+
+void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (indexAt(event->position().toPoint()) == currentIndex()) QTableView::mouseDoubleClickEvent(event);
+}
+
 void GridView::selectionChanged(const QItemSelection& now, const QItemSelection& before) {
     QTableView::selectionChanged(now, before);
     if (hooks_.marked) hooks_.marked();

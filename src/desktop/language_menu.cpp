@@ -38,9 +38,11 @@ void AddLanguageMenu(QMenu& view, WindowSettings& settings, ProcessState& state)
         action->setChecked(settings.Language() == code);
         group->addAction(action);
         QObject::connect(action, &QAction::triggered, menu, [&settings, &state, code] {
-            settings.KeepLanguage(code);
+            const bool kept = settings.KeepLanguage(code);
             state.host.dialogs.ShowMessage(
-                {.text = Translated("The language changes when Kelvor is started again.")});
+                {.text = kept ? Translated("The language changes when Kelvor is started again.")
+                              : Translated("The language cannot be changed: the settings of the windows "
+                                           "cannot be written.")});
         });
     };
     add(TranslatedText("As the System"), {});

@@ -94,8 +94,8 @@ void MenuBar::SyncEntry(QAction& action, const MenuEntry& entry) {
     action.setVisible(entry.visible);
     if (entry.IsSeparator()) return;
     action.setText(CaptionOf(entry));
-    action.setToolTip(entry.comesLater ? TranslatedText(kComesLater) : ToQt(entry.toolTip));
-    action.setEnabled(entry.enabled && !entry.comesLater);
+    action.setToolTip(ToQt(entry.toolTip));
+    action.setEnabled(entry.enabled);
     action.setChecked(entry.checked);
 }
 
@@ -108,7 +108,10 @@ QString MenuBar::CaptionOf(const MenuEntry& entry) const {
 
 QAction* MenuBar::FindAction(const std::string& name, int index) const {
     if (name.empty()) return nullptr;
-    const QString wanted = ActionName({{}, name, {}, false, {}, false, false, index});
+    MenuEntry entry;
+    entry.name = name;
+    entry.index = index;
+    const QString wanted = ActionName(entry);
     for (QAction* action : findChildren<QAction*>()) {
         if (action->objectName().compare(wanted, Qt::CaseInsensitive) == 0) return action;
     }

@@ -160,8 +160,7 @@ void QtDialogs::HideWait() { wait_.reset(); }
 
 std::optional<std::string> QtDialogs::Print(const PrintRequest& request) {
     const BoxPointer pointer;
-    LpPrintSystem printers;
-    return PrintFile(parent_, request, printers);
+    return PrintFile(parent_, request, *printers_);
 }
 
 void QtDialogs::ShowHelp(const HelpRequest& request) {

@@ -5,8 +5,10 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "desktop/help_window.h"
+#include "desktop/print_system.h"
 #include "desktop/wait_box.h"
 #include "platform/dialogs.h"
 
@@ -16,6 +18,8 @@ namespace kelvor {
 /// when the user has answered.
 class QtDialogs : public Dialogs {
   public:
+    explicit QtDialogs(std::unique_ptr<PrintSystem> printers) : printers_(std::move(printers)) {}
+
     /// The window in front of which they stand, once there is one.
     void SetParent(QWidget* parent) { parent_ = parent; }
 
@@ -32,6 +36,7 @@ class QtDialogs : public Dialogs {
     [[nodiscard]] HelpWindow* helpWindow() const { return help_.get(); }
 
   private:
+    std::unique_ptr<PrintSystem> printers_;
     QPointer<QWidget> parent_;
     std::unique_ptr<HelpWindow> help_;
     std::unique_ptr<WaitBox> wait_;

@@ -18,8 +18,6 @@ class WindowActions {
   public:
     WindowActions(EventDoor& door, MenuBar& menus, HubCompany& company, QMainWindow& window);
 
-    [[nodiscard]] QToolBar& toolBar() { return *bar_; }
-
     /// Shows or hides the overview, as the user's choice.
     [[nodiscard]] QAction& overview() { return *overview_; }
 

@@ -33,9 +33,10 @@ bool WindowSettings::Metric() const { return settings_.value(kMetric, false).toB
 void WindowSettings::KeepMetric(bool metric) { settings_.setValue(kMetric, metric); }
 
 std::string WindowSettings::Language() const { return FromQt(settings_.value(kLanguage).toString()); }
-void WindowSettings::KeepLanguage(const std::string& code) {
+bool WindowSettings::KeepLanguage(const std::string& code) {
     settings_.setValue(kLanguage, ToQt(code));
-    settings_.sync();  // the user was told that it counts from the next start on
+    settings_.sync();
+    return settings_.status() == QSettings::NoError;
 }
 
 /// A sheet that is not known, and margins that leave no room, are those of a new home.

@@ -30,7 +30,8 @@ class WindowSettings {
 
     /// The code of the language that the user has chosen; empty: that of his system.
     [[nodiscard]] std::string Language() const;
-    void KeepLanguage(const std::string& code);
+    /// False if it cannot be written.
+    bool KeepLanguage(const std::string& code);
 
     /// The sheet of the reports.
     [[nodiscard]] PageSetup Pages() const;

@@ -120,7 +120,8 @@ struct Control {
     std::string tag;      // the variable of a field, "u" and the variable of a unit label; else empty
     std::string text;     // of a box; the caption of a label, button or frame, and of the tab that shows
     std::string picture;  // the number picture of a field; sizes its box
-    std::string toolTip;
+    std::string does;     // of a button or an option: what it is for
+    std::string toolTip;  // what a field wants or a button does, or why the button is off
     std::vector<std::string> items;     // of a list; the captions of a tab strip
     std::optional<GridData> grid;       // of a grid
     std::optional<ChartData> chart;     // of a chart

@@ -166,8 +166,8 @@ void ShowCalledField(ScreenContext& context, Form& form, const std::string& capt
 }
 
 void DropCommas(ScreenEvent& event) {
-    if (event.control->kind == ControlKind::TextBox && IsNumeric(event.control->text))
-        std::erase(event.control->text, ',');
+    const bool typed = event.form.fieldChanged() && event.control->kind == ControlKind::TextBox;
+    if (typed && IsNumeric(event.control->text)) std::erase(event.control->text, ',');
 }
 
 void CloseValueHelp(ScreenEvent& event) {

@@ -22,7 +22,7 @@ void RecallField(const ScreenContext& context, Form& form, const std::vector<std
 /// from a list. An empty start leaves the caption as it is.
 void ShowCalledField(ScreenContext& context, Form& form, const std::string& captionStart = {});
 
-/// Before such a box is left: a number is stored without the commas that group its digits.
+/// Before such a box is left: a number that was typed is stored without the commas that group its digits.
 void DropCommas(ScreenEvent& event);
 
 /// The close of such a help screen: the caller is told whether the field has a new value.

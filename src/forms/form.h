@@ -52,6 +52,7 @@ struct FormState {
     CellValue valueAtOpening;                  // of a side screen: of the field it was opened for
     bool refused = false;                      // the value that was being typed when a field was left last
     bool workedOut = false;                    // of a side screen: it has a new value for its caller
+    std::optional<bool> metricItems;           // the unit system whose entries its lists offer
     bool edited = false;                       // the user has changed one of its boxes since it opened
 };
 

@@ -113,7 +113,9 @@ class Builder {
 
     void Make(const layout::Choice& choice) {
         AddLabelled(ControlKind::Label, FieldLabelName(choice.name), choice.label).labelOf = choice.name;
-        Add(ControlKind::ComboBox, choice.name).backColor = colours::kWindow;
+        Control& list = Add(ControlKind::ComboBox, choice.name);
+        list.backColor = colours::kWindow;
+        list.toolTip = choice.does;
     }
 
     void Make(const layout::Heading& line) { AddLabelled(ControlKind::Label, line.name, line.text); }
@@ -190,8 +192,8 @@ class Builder {
         grid.backColor = colours::kWindow;
         grid.grid.emplace();
         grid.visible = false;
-        AddButton(ControlKind::CommandButton, {"PrevPage", Translated("&Back")}).visible = false;
-        AddButton(ControlKind::CommandButton, {"NextPage", Translated("&Next")}).visible = false;
+        AddButton(ControlKind::CommandButton, BackButton()).visible = false;
+        AddButton(ControlKind::CommandButton, NextButton()).visible = false;
     }
 
     void Make(const layout::Hidden& boxes) {
@@ -215,10 +217,8 @@ class Builder {
     Control& AddButton(ControlKind kind, const ButtonItem& item) {
         Control& button = AddLabelled(kind, item.name, item.caption);
         button.accessKey = MarkedKey(item.caption);
-        if (item.comesLater) {
-            button.enabled = false;
-            button.toolTip = Translated(kComesLater);
-        }
+        button.does = item.does;
+        button.toolTip = item.does;
         return button;
     }
 

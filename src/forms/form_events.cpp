@@ -93,6 +93,7 @@ void FormEvents::Activate(Form& form) {
     if (Current() == &form || !Commit()) return;
     context_.forms.BringToFront(form);
     NoteCurrentCell(form);
+    if (form.metricItems) BringItemsOver(context_, form);
     Handle(FormEvent::Activate, form, nullptr, [&] {
         const auto returned = std::exchange(form.returned, std::nullopt);
         LoadScreen(context_, form);
@@ -206,15 +207,9 @@ void FormEvents::GetFocus(Form& form, Control& control) {
     form.focus = &control;
     form.focusLeft = false;
     if (control.grid) FindControlIndex(form, control.name);
-    if (!control.IsField() && !control.IsChoice()) return;
-    Handle(FormEvent::GotFocus, form, &control, [&] {
-        if (control.IsField()) {
-            FieldGotFocus(form, control);
-        } else {
-            // Help for an option is asked for like that for a field.
-            form.SetText("SolveForField", control.name);
-        }
-    });
+    if (control.IsField()) FieldGotFocus(form, control);
+    // Help for an option is asked for like that for a field.
+    if (control.IsChoice()) form.SetText("SolveForField", control.name);
 }
 
 bool FormEvents::MoveFocus(Form& form, Control& control) {
@@ -326,6 +321,7 @@ void FormEvents::ShowAnew(Form& form) {
     Form* const current = Current();
     Control* const focus = form.focus;
     NoteCurrentCell(form);
+    if (form.metricItems) BringItemsOver(context_, form);
     Handle(FormEvent::Activate, form, nullptr, [&] { LoadScreen(context_, form); });
     if (form.focus != focus && focus != nullptr && form.CanFocus(*focus)) GetFocus(form, *focus);
     context_.forms.CurrentForm = current;
@@ -341,7 +337,7 @@ void FormEvents::AfterTravel(Form& form) {
 void FormEvents::AfterUnitSwitch() {
     Form* form = Current();
     if (form == nullptr || !context_.calc.store.IsOpen()) return;
-    FillValueItems(context_, *form);
+    BringItemsOver(context_, *form);
     Handle(FormEvent::UnitsSwitched, *form, nullptr, [&] { RefreshScreen(context_, *form); });
     if (form->focus != nullptr) GetFocus(*form, *form->focus);
 }

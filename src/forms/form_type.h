@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "forms/common_buttons.h"
 #include "forms/layout.h"
 #include "forms/status_line.h"
 #include "platform/real.h"
@@ -22,7 +23,6 @@ enum class FormEvent {
     Load,
     Activate,
     Change,
-    GotFocus,
     LostFocus,
     Stored,  // of a field: a changed value has been stored, or a refused text has emptied the cell
     Click,
@@ -84,7 +84,7 @@ enum class BalanceFlag {
     OvWT,
 };
 
-inline constexpr std::size_t kBalanceFlags = 11;
+inline constexpr std::size_t kBalanceFlags = static_cast<std::size_t>(BalanceFlag::OvWT) + 1;
 
 /// An equation of a form: where its state shows, what solves it, and what keeps its balance. The common
 /// routines test the serviceabilities, solve, and keep all of it current.
@@ -95,11 +95,6 @@ struct FormEquation {
     std::string target = "TARGET";  // the line that says what the button solves for
     std::string check = "CHECK";    // the line that says whether the stored numbers satisfy the equation
 };
-
-/// The buttons that most forms have at their foot: one closes the form, the other helps with the field in
-/// hand.
-inline constexpr const char* kOkButton = "cmdAction";
-inline constexpr const char* kHelpButton = "SSHelp";
 
 /// What a row of a grid holds; translated where it is shown.
 struct RowName {
@@ -114,13 +109,16 @@ struct FormType {
     std::string tag;  // the catalogue key; empty: the name
     std::string caption;
     LayoutElement layout;
-    std::vector<ButtonItem> foot = {{kOkButton, "&OK"}, {kHelpButton, "Hel&p"}};  // below the layout
+    std::vector<ButtonItem> foot = {OkButton(), HelpButton()};  // below the layout
     std::vector<Handler> handlers;
     std::vector<FormEquation> equations;  // in the order of their terms
     std::vector<HelpRoute> helpRoutes;    // any other field has the general help
     std::vector<TakeOver> takeOvers;      // of its fields
     StatusLine (*governs)(const ScreenContext& context) =
-        nullptr;                // what decides its result, from the stored cells: shown on the label GOVERNS
+        nullptr;  // what decides its result, from the stored cells: shown on the label GOVERNS
+    /// True while it shows cells of the other unit system; what it does at a switch of units brings them
+    /// over.
+    bool (*standsInOtherUnits)(const ScreenContext& context) = nullptr;
     RowName rowName;            // what a row of its grid holds
     std::string helpPage = {};  // of the help, if it is not called like the form
     bool modal = false;         // while it is open, the user works in it alone

@@ -119,6 +119,7 @@ void GridAfterColUpdate(Form& form) { form.SetFieldChanged(false); }
 
 void FillValueItems(ScreenContext& context, Form& form) {
     Control* control = form.FindGrid();
+    form.metricItems = context.units.bMetric();
     if (control == nullptr) return;
     for (GridColumn& column : control->grid->columns) {
         if (!column.list.empty()) column.items.clear();
@@ -134,6 +135,10 @@ void FillValueItems(ScreenContext& context, Form& form) {
             {.text = Filled(Translated("The drop-down lists cannot be read: %1"), {failure.what()}),
              .title = "Error"});
     }
+}
+
+void BringItemsOver(ScreenContext& context, Form& form) {
+    if (form.metricItems != context.units.bMetric()) FillValueItems(context, form);
 }
 
 }  // namespace kelvor

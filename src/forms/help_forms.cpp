@@ -30,7 +30,7 @@ std::vector<Handler> ValueHelpHandlers() {
         {FormEvent::LostFocus, "", HandlerOrder::Before, DropCommas},
         {FormEvent::Unload, "", HandlerOrder::Before, CloseValueHelp},
         {FormEvent::Click, "Command1", HandlerOrder::Instead, CloseClick},
-        {FormEvent::Click, "SSHelp", HandlerOrder::Instead, LimitsClick},
+        {FormEvent::Click, kHelpButton, HandlerOrder::Instead, LimitsClick},
     };
 }
 
@@ -51,7 +51,8 @@ FormType ValueHelp(const std::string& name, const std::string& box, std::vector<
                  .choice = "ComboBox"}}),
         Hidden(std::move(hidden)),
     });
-    type.foot = {{"Command1", "&OK"}, {"SSHelp", Translated("&Limits")}};
+    type.foot = {BackToFieldButton("Command1"),
+                 {kHelpButton, Translated("&Limits"), Translated("Show what the field takes")}};
     type.handlers = ValueHelpHandlers();
     return type;
 }
@@ -105,7 +106,7 @@ FormType FactsForm() {
                          .unitName = std::string("Unit") + number});
     }
     type.layout = Rows({Text("msg", ""), Fields(std::move(lines))});
-    type.foot = {{"CmdClose", "&OK"}};
+    type.foot = {BackToFieldButton("CmdClose")};
     type.handlers = {
         {FormEvent::Load, "", HandlerOrder::After, LoadFacts},
         {FormEvent::Unload, "", HandlerOrder::Before, ReturnFromFacts},

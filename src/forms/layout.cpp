@@ -54,8 +54,8 @@ LayoutElement Options(std::vector<ButtonItem> options) { return {layout::Options
 LayoutElement Checks(std::vector<ButtonItem> boxes) { return {layout::Checks{std::move(boxes)}}; }
 LayoutElement Buttons(std::vector<ButtonItem> buttons) { return {layout::Buttons{std::move(buttons)}}; }
 
-LayoutElement Choice(std::string name, std::string label) {
-    return {layout::Choice{std::move(name), std::move(label)}};
+LayoutElement Choice(std::string name, std::string label, std::string does) {
+    return {layout::Choice{std::move(name), std::move(label), std::move(does)}};
 }
 
 LayoutElement Heading(std::string name, std::string text) {
@@ -118,7 +118,8 @@ LayoutElement Hidden(std::vector<std::string> names) { return {layout::Hidden{st
 LayoutElement SolveForFrame(std::string frame, const FormEquation& equation, FrameShape shape,
                             std::string caption) {
     LayoutElement indicator{layout::Indicator{equation.indicator}};
-    LayoutElement button = Buttons({{.name = equation.button, .caption = std::move(caption)}});
+    LayoutElement button = Buttons({{equation.button, std::move(caption),
+                                     Translated("Work out what it solves for from all the others")}});
     if (shape == FrameShape::Tall) {
         return Frame(std::move(frame), "Solve For",
                      {std::move(indicator), Statement(equation.check, kCheckLines),

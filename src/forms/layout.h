@@ -37,14 +37,11 @@ struct FieldItem {
     [[nodiscard]] std::string Unit() const;
 };
 
-/// What is said of a thing that Kelvor cannot do yet.
-inline constexpr const char* kComesLater = ToTranslate("comes later");
-
-/// A button or an option.
+/// A button, an option or a check box.
 struct ButtonItem {
     std::string name;
-    std::string caption;  // `&` before the letter of its access key
-    bool comesLater = false;
+    std::string caption;    // `&` before the letter of its access key
+    std::string does = {};  // what it is for, in a phrase: its tool tip, and what a screen reader says of it
 };
 
 struct FormEquation;
@@ -125,6 +122,7 @@ struct Buttons {
 struct Choice {
     std::string name;
     std::string label;
+    std::string does;  // what is chosen, in a phrase
 };
 
 /// A line in large letters.
@@ -266,7 +264,7 @@ LayoutElement UnitOf(const std::string& box);
 LayoutElement Options(std::vector<ButtonItem> options);
 LayoutElement Checks(std::vector<ButtonItem> boxes);
 LayoutElement Buttons(std::vector<ButtonItem> buttons);
-LayoutElement Choice(std::string name, std::string label);
+LayoutElement Choice(std::string name, std::string label, std::string does);
 LayoutElement Heading(std::string name, std::string text);
 LayoutElement Text(std::string name, std::string text);
 LayoutElement Caption(std::string name, std::string text);

@@ -160,8 +160,8 @@ bool BuildScreen(ScreenContext& context, const std::string& name, Form& form) {
     BuildLabels(context, screen->name, form);
     BuildFields(context, screen->name, form);
     LabelBoxes(form);
-    ShowPageButton(form, "PrevPage", screen->left);
-    ShowPageButton(form, "NextPage", screen->right);
+    ShowPageButton(form, kBackButton, screen->left);
+    ShowPageButton(form, kNextButton, screen->right);
     SetSolveForState(form, SolveState::Warning);
     return true;
 }
@@ -192,8 +192,8 @@ FormType BlankForm() {
     });
     type.handlers = {
         {FormEvent::Load, "", HandlerOrder::Instead, [](ScreenEvent& event) { HideParts(event.form); }},
-        {FormEvent::Click, "PrevPage", HandlerOrder::Instead, PageClick},
-        {FormEvent::Click, "NextPage", HandlerOrder::Instead, PageClick}};
+        {FormEvent::Click, kBackButton, HandlerOrder::Instead, PageClick},
+        {FormEvent::Click, kNextButton, HandlerOrder::Instead, PageClick}};
     return type;
 }
 

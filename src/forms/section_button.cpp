@@ -16,7 +16,9 @@ void OpenCrossSection(ScreenEvent& event) {
 
 }  // namespace
 
-ButtonItem CrossSectionButton() { return {kName, "&Cross Section"}; }
+ButtonItem CrossSectionButton() {
+    return {kName, "&Cross Section", Translated("Draw this pavement to scale")};
+}
 
 Handler OpeningCrossSection() { return {FormEvent::Click, kName, HandlerOrder::Instead, OpenCrossSection}; }
 

@@ -1,6 +1,7 @@
 #include "forms/side_screen.h"
 
 #include "forms/act_name.h"
+#include "platform/number_text.h"
 
 namespace kelvor {
 
@@ -26,6 +27,20 @@ CellValue CalledField(const ScreenContext& context, const Form& sideScreen) {
     const CellValue* cell = context.calc.store.FindCell(
         sideScreen.TextOf("FieldName"), sideScreen.dim1().value_or(1), sideScreen.dim2().value_or(1));
     return cell == nullptr ? CellValue{} : *cell;
+}
+
+std::string ContentOf(const ProjectStore& store, std::span<const char* const> variables) {
+    std::string content;
+    for (const char* variable : variables) {
+        const CellValue* cell = store.FindCell(variable, 1, 1);
+        if (cell != nullptr && cell->number) {
+            content += NumberToText(*cell->number);
+        } else if (cell != nullptr && cell->text) {
+            content += "\"" + *cell->text;
+        }
+        content += "\n";
+    }
+    return content;
 }
 
 bool IsSameValue(const CellValue& one, const CellValue& other) {

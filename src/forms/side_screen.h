@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
 
 #include "forms/screen_context.h"
@@ -32,6 +33,9 @@ void NoteCall(Form& sideScreen, const SideScreenCall& call);
 
 /// The value of the field that a side screen was opened for, as it is stored.
 CellValue CalledField(const ScreenContext& context, const Form& sideScreen);
+
+/// What some cells hold, as a text: another one once one of them has changed.
+std::string ContentOf(const ProjectStore& store, std::span<const char* const> variables);
 
 /// True for equal numbers, however they were typed; texts are compared where there is no number.
 bool IsSameValue(const CellValue& one, const CellValue& other);

@@ -18,8 +18,6 @@ namespace kelvor {
 
 namespace {
 
-constexpr std::size_t kLargestPart = 64UL * 1024UL * 1024UL;
-
 const char* const kSettings = "kvor.ini";
 const char* const kCatalogue = "DataBase/Kelvor.mdb";
 const char* const kLists = "DataBase/custom.tpl";

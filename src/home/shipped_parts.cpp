@@ -9,7 +9,6 @@ namespace kelvor {
 
 namespace {
 
-constexpr std::size_t kLargestPart = 64UL * 1024UL * 1024UL;
 constexpr std::size_t kMarkLength = 16;
 
 const char* const kSingleParts[] = {"kvor.ini", "kvrwork.tpl", "DataBase/Kelvor.mdb", "DataBase/custom.tpl"};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -7,6 +8,9 @@
 #include "platform/file_system.h"
 
 namespace kelvor {
+
+/// Far above anything that ships.
+inline constexpr std::size_t kLargestPart = 64UL * 1024UL * 1024UL;
 
 /// One file that ships with the program and that a user's home has a copy of.
 struct ShippedPart {

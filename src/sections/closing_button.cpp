@@ -12,7 +12,7 @@ void CloseForm(ScreenEvent& event) { FormEvents(event.context).Close(event.form)
 
 }  // namespace
 
-ButtonItem ClosingButton() { return {kName, "&Close"}; }
+ButtonItem ClosingButton() { return {kName, "&Close", Translated("Close this drawing")}; }
 
 Handler ClosingByButton() { return {FormEvent::Click, kName, HandlerOrder::Instead, CloseForm}; }
 

@@ -43,7 +43,8 @@ FormType SectionChartForm(std::string_view screen, std::string caption, LayoutEl
     type.name = ChartName(screen);
     type.caption = std::move(caption);
     type.layout = std::move(layout);
-    type.foot = {{kDiagramButton, "&Diagram"}, ClosingButton()};
+    type.foot = {{kDiagramButton, "&Diagram", Translated("Show the layers as a stack of boxes")},
+                 ClosingButton()};
     type.helpPage = kSectionHelpPage;
     for (const FormEvent event : {FormEvent::Load, FormEvent::Activate, FormEvent::UnitsSwitched}) {
         type.handlers.push_back({event, "", HandlerOrder::After, draw});

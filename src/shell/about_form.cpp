@@ -24,11 +24,11 @@ FormType AboutForm(const std::vector<Library>& ofFrontEnd) {
              Translated("Free software under the GNU General Public License, version 3 or later; without any "
                         "warranty.")),
     });
-    type.foot = {{"cmdAction", "&OK"}};
+    type.foot = {{kOkButton, "&OK", Translated("Close this window")}};
     type.handlers = {
         {FormEvent::Load, "", HandlerOrder::Instead, [](ScreenEvent&) {}},
         {FormEvent::Activate, "", HandlerOrder::After,
-         [](ScreenEvent& event) { event.form.focus = event.form.Find("cmdAction"); }},
+         [](ScreenEvent& event) { event.form.focus = event.form.Find(kOkButton); }},
     };
     return type;
 }

@@ -1,10 +1,17 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "platform/file_system.h"
 
 namespace kelvor {
+
+/// The section of kvor.ini that holds the settings.
+inline constexpr const char* kIniSection = "kvor";
+
+/// Far above any project file, and above anything else that a home holds: a file beyond this is none.
+inline constexpr std::size_t kLargestProject = 64UL * 1024UL * 1024UL;
 
 /// Where everything lies: below the program folder, but for the work copy, which may lie elsewhere. The home
 /// of a user of an installed program has its projects among his documents, and shares with other users what
@@ -12,9 +19,8 @@ namespace kelvor {
 struct Home {
     Path folder;
     Path work;
-    Path projects = {};     // where the dialogs for projects start; empty for below the folder
-    Path shared = {};       // where help and samples lie; empty for below the folder
-    bool justMade = false;  // this start has made the home: its user is new
+    Path projects = {};  // where the dialogs for projects start; empty for below the folder
+    Path shared = {};    // where help and samples lie; empty for below the folder
 
     /// True of a program in whose windows a person works: a save keeps the former version of the file, and
     /// asks before it replaces one that others have changed.

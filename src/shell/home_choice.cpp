@@ -39,9 +39,9 @@ std::optional<Path> HomeChoice::Installed() const {
 
 Home HomeChoice::OwnHome(const Path& installed) {
     if (user_.data.empty()) throw FileError(Translated("Nothing tells where the user's home folder is."));
-    const HomeState state = MakeOrRenewHome(files_, installed, UserHome());
-    Home home{UserHome(), UserHome(), user_.documents / "Kelvor", installed, state == HomeState::Made};
-    const Path chosen = ReadIni(files_, "kvor", "Projects", home.IniFile());
+    MakeOrRenewHome(files_, installed, UserHome());
+    Home home{UserHome(), UserHome(), user_.documents / "Kelvor", installed};
+    const Path chosen = ReadIni(files_, kIniSection, "Projects", home.IniFile());
     if (chosen.is_absolute()) home.projects = chosen;
     return home;
 }

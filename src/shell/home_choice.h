@@ -17,8 +17,7 @@ class HomeChoice {
     /// Where what was installed lies, which homes are made of; nothing if the program is not installed.
     [[nodiscard]] std::optional<Path> Installed() const;
 
-    /// For a window: makes the user's home if he has none, and renews it after an upgrade; `justMade` tells
-    /// the former. Throws FileError.
+    /// For a window: makes the user's home if he has none, and renews it after an upgrade. Throws FileError.
     [[nodiscard]] Home ForWindow();
 
     /// For a script: the user's home if he has one, renewed after an upgrade; else a copy of what is

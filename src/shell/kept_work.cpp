@@ -22,9 +22,6 @@ constexpr std::size_t kDigits = 3;
 
 constexpr std::size_t kDateLetters = std::string_view("2001-02-03 04:05:06.789").size();
 
-/// The longest note that is read: a path and a line.
-constexpr std::size_t kLongestNote = 64UL * 1024UL;
-
 /// The note has the line first, since a path may have any character, that of a new line too.
 std::string NoteOf(const KeptProject& about) { return about.contents + "\n" + about.formerPath; }
 

@@ -8,6 +8,9 @@
 
 namespace kelvor {
 
+/// The longest note that is read of work that was not saved: a path and a line.
+inline constexpr std::size_t kLongestNote = 64UL * 1024UL;
+
 /// Work that was dropped with changes that no project file has.
 struct KeptProject {
     Path file;               // where it lies now; of work that is still to be kept, where it once lay

@@ -88,9 +88,9 @@ std::vector<MenuEntry> MenuEntries(const ProcessState& state, const UndoNames& n
     std::vector<MenuEntry> entries = {
         {"MenuFile", "NewProj", "&New Project"},
         {"MenuFile", "MenuFileOpen", "&Open Project..."},
-        {"MenuFile", "MenuFilePrint", "&Print", false, "Ctrl+P"},
-        {"MenuFile", "MenuFileSave", "&Save Project...", false, "Ctrl+S"},
-        {"MenuFile", "MenuFileSaveAs", "Save Project &As...", false, "Ctrl+Shift+S"},
+        {"MenuFile", "MenuFilePrint", "&Print", "Ctrl+P"},
+        {"MenuFile", "MenuFileSave", "&Save Project...", "Ctrl+S"},
+        {"MenuFile", "MenuFileSaveAs", "Save Project &As...", "Ctrl+Shift+S"},
         RecoverMenu(state),
         Separator("BreakLine1", !state.recentMenu.empty()),
     };
@@ -98,11 +98,11 @@ std::vector<MenuEntry> MenuEntries(const ProcessState& state, const UndoNames& n
     for (std::size_t i = 0; i < KeptWork::kMost; ++i) entries.push_back(RecoverEntry(state, i));
     const std::vector<MenuEntry> others = {
         Separator("BreakLine2", true),
-        {"MenuFile", "MenuFileExit", "E&xit", false, "Ctrl+Q"},
+        {"MenuFile", "MenuFileExit", "E&xit", "Ctrl+Q"},
         EditEntry("MenuEditUndo", Translated("&Undo"), "Ctrl+Z", names.undo),
         EditEntry("MenuEditRedo", Translated("&Redo"), "Ctrl+Shift+Z; Ctrl+Y", names.redo),
-        {"MenuUnits", "MenuUnitsEnglish", "&English", false, "", true, !metric},
-        {"MenuUnits", "MenuUnitsMetric", "&Metric", false, "", true, metric},
+        {"MenuUnits", "MenuUnitsEnglish", "&English", "", true, !metric},
+        {"MenuUnits", "MenuUnitsMetric", "&Metric", "", true, metric},
         {"MenuHelp", "MenuAbout", "A&bout Kelvor"},
         {"MenuHelp", "MenuTopics", "Help &Topics"},
     };

@@ -13,8 +13,7 @@ namespace kelvor {
 struct MenuEntry {
     std::string menu;  // the menu it stands in
     std::string name;
-    std::string caption;  // `&` before the letter of its access key; empty: a separator
-    bool comesLater = false;
+    std::string caption;        // `&` before the letter of its access key; empty: a separator
     std::string shortcut = {};  // the keys, parted by ";", that choose it without the menu
     bool checkable = false;
     bool checked = false;

@@ -63,6 +63,7 @@ struct ProcessState {
     std::string sIniFile;
     std::unordered_map<std::string, int, NameHash, NameEqual>
         changes;               // by variable: the event by which the user changed it last, counted
+    int noProjects = 0;        // counts the times that no project could be made of the template
     int saves = 0;             // counts the projects that were written to a file
     int projects = 0;          // counts them: each New and each Open is another one
     std::string sProjectFile;  // full path of the open project; empty for an unnamed one
@@ -73,7 +74,7 @@ struct ProcessState {
         false;  // the start found unsaved work of a crashed program, now the first of keptWork
     bool unsavedNoted = false;  // a note beside the work copy says that it holds unsaved changes
     int snapshotWrites = -1;    // of the work copy when it was last copied as a whole; -1: there is no copy
-    std::string proposedPath;   // of a recovered project: the path that it had, for Save As
+    std::string proposedPath;   // for Save As: the path of a recovered project, the name of a sample
     Path recoveredFrom;         // of a recovered project: where it is kept
     bool bReportsUnavailable = false;
     std::vector<RecentMenuItem> recentMenu;  // what the menu shows; the table is read when it changes

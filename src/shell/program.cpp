@@ -218,7 +218,7 @@ bool Program::PerformOnCurrentForm(const UserEvent& event) {
     // A screen that was kept open over a failed open has no project to work on.
     FormEvents events(context);
     if (!state_.dbWork.IsOpen() && form->type().needsProject) {
-        if (event.kind == UserEvent::Kind::Press && EqualNoCase(event.name, "cmdAction")) events.Close(*form);
+        if (event.kind == UserEvent::Kind::Press && EqualNoCase(event.name, kOkButton)) events.Close(*form);
         return true;
     }
     if (event.kind == UserEvent::Kind::Key && event.name == "F1" && !HasFieldHelp(*form)) {
@@ -318,7 +318,8 @@ std::optional<std::string> Program::RedoLast() {
 
 void Program::ChooseUnits(bool metric) {
     InEvent([&] {
-        SwitchUnits(metric);
+        const Form* front = state_.formRegistry.CurrentForm;
+        if (front == nullptr || !front->modal) SwitchUnits(metric);
         return true;
     });
 }

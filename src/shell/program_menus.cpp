@@ -31,7 +31,7 @@ bool Program::ChooseMenu(const std::string& name, int index) {
                (e.index == index || !isOneOfSeveral);
     });
     if (entry == entries.end()) return false;
-    if (entry->comesLater || !entry->enabled) return true;
+    if (!entry->enabled) return true;
     const std::pair<const char*, std::function<void()>> actions[] = {
         {"NewProj", [&] { MakeNewProject(); }},
         {"MenuFileOpen", [&] { OpenProjectByDialog(); }},
@@ -69,7 +69,7 @@ void Program::PrintReport() {
 
 /// True if F1 asks for the help of a field: of the one in focus, or on a button of the one before it.
 bool Program::HasFieldHelp(const Form& form) {
-    const Control* help = form.Find("SSHelp");
+    const Control* help = form.Find(kHelpButton);
     return help != nullptr && help->enabled && help->visible;
 }
 

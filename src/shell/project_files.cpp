@@ -10,15 +10,13 @@
 #include "platform/ini_file.h"
 #include "platform/replace_file.h"
 #include "platform/translation.h"
+#include "shell/file_suggestion.h"
 #include "shell/recent_files.h"
 #include "shell/recovery.h"
 
 namespace kelvor {
 
 namespace {
-
-/// Far above any project: a file beyond this is none.
-constexpr std::size_t kLargestProject = 64UL * 1024UL * 1024UL;
 
 constexpr double kMetricMode = -1.0;
 
@@ -73,6 +71,12 @@ void ProjectFiles::WriteWorkCopy(const std::string& content) {
 }
 
 bool ProjectFiles::NewWorkCopy() {
+    const bool made = MakeWorkCopy();
+    if (!made) ++state_.noProjects;
+    return made;
+}
+
+bool ProjectFiles::MakeWorkCopy() {
     state_.dbWork.Abandon();
     const Path source = state_.home.Template();
     if (state_.host.files.Kind(source) == FileKind::Missing) {
@@ -155,8 +159,10 @@ bool ProjectFiles::NewProject() {
 bool ProjectFiles::OpenProject(const std::string& path) {
     const bool opened = LoadProject(path);
     if (IsSample(path)) {
-        if (opened) Unname();
-        return opened;
+        if (!opened) return false;
+        Unname();
+        state_.proposedPath = Path(path).filename().string();
+        return true;
     }
     AddRecentFile(state_, FullPath(path));
     return opened;
@@ -252,7 +258,7 @@ bool ProjectFiles::SaveProject(const std::string& path) {
         ReopenUnsaved();
         return false;
     }
-    AddRecentFile(state_, FullPath(path));
+    if (!IsSample(path)) AddRecentFile(state_, FullPath(path));
     try {
         ReopenSaved();
     } catch (const DatabaseError& failure) {
@@ -287,7 +293,7 @@ bool ProjectFiles::MayOverwrite(const std::string& path) {
 void ProjectFiles::KeepFormerVersion(const std::string& path, const std::string& content) {
     FileSystem& files = state_.host.files;
     if (!state_.home.attended || files.Kind(path) != FileKind::Regular) return;
-    if (ReadIni(files, "kvor", "KeepFormerVersion", state_.sIniFile) == "0") return;
+    if (ReadIni(files, kIniSection, "KeepFormerVersion", state_.sIniFile) == "0") return;
     try {
         const std::string former = files.Read(path, kLargestProject);
         if (former == content) return;
@@ -338,18 +344,9 @@ bool ProjectFiles::SaveProjectAs() {
     MakeProjectsFolder();  // the dialog starts there
     FileRequest request{FileRequest::Kind::Save, state_.home.ProjectsFolder(), kSaveFilter,
                         std::string(kExtension.substr(1))};
-    request.suggested = SuggestedPath();
+    request.suggested = SuggestedProjectFile(state_);
     const auto chosen = state_.host.dialogs.AskFile(request);
     return chosen && SaveProjectAs(chosen->string());
-}
-
-/// The name of the file that is open, or of a recovered project the path that it had: its name alone where
-/// the folder is gone.
-Path ProjectFiles::SuggestedPath() const {
-    if (!state_.sProjectFile.empty()) return Path(state_.sProjectFile).filename();
-    const Path former = state_.proposedPath;
-    const bool folderStands = state_.host.files.Kind(former.parent_path()) == FileKind::Directory;
-    return folderStands ? former : former.filename();
 }
 
 bool ProjectFiles::SaveProjectAs(const std::string& name) {

@@ -48,6 +48,7 @@ class ProjectFiles {
 
   private:
     void OpenWorkCopy(bool checkPages, const ProjectCells* known = nullptr);
+    bool MakeWorkCopy();
     void CloseWorkCopyQuietly();
     [[nodiscard]] bool MayOverwrite(const std::string& path);
     void KeepFormerVersion(const std::string& path, const std::string& content);
@@ -61,7 +62,6 @@ class ProjectFiles {
     void WriteWorkCopy(const std::string& content);
     [[nodiscard]] std::string ReadProject(const std::string& path) const;
     bool LoadProject(const std::string& path);
-    [[nodiscard]] Path SuggestedPath() const;
     [[nodiscard]] bool IsWorkCopy(const std::string& path) const;
     [[nodiscard]] bool IsSample(const std::string& path) const;
     void NameProject(const std::string& path);

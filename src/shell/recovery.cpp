@@ -13,9 +13,6 @@ namespace kelvor {
 
 namespace {
 
-constexpr std::size_t kLargestProject = 64UL * 1024UL * 1024UL;
-constexpr std::size_t kLongestNote = 64UL * 1024UL;
-
 /// Once more if it failed: what goes wrong in a while, like a full disk, may not go wrong at once again.
 template <typename Action>
 void TryTwice(const Action& action) {

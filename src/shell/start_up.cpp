@@ -14,8 +14,6 @@ namespace kelvor {
 
 namespace {
 
-const char* const kIniSection = "kvor";
-
 /// Numbers under which failures of the start are reported.
 constexpr int kNotADatabase = 3049;
 constexpr int kDamagedDatabase = 3343;

@@ -6,6 +6,7 @@
 #include <tuple>
 #include <utility>
 
+#include "forms/field_entry.h"
 #include "forms/form_events.h"
 #include "forms/indicator.h"
 #include "forms/recalculation.h"
@@ -215,6 +216,17 @@ void TakeOnLooks(FormRegistry& forms, const std::vector<FormLook>& looks, bool b
     }
 }
 
+/// The cells are held against what the screens have worked out, and are shown as they are.
+void ShowStored(ScreenContext& context) {
+    for (Form* form : context.forms.InOpeningOrder()) {
+        if (!form->type().needsProject) continue;
+        RefreshScreen(context, *form);
+        for (const auto& control : form->controls()) {
+            if (control->coded && control->IsField()) ShowStoredValue(context, *form, *control);
+        }
+    }
+}
+
 }  // namespace
 
 // --- Recording ------------------------------------------------------------------------------------------
@@ -229,6 +241,7 @@ void UndoHistory::Record(const ProcessState& state, const EventScope& event,
     if (!event.HasSameProject()) return;  // saved: the same cells, opened anew
     if (changes.empty()) return;
     if (state.act.empty() || std::all_of(changes.begin(), changes.end(), IsBookkeeping)) {
+        if (unnamed_.empty()) unnamedMetric_ = event.marks().metric;
         unnamed_ = Compose(unnamed_, std::move(changes));
         return;
     }
@@ -241,6 +254,7 @@ void UndoHistory::Record(const ProcessState& state, const EventScope& event,
     }
     step.metric = event.marks().metric;
     step.metricAfter = state.units->bMetric();
+    if (step.metric != step.metricAfter) step.switchedTo = step.metricAfter;
     step.cells = std::move(changes);
     SettleUnnamed(step);
     step.balanceBefore = event.marks().balance;
@@ -257,11 +271,13 @@ void UndoHistory::SettleUnnamed(UndoStep& next) {
     const std::vector<CellChange> derived = std::exchange(unnamed_, {});
     if (done_ == 0) {
         next.cells = Compose(derived, std::move(next.cells));
+        next.metric = unnamedMetric_;
         return;
     }
     UndoStep& last = steps_[done_ - 1];
     cells_ -= last.cells.size();
     last.cells = Compose(last.cells, derived);
+    last.metricAfter = next.metric;  // quantities of costs may have been brought over to another system
     cells_ += last.cells.size();
 }
 
@@ -288,8 +304,8 @@ std::optional<std::string> UndoHistory::Undo(ProcessState& state) {
     if (done_ == 0) return std::nullopt;
     UndoStep step = steps_[done_ - 1];
     step.cells = Compose(step.cells, unnamed_);
+    if (!unnamed_.empty()) step.metricAfter = state.units->bMetric();
     Travel(state, step, Way::Back);
-    unnamed_.clear();
     --done_;
     cells_ += step.cells.size() - steps_[done_].cells.size();
     steps_[done_] = std::move(step);
@@ -303,7 +319,6 @@ std::optional<std::string> UndoHistory::Redo(ProcessState& state) {
     for (CellChange& change : unnamed_) std::swap(change.before, change.after);
     step.cells = Compose(unnamed_, std::move(step.cells));
     Travel(state, step, Way::Forth);
-    unnamed_.clear();
     return steps_[done_++].act;
 }
 
@@ -312,8 +327,9 @@ void UndoHistory::Travel(ProcessState& state, const UndoStep& step, Way way) {
     ScreenContext context = state.MakeScreenContext();
     CellTargets targets(state.dbWork, step.cells, back);
     KeptIndicators indicators(context.forms);
-    const bool metric = state.units->bMetric();
-    const bool ended = back ? step.metricAfter : step.metric;  // the unit system from which the step travels
+    // The cells need the unit system in which they were. The user keeps his, unless he switched in this step.
+    const bool before = state.units->bMetric();
+    const bool after = step.switchedTo ? (back ? !*step.switchedTo : *step.switchedTo) : before;
     state.units->SetMetric(back ? step.metric : step.metricAfter);
     targets.Hold();
     state.balance = back ? step.balanceBefore : step.balanceAfter;
@@ -321,21 +337,30 @@ void UndoHistory::Travel(ProcessState& state, const UndoStep& step, Way way) {
     for (Form* form : std::vector<Form*>(context.forms.InOpeningOrder())) {
         if (form->type().isHub || form->type().needsProject) FormEvents(context).ShowAnew(*form);
     }
-    if (targets.Hold()) {
-        for (Form* form : context.forms.InOpeningOrder()) {
-            if (form->type().needsProject) RefreshScreen(context, *form);
-        }
-    }
+    if (targets.Hold()) ShowStored(context);
     state.balance = back ? step.balanceBefore : step.balanceAfter;
     indicators.PutBack(context.forms);
     TakeOnLooks(context.forms, step.looks, back);
     for (Form* form : std::vector<Form*>(context.forms.InOpeningOrder()))
         FormEvents(context).AfterTravel(*form);
     state.bProjectChanged = true;
-    if (metric != ended) {  // the user has changed the unit system since, and keeps it
-        state.units->SetMetric(metric);
-        FormEvents(context).AfterUnitSwitch();
-    }
+    unnamed_.clear();
+    // Only the page in front was brought over at a switch of units: another may come in front as it was.
+    const Form* front = context.forms.CurrentForm;
+    const auto isOther = front == nullptr ? nullptr : front->type().standsInOtherUnits;
+    if (after != state.units->bMetric() || (isOther != nullptr && isOther(context))) KeepUnits(state, after);
+}
+
+/// Goes on in another unit system than that of the cells, and notes what that changes in them: the next
+/// journey begins where this one came to.
+void UndoHistory::KeepUnits(ProcessState& state, bool metric) {
+    std::vector<CellChange> travelled = state.dbWork.EventChanges();
+    for (CellChange& change : travelled) std::swap(change.before, change.after);
+    unnamedMetric_ = state.units->bMetric();
+    state.units->SetMetric(metric);
+    ScreenContext context = state.MakeScreenContext();
+    FormEvents(context).AfterUnitSwitch();
+    unnamed_ = Compose(travelled, state.dbWork.EventChanges());
 }
 
 }  // namespace kelvor

@@ -47,8 +47,9 @@ struct UndoStep {
     std::string form;
     std::optional<int> dim2;
     int page = 0;
-    bool metric = false;  // the unit system in which it took place, before a switch that it made
+    bool metric = false;  // the unit system in which the cells were before it, and after it
     bool metricAfter = false;
+    std::optional<bool> switchedTo;  // of a switch of units: whether to metric ones
     std::vector<CellChange> cells;
     BalanceFlags balanceBefore;
     BalanceFlags balanceAfter;
@@ -81,11 +82,13 @@ class UndoHistory {
 
     void SettleUnnamed(UndoStep& next);
     void Add(UndoStep step);
-    static void Travel(ProcessState& state, const UndoStep& step, Way way);
+    void Travel(ProcessState& state, const UndoStep& step, Way way);
+    void KeepUnits(ProcessState& state, bool metric);
 
     std::deque<UndoStep> steps_;
     std::size_t done_ = 0;             // the steps that are not taken back
     std::vector<CellChange> unnamed_;  // what events without a name have changed since the last step
+    bool unnamedMetric_ = false;       // the unit system in which the cells were before that
     std::size_t cells_ = 0;            // in all steps together
     int project_ = 0;                  // whose steps these are; see ProcessState::projects
 };

@@ -4,7 +4,9 @@
 
 #include <QApplication>
 #include <QTest>
+#include <memory>
 #include <string>
+#include <utility>
 
 #include "desktop/application.h"
 #include "desktop/dialog_responder.h"
@@ -17,7 +19,10 @@ namespace kelvor::test {
 /// The desktop program on a home folder of the test's own, started and shown.
 class DesktopTest : public testing::Test {
   protected:
-    DesktopTest() { EXPECT_TRUE(desktop.Start("")); }
+    explicit DesktopTest(std::unique_ptr<PrintSystem> printers = std::make_unique<LpPrintSystem>())
+        : desktop(home.home(), std::move(printers)) {
+        EXPECT_TRUE(desktop.Start(""));
+    }
 
     MainWindow& window() { return desktop.window(); }
     ProcessState& state() { return desktop.program().state(); }
@@ -28,13 +33,16 @@ class DesktopTest : public testing::Test {
     TestHome home;
     QuestionRecord record;
     DialogResponder responder{record};
-    DesktopProgram desktop{home.home()};
+    DesktopProgram desktop;
 };
 
 /// The same, worked by keys alone. A key goes to whatever has the focus.
 class KeyboardTest : public DesktopTest {
   protected:
-    KeyboardTest() { ComeToFront(); }
+    explicit KeyboardTest(std::unique_ptr<PrintSystem> printers = std::make_unique<LpPrintSystem>())
+        : DesktopTest(std::move(printers)) {
+        ComeToFront();
+    }
 
     void ComeToFront() {
         window().activateWindow();

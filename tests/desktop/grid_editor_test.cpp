@@ -92,6 +92,73 @@ TEST_F(GridEditorTest, TheUnitsAreSwitchedOverAnEdit) {
     EXPECT_EQ(Grid().model()->index(0, 3).data().toString(), "101.6") << "of 25.4 mm each inch";
 }
 
+// --- Clicks while a value is refused ----------------------------------------------------------------------
+
+class RefusedClickTest : public GridEditorTest {
+  protected:
+    void Click(int row, int column) {
+        const QPoint place = Grid().visualRect(Grid().model()->index(row, column)).center();
+        QTest::mouseClick(Grid().viewport(), Qt::LeftButton, {}, place);
+        Settle();
+    }
+
+    QModelIndexList Marked() { return Grid().selectionModel()->selectedIndexes(); }
+};
+
+TEST_F(RefusedClickTest, TheCursorAndWhatIsMarkedStayOnTheCell) {
+    Type("four");
+    Click(2, 1);
+    EXPECT_THAT(Messages(), testing::ElementsAre("Please enter valid numeric value."));
+    const QModelIndex cell = Grid().model()->index(0, 3);
+    EXPECT_EQ(Grid().currentIndex(), cell);
+    EXPECT_THAT(Marked(), testing::ElementsAre(cell));
+    Type("5");
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Thickness(1), 5.0) << "the marked cell is the one that is typed into";
+}
+
+TEST_F(RefusedClickTest, OtherwiseTheClickedCellHasTheCursorAndIsMarked) {
+    Type("4");
+    Click(2, 1);
+    const QModelIndex cell = Grid().model()->index(2, 1);
+    EXPECT_EQ(Thickness(1), 4.0);
+    EXPECT_EQ(Grid().currentIndex(), cell);
+    EXPECT_THAT(Marked(), testing::ElementsAre(cell));
+}
+
+/// What a box looks like without the focus, with its caret at the place where a click would show it.
+QImage PictureOf(QLineEdit& box) {
+    box.deselect();
+    return box.grab().toImage();
+}
+
+class RefusedBoxTest : public KeyboardTest {
+  protected:
+    RefusedBoxTest() {
+        QApplication::setCursorFlashTime(0);  // a caret that shows does so always
+        window().door().Raise({UserEvent::Kind::OpenForm, "DeF", {}, 0});
+    }
+    ~RefusedBoxTest() override { QApplication::setCursorFlashTime(before_); }
+
+    QLineEdit& Box(const char* name) {
+        return dynamic_cast<QLineEdit&>(*window().FindView("DeF")->FindWidget(name));
+    }
+
+    int before_ = QApplication::cursorFlashTime();
+};
+
+TEST_F(RefusedBoxTest, ABoxThatMayNotHaveTheFocusShowsNoCaret) {
+    QLineEdit& clicked = Box("FLEXPT");
+    const QImage before = PictureOf(clicked);
+    QTest::mouseClick(&Box("SN"), Qt::LeftButton);
+    Type("50");
+    QTest::mouseClick(&clicked, Qt::LeftButton);
+    ComeToFront();
+    EXPECT_THAT(Messages(), testing::SizeIs(1));
+    EXPECT_EQ(QApplication::focusWidget(), &Box("SN"));
+    EXPECT_EQ(PictureOf(clicked), before);
+}
+
 // --- Whose key it is --------------------------------------------------------------------------------------
 
 TEST_F(GridEditorTest, UpAndDownLeaveTheLineOfACell) {

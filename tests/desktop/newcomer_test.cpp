@@ -1,22 +1,26 @@
 // What someone does who sees the program for the first time: from the start page to a design that is solved,
-// saved and ready for the printer. Each press of a key or a button, and each value, is an act.
+// saved and printed. Each press of a key or a button, and each value, is an act.
 
 #include <gmock/gmock.h>
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
+#include <QMetaObject>
+#include <QPrintDialog>
 #include <QRadioButton>
 #include <QTabBar>
 #include <QTest>
 #include <QToolBar>
 
 #include "desktop/desktop_fixture.h"
+#include "desktop/willing_printers.h"
 
 namespace kelvor::test {
 namespace {
 
 using testing::IsEmpty;
+using testing::StartsWith;
 
 constexpr int kMostActs = 40;
 
@@ -29,8 +33,10 @@ struct Input {
 constexpr Input kInputs[] = {{"FLEXE18", "5,000,000"}, {"FLEXREL", "95"}, {"FLEXDEV", "0.45"},
                              {"RM", "5,000"},          {"FLEXPO", "4.2"}, {"FLEXPT", "2.5"}};
 
-class NewcomerTest : public KeyboardTest {
+class NewcomerTest : public QObject, public KeyboardTest {
   protected:
+    NewcomerTest() : KeyboardTest(std::make_unique<WillingPrinters>()) { qApp->installEventFilter(this); }
+
     void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         ++acts_;
         Press(key, modifiers);
@@ -56,6 +62,21 @@ class NewcomerTest : public KeyboardTest {
         return view == nullptr ? nullptr : view->FindWidget(control);
     }
 
+    /// In the dialog of the system, once it is up: names the file that is to be the printer, and prints.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        auto* dialog = qobject_cast<QPrintDialog*>(watched);
+        if (dialog == nullptr || event->type() != QEvent::Show) return false;
+        const auto print = [this, dialog] {
+            auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("filename"));
+            ASSERT_NE(name, nullptr);
+            name->setText(QString::fromStdString(printed_.string()));
+            dialog->accept();
+            acts_ += 2;
+        };
+        QMetaObject::invokeMethod(this, print, Qt::QueuedConnection);
+        return false;
+    }
+
     void ExpectTheEnd(const std::string& file) {
         // The 1993 design equation for these inputs, solved by bisection beside the program.
         EXPECT_NEAR(state().dbWork.GetVar("SN").value(), 5.4135, 0.0001);
@@ -63,11 +84,13 @@ class NewcomerTest : public KeyboardTest {
         EXPECT_FALSE(state().bProjectChanged);
         ASSERT_NE(state().formRegistry.CurrentForm, nullptr);
         EXPECT_EQ(state().formRegistry.CurrentForm->name(), "ReportsPreview");
+        EXPECT_THAT(ReadFile(printed_), StartsWith("%PDF"));
         EXPECT_THAT(Messages(), IsEmpty());
         EXPECT_LT(acts_, kMostActs);
     }
 
     int acts_ = 0;
+    Path printed_ = home / "printed.pdf";
 };
 
 TEST_F(NewcomerTest, ByKeysAlone) {
@@ -88,6 +111,7 @@ TEST_F(NewcomerTest, ByKeysAlone) {
     responder.AnswerFileDialogWith(file);
     Key(Qt::Key_S, Qt::ControlModifier);
     Key(Qt::Key_P, Qt::ControlModifier);
+    Key(Qt::Key_P, Qt::AltModifier);
     ExpectTheEnd(file);
 }
 
@@ -112,6 +136,7 @@ TEST_F(NewcomerTest, ByTheMouse) {
     responder.AnswerFileDialogWith(file);
     Click(bar->widgetForAction(window().FindAction("MenuFileSave")));
     Click(bar->widgetForAction(window().FindAction("MenuFilePrint")));
+    Click(On("ReportsPreview", "PrintRep"));
     ExpectTheEnd(file);
 }
 

@@ -11,27 +11,11 @@
 #include <fstream>
 
 #include "desktop/print_file.h"
+#include "desktop/willing_printers.h"
 #include "support/temporary_folder.h"
 
 namespace kelvor::test {
 namespace {
-
-/// Printers that take every file, and keep it in mind.
-class WillingPrinters : public PrintSystem {
-  public:
-    explicit WillingPrinters(bool there = true) : there_(there) {}
-
-    [[nodiscard]] bool HasPrinter() const override { return there_; }
-    [[nodiscard]] std::optional<std::string> Send(const PrintJob& job) override {
-        sent.push_back(job.file);
-        return std::nullopt;
-    }
-
-    std::vector<Path> sent;
-
-  private:
-    bool there_;
-};
 
 class PrintTest : public testing::Test {
   protected:

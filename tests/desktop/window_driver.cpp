@@ -155,7 +155,6 @@ void WindowDriver::ChooseMenu(const std::string& name, int index) {
         QApplication::processEvents();
         return;
     }
-    CheckMenu(name);
     QAction* entry = desktop_.window().FindAction(name, index);
     if (entry != nullptr && !entry->isVisible()) entry = nullptr;
     auto* menu = entry == nullptr ? nullptr : qobject_cast<QMenu*>(entry->parent());

@@ -22,7 +22,9 @@
 #include "desktop/key_table.h"
 #include "desktop/layout_audit.h"
 #include "desktop/palettes.h"
+#include "desktop/window_settings.h"
 #include "forms/form.h"
+#include "shell/file_suggestion.h"
 #include "shell/overview.h"
 
 namespace kelvor::test {
@@ -301,6 +303,7 @@ TEST_F(SampleTest, ASampleOpensAsACopyWithoutANameAndIsNotRemembered) {
     EXPECT_EQ(state.sProjectFile, "");
     EXPECT_THAT(state.recentMenu, IsEmpty());
     EXPECT_EQ(desktop.window().windowTitle(), "Kelvor");
+    EXPECT_EQ(SuggestedProjectFile(state), "flexible_design.kvr");
     EXPECT_NE(desktop.window().findChild<QMenu*>(QStringLiteral("MenuSamples"))->actions().size(), 0);
     EXPECT_THAT(record.TakeTexts(), IsEmpty());
 }
@@ -374,6 +377,12 @@ TEST(RememberedWindowTest, SizeOverviewAndUnitsAreThereAtTheNextStart) {
     EXPECT_TRUE(desktop.program().state().units->bMetric())
         << "a new project begins in the remembered system";
     EXPECT_FALSE(desktop.program().state().bProjectChanged);
+}
+
+TEST(RememberedWindowTest, ALanguageThatCannotBeKeptIsNotPromised) {
+    const TestHome home;
+    EXPECT_TRUE(WindowSettings(home / "kvrwindow.ini").KeepLanguage("es"));
+    EXPECT_FALSE(WindowSettings(home.path()).KeepLanguage("es")) << "a folder is no file";
 }
 
 TEST_F(LargeWindowTest, AScreenKeepsTheSizeThatTheUserGaveIt) {
@@ -461,27 +470,50 @@ TEST_F(LargeWindowTest, TheHelpPageOfKeysHasTheKeysOfTheMenus) {
 
 // --- Those who hear the screen, and those who see little --------------------------------------------------
 
+/// A grid and a chart tell what they hold; whatever else takes the focus also has a tool tip.
+void ExpectToSpeak(const FormView& view, const Control& control) {
+    SCOPED_TRACE(view.form()->name() + " " + control.name);
+    QWidget* widget = view.FindWidget(control.name);
+    QAccessibleInterface* told = QAccessible::queryAccessibleInterface(widget);
+    ASSERT_NE(told, nullptr);
+    EXPECT_FALSE(told->text(QAccessible::Name).isEmpty());
+    EXPECT_NE(told->role(), QAccessible::NoRole);
+    EXPECT_NE(told->role(), QAccessible::Client);
+    EXPECT_FALSE(told->text(QAccessible::Description).isEmpty());
+    EXPECT_TRUE(control.grid || control.chart || !widget->toolTip().isEmpty());
+}
+
+void ExpectAllToSpeak(const FormView& view) {
+    for (const auto& control : view.form()->controls()) {
+        const bool acts = control->IsButton() || control->IsChoice() || view.form()->CanFocus(*control);
+        const bool bound = !control->IsBox() || !control->tag.empty() || !control->toolTip.empty();
+        if (control->visible && acts && bound) ExpectToSpeak(view, *control);
+    }
+}
+
 TEST_F(LargeWindowTest, EveryControlSaysItsNameItsRoleAndWhatItIsFor) {
+    for (int tab = 0; tab < 8; ++tab) {
+        Raise(UserEvent::Kind::SwitchTab, {}, {}, tab);
+        ExpectAllToSpeak(*window().FindView("TabForm"));
+    }
     for (const std::string& name : state().formRegistry.TypeNames()) {
         Raise(UserEvent::Kind::OpenForm, name);
         const FormView* view = window().FindView(name);
         ASSERT_NE(view, nullptr) << name;
-        for (const auto& control : view->form()->controls()) {
-            if (!view->form()->CanFocus(*control)) continue;
-            QAccessibleInterface* told =
-                QAccessible::queryAccessibleInterface(view->FindWidget(control->name));
-            ASSERT_NE(told, nullptr) << name << " " << control->name;
-            EXPECT_FALSE(told->text(QAccessible::Name).isEmpty()) << name << " " << control->name;
-            EXPECT_NE(told->role(), QAccessible::NoRole) << name << " " << control->name;
-            EXPECT_NE(told->role(), QAccessible::Client) << name << " " << control->name;
-            if (!control->IsField() || control->locked) continue;
-            EXPECT_FALSE(told->text(QAccessible::Description).isEmpty()) << name << " " << control->name;
-            EXPECT_FALSE(view->FindWidget(control->name)->toolTip().isEmpty())
-                << name << " " << control->name;
-        }
+        ExpectAllToSpeak(*view);
         responder.QueueAnswer("yes");
         Raise(UserEvent::Kind::CloseForm, name);
     }
+}
+
+TEST_F(LargeWindowTest, TheBoxOfAHelpSaysWhatItsFieldWants) {
+    Raise(UserEvent::Kind::OpenForm, "DeF");
+    Raise(UserEvent::Kind::Focus, "FLEXREL");
+    Press(Qt::Key_F1);
+    const FormView* help = window().CurrentView();
+    ASSERT_EQ(help->form()->name(), "HelpForm");
+    ExpectAllToSpeak(*help);
+    EXPECT_EQ(help->FindWidget("TextBox")->toolTip(), "Reliability: 50.00 to 99.99 percent");
 }
 
 TEST_F(LargeWindowTest, WhatStandsBesideTheTabsIsNamedWholeAndReadableLightAndDark) {

@@ -23,7 +23,9 @@ FormType FlexibleDesignForm() {
         Frame("Frame1", Translated("Design Inputs"),
               {Fields({{"FLEXE18"}, {"FLEXREL"}, {"FLEXDEV"}, {"RM"}, {"SN"}, {"FLEXPO"}, {"FLEXPT"}})}),
         Rows({SolveForFrame("Frame2", type.equations[0]),
-              Buttons({{"Command2", "&Layer Determ."}, CrossSectionButton()})}),
+              Buttons({{"Command2", "&Layer Determ.",
+                        Translated("Find layers that reach this structural number")},
+                       CrossSectionButton()})}),
     });
     type.handlers = {
         {FormEvent::Click, "Command2", HandlerOrder::Instead, LayersClick},

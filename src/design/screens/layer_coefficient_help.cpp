@@ -53,7 +53,7 @@ FormType CoefficientHelp(const char* name, const char* caption, std::vector<std:
         Fields({{.label = "Value", .box = "TextBox", .labelName = "Label", .unitName = "Units"}}),
         Hidden(std::move(hidden)),
     });
-    type.foot = {{"cmdAction", "&OK"}};
+    type.foot = {BackToFieldButton(kOkButton)};
     type.handlers = {{FormEvent::Load, "", HandlerOrder::After, Load},
                      {FormEvent::LostFocus, "", HandlerOrder::Before, DropCommas},
                      {FormEvent::Unload, "", HandlerOrder::Before, CloseValueHelp}};

@@ -121,7 +121,8 @@ FormType LayeredDesignForm() {
             {Fields({{.variable = "SN", .label = Translated("Required Structural Number"), .locked = true},
                      {.variable = "SSN"}}),
              Verdict("Res")}),
-        Checks({{kEveryLayer, Translated("&Additional Thickness of Every Layer")}}),
+        Checks({{kEveryLayer, Translated("&Additional Thickness of Every Layer"),
+                 Translated("Show for each layer how much thicker it alone would have to be")}}),
         Hidden({"SNCarry", "FieldName", "FormName", "Column"}),
     });
     type.handlers = {

@@ -27,7 +27,7 @@ FormType PlainValueHelp(const char* name) {
         Fields({{.label = "Value", .box = "TextBox", .labelName = "Label", .unitName = "Units"}}),
         Hidden({"Dim1"}),
     });
-    type.foot = {{"cmdAction", "&OK"}};
+    type.foot = {BackToFieldButton(kOkButton)};
     type.handlers = {{FormEvent::Load, "", HandlerOrder::After, Load},
                      {FormEvent::LostFocus, "", HandlerOrder::Before, DropCommas},
                      {FormEvent::Unload, "", HandlerOrder::Before, CloseValueHelp}};

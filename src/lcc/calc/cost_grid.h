@@ -8,13 +8,9 @@ struct CostGrid {
     const char* item;
     const char* quantity;
     const char* unit;
-    const char* unitCost;
-    const char* itemCost;
 };
 
-inline constexpr CostGrid kInitialGrid = {"LayerType",   "InitialItem",     "InitialQuantity",
-                                          "InitialUnit", "InitialUnitCost", "InitialItemCost"};
-inline constexpr CostGrid kRehabGrid = {"RehabItem", "RehabItem",     "RehabQuantity",
-                                        "RehabUnit", "RehabUnitCost", "RehabItemCost"};
+inline constexpr CostGrid kInitialGrid = {"LayerType", "InitialItem", "InitialQuantity", "InitialUnit"};
+inline constexpr CostGrid kRehabGrid = {"RehabItem", "RehabItem", "RehabQuantity", "RehabUnit"};
 
 }  // namespace kelvor

@@ -83,13 +83,17 @@ class Summation {
 
 }  // namespace
 
-void ComputeCostSummary(const CalcContext& context, CostSummary& summary, const FaultReport& report) {
+void ComputePavementCosts(const CalcContext& context, CostSummary& summary, const FaultReport& report) {
     const Summation summation(context, report);
     for (std::size_t i = 0; i < kPavements.size(); ++i) summation.Gather(summary.pavements[i], kPavements[i]);
     for (std::size_t i = 0; i < kPavements.size(); ++i) {
         summation.SpreadOverYears(summary.pavements[i], kPavements[i]);
     }
-    summation.Compare(summary);
+}
+
+void ComputeCostSummary(const CalcContext& context, CostSummary& summary, const FaultReport& report) {
+    ComputePavementCosts(context, summary, report);
+    Summation(context, report).Compare(summary);
 }
 
 std::string FormatWhole(std::optional<Real> value) {

@@ -45,6 +45,9 @@ using FaultReport = std::function<void(const ArithmeticFault&)>;
 /// There is no salvage value, and pavements of different periods are compared as they are.
 void ComputeCostSummary(const CalcContext& context, CostSummary& summary, const FaultReport& report);
 
+/// The same without the differences of the two.
+void ComputePavementCosts(const CalcContext& context, CostSummary& summary, const FaultReport& report);
+
 /// A value in whole money, "#,##0"; nothing counts as 0.
 std::string FormatWhole(std::optional<Real> value);
 

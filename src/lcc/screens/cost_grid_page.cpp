@@ -7,6 +7,7 @@
 
 #include "forms/form.h"
 #include "lcc/calc/item_quantity.h"
+#include "lcc/calc/pavements.h"
 #include "lcc/screens/cost_page.h"
 #include "platform/number_text.h"
 #include "platform/text.h"
@@ -55,6 +56,18 @@ void FollowCostCell(ScreenContext& context, Form& page, const CostGrid& grid) {
         const std::string item = context.units.GetDisplayValue(variable, shown.row, pavement);
         if (!item.empty()) FillItem(context.calc, context.lists, grid, shown.row, pavement, item);
     }
+}
+
+bool StandsInOtherUnits(const ScreenContext& context, const CostGrid& grid) {
+    const Variable* unit = context.catalogue.FindVariable(grid.unit);
+    for (int row = 1; unit != nullptr && row <= unit->dim1; ++row) {
+        for (const int pavement : kPavements) {
+            const CellValue* cell = context.calc.store.FindCell(grid.unit, row, pavement);
+            if (cell != nullptr && cell->text && SwappedName(context, *cell->text) != *cell->text)
+                return true;
+        }
+    }
+    return false;
 }
 
 bool SwapUnitNames(const ScreenContext& context, const Form& page, const CostGrid& grid) {

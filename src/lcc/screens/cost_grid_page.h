@@ -14,6 +14,9 @@ class Form;
 /// under a metric quantity leaves it as it is, and a note says so.
 void FollowCostCell(ScreenContext& context, Form& page, const CostGrid& grid);
 
+/// True if a unit of the page, of either pavement, is not of the active system.
+bool StandsInOtherUnits(const ScreenContext& context, const CostGrid& grid);
+
 /// Brings the names of a page's units over to the active system, also those of the rows whose quantities do
 /// not follow. True if there were any.
 bool SwapUnitNames(const ScreenContext& context, const Form& page, const CostGrid& grid);

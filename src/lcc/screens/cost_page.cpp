@@ -46,8 +46,8 @@ void BeginPage(ScreenEvent& event) {
     page.tag = isA ? name.form : name.ofPavementB;
     page.caption = std::string("Pavement (") + (isA ? "A" : "B") + ") " + name.subject;
     event.context.values.dim2 = PavementOf(page);
-    page.Get("PrevPage").enabled = PlaceOf(page) > 0;
-    page.Get("NextPage").enabled = PlaceOf(page) + 1 < kPages.size();
+    page.Get(kBackButton).enabled = PlaceOf(page) > 0;
+    page.Get(kNextButton).enabled = PlaceOf(page) + 1 < kPages.size();
 }
 
 void TurnTo(ScreenEvent& event, std::size_t place) {
@@ -74,14 +74,11 @@ FormType CostPage(const std::string& name, const std::vector<Handler>& own) {
     FormType type;
     type.name = name;
     type.rowName = {ToTranslate("item"), ToTranslate("items")};
-    type.foot = {{"PrevPage", Translated("&Back")},
-                 {"NextPage", Translated("&Next")},
-                 {"cmdAction", "&OK"},
-                 {"SSHelp", "Hel&p"}};
+    type.foot = {BackButton(), NextButton(), OkButton(), HelpButton()};
     type.handlers = {
         {FormEvent::Load, "", HandlerOrder::Before, BeginPage},
-        {FormEvent::Click, "PrevPage", HandlerOrder::Instead, PrevPageClick},
-        {FormEvent::Click, "NextPage", HandlerOrder::Instead, NextPageClick},
+        {FormEvent::Click, kBackButton, HandlerOrder::Instead, PrevPageClick},
+        {FormEvent::Click, kNextButton, HandlerOrder::Instead, NextPageClick},
         {FormEvent::Activate, "", HandlerOrder::Before, HideUnitNote},
         {FormEvent::CellChanged, "Grid", HandlerOrder::Before, HideUnitNote},
         {FormEvent::RowDeleted, "", HandlerOrder::Before, HideUnitNote},

@@ -25,6 +25,8 @@ void DisableGraphChecks(Form& form) {
 void SumClick(ScreenEvent& event) { EnableGraphChecks(event.form, true); }
 void HistogramClick(ScreenEvent& event) { DisableGraphChecks(event.form); }
 
+std::string CountsThemIn() { return Translated("Tick it to count these costs in"); }
+
 }  // namespace
 
 FormType GraphsForm() {
@@ -33,16 +35,17 @@ FormType GraphsForm() {
     type.caption = "Graphs";
     type.layout = Columns({
         Frame("Frame1", Translated("Graph"),
-              {Options({{"PW", "Present Worth"},
-                        {"EUAC", "EUAC"},
-                        {"PWH", "Present  Worth Histogram"},
-                        {"EUACH", "EUAC Histogram"}})}),
+              {Options(
+                  {{"PW", "Present Worth", Translated("A graph of present worths")},
+                   {"EUAC", "EUAC", Translated("A graph of equivalent annual costs")},
+                   {"PWH", "Present  Worth Histogram", Translated("The present worth of each year's costs")},
+                   {"EUACH", "EUAC Histogram", Translated("The annual cost year by year")}})}),
         Frame("Frame2", Translated("Costs in it"),
-              {Matrix({At(0, 0, Checks({{"InitialCost", "Initial Cost"}})),
+              {Matrix({At(0, 0, Checks({{"InitialCost", "Initial Cost", CountsThemIn()}})),
                        At(0, 1, Caption("Label3", Translated("before the opening"))),
-                       At(1, 0, Checks({{"MaintenanceCosts", "Maintenance Cost"}})),
+                       At(1, 0, Checks({{"MaintenanceCosts", "Maintenance Cost", CountsThemIn()}})),
                        At(1, 1, Caption("Label4", Translated("in every year"))),
-                       At(2, 0, Checks({{"RehabilitationCosts", "Rehabilitation Cost"}})),
+                       At(2, 0, Checks({{"RehabilitationCosts", "Rehabilitation Cost", CountsThemIn()}})),
                        At(2, 1, Caption("Label5", Translated("once, in their years")))})}),
     });
     type.handlers = {

@@ -79,7 +79,7 @@ FormType HistogramForm() {
     type.name = "Histogr";
     type.caption = "Histogram";
     type.layout = Chart(kChart, YearlyBars());
-    type.foot = {{"cmdbClose", "&Close"}};
+    type.foot = {{"cmdbClose", "&Close", Translated("Close this drawing")}};
     type.handlers = {{FormEvent::Load, "", HandlerOrder::After, Loaded},
                      {FormEvent::Click, "cmdbClose", HandlerOrder::Instead, CloseClick}};
     return type;

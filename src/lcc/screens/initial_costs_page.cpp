@@ -39,6 +39,9 @@ FormType InitialCostsPage() {
                                {FormEvent::UnitsSwitched, "", HandlerOrder::Instead, UnitsSwitched},
                                {FormEvent::CellChanged, "Grid", HandlerOrder::After, CellChanged},
                            });
+    type.standsInOtherUnits = [](const ScreenContext& context) {
+        return StandsInOtherUnits(context, kInitialGrid);
+    };
     type.caption = "Pavement (A) Initial Costs";
     type.layout = Rows({
         Grid("Grid",

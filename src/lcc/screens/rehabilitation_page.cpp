@@ -67,6 +67,9 @@ FormType RehabilitationPage() {
                                {FormEvent::UnitsSwitched, "", HandlerOrder::Instead, UnitsSwitched},
                                {FormEvent::CellChanged, "Grid", HandlerOrder::After, CellChanged},
                            });
+    type.standsInOtherUnits = [](const ScreenContext& context) {
+        return StandsInOtherUnits(context, kRehabGrid);
+    };
     type.caption = "Pavement (A) Maintenance & Rehabilitation Costs";
     type.layout = Rows({
         LayoutElement{layout::Grid{"Grid",

@@ -65,7 +65,10 @@ void SetMark(ScreenEvent& event) {
 
 }  // namespace
 
-LayoutElement LeaveOutBox() { return Checks({{kBox, Translated("Leave This &Test out of the Spread")}}); }
+LayoutElement LeaveOutBox() {
+    return Checks({{kBox, Translated("Leave This &Test out of the Spread"),
+                    Translated("The test under the cursor stays in the averages")}});
+}
 
 LayoutElement LeaveOutState() { return Hidden({kMarks}); }
 

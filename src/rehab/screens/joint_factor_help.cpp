@@ -1,6 +1,5 @@
 #include "rehab/screens/joint_factor_help.h"
 
-#include <algorithm>
 #include <array>
 
 #include "forms/field_help.h"
@@ -20,6 +19,7 @@ constexpr const char* kFactor = "APBOLFJC";
 constexpr const char* kUnbondedField = "UBOLFJCU";
 constexpr std::array kFields = {"ACACPCFJC", "ACPCFJC", "BOLFJC", kUnbondedField};
 constexpr const char* kLastFactor = "LastFactor";  // with all its digits
+constexpr const char* kAtOpening = "AtOpening";    // the counts then
 
 const char* const kPurpose =
     "This factor adjusts for the extra loss in PSI caused by deteriorated reflected cracks in the overlay "
@@ -32,11 +32,6 @@ const char* const kAdvice =
 const char* const kNeeded =
     "  If it is not possible to repair all deteriorated areas , the following information is needed to "
     "determine Fjc:";
-
-bool IsCount(const Control& control) {
-    return std::any_of(kCounts.begin(), kCounts.end(),
-                       [&](const char* name) { return EqualNoCase(control.name, name); });
-}
 
 Real Shown(const Form& form, const char* name) { return ParseNumber(form.TextOf(name)); }
 
@@ -66,20 +61,15 @@ void ComputeFjc(const ScreenContext& context, Form& form) {
 
 void Show(ScreenEvent& event) { ComputeFjc(event.context, event.form); }
 
-void Load(ScreenEvent& event) { RecallField(event.context, event.form, {kFields.begin(), kFields.end()}); }
-
-void CountTyped(ScreenEvent& event) {
-    if (IsCount(*event.control)) event.form.workedOut = true;
-}
-
-void CountStored(ScreenEvent& event) {
-    CountTyped(event);
-    Show(event);
+void Load(ScreenEvent& event) {
+    RecallField(event.context, event.form, {kFields.begin(), kFields.end()});
+    event.form.SetText(kAtOpening, ContentOf(event.context.calc.store, kCounts));
 }
 
 /// True if what the screen works out is wanted: a count has changed, or the overlay has no factor yet.
 bool IsWanted(const ScreenContext& context, const Form& form) {
-    return form.workedOut || !CalledField(context, form).IsFilled();
+    const bool changed = ContentOf(context.calc.store, kCounts) != form.TextOf(kAtOpening);
+    return changed || !CalledField(context, form).IsFilled();
 }
 
 /// Stores what follows from the counts, which are stored as they are left.
@@ -120,13 +110,12 @@ FormType JointFactorHelp() {
                 {"APDETEXP"},
                 {.variable = kTotal, .computed = true},
                 {.variable = kFactor, .computed = true}}),
-        Hidden({kLastFactor}),
+        Hidden({kLastFactor, kAtOpening}),
     });
     type.handlers = {{FormEvent::Load, "", HandlerOrder::After, Load},
                      {FormEvent::Activate, "", HandlerOrder::After, Show},
-                     {FormEvent::Change, "", HandlerOrder::After, CountTyped},
                      {FormEvent::LostFocus, "", HandlerOrder::After, Show},
-                     {FormEvent::Stored, "", HandlerOrder::After, CountStored},
+                     {FormEvent::Stored, "", HandlerOrder::After, Show},
                      {FormEvent::UnitsSwitched, "", HandlerOrder::After, Show},
                      {FormEvent::Unload, "", HandlerOrder::Before, Closing}};
     return type;

@@ -40,7 +40,7 @@ void ClearSurvey(ScreenEvent& event) {
 void NoteField(ScreenEvent& event) {
     const Control& button = *event.control;
     if (!button.worksOut.empty()) event.form.SetText("SolveForFiled", button.worksOut);
-    if (button.name == "SSHelp") event.form.SetText("SolveForFiled", event.form.TextOf("SolveForField"));
+    if (button.name == kHelpButton) event.form.SetText("SolveForFiled", event.form.TextOf("SolveForField"));
 }
 
 }  // namespace

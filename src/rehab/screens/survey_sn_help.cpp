@@ -57,7 +57,7 @@ FormType SurveySNHelp() {
     });
     type.handlers = {{FormEvent::Activate, "", HandlerOrder::After, RecalcExistingLayers},
                      {FormEvent::CellChanged, "", HandlerOrder::Before, MaterialChanged},
-                     {FormEvent::Click, "cmdAction", HandlerOrder::Instead, OkClick},
+                     {FormEvent::Click, kOkButton, HandlerOrder::Instead, OkClick},
                      {FormEvent::Unload, "", HandlerOrder::Before, Closing}};
     return type;
 }

@@ -29,10 +29,11 @@ FormType ReportsPreviewForm() {
     FormType type;
     type.name = kPreviewForm;
     type.caption = "Preview Report";
-    type.layout = Rows({ReportView(kPreviewPages), Buttons({{"PreviousRep", "<< P&revious "},
-                                                            {"NextRep", "&Next >>"},
-                                                            {"PrintRep", "&Print Report"},
-                                                            {"Close", "&Close All"}})});
+    type.layout = Rows({ReportView(kPreviewPages),
+                        Buttons({{"PreviousRep", "<< P&revious ", Translated("Show the report before")},
+                                 {"NextRep", "&Next >>", Translated("Show the next report")},
+                                 {"PrintRep", "&Print Report", Translated("Print this report")},
+                                 {"Close", "&Close All", Translated("Close all reports")}})});
     type.foot = {};
     type.handlers = {
         {FormEvent::Load, "", HandlerOrder::Instead, Load},

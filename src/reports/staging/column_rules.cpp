@@ -58,7 +58,8 @@ StagedValue Durability(const ColumnTask& task) { return DurabilityText(StagedNum
 StagedValue Fatigue(const ColumnTask& task) { return FatigueText(StagedNumber(task)); }
 
 StagedValue NameOfAxleType(const ColumnTask& task) {
-    return AxleTypeName(ShownNumber(task.context, task.source));
+    const bool isCode = IsNumeric(TextOf(task));
+    return isCode ? AxleTypeName(ShownNumber(task.context, task.source)) : "";
 }
 
 StagedValue Period(const ColumnTask& task) {

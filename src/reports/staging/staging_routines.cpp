@@ -111,8 +111,8 @@ void StageCostAnalysis(Stager& stager) {
 
 void StageLifeCycleCost(Stager& stager) {
     CostSummary summary;  // the annual cost starts from 0: only the screen of the summary keeps its own
-    ComputeCostSummary(stager.context(), summary,
-                       [&](const ArithmeticFault& fault) { stager.Report(fault.what()); });
+    ComputePavementCosts(stager.context(), summary,
+                         [&](const ArithmeticFault& fault) { stager.Report(fault.what()); });
     Stager::GivenValues given;
     Give(given, "A", summary.pavements[0]);
     Give(given, "B", summary.pavements[1]);

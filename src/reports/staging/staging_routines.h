@@ -36,7 +36,7 @@ void StageAxleTraffic(Stager& stager);
 /// rehabilitation.
 void StageCostAnalysis(Stager& stager);
 
-/// The cost summary, as ComputeCostSummary works it out, not rounded. A step without a value is shown as a
+/// The cost summary, as ComputePavementCosts works it out, not rounded. A step without a value is shown as a
 /// failure, and the others go on.
 void StageLifeCycleCost(Stager& stager);
 

@@ -32,10 +32,12 @@ HubPage CostTab() {
                                                 {"AnalysisPeriodB"}})}),
                                  Frame("FrameLc", Translated("Costs"),
                                        {HubOptions(HubGroup::Costs),
-                                        Buttons({{HubButton(HubGroup::Costs), Translated("&Costs")}})})}),
+                                        Buttons({{HubButton(HubGroup::Costs), Translated("&Costs"),
+                                                  OpensChosenScreen()}})})}),
                            Frame("GraphsOpt", "Graphs",
                                  {HubOptions(HubGroup::Graphs),
-                                  Buttons({{HubButton(HubGroup::Graphs), "Graphs"}})})})}),
+                                  Buttons({{HubButton(HubGroup::Graphs), "Graphs",
+                                            Translated("Draw the chosen graph")}})})})}),
             {OpeningChosenScreen(HubGroup::Costs),
              {FormEvent::Click, HubButton(HubGroup::Graphs), HandlerOrder::Instead, GraphsClick}}};
 }

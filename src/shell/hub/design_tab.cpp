@@ -7,7 +7,8 @@ namespace kelvor {
 HubPage DesignTab() {
     constexpr HubGroup kGroup = HubGroup::Designs;
     return {Page("Design / Evaluation",
-                 {HubOptions(kGroup), Buttons({{HubButton(kGroup), Translated("&Design")}})}),
+                 {HubOptions(kGroup),
+                  Buttons({{HubButton(kGroup), Translated("&Design"), OpensChosenScreen()}})}),
             {OpeningChosenScreen(kGroup)}};
 }
 

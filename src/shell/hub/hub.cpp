@@ -95,7 +95,6 @@ void EnterHubTab(ScreenContext& context, Form& hub, HubTab tab) {
 }
 
 void OfferProject(const ScreenContext& context, Form& hub) {
-    OfferDeclaredScreens(context, hub);
     OfferByNeeds(context, hub, HubGroup::Traffic);
     OfferByNeeds(context, hub, HubGroup::Overlays);
     OfferReports(context, hub);

@@ -54,6 +54,7 @@ struct HubRow {
     HubGroup group = {};
     const char* option = "";
     const char* caption = "";
+    const char* does = "";  // what the screen is for; translated where it is shown
     const char* screen = "";
     std::optional<int> slice = {};  // of a screen that has several: the pavement, the category of cost
     HubNeeds needs = {};

@@ -121,19 +121,22 @@ void CellChanged(ScreenEvent& event) {
 }  // namespace
 
 HubPage ListsTab() {
-    return {Page("Lists", {Choice(kCombo, "List"),
-                           Grid(kGrid, {{"Name", "Name"}, {"Sort", "Sort Order"}, {kValueColumn, "Value"}}),
-                           Buttons({{kAdd, "&Add Item"},
-                                    {kDelete, "&Delete Item"},
-                                    {kRestore, Translated("&Restore Defaults")},
-                                    {kSort, "&Sort"}})}),
-            {{FormEvent::Change, kCombo, HandlerOrder::Instead, ListChosen},
-             {FormEvent::CellChanged, kGrid, HandlerOrder::Instead, CellChanged},
-             {FormEvent::RowDeleted, kGrid, HandlerOrder::Instead, DeleteItem},
-             {FormEvent::Click, kAdd, HandlerOrder::Instead, AddClick},
-             {FormEvent::Click, kDelete, HandlerOrder::Instead, DeleteItem},
-             {FormEvent::Click, kRestore, HandlerOrder::Instead, RestoreClick},
-             {FormEvent::Click, kSort, HandlerOrder::Instead, SortClick}}};
+    return {
+        Page("Lists",
+             {Choice(kCombo, "List", Translated("The list to work on")),
+              Grid(kGrid, {{"Name", "Name"}, {"Sort", "Sort Order"}, {kValueColumn, "Value"}}),
+              Buttons({{kAdd, "&Add Item", Translated("Add an entry to the list, to be filled in")},
+                       {kDelete, "&Delete Item", Translated("Take the entry under the cursor off the list")},
+                       {kRestore, Translated("&Restore Defaults"),
+                        Translated("Bring the list back as it was delivered")},
+                       {kSort, "&Sort", Translated("Show the entries in their sort order")}})}),
+        {{FormEvent::Change, kCombo, HandlerOrder::Instead, ListChosen},
+         {FormEvent::CellChanged, kGrid, HandlerOrder::Instead, CellChanged},
+         {FormEvent::RowDeleted, kGrid, HandlerOrder::Instead, DeleteItem},
+         {FormEvent::Click, kAdd, HandlerOrder::Instead, AddClick},
+         {FormEvent::Click, kDelete, HandlerOrder::Instead, DeleteItem},
+         {FormEvent::Click, kRestore, HandlerOrder::Instead, RestoreClick},
+         {FormEvent::Click, kSort, HandlerOrder::Instead, SortClick}}};
 }
 
 void LoadListsTab(Form& hub) {
@@ -144,7 +147,6 @@ void LoadListsTab(Form& hub) {
     grid.columns[2].hint = Translated("What the list offers");
     grid.texts.emplace();
     grid.rows = 0;
-    hub.Get(kCombo).toolTip = Translated("The list to work on");
     OfferListButtons(hub);
 }
 

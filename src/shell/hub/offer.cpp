@@ -7,7 +7,7 @@ namespace kelvor {
 void Offer(Form& hub, std::string_view name, bool enabled, const std::string& whyNot) {
     Control& control = hub.Get(name);
     control.enabled = enabled;
-    control.toolTip = enabled ? std::string() : Translated(whyNot);
+    control.toolTip = enabled ? control.does : Translated(whyNot);
     if (!enabled) control.value = false;
 }
 

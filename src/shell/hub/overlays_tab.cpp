@@ -11,8 +11,9 @@ HubPage OverlaysTab() {
         Section("FrameOv", Translated("Overlay Design"), {HubOptions(HubGroup::Overlays)});
     const LayoutElement tests =
         Section("FrameNDT", Translated("Deflection Tests"), {HubOptions(HubGroup::Deflections)});
-    return {Page("Overlays", {Columns({Rows({existing, overlays}), Rows({tests})}),
-                              Buttons({{HubButton(HubGroup::Overlays), Translated("&Overlay")}})}),
+    return {Page("Overlays",
+                 {Columns({Rows({existing, overlays}), Rows({tests})}),
+                  Buttons({{HubButton(HubGroup::Overlays), Translated("&Overlay"), OpensChosenScreen()}})}),
             {OpeningChosenScreen(HubGroup::Overlays)}};
 }
 

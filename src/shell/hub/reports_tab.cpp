@@ -25,7 +25,6 @@ constexpr std::array kBoxedCategories = {report_category::kDesign, report_catego
 /// The costs have no boxes: the category is the report.
 constexpr const char* kCost = report_category::kCost;
 
-constexpr const char* kCostScreen = "LcA1";
 constexpr const char* kNoData = ToTranslate("its screen holds no values yet");
 constexpr const char* kNoCosts = ToTranslate("no cost screen holds values yet");
 
@@ -91,7 +90,6 @@ bool HoldsData(const ScreenContext& context, const HubRow& row) {
 
 /// Why a report cannot be ticked; empty if it can.
 std::string WhyNot(const ScreenContext& context, const HubRow& row) {
-    if (!context.forms.IsDeclared(row.screen)) return kComesLater;
     const std::string missing = row.report.needsInputs ? WhatIsMissing(context, row.needs) : "";
     if (!missing.empty()) return missing;
     return HoldsData(context, row) ? "" : kNoData;
@@ -108,18 +106,14 @@ std::vector<const HubRow*> BoxesOf(std::string_view category) {
     return boxes;
 }
 
-void OfferCategory(const ScreenContext& context, Form& hub, std::string_view category) {
-    const std::vector<const HubRow*> boxes = BoxesOf(category);
-    const bool any = std::any_of(boxes.begin(), boxes.end(),
-                                 [&](const HubRow* row) { return context.forms.IsDeclared(row->screen); });
-    Offer(hub, category, any, kComesLater);
-}
-
 /// A category above its boxes.
-LayoutElement Category(const char* frame, const char* category, const char* caption) {
+LayoutElement Category(const char* frame, const char* category, const char* caption,
+                       const std::string& does) {
     std::vector<ButtonItem> boxes;
-    for (const HubRow* row : BoxesOf(category)) boxes.push_back({row->report.box, row->report.caption});
-    std::vector<LayoutElement> rows = {Options({ButtonItem{category, caption}})};
+    for (const HubRow* row : BoxesOf(category)) {
+        boxes.push_back({row->report.box, row->report.caption, Translated("Tick it to have this report")});
+    }
+    std::vector<LayoutElement> rows = {Options({ButtonItem{category, caption, does}})};
     if (!boxes.empty()) rows.push_back(Checks(std::move(boxes)));
     return Section(frame, "", std::move(rows));
 }
@@ -144,12 +138,19 @@ std::vector<Handler> ReportHandlers() {
 }  // namespace
 
 HubPage ReportsTab() {
-    const LayoutElement design = Category("FrameRepND", report_category::kDesign, " New Design");
-    const LayoutElement overlays = Category("FrameRepOV", report_category::kOverlays, "Overlays");
-    const LayoutElement traffic = Category("FrameRepTr", report_category::kTraffic, "Traffic");
-    const LayoutElement costs = Category("FrameRepCost", kCost, "Cost");
-    return {Page("Reports", {Columns({Rows({design, overlays}), Rows({traffic, costs})}),
-                             Buttons({{kReport, "&Report"}, {kExport, "&Export"}})}),
+    const LayoutElement design = Category("FrameRepND", report_category::kDesign, " New Design",
+                                          Translated("Reports of new pavements"));
+    const LayoutElement overlays =
+        Category("FrameRepOV", report_category::kOverlays, "Overlays", Translated("Reports of overlays"));
+    const LayoutElement traffic =
+        Category("FrameRepTr", report_category::kTraffic, "Traffic", Translated("Reports of the traffic"));
+    const LayoutElement costs =
+        Category("FrameRepCost", kCost, "Cost", Translated("The report of both pavements' costs"));
+    return {Page("Reports",
+                 {Columns({Rows({design, overlays}), Rows({traffic, costs})}),
+                  Buttons({{kReport, "&Report", Translated("Show what is ticked, ready for the printer")},
+                           {kExport, "&Export",
+                            Translated("Write what is ticked as RTF files beside the project")}})}),
             ReportHandlers()};
 }
 
@@ -168,16 +169,14 @@ void OfferReportsByInputs(const ScreenContext& context, Form& hub, std::string_v
 }
 
 void OfferCostReport(const ScreenContext& context, Form& hub) {
-    const bool declared = context.forms.IsDeclared(kCostScreen);
     const bool any = std::any_of(kCostPages.begin(), kCostPages.end(),
-                                 [&](const char* screen) { return ScreenHasCells(context, screen); });
-    Offer(hub, kCost, declared && any, declared ? kNoCosts : kComesLater);
+                                 [&](const char* screen) { return ScreenHasAnyCell(context, screen); });
+    Offer(hub, kCost, any, kNoCosts);
 }
 
 void OfferReports(const ScreenContext& context, Form& hub) {
     for (const char* category : kBoxedCategories) {
         OfferReportsOf(context, hub, category);
-        OfferCategory(context, hub, category);
     }
     OfferCostReport(context, hub);
 }

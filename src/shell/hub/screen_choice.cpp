@@ -20,21 +20,6 @@ bool IsSelected(const Form& hub, const HubRow& row) {
     return option != nullptr && option->value;
 }
 
-bool HasClick(const FormType& type, const Control& button) {
-    return std::any_of(type.handlers.begin(), type.handlers.end(), [&](const Handler& handler) {
-        return handler.event == FormEvent::Click && EqualNoCase(handler.control, button.name);
-    });
-}
-
-/// True for a button that opens screens if one of them is declared, and for any other button.
-bool OpensSomething(const ScreenContext& context, const Control& button) {
-    const auto rows = HubTable();
-    const auto isOf = [&](const HubRow& row) { return button.name == HubButton(row.group); };
-    if (std::none_of(rows.begin(), rows.end(), isOf)) return true;
-    return std::any_of(rows.begin(), rows.end(),
-                       [&](const HubRow& row) { return isOf(row) && context.forms.IsDeclared(row.screen); });
-}
-
 /// The labels of the fields that are still empty, in the order in which they are given; empty if none is.
 std::string MissingFields(const ScreenContext& context, const HubNeeds& needs) {
     std::string missing;
@@ -51,10 +36,12 @@ std::string MissingFields(const ScreenContext& context, const HubNeeds& needs) {
 LayoutElement HubOptions(HubGroup group) {
     std::vector<ButtonItem> options;
     for (const HubRow& row : HubTable()) {
-        if (row.group == group) options.push_back({row.option, row.caption});
+        if (row.group == group) options.push_back({row.option, row.caption, Translated(row.does)});
     }
     return Options(std::move(options));
 }
+
+std::string OpensChosenScreen() { return Translated("Open the chosen screen"); }
 
 Handler OpeningChosenScreen(HubGroup group) {
     return {FormEvent::Click, HubButton(group), HandlerOrder::Instead, OpenChosenScreen};
@@ -68,17 +55,6 @@ void OpenChosenScreen(ScreenEvent& event) {
     }
 }
 
-void OfferDeclaredScreens(const ScreenContext& context, Form& hub) {
-    for (const HubRow& row : HubTable()) {
-        Offer(hub, row.option, context.forms.IsDeclared(row.screen), kComesLater);
-    }
-    for (const auto& control : hub.controls()) {
-        if (!control->IsButton()) continue;
-        const bool works = HasClick(hub.type(), *control) && OpensSomething(context, *control);
-        Offer(hub, control->name, works, kComesLater);
-    }
-}
-
 std::string WhatIsMissing(const ScreenContext& context, const HubNeeds& needs) {
     const std::string missing = MissingFields(context, needs);
     const std::string_view whyNot = needs.whyNot;
@@ -89,7 +65,6 @@ std::string WhatIsMissing(const ScreenContext& context, const HubNeeds& needs) {
 void OfferByNeeds(const ScreenContext& context, Form& hub, HubGroup group) {
     for (const HubRow& row : HubTable()) {
         if (row.group != group || row.needs.variables.empty()) continue;
-        if (!context.forms.IsDeclared(row.screen)) continue;
         const std::string whyNot = WhatIsMissing(context, row.needs);
         Offer(hub, row.option, whyNot.empty(), whyNot);
     }

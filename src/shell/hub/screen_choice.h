@@ -11,16 +11,15 @@ namespace kelvor {
 /// The options of a group, below each other.
 LayoutElement HubOptions(HubGroup group);
 
+/// In words, what a button does that opens what is selected in its group.
+std::string OpensChosenScreen();
+
 /// What the button of a group does when it is clicked; see OpenChosenScreen.
 Handler OpeningChosenScreen(HubGroup group);
 
 /// A click on one of the hub's buttons that open screens: the option that is selected says which one. With
 /// none selected it does nothing.
 void OpenChosenScreen(ScreenEvent& event);
-
-/// Takes off every option whose screen is not declared, and every button all of whose options are. A button
-/// of the hub for whose click nobody cares is off too.
-void OfferDeclaredScreens(const ScreenContext& context, Form& hub);
 
 /// Why a screen is of no use yet; empty if all is there that it needs.
 std::string WhatIsMissing(const ScreenContext& context, const HubNeeds& needs);

@@ -13,6 +13,18 @@ bool IsNotZero(const ScreenContext& context, std::string_view variable) {
     return context.calc.store.GetVar(variable) != 0.0;
 }
 
+bool AnyCell(const ScreenContext& context, const std::string& name) {
+    const Variable* variable = context.catalogue.FindVariable(name);
+    if (variable == nullptr) return false;
+    for (int dim1 = 1; dim1 <= variable->dim1; ++dim1) {
+        for (int dim2 = 1; dim2 <= variable->dim2; ++dim2) {
+            const CellValue* cell = context.calc.store.FindCell(name, dim1, dim2);
+            if (cell != nullptr && cell->number.value_or(0.0) != 0.0) return true;
+        }
+    }
+    return false;
+}
+
 template <typename Counts>
 bool AnyField(const ScreenContext& context, std::string_view screen, Counts counts) {
     if (!context.calc.store.IsOpen()) return false;
@@ -30,6 +42,14 @@ bool ScreenHasData(const ScreenContext& context, std::string_view screen) {
 bool ScreenHasCells(const ScreenContext& context, std::string_view screen) {
     return AnyField(context, screen,
                     [](const Field& field) { return !EqualNoCase(field.name, "LayerItem"); });
+}
+
+bool ScreenHasAnyCell(const ScreenContext& context, std::string_view screen) {
+    if (!context.calc.store.IsOpen()) return false;
+    const auto fields = context.catalogue.FieldsOfScreen(screen);
+    return std::any_of(fields.begin(), fields.end(), [&](const Field* field) {
+        return !EqualNoCase(field->name, "LayerItem") && AnyCell(context, field->name);
+    });
 }
 
 bool ScreenHasAxleCells(const ScreenContext& context) {

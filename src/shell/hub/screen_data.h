@@ -15,6 +15,9 @@ bool ScreenHasData(const ScreenContext& context, std::string_view screen);
 /// The same for a screen with rows: the first row and the first slice count, and the layer's number does not.
 bool ScreenHasCells(const ScreenContext& context, std::string_view screen);
 
+/// The same of any row and any slice.
+bool ScreenHasAnyCell(const ScreenContext& context, std::string_view screen);
+
 /// The screen of vehicle types: the middle axle of its first three classes, and no other, tells.
 bool ScreenHasAxleCells(const ScreenContext& context);
 

@@ -5,7 +5,8 @@ namespace kelvor {
 
 HubPage TrafficTab() {
     constexpr HubGroup kGroup = HubGroup::Traffic;
-    return {Page("Traffic", {HubOptions(kGroup), Buttons({{HubButton(kGroup), "&Traffic"}})}),
+    return {Page("Traffic",
+                 {HubOptions(kGroup), Buttons({{HubButton(kGroup), "&Traffic", OpensChosenScreen()}})}),
             {OpeningChosenScreen(kGroup)}};
 }
 

@@ -37,20 +37,17 @@ Real FlexibleFactor(Real axleType, Real load, Real SN, Real pt) {
 
 /// The growth factor, times how many periods of the count a year has.
 Real PeriodsOfLife(const ProjectStore& store, std::int16_t period) {
-    const Real growth = GrowthFactor(store);
-    if (period == kCountedByDay) return growth * kDaysOfYear;
-    if (period == kCountedByMonth) return growth * kMonthsOfYear;
-    return growth;
+    const Real life = store.GetVar("Life");
+    const Real growth = store.GetVar("GrowthRate") / Real(100.0);
+    const Real years = growth == 0.0 ? life : GrownYears(life, growth);
+    if (period == kCountedByDay) return years * kDaysOfYear;
+    if (period == kCountedByMonth) return years * kMonthsOfYear;
+    return years;
 }
 
 }  // namespace
 
-Real GrowthFactor(const ProjectStore& store) {
-    const Real life = store.GetVar("Life");
-    const Real growth = store.GetVar("GrowthRate") / Real(100.0);
-    if (growth == 0.0) return life;
-    return (Pow(1.0 + growth, life) - 1.0) / growth;
-}
+Real GrownYears(Real years, Real growth) { return (Pow(1.0 + growth, years) - 1.0) / growth; }
 
 Real DesignLanePart(const ProjectStore& store, Real esal) {
     if (store.GetVar("TRFACTYPE") != kTotalTraffic) return esal;

@@ -26,9 +26,9 @@ void AxleEsal(const ProjectStore& store, std::int16_t axleType, Real load, Real 
 /// case included, and 0 for any other text. Stops the program if there is no such row.
 std::int16_t AxleTypeCode(const ProjectStore& store, std::int16_t row);
 
-/// How many times the traffic of the first year passes in the design life of the store, at its growth rate in
-/// per cent: the life itself without growth.
-Real GrowthFactor(const ProjectStore& store);
+/// How many times the traffic of the first year passes in so many years that each bring more of it, by a
+/// fraction of the year before that is not 0.
+Real GrownYears(Real years, Real growth);
 
 /// The part of an ESAL count that the design lane carries. All of it if the traffic was counted there.
 Real DesignLanePart(const ProjectStore& store, Real esal);

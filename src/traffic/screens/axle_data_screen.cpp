@@ -13,11 +13,15 @@ namespace {
 constexpr double kColumnLetters = 16.0;
 constexpr int kRowsShown = 10;
 
-/// A parameter that was changed meanwhile reaches every row, and then the totals.
-void Activated(ScreenEvent& event) {
-    ShowPeriod(event.context, event.form);
+void RecalcRowsThenTotals(ScreenEvent& event) {
     RecalcFilledRows(event.context, event.form);
     RecalcOutputs(event.context, event.form, "", 0);
+}
+
+/// A parameter that was changed meanwhile reaches every row.
+void Activated(ScreenEvent& event) {
+    ShowPeriod(event.context, event.form);
+    RecalcRowsThenTotals(event);
 }
 
 void UnitsSwitched(ScreenEvent& event) { RecalcOutputs(event.context, event.form, "", 0); }
@@ -43,6 +47,7 @@ FormType AxleDataForm() {
     });
     type.handlers = {
         {FormEvent::Activate, "", HandlerOrder::After, Activated},
+        {FormEvent::RowDeleted, "", HandlerOrder::Instead, RecalcRowsThenTotals},
         {FormEvent::UnitsSwitched, "", HandlerOrder::Instead, UnitsSwitched},
     };
     return type;

@@ -59,12 +59,17 @@ void HelpClick(ScreenEvent& event) {
 void Closing(ScreenEvent& event) { event.context.values.trafficInTrucks = true; }
 
 LayoutElement TrafficInput() {
-    return Frame("Frame1", "Traffic Input as",
-                 {Matrix({At(0, 0, Options({{"OpADTT", "Average Daily Truck Traffic (ADTT)"}})),
-                          At(0, 1, BareBox({"TrInADTT"})),
-                          At(1, 0, Options({{"OpADT", "Average Daily Traffic (ADT)"}})),
-                          At(1, 1, BareBox({"TrInADT"})), At(2, 0, LabelOf("TrInPerTruck")),
-                          At(2, 1, BareBox({"TrInPerTruck"})), At(2, 2, UnitOf("TrInPerTruck"))})});
+    return Frame(
+        "Frame1", "Traffic Input as",
+        {Matrix({At(0, 0,
+                    Options({{"OpADTT", "Average Daily Truck Traffic (ADTT)",
+                              Translated("The trucks of a day are known")}})),
+                 At(0, 1, BareBox({"TrInADTT"})),
+                 At(1, 0,
+                    Options({{"OpADT", "Average Daily Traffic (ADT)",
+                              Translated("All vehicles of a day and the share of trucks are known")}})),
+                 At(1, 1, BareBox({"TrInADT"})), At(2, 0, LabelOf("TrInPerTruck")),
+                 At(2, 1, BareBox({"TrInPerTruck"})), At(2, 2, UnitOf("TrInPerTruck"))})});
 }
 
 }  // namespace
@@ -83,7 +88,7 @@ FormType TrafficFactorForm() {
         {FormEvent::Load, "", HandlerOrder::After, Load},
         {FormEvent::Click, "OpADTT", HandlerOrder::Instead, OptionClick},
         {FormEvent::Click, "OpADT", HandlerOrder::Instead, OptionClick},
-        {FormEvent::Click, "SSHelp", HandlerOrder::Instead, HelpClick},
+        {FormEvent::Click, kHelpButton, HandlerOrder::Instead, HelpClick},
         {FormEvent::Unload, "", HandlerOrder::After, Closing},
     };
     return type;

@@ -24,7 +24,7 @@ FormType LiveHelp(const char* name, const char* caption, std::vector<LayoutEleme
     type.modal = true;
     type.isHelp = true;
     type.layout = Rows(std::move(rows));
-    type.foot = {{"cmdAction", "&OK"}};
+    type.foot = {BackToFieldButton(kOkButton)};
     type.handlers = {{FormEvent::Stored, "", HandlerOrder::After, Stored},
                      {FormEvent::Unload, "", HandlerOrder::Before, Closing}};
     return type;

@@ -1,5 +1,6 @@
 #include "traffic/screens/traffic_inputs_screen.h"
 
+#include "forms/act_name.h"
 #include "forms/coded_list.h"
 #include "forms/field_entry.h"
 #include "forms/field_help.h"
@@ -80,6 +81,7 @@ void PeriodPicked(ScreenEvent& event) {
     if (!CodeOf(list.words, list.text)) return;
     event.form.SetFieldChanged(false);
     StoreCode(event.context, event.form, list);
+    event.context.act = ChangeOf(event.context, list.tag);
     event.context.bProjectChanged = true;
 }
 
@@ -112,11 +114,15 @@ LayoutElement SharedInputs() {
 
 LayoutElement Distribution() {
     return Rows({
-        Frame("Frame1",
-              "Traffic Input as:", {Options({{"Option1", "Design Lane"}, {"Option2", "Total Traffic"}})}),
+        Frame("Frame1", "Traffic Input as:",
+              {Options(
+                  {{"Option1", "Design Lane", Translated("The traffic is given for the design lane alone")},
+                   {"Option2", "Total Traffic",
+                    Translated("The traffic is given for the road; the design lane takes a share of it")}})}),
         Fields({{"TRNUMLANES"}}),
         Frame("Frame2", Translated("Directions and Lanes"),
-              {Options({{"TRONEWAY", "1-way"}, {"TRTWOWAY", "2-way"}}),
+              {Options({{"TRONEWAY", "1-way", Translated("All traffic goes in one direction")},
+                        {"TRTWOWAY", "2-way", Translated("A direction takes its share of the traffic")}}),
                Fields({{.variable = "TRDIRDIS", .labelName = "Label10", .unitName = "Label11"},
                        {.variable = "TRLANDIS", .labelName = "Label12", .unitName = "Label13"}})}),
     });
@@ -134,7 +140,7 @@ FormType TrafficInputsForm() {
         {FormEvent::Activate, "", HandlerOrder::After, Activated},
         {FormEvent::Change, "TrPer", HandlerOrder::After, PeriodPicked},
         {FormEvent::LostFocus, "TrPer", HandlerOrder::Before, PeriodLeft},
-        {FormEvent::Click, "SSHelp", HandlerOrder::Instead, HelpClick},
+        {FormEvent::Click, kHelpButton, HandlerOrder::Instead, HelpClick},
     };
     for (const char* option : {"Option1", "Option2"}) {
         type.handlers.push_back({FormEvent::Click, option, HandlerOrder::Instead, TrafficClick});

@@ -449,6 +449,31 @@ TEST_F(ConsoleTest, OfTwoOnOneWorkFolderTheSecondSaysSoAndEnds) {
     EXPECT_EQ(Obey("get SN\n", {"--work", home}).status, 0);
 }
 
+/// However it is spelt, it is the home's own work folder: what is dropped there is kept.
+TEST_F(ConsoleTest, AHomeByAnotherNameIsTheSameHome) {
+    std::filesystem::create_directory_symlink(home_.path(), File("link"));
+    const std::string home = home_.path().string();
+    for (const std::string& work : {home + "/", home + "/.", File("link")}) {
+        const ConsoleEnd end = Obey("set SN 77\nnew\nmenu MenuFileRecover 0\nget SN\n", {"--work", work});
+        EXPECT_EQ(end.status, 0) << work;
+        EXPECT_THAT(end.output, testing::HasSubstr(R"("rvalue":77)")) << work;
+    }
+}
+
+TEST_F(ConsoleTest, ATemplateThatIsGoneStopsACancelledOpenToo) {
+    const std::string work = File("work");
+    std::filesystem::create_directory(work);
+    for (const char* act : {"menu MenuFileOpen", "menu NewProj", "new"}) {
+        RunningCli cli({"--home", home_.path().string(), "--work", work}, folder_.path().string());
+        EXPECT_EQ(cli.Ask("get SN"), "SN(1,1) = empty");
+        const std::string content = ReadFile(home_ / "kvrwork.tpl");
+        std::filesystem::remove(home_ / "kvrwork.tpl");
+        cli.Ask(act);
+        EXPECT_EQ(cli.End(), 1) << act;
+        std::ofstream(home_ / "kvrwork.tpl", std::ios::binary) << content;
+    }
+}
+
 TEST_F(ConsoleTest, ATemplateThatIsGoneStopsNew) {
     RunningCli cli({"--home", home_.path().string()}, folder_.path().string());
     EXPECT_EQ(cli.Ask("get SN"), "SN(1,1) = empty");

@@ -45,10 +45,8 @@ TEST_F(HomeChoiceTest, AHomeBesideTheExecutableIsTaken) {
 
 TEST_F(HomeChoiceTest, TheWindowMakesAHomeOnce) {
     const Home first = ChoiceOf(anna_).ForWindow();
-    EXPECT_TRUE(first.justMade);
     EXPECT_EQ(first.folder, anna_ / "data/kelvor");
     EXPECT_EQ(first.work, first.folder);
-    EXPECT_FALSE(ChoiceOf(anna_).ForWindow().justMade);
 }
 
 TEST_F(HomeChoiceTest, HelpAndSamplesAreThoseThatAreInstalled) {
@@ -96,7 +94,6 @@ TEST_F(HomeChoiceTest, AScriptRenewsAHomeAsTheWindowDoes) {
     const TemporaryFolder scratch;
     const Home home = ChoiceOf(anna_).ForScript(scratch.path());
     EXPECT_EQ(ReadFile(home.folder / "Reports/Rep_DeF.vsr"), "a better layout");
-    EXPECT_FALSE(home.justMade);
 }
 
 TEST_F(HomeChoiceTest, TwoUsersDoNotMeet) {

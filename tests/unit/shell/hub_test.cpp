@@ -30,29 +30,12 @@ class HubTest : public ProjectTest {
     void Choose(const std::string& name) { EXPECT_TRUE(Run().Raise({UserEvent::Kind::Choose, name, {}, 0})); }
     void Press(const std::string& name) { EXPECT_TRUE(Run().Raise({UserEvent::Kind::Press, name, {}, 0})); }
 
-    /// Declares screens that are not there yet.
-    void Declare(const std::vector<std::string>& names) {
-        for (const std::string& name : names) {
-            if (State().formRegistry.FindType(name) != nullptr) continue;
-            FormType type;
-            type.name = name;
-            type.tag = "DeF";
-            type.caption = name;
-            State().formRegistry.Declare({type});
-        }
-        OfferAgain();
-    }
-
-    /// As after a start with the screens that are declared by now.
-    void OfferAgain() { OfferProject(State().MakeScreenContext(), Hub()); }
-
-    void DeclareOverlays() { Declare({"OvAA", "OvAFP", "OvAP", "OvAAP", "OvBP", "OvUP", "OvWT"}); }
-
     std::vector<std::string> Enabled(const std::vector<std::string>& names) {
         std::vector<std::string> enabled;
         for (const std::string& name : names) {
             if (At(name).enabled) enabled.push_back(name);
-            EXPECT_EQ(At(name).enabled, At(name).toolTip.empty()) << name << ": a hint says why it is off";
+            EXPECT_EQ(At(name).enabled, At(name).toolTip == At(name).does)
+                << name << ": a hint says why it is off";
         }
         return enabled;
     }
@@ -140,18 +123,7 @@ TEST_F(HubTest, ASlipInARowOfTheTableIsFound) {
     EXPECT_THAT([&] { check(row); }, fails("rbTRopTrVe is a box without a report"));
 }
 
-TEST_F(HubTest, AnOptionWhoseScreenIsNotThereIsOffAndSaysSo) {
-    SwitchTo(1);
-    for (const auto& [option, screen] : kScreenOf) {
-        const bool declared = State().formRegistry.FindType(screen) != nullptr;
-        if (declared) continue;
-        EXPECT_FALSE(At(option).enabled) << option;
-        EXPECT_EQ(At(option).toolTip, kComesLater) << option;
-    }
-    EXPECT_TRUE(At("oDeF").enabled);
-}
-
-TEST_F(HubTest, AScreenThatIsDeclaredLightsUpItsOptionAndItsButtonOpensIt) {
+TEST_F(HubTest, TheButtonOfATabOpensTheScreenOfItsOption) {
     struct Row {
         const char* option;
         const char* button;
@@ -163,7 +135,6 @@ TEST_F(HubTest, AScreenThatIsDeclaredLightsUpItsOptionAndItsButtonOpensIt) {
           Row{"RPNDTCalc", "Command7", 3}, Row{"CPNDTCalc", "Command7", 3}, Row{"oLcS", "Command2", 4}}) {
         SCOPED_TRACE(row.option);
         const std::string& screen = kScreenOf.at(row.option);
-        Declare({screen});
         SwitchTo(row.tab);
         EXPECT_TRUE(At(row.option).enabled);
         EXPECT_TRUE(At(row.button).enabled);
@@ -186,7 +157,6 @@ TEST_F(HubTest, WithNoOptionSelectedAButtonDoesNothing) {
 }
 
 TEST_F(HubTest, OneOptionOfATabIsSelectedAlsoAcrossItsFrames) {
-    Declare({"ExF", "ReDfF"});
     SwitchTo(3);
     Choose("oExF");
     Choose("FPNDTCalc");
@@ -215,7 +185,6 @@ TEST_F(HubTest, BothPavementsHaveTheSameScreenWithTheirOwnNumber) {
 const std::vector<std::string> kOverlays = {"oOvAA", "oOvAFP", "oOvAP", "oOvAAP", "oOvBP", "oOvUP", "oOvWT"};
 
 TEST_F(HubTest, OverlaysFollowWhatIsKnownOfTheExistingPavement) {
-    DeclareOverlays();
     SwitchTo(3);
     EXPECT_THAT(Enabled(kOverlays), IsEmpty());
     Enter("EXISTRM", "5000");
@@ -252,7 +221,6 @@ const std::map<char, std::string> kOverlayOfLetter = {{'B', "oOvBP"}, {'S', "oOv
                                                       {'W', "oOvWT"}};
 
 TEST_F(HubTest, EachCombinationOfTheSixFieldsOffersItsOverlaysAndTheHintsNameWhatIsMissing) {
-    DeclareOverlays();
     for (unsigned filled = 0; filled < 64; ++filled) {
         SCOPED_TRACE(filled);
         std::map<std::string, std::string> hints;
@@ -266,14 +234,14 @@ TEST_F(HubTest, EachCombinationOfTheSixFieldsOffersItsOverlaysAndTheHintsNameWha
         }
         SwitchTo(3);
         for (const auto& [letter, option] : kOverlayOfLetter) {
-            EXPECT_EQ(At(option).toolTip, hints[option]) << option;
+            const std::string& hint = hints[option].empty() ? At(option).does : hints[option];
+            EXPECT_EQ(At(option).toolTip, hint) << option;
             EXPECT_EQ(At(option).enabled, hints[option].empty()) << option;
         }
     }
 }
 
 TEST_F(HubTest, OverlaysFollowTheProjectAtNewOpenAndWhenAScreenCloses) {
-    DeclareOverlays();
     Enter("EXISTRM", "5000");
     Run().Raise({UserEvent::Kind::OpenForm, "DeF", {}, 0});
     Run().Raise({UserEvent::Kind::CloseForm, "DeF", {}, 0});
@@ -327,7 +295,6 @@ TEST_F(HubTest, TheRoutesFollowTheInputsWhenTheseAreClosedAndNotBefore) {
 // --- Report boxes ----------------------------------------------------------------------------------
 
 TEST_F(HubTest, AnOverlayReportIsOffWithoutDataAndLosesItsTick) {
-    DeclareOverlays();
     Enter("ACACPO", "4.2");
     SwitchTo(5);
     Choose("rbOVopAA");
@@ -357,8 +324,6 @@ TEST_F(HubTest, ATrafficReportNeedsDataOfItsScreen) {
 }
 
 TEST_F(HubTest, ASelectionClearsTheBoxesOfEveryOtherCategory) {
-    Declare({"DeF", "DeR"});
-    DeclareOverlays();
     Enter("ACACPO", "4.2");
     Enter("ACPCPO", "4.2");
     SwitchTo(5);

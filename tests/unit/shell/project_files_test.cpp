@@ -56,6 +56,26 @@ TEST_F(ProjectFilesTest, TheSaveDialogStartsInTheProjectsFolderWithItsFilter) {
     EXPECT_EQ(request.filter, "KVR projects (*.kvr)|*.kvr");
 }
 
+TEST_F(ProjectFilesTest, AnUnnamedProjectIsToBeCalledWhatTheProjectIdSays) {
+    const auto suggested = [&] {
+        (void)files_.SaveProjectAs();
+        return program_.host.record.files.back().suggested;
+    };
+    EXPECT_EQ(suggested(), "");
+    Enter("PavDesc", "Two lanes");
+    EXPECT_EQ(suggested(), "Two lanes.kvr");
+    Enter("JobNumber", "4711/b");
+    EXPECT_EQ(suggested(), "4711 b.kvr");
+    Enter("Location", "...");  // leaves no name
+    EXPECT_EQ(suggested(), "4711 b.kvr");
+    Enter("Location", "Route 12");
+    EXPECT_EQ(suggested(), "Route 12.kvr");
+    ASSERT_TRUE(Run().SaveAs(File("plan.kvr")));
+    EXPECT_EQ(suggested(), "plan.kvr") << "of a file the name";
+    Run().Raise({UserEvent::Kind::Menu, "NewProj"});
+    EXPECT_EQ(suggested(), "");
+}
+
 TEST_F(ProjectFilesTest, ACancelledSaveDialogDoesNothing) {
     Enter("SN", "4.5");
     EXPECT_FALSE(files_.SaveProjectAs());

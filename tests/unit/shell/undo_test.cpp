@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <iterator>
 #include <map>
 
 #include "support/project_fixture.h"
@@ -198,6 +200,83 @@ std::map<std::string, std::string> Indicators(const FormRegistry& forms) {
             said[form->name() + "." + equation.indicator] = form->TextOf(equation.indicator);
     }
     return said;
+}
+
+/// A page of costs with quantities of areas in some of its rows.
+struct QuantityPage {
+    const char* form;
+    const char* quantity;
+    const char* unit;
+};
+constexpr QuantityPage kQuantityPages[] = {{"LcA1_2", "InitialQuantity", "InitialUnit"},
+                                           {"LcA1_4", "RehabQuantity", "RehabUnit"}};
+constexpr int kFirstArea = 2;
+constexpr int kLastArea = 4;
+constexpr double kSquareMetresOfYard = 0.9144 * 0.9144;
+
+class QuantityWalk : public UndoTest {
+  protected:
+    QuantityWalk() {
+        for (const QuantityPage& page : kQuantityPages) {
+            for (int row = kFirstArea; row <= kLastArea; ++row)
+                program_.store().SetCell(page.unit, row, 1, {std::nullopt, "sq yd"});
+        }
+    }
+
+    void TypeQuantity(int row, int quantity) {
+        const auto* page = PageInFront();
+        if (page == nullptr) return;
+        Raise(Kind::MoveToCell, page->quantity, {}, row);
+        Raise(Kind::Type, {}, std::to_string(quantity));
+        Raise(Kind::Key, "Enter");
+    }
+
+    const QuantityPage* PageInFront() {
+        const auto* page =
+            std::find_if(std::begin(kQuantityPages), std::end(kQuantityPages),
+                         [&](const QuantityPage& each) { return Front().name() == each.form; });
+        return page == std::end(kQuantityPages) ? nullptr : page;
+    }
+
+    void Act(std::mt19937& random) {
+        const char* const screens[] = {"LcA1_2", "LcA1_4", "LcA1", "DeF"};
+        const int what = static_cast<int>(random() % 10);
+        if (what < 3)
+            TypeQuantity(kFirstArea + static_cast<int>(random() % 3), static_cast<int>(random() % 500));
+        if (what == 3) Raise(Kind::OpenForm, screens[random() % 4], {}, 1);
+        if (what == 4 && Front().name() != "TabForm") Raise(Kind::CloseForm, Front().name());
+        if (what == 5 || what == 6) Run().ChooseUnits(random() % 2 == 0);
+        if (what == 7 || what == 8) Run().Undo();
+        if (what == 9) Run().Redo();
+    }
+
+    /// On the page in front each quantity is of the active unit system, and so is its unit.
+    void ExpectQuantitiesInActiveUnits() {
+        const auto* page = PageInFront();
+        if (page == nullptr) return;
+        const bool metric = State().units->bMetric();
+        for (int row = kFirstArea; row <= kLastArea; ++row) {
+            const CellValue* unit = State().dbWork.FindCell(page->unit, row, 1);
+            const CellValue* quantity = State().dbWork.FindCell(page->quantity, row, 1);
+            ASSERT_NE(unit, nullptr);
+            EXPECT_EQ(unit->text, metric ? "sq m" : "sq yd");
+            if (quantity == nullptr || !quantity->number) continue;
+            ASSERT_TRUE(quantity->text);  // in square yards
+            const double english = std::stod(*quantity->text);
+            EXPECT_NEAR(*quantity->number, metric ? english * kSquareMetresOfYard : english, 1e-9);
+        }
+    }
+};
+
+TEST_F(QuantityWalk, EveryQuantityIsOfTheActiveUnits) {
+    for (unsigned seed = 1; seed <= 60 && !HasFailure(); ++seed) {
+        std::mt19937 random(seed);
+        for (int act = 0; act < 60 && !HasFailure(); ++act) {
+            SCOPED_TRACE("seed " + std::to_string(seed) + ", act " + std::to_string(act));
+            Act(random);
+            ExpectQuantitiesInActiveUnits();
+        }
+    }
 }
 
 TEST_F(UndoTest, ARandomWalkIsGoneBackAndForthBitForBit) {

@@ -94,6 +94,13 @@ TEST_F(TrafficFactorsTest, ThePeriodAndThePavementHaveNoPart) {
     ExpectTotals(600 * 0.5 * 365.25, 600 * 0.75 * 365.25);
 }
 
+TEST_F(TrafficFactorsTest, AGrowthThatIsNoneAsAFractionIsAFault) {
+    ExpectTotals(500 * 0.5 * 365.25, 500 * 0.75 * 365.25);
+    Set("GrowthRate", 1e-322);  // not 0, and its hundredth part is
+    Set("Life", 20.0);
+    ExpectTotals(500 * 0.5 * 365.25, 500 * 0.75 * 365.25);
+}
+
 TEST_F(TrafficFactorsTest, AFaultLeavesTheTarget) {
     ExpectTotals(500 * 0.5 * 365.25, 500 * 0.75 * 365.25);
     Set("GrowthRate", -100.0);
