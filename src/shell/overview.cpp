@@ -48,7 +48,7 @@ const std::vector<OverviewScreen>& Screens() {
 /// The comparison of costs keeps no results in the project: they are worked out.
 constexpr const char* kCostScreen = "LcS";
 const std::vector<std::string_view> kCostInputs = {"InitialItemCost", "RehabItemCost", "MaintItemCost"};
-constexpr std::string_view kCostPages[] = {"LcA1", "LcA1_2", "LcA1_3", "LcA1_4", "EcFa"};
+constexpr std::string_view kPagesOfCosts[] = {"LcA1", "LcA1_2", "LcA1_3", "LcA1_4", "EcFa"};
 
 /// ESALs are on the screens of the designs too: on a route to them they tell nothing of the route.
 bool IsShared(std::string_view variable) { return variable == "RIGE18" || variable == "FLEXE18"; }
@@ -101,7 +101,7 @@ std::vector<OverviewResult> CostResults(ProcessState& state) {
 int LastChange(const ProcessState& state, std::string_view screen) {
     int last = 0;
     if (screen == kCostScreen) {
-        for (const std::string_view page : kCostPages) last = std::max(last, LastChange(state, page));
+        for (const std::string_view page : kPagesOfCosts) last = std::max(last, LastChange(state, page));
     }
     for (const Field* field : state.dbCatalogue->FieldsOfScreen(screen)) {
         const auto found = state.changes.find(field->name);

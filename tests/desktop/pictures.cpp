@@ -126,7 +126,7 @@ struct PictureHome {
         std::filesystem::copy(Path(KELVOR_HOME_FOLDER) / "Help", home / "Help");
         SQLite::Database catalogue((home / "DataBase/Kelvor.mdb").string(), SQLite::OPEN_READWRITE);
         catalogue.exec(
-            "UPDATE RecentFiles SET OpenDate = 2461000.5 - SortOrder, FileName = CASE SortOrder "
+            "UPDATE RecentFiles SET OpenDate = datetime(2461000.5 - SortOrder), FileName = CASE SortOrder "
             "WHEN 0 THEN '/home/engineer/Projects/Route 12, km 4 to 9.kvr' "
             "WHEN 1 THEN '/home/engineer/Projects/Airport Road.kvr' END");
     }

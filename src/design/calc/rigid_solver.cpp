@@ -1,15 +1,13 @@
 #include "calc/clamp.h"
 #include "design/calc/bracket_search.h"
 #include "design/calc/design_equations.h"
+#include "design/calc/slab_limits.h"
 #include "design/calc/solve_for.h"
 #include "design/calc/solver_steps.h"
 
 namespace kelvor {
 
 namespace {
-
-constexpr double kThinnestSlab = 4.0;   // inches
-constexpr double kThickestSlab = 20.0;  // inches; also where the search starts from above
 
 /// Solves one term of the rigid design equation, log10 W18 = ZR S0 + 7.35 log10(D + 1) - 0.06 +
 /// log10((P0 - Pt) / 3) / (1 + 1.624e7 / (D + 1)^8.46) + (4.22 - 0.32 Pt) log10(ratio), with

@@ -1,12 +1,12 @@
 #include "rehab/calc/asphalt_on_concrete.h"
 
 #include "calc/clamp.h"
+#include "design/calc/slab_limits.h"
 
 namespace kelvor {
 
 namespace {
 
-constexpr double kThickestSlab = 20.0;
 constexpr double kThickestOverlay = 30.0;
 
 }  // namespace

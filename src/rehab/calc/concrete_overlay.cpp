@@ -1,18 +1,15 @@
 #include "rehab/calc/concrete_overlay.h"
 
 #include "calc/clamp.h"
+#include "design/calc/slab_limits.h"
 
 namespace kelvor {
 
 namespace {
 
-constexpr double kThinnestBonded = 2.0;
-constexpr double kThinnestSlab = 4.0;  // of a slab on its own, as an unbonded overlay is one
-constexpr double kThickest = 20.0;
-
 /// The slab thickness whose square is given.
 Real SlabOfSquare(Real square) {
-    if (square > 0.0) return ClampValue(Pow(square, 0.5), kThinnestSlab, kThickest);
+    if (square > 0.0) return ClampValue(Pow(square, 0.5), kThinnestSlab, kThickestSlab);
     return kThinnestSlab;
 }
 
@@ -21,21 +18,21 @@ Real SlabOfSquare(Real square) {
 void CalcBondedEffective(CalcContext& context, std::string_view target) {
     const Real thickness =
         context.Get("EXISTDEPTH") * context.Get("BOLFJC") * context.Get("BOLFDUR") * context.Get("BOLFFAT");
-    context.Put(target, ClampValue(thickness, 0.0, kThickest));
+    context.Put(target, ClampValue(thickness, 0.0, kThickestSlab));
 }
 
 void CalcBondedOverlay(CalcContext& context, std::string_view target) {
     const Real overlay = context.Get("BOLFUTDEPTH") - context.Get("BOLEFFDEPTH");
-    context.Put(target, ClampValue(overlay, kThinnestBonded, kThickest));
+    context.Put(target, ClampValue(overlay, kThinnestBonded, kThickestSlab));
 }
 
 void CalcBondedFuture(CalcContext& context, std::string_view target) {
     const Real future = context.Get("BOLDEPTH") + context.Get("BOLEFFDEPTH");
-    context.Put(target, ClampValue(future, kThinnestSlab, kThickest));
+    context.Put(target, ClampValue(future, kThinnestSlab, kThickestSlab));
 }
 
 void CalcUnbondedEffective(CalcContext& context, std::string_view target) {
-    context.Put(target, ClampValue(context.Get("EXISTDEPTH") * context.Get("UBOLFJCU"), 0.0, kThickest));
+    context.Put(target, ClampValue(context.Get("EXISTDEPTH") * context.Get("UBOLFJCU"), 0.0, kThickestSlab));
 }
 
 void CalcUnbondedOverlay(CalcContext& context, std::string_view target) {

@@ -1,5 +1,6 @@
 #include <initializer_list>
 
+#include "design/calc/slab_limits.h"
 #include "platform/number_picture.h"
 #include "platform/translation.h"
 #include "rehab/calc/asphalt_on_concrete.h"
@@ -9,10 +10,6 @@
 namespace kelvor {
 
 namespace {
-
-constexpr double kThickestSlab = 20.0;  // inches
-constexpr double kThinnestSlab = 4.0;   // of a slab on its own
-constexpr double kThinnestBonded = 2.0;
 
 constexpr const char* kRatioPicture = "0.00";
 
