@@ -138,7 +138,8 @@ class RefusedBoxTest : public KeyboardTest {
         QApplication::setCursorFlashTime(0);  // a caret that shows does so always
         window().door().Raise({UserEvent::Kind::OpenForm, "DeF", {}, 0});
     }
-    ~RefusedBoxTest() override { QApplication::setCursorFlashTime(before_); }
+
+    void TearDown() override { QApplication::setCursorFlashTime(before_); }
 
     QLineEdit& Box(const char* name) {
         return dynamic_cast<QLineEdit&>(*window().FindView("DeF")->FindWidget(name));

@@ -31,7 +31,6 @@ namespace kelvor::test {
 namespace {
 
 using testing::IsEmpty;
-using testing::Not;
 
 /// Wide enough for the tabs and what stands beside them.
 constexpr QSize kWide(1300, 850);
@@ -42,7 +41,8 @@ class LargeWindowTest : public KeyboardTest {
         window().resize(kWide);
         QApplication::processEvents();
     }
-    ~LargeWindowTest() override { QApplication::setPalette(LightPalette()); }
+
+    void TearDown() override { QApplication::setPalette(LightPalette()); }
 
     template <typename WidgetType>
     WidgetType& Find(const char* name) {
@@ -76,7 +76,7 @@ class LargeWindowTest : public KeyboardTest {
     }
 
     std::string SaveAs(const std::string& name) {
-        const std::string path = (home / name).string();
+        std::string path = (home / name).string();
         responder.AnswerFileDialogWith(path);
         window().FindAction("MenuFileSaveAs")->trigger();
         ComeToFront();

@@ -90,7 +90,7 @@ bool HoldsData(const ScreenContext& context, const HubRow& row) {
 
 /// Why a report cannot be ticked; empty if it can.
 std::string WhyNot(const ScreenContext& context, const HubRow& row) {
-    const std::string missing = row.report.needsInputs ? WhatIsMissing(context, row.needs) : "";
+    std::string missing = row.report.needsInputs ? WhatIsMissing(context, row.needs) : "";
     if (!missing.empty()) return missing;
     return HoldsData(context, row) ? "" : kNoData;
 }

@@ -210,7 +210,8 @@ TEST_F(ConsoleTest, AScriptFileIsObeyedInsteadOfTheInput) {
 
 TEST_F(ConsoleTest, AScriptThatIsALineWithoutEndIsStatusTwo) {
     EXPECT_EQ(Report(Obey("", {"--script", "/dev/zero"})), "2\nline 1: the line is too long\n");
-    WriteFile(File("long.kvs"), "get SN\nset SN " + std::string(10'000'000, '5') + "\n");
+    const std::string digits(10'000'000, '5');  // NOLINT(bugprone-string-constructor): too long on purpose
+    WriteFile(File("long.kvs"), "get SN\nset SN " + digits + "\n");
     const ConsoleEnd end = ObeyPlainly(ReadFile(File("long.kvs")));
     EXPECT_EQ(end.status, 2);
     EXPECT_EQ(end.errors, "line 2: the line is too long\n");
@@ -470,7 +471,7 @@ TEST_F(ConsoleTest, ATemplateThatIsGoneStopsACancelledOpenToo) {
         std::filesystem::remove(home_ / "kvrwork.tpl");
         cli.Ask(act);
         EXPECT_EQ(cli.End(), 1) << act;
-        std::ofstream(home_ / "kvrwork.tpl", std::ios::binary) << content;
+        WriteFile((home_ / "kvrwork.tpl").string(), content);
     }
 }
 
