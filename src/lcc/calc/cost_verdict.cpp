@@ -93,6 +93,18 @@ std::string TellStalePages(const CalcContext& context, const CashFlow& a, const 
     return text;
 }
 
+/// Of a pavement that costs nothing; empty if both cost something.
+std::string TellMissingCosts(const CostSummary& summary) {
+    const auto isFree = [](const PavementCosts& costs) {
+        return costs.initial == 0.0 && costs.rehabilitation == 0.0 && costs.discounted == 0.0;
+    };
+    const bool a = isFree(summary.pavements[0]);
+    const bool b = isFree(summary.pavements[1]);
+    if (a && b) return Translated("Neither pavement has costs yet.");
+    if (!a && !b) return {};
+    return Filled(Translated("Pavement %1 has no costs yet: there is nothing to compare."), {a ? "A" : "B"});
+}
+
 }  // namespace
 
 std::string CostVerdict(const CalcContext& context) {
@@ -103,6 +115,7 @@ std::string CostVerdict(const CalcContext& context) {
     CostSummary summary;
     ComputeCostSummary(context, summary, [&](const ArithmeticFault&) { complete = false; });
     if (!complete) return {};
+    if (const std::string missing = TellMissingCosts(summary); !missing.empty()) return missing;
     try {
         const CashFlow a = ReadCashFlow(context, kPavementA);
         const CashFlow b = ReadCashFlow(context, kPavementB);

@@ -11,25 +11,29 @@ namespace kelvor {
 
 namespace {
 
-/// The project has changed if a name has.
-void Carry(ScreenContext& context, int pavement, const char* from, const char* to) {
+/// The project has changed if a name has. How many that were not blank have another one now.
+int Carry(ScreenContext& context, int pavement, const char* from, const char* to) {
+    int replaced = 0;
     for (int row = 1; row <= kLastCostRow; ++row) {
         const std::string item = context.units.GetDisplayValue(from, row, pavement);
-        if (context.units.GetDisplayValue(to, row, pavement) == item) continue;
+        const std::string before = context.units.GetDisplayValue(to, row, pavement);
+        if (before == item) continue;
+        if (!before.empty()) ++replaced;
         context.units.SetDisplayValue(to, row, pavement, item);
         context.bProjectChanged = true;
         context.act = Translated("copy of item names");
     }
+    return replaced;
 }
 
 }  // namespace
 
-void CarryItemsForward(ScreenContext& context, const Form& page) {
-    if (page.name() == "LcA1") Carry(context, PavementOf(page), "LayerType", "InitialItem");
+int CarryItemsForward(ScreenContext& context, const Form& page) {
+    return page.name() != "LcA1" ? 0 : Carry(context, PavementOf(page), "LayerType", "InitialItem");
 }
 
 void CarryItemsBack(ScreenContext& context, const Form& page) {
-    if (page.name() == "LcA1_2") Carry(context, PavementOf(page), "InitialItem", "LayerType");
+    if (page.name() == "LcA1_2") (void)Carry(context, PavementOf(page), "InitialItem", "LayerType");
 }
 
 }  // namespace kelvor

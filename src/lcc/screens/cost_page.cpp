@@ -56,9 +56,22 @@ void TurnTo(ScreenEvent& event, std::size_t place) {
     events.Unload(event.form);
 }
 
+/// The names of the page before count. Who has picked others here is told where they went.
+std::string ReplacedNamesText(int count) {
+    return Filled(count == 1 ? Translated("%1 item name was replaced by that of the page before. Undo brings "
+                                          "it back.")
+                             : Translated("%1 item names were replaced by those of the page before. Undo "
+                                          "brings them back."),
+                  {std::to_string(count)});
+}
+
 void NextPageClick(ScreenEvent& event) {
-    CarryItemsForward(event.context, event.form);
-    TurnTo(event, PlaceOf(event.form) + 1);
+    const std::size_t next = PlaceOf(event.form) + 1;
+    FormRegistry& forms = event.context.forms;
+    const int replaced = CarryItemsForward(event.context, event.form);
+    TurnTo(event, next);
+    Form* page = forms.Find(kPages.at(next).form);
+    if (replaced > 0 && page != nullptr) ShowUnitNote(*page, ReplacedNamesText(replaced));
 }
 
 void PrevPageClick(ScreenEvent& event) {

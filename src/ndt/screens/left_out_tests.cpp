@@ -67,7 +67,7 @@ void SetMark(ScreenEvent& event) {
 
 LayoutElement LeaveOutBox() {
     return Checks({{kBox, Translated("Leave This &Test out of the Spread"),
-                    Translated("The test under the cursor stays in the averages")}});
+                    Translated("Only the spread leaves it out: it still counts in the averages")}});
 }
 
 LayoutElement LeaveOutState() { return Hidden({kMarks}); }

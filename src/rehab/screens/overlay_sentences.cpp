@@ -64,8 +64,11 @@ std::string AnswerSentence(const ScreenContext& context, std::string_view future
                            const WantedThickness& wanted) {
     if (context.calc.Get(future) != 0.0) return ThicknessSentence(context, wanted);
     const std::string unknown = Filled(Translated("The future %1 is not known yet."), {wanted.what});
-    const bool showsOverlay = context.calc.Get(overlay) != 0.0;
-    return showsOverlay ? Joined(unknown, ThicknessSentence(context, wanted)) : unknown;
+    if (context.calc.Get(overlay) == 0.0) return unknown;
+    const bool isLeast = wanted.least > 0.0 && wanted.inches <= 0.0;
+    return Joined(unknown, isLeast ? Filled(Translated("Until then the least thickness of %1 is shown."),
+                                            {LengthText(context, wanted.least)})
+                                   : ThicknessSentence(context, wanted));
 }
 
 std::string Joined(const std::string& one, const std::string& other) {

@@ -108,12 +108,14 @@ std::vector<const HubRow*> BoxesOf(std::string_view category) {
 
 /// A category above its boxes.
 LayoutElement Category(const char* frame, const char* category, const char* caption,
-                       const std::string& does) {
+                       const std::string& categoryDoes) {
     std::vector<ButtonItem> boxes;
     for (const HubRow* row : BoxesOf(category)) {
-        boxes.push_back({row->report.box, row->report.caption, Translated("Tick it to have this report")});
+        const std::string does =
+            Filled(Translated("Tick it to have the report on this: %1"), {Translated(row->does)});
+        boxes.push_back({row->report.box, row->report.caption, does});
     }
-    std::vector<LayoutElement> rows = {Options({ButtonItem{category, caption, does}})};
+    std::vector<LayoutElement> rows = {Options({ButtonItem{category, caption, categoryDoes}})};
     if (!boxes.empty()) rows.push_back(Checks(std::move(boxes)));
     return Section(frame, "", std::move(rows));
 }
