@@ -93,7 +93,7 @@ void FormEvents::Activate(Form& form) {
     if (Current() == &form || !Commit()) return;
     context_.forms.BringToFront(form);
     NoteCurrentCell(form);
-    if (form.metricItems) BringItemsOver(context_, form);
+    BringItemsOver(context_, form);
     Handle(FormEvent::Activate, form, nullptr, [&] {
         const auto returned = std::exchange(form.returned, std::nullopt);
         LoadScreen(context_, form);
@@ -321,7 +321,7 @@ void FormEvents::ShowAnew(Form& form) {
     Form* const current = Current();
     Control* const focus = form.focus;
     NoteCurrentCell(form);
-    if (form.metricItems) BringItemsOver(context_, form);
+    BringItemsOver(context_, form);
     Handle(FormEvent::Activate, form, nullptr, [&] { LoadScreen(context_, form); });
     if (form.focus != focus && focus != nullptr && form.CanFocus(*focus)) GetFocus(form, *focus);
     context_.forms.CurrentForm = current;

@@ -138,7 +138,7 @@ void FillValueItems(ScreenContext& context, Form& form) {
 }
 
 void BringItemsOver(ScreenContext& context, Form& form) {
-    if (form.metricItems != context.units.bMetric()) FillValueItems(context, form);
+    if (form.metricItems && *form.metricItems != context.units.bMetric()) FillValueItems(context, form);
 }
 
 }  // namespace kelvor

@@ -48,7 +48,7 @@ void GridAfterColUpdate(Form& form);
 /// says so, and they are empty.
 void FillValueItems(ScreenContext& context, Form& form);
 
-/// The same if the lists offer the entries of the other unit system.
+/// The same if the lists have been filled with the entries of the other unit system.
 void BringItemsOver(ScreenContext& context, Form& form);
 
 }  // namespace kelvor

@@ -115,7 +115,7 @@ std::string CostVerdict(const CalcContext& context) {
     CostSummary summary;
     ComputeCostSummary(context, summary, [&](const ArithmeticFault&) { complete = false; });
     if (!complete) return {};
-    if (const std::string missing = TellMissingCosts(summary); !missing.empty()) return missing;
+    if (std::string missing = TellMissingCosts(summary); !missing.empty()) return missing;
     try {
         const CashFlow a = ReadCashFlow(context, kPavementA);
         const CashFlow b = ReadCashFlow(context, kPavementB);

@@ -63,7 +63,7 @@ std::string ThicknessSentence(const ScreenContext& context, const WantedThicknes
 std::string AnswerSentence(const ScreenContext& context, std::string_view future, std::string_view overlay,
                            const WantedThickness& wanted) {
     if (context.calc.Get(future) != 0.0) return ThicknessSentence(context, wanted);
-    const std::string unknown = Filled(Translated("The future %1 is not known yet."), {wanted.what});
+    std::string unknown = Filled(Translated("The future %1 is not known yet."), {wanted.what});
     if (context.calc.Get(overlay) == 0.0) return unknown;
     const bool isLeast = wanted.least > 0.0 && wanted.inches <= 0.0;
     return Joined(unknown, isLeast ? Filled(Translated("Until then the least thickness of %1 is shown."),
