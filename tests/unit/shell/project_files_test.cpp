@@ -76,6 +76,15 @@ TEST_F(ProjectFilesTest, AnUnnamedProjectIsToBeCalledWhatTheProjectIdSays) {
     EXPECT_EQ(suggested(), "");
 }
 
+TEST_F(ProjectFilesTest, AFileAmongTheSamplesStaysOutOfTheRecentList) {
+    const Path samples = State().home.SamplesFolder();
+    std::filesystem::create_directories(samples);
+    ASSERT_TRUE(Run().SaveAs((samples / "mine").string()));
+    EXPECT_THAT(RecentPaths(State()), IsEmpty());
+    ASSERT_TRUE(Run().SaveAs(File("mine")));
+    EXPECT_THAT(RecentPaths(State()), ElementsAre(File("mine.kvr")));
+}
+
 TEST_F(ProjectFilesTest, ACancelledSaveDialogDoesNothing) {
     Enter("SN", "4.5");
     EXPECT_FALSE(files_.SaveProjectAs());
