@@ -8,6 +8,7 @@
 #include "forms/form_builder.h"
 #include "lcc/calc/cost_summary.h"
 #include "platform/translation.h"
+#include "shell/hub/screen_data.h"
 
 namespace kelvor {
 
@@ -53,21 +54,9 @@ constexpr std::string_view kPagesOfCosts[] = {"LcA1", "LcA1_2", "LcA1_3", "LcA1_
 /// ESALs are on the screens of the designs too: on a route to them they tell nothing of the route.
 bool IsShared(std::string_view variable) { return variable == "RIGE18" || variable == "FLEXE18"; }
 
-bool AnyCellCounts(const ProcessState& state, std::string_view name) {
-    const Variable* variable = state.dbCatalogue->FindVariable(name);
-    if (variable == nullptr || state.dbWork.SQLCount(name) == 0) return false;
-    for (int dim1 = 1; dim1 <= variable->dim1; ++dim1) {
-        for (int dim2 = 1; dim2 <= variable->dim2; ++dim2) {
-            const CellValue* cell = state.dbWork.FindCell(name, dim1, dim2);
-            if (cell != nullptr && cell->number.value_or(0.0) != 0.0) return true;
-        }
-    }
-    return false;
-}
-
 bool AnyCounts(const ProcessState& state, const std::vector<std::string_view>& variables) {
     return std::any_of(variables.begin(), variables.end(), [&](std::string_view variable) {
-        return !IsShared(variable) && AnyCellCounts(state, variable);
+        return !IsShared(variable) && AnyCellCounts(*state.dbCatalogue, state.dbWork, variable);
     });
 }
 

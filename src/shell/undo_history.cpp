@@ -351,8 +351,8 @@ void UndoHistory::Travel(ProcessState& state, const UndoStep& step, Way way) {
     if (after != state.units->bMetric() || (isOther != nullptr && isOther(context))) KeepUnits(state, after);
 }
 
-/// Goes on in another unit system than that of the cells, and notes what that changes in them: the next
-/// journey begins where this one came to.
+/// Goes on in the unit system that the user has, with what the screen in front shows brought over to it, and
+/// notes what that changes: the next journey begins where this one came to.
 void UndoHistory::KeepUnits(ProcessState& state, bool metric) {
     std::vector<CellChange> travelled = state.dbWork.EventChanges();
     for (CellChange& change : travelled) std::swap(change.before, change.after);

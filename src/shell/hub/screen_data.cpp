@@ -13,18 +13,6 @@ bool IsNotZero(const ScreenContext& context, std::string_view variable) {
     return context.calc.store.GetVar(variable) != 0.0;
 }
 
-bool AnyCell(const ScreenContext& context, const std::string& name) {
-    const Variable* variable = context.catalogue.FindVariable(name);
-    if (variable == nullptr) return false;
-    for (int dim1 = 1; dim1 <= variable->dim1; ++dim1) {
-        for (int dim2 = 1; dim2 <= variable->dim2; ++dim2) {
-            const CellValue* cell = context.calc.store.FindCell(name, dim1, dim2);
-            if (cell != nullptr && cell->number.value_or(0.0) != 0.0) return true;
-        }
-    }
-    return false;
-}
-
 template <typename Counts>
 bool AnyField(const ScreenContext& context, std::string_view screen, Counts counts) {
     if (!context.calc.store.IsOpen()) return false;
@@ -34,6 +22,18 @@ bool AnyField(const ScreenContext& context, std::string_view screen, Counts coun
 }
 
 }  // namespace
+
+bool AnyCellCounts(const Catalogue& catalogue, const ProjectStore& project, std::string_view name) {
+    const Variable* variable = catalogue.FindVariable(name);
+    if (variable == nullptr || project.SQLCount(name) == 0) return false;
+    for (int dim1 = 1; dim1 <= variable->dim1; ++dim1) {
+        for (int dim2 = 1; dim2 <= variable->dim2; ++dim2) {
+            const CellValue* cell = project.FindCell(name, dim1, dim2);
+            if (cell != nullptr && cell->number.value_or(0.0) != 0.0) return true;
+        }
+    }
+    return false;
+}
 
 bool ScreenHasData(const ScreenContext& context, std::string_view screen) {
     return AnyField(context, screen, [](const Field&) { return true; });
@@ -48,7 +48,8 @@ bool ScreenHasAnyCell(const ScreenContext& context, std::string_view screen) {
     if (!context.calc.store.IsOpen()) return false;
     const auto fields = context.catalogue.FieldsOfScreen(screen);
     return std::any_of(fields.begin(), fields.end(), [&](const Field* field) {
-        return !EqualNoCase(field->name, "LayerItem") && AnyCell(context, field->name);
+        return !EqualNoCase(field->name, "LayerItem") &&
+               AnyCellCounts(context.catalogue, context.calc.store, field->name);
     });
 }
 

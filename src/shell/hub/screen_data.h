@@ -9,6 +9,9 @@ namespace kelvor {
 /// Whether a screen holds data, for what the hub offers. Each looks at numbers alone: a text counts as none.
 /// With no project open no screen holds any.
 
+/// True as soon as one cell of a variable, in any row and slice, differs from 0.
+bool AnyCellCounts(const Catalogue& catalogue, const ProjectStore& project, std::string_view name);
+
 /// True as soon as one variable of the screen differs from 0.
 bool ScreenHasData(const ScreenContext& context, std::string_view screen);
 
